@@ -1,0 +1,88 @@
+# A thin front: each target installs what it needs, configures, builds only what it runs, and runs it.
+PRESET ?= gcc
+SEED ?= 1
+SEEDS ?= 1000
+FUZZ_SECONDS ?= 30
+
+DIR = $(CURDIR)/build/$(PRESET)
+
+export UBSAN_OPTIONS ?= print_stacktrace=1
+export CTEST_PARALLEL_LEVEL ?= 2
+
+# $(call configure,PRESET): again only when the presets changed; the build itself notices everything else.
+define configure
+@test -f build/$(1)/build.ninja && test build/$(1)/CMakeCache.txt -nt CMakePresets.json || cmake --preset $(1)
+endef
+
+# $(call build,GROUPS,TARGET): sets up and builds one target of the preset.
+define build
+@tools/setup $(1) $(PRESET)
+$(call configure,$(PRESET))
+@cmake --build build/$(PRESET) --target $(2)
+endef
+
+# $(call run-tests): ctest, and the plain counts as the last line whether it passed or failed.
+define run-tests
+@rm -f $(DIR)/tests.xml; \
+ctest --test-dir $(DIR) --no-tests=error --max-width 90 --output-on-failure --output-junit $(DIR)/tests.xml; \
+status=$$?; tools/count-tests $(DIR)/tests.xml && exit $$status
+endef
+
+.PHONY: help run test check bench simulate fuzz coverage clean
+.NOTPARALLEL:
+.DEFAULT_GOAL := help
+
+help:
+	@echo "make run                 build Kestrune and start it on a simulated Mac (on Linux)"
+	@echo "make test                build everything and run every test"
+	@echo "make check               format, include rules, unbuilt files, strings, clang-tidy"
+	@echo "make bench               the event path against its floor, and the simulation"
+	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
+	@echo "make fuzz                every fuzzer for FUZZ_SECONDS=$(FUZZ_SECONDS) seconds"
+	@echo "make coverage            line and branch coverage of Kestrune/ and base/; fails under 100 %"
+	@echo "make clean               remove everything that was built"
+	@echo
+	@echo "PRESET=gcc, clang or sanitize chooses the build. Every target installs what it needs."
+
+ifeq ($(shell uname -s),Darwin)
+run:
+	@echo "make run: the Mac build comes with mac/, which is not there yet"; exit 1
+else
+run:
+	$(call build,run,kestrune-desk)
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then $(DIR)/desk/kestrune-desk; \
+	else $(DIR)/desk/kestrune-desk --tour out/tour; fi
+endif
+
+test:
+	$(call build,test,all)
+	$(run-tests)
+
+# clang-tidy understands the flags of clang++ only.
+check:
+	@tools/setup check
+	$(call configure,clang)
+	@tools/check --build build/clang
+
+bench:
+	$(call build,bench,benchmarks/all)
+	@benchmarks/run build/$(PRESET)
+
+simulate:
+	$(call build,simulate,kestrune-simulate)
+	@$(DIR)/tests/simulate/kestrune-simulate --seed $(SEED) --seeds $(SEEDS)
+
+fuzz: override PRESET = fuzz
+fuzz:
+	$(call build,fuzz,fuzzers)
+	@tests/fuzz/run build/fuzz $(FUZZ_SECONDS)
+
+coverage: override PRESET = coverage
+coverage:
+	$(call build,coverage,all)
+	@find $(DIR) -name '*.gcda' -delete
+	$(run-tests)
+	@tools/coverage $(DIR)
+
+clean:
+	rm -rf build out

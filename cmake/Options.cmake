@@ -1,0 +1,26 @@
+# Compiler settings shared by every target.
+option(KESTRUNE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(KESTRUNE_COVERAGE "Build with gcov instrumentation" OFF)
+
+add_library(kestrune_options INTERFACE)
+target_compile_features(kestrune_options INTERFACE cxx_std_20)
+target_compile_options(kestrune_options INTERFACE
+    -Wall -Wextra -Wpedantic -Werror -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+    -Wold-style-cast -Wcast-qual -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wundef
+    -Wimplicit-fallthrough
+    # g++ 12 sees overlapping copies in plain string concatenation (its bug 105651).
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+    # A fused multiply-add would round once where the platform rounds twice.
+    -ffp-contract=off)
+
+if(KESTRUNE_SANITIZE)
+    target_compile_options(kestrune_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(kestrune_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(KESTRUNE_COVERAGE)
+    target_compile_options(kestrune_options INTERFACE --coverage -O0 -fno-inline -fprofile-update=single)
+    target_compile_definitions(kestrune_options INTERFACE KESTRUNE_COVERAGE)
+    target_link_options(kestrune_options INTERFACE --coverage)
+endif()

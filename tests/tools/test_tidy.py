@@ -1,0 +1,77 @@
+"""clang-tidy finds what it should, and a configuration that is not in force is noticed."""
+
+import shutil
+import unittest
+
+from trees import REPOSITORY, TreeTest
+from checks import tidy
+
+HAS_CLANG_TIDY = shutil.which("clang-tidy-14") or shutil.which("clang-tidy")
+GOOD = '#include "base/A.h"\nint twice(int value) { return 2 * value; }\n'
+HEADER = "#pragma once\nint twice(int value);\n"
+
+
+@unittest.skipUnless(HAS_CLANG_TIDY, "clang-tidy is not installed")
+class Tidy(TreeTest):
+    def setUp(self):
+        super().setUp()
+        for path in (".clang-tidy", "tests/.clang-tidy"):
+            self.write({path: (REPOSITORY / path).read_text(encoding="utf-8")})
+
+    def test_passes_a_clean_tree(self):
+        build = self.configure("clang", ["base/A.cpp"])
+        result = self.run_check(tidy, {"base/A.h": HEADER, "base/A.cpp": GOOD}, [build])
+        self.assertEqual((result.findings, result.examined), ([], "1 files"))
+
+    def test_finds_a_mistake_in_a_source_file(self):
+        build = self.configure("clang", ["base/A.cpp"])
+        bad = GOOD + "bool same(int value) { return value == value; }\n"
+        files = {"base/A.h": HEADER, "base/A.cpp": bad}
+        self.assert_found(tidy, files, "base/A.cpp:3: both sides of operator", builds=[build])
+
+    def test_finds_a_mistake_in_a_header_once(self):
+        build = self.configure("clang", ["base/A.cpp", "base/B.cpp"])
+        header = HEADER + "struct bad_name {};\n"
+        files = {"base/A.h": header, "base/A.cpp": GOOD, "base/B.cpp": '#include "base/A.h"\n'}
+        self.assert_found(tidy, files, "base/A.h:3: invalid case style for struct 'bad_name'", builds=[build])
+
+    def test_finds_a_mistake_in_a_header_that_is_seen_through_an_include_root(self):
+        build = self.configure("clang", ["base/A.cpp"])
+        link = build / "roots/base/base"
+        link.parent.mkdir(parents=True)
+        self.write({"base/A.h": HEADER + "struct bad_name {};\n", "base/A.cpp": GOOD})
+        link.symlink_to(self.root / "base")
+        database = build / "compile_commands.json"
+        text = database.read_text(encoding="utf-8").replace(f"-I{self.root}", f"-I{link.parent}")
+        database.write_text(text, encoding="utf-8")
+        self.assert_found(tidy, {}, "base/A.h:3: invalid case style for struct 'bad_name'", builds=[build])
+
+    def test_reports_a_file_that_does_not_compile(self):
+        build = self.configure("clang", ["base/A.cpp"])
+        files = {"base/A.cpp": '#include "base/B.h"\n'}
+        self.assert_found(tidy, files, "base/A.cpp:1: 'base/B.h' file not found", builds=[build])
+
+    def test_notices_a_stray_character_in_a_configuration(self):
+        build = self.configure("clang", ["base/A.cpp"])
+        files = {"base/A.h": HEADER, "base/A.cpp": GOOD}
+        for path in (".clang-tidy", "tests/.clang-tidy"):
+            with self.subTest(path=path):
+                text = (self.root / path).read_text(encoding="utf-8")
+                found = self.findings(tidy, files | {path: "}\n" + text}, [build])
+                self.assertIn(f"{path}:1: is not in force", "\n".join(found))
+                self.write({path: text})
+
+    def test_notices_a_configuration_without_our_checks(self):
+        build = self.configure("clang", ["base/A.cpp"])
+        files = {"base/A.h": HEADER, "base/A.cpp": GOOD, ".clang-tidy": "Checks: '-*,bugprone-*'\n"}
+        found = "\n".join(self.findings(tidy, files, [build]))
+        self.assertIn(".clang-tidy:1: is not in force", found)
+        self.assertIn("misc-redundant-expression, readability-identifier-naming", found)
+
+    def test_does_not_pass_without_a_configuration_or_without_a_build(self):
+        (self.root / ".clang-tidy").unlink()
+        self.assert_found(tidy, {}, ".:1: no compiled file", ".clang-tidy:1: is missing")
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,15 @@
+"""The checks of tools/check. Each module has run(tree), which returns a Result."""
+
+from . import format, includes, sleeping, strings, style, tidy, unbuilt, words
+
+# In the order they run: the quick ones first.
+ALL = {
+    "includes": includes,
+    "unbuilt": unbuilt,
+    "words": words,
+    "style": style,
+    "sleeping": sleeping,
+    "strings": strings,
+    "format": format,
+    "tidy": tidy,
+}
