@@ -1,0 +1,26 @@
+// The unified system log.
+//
+// Source: os/log.h (os_log_create, os_log_debug, os_log_info, os_log_error).
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+namespace kestrune {
+
+// A log channel. Callable from any thread. Debug and info messages are not kept by default; error messages
+// are.
+class Log {
+public:
+    // os_log_create: a channel for one category of one subsystem.
+    Log(std::string_view subsystem, std::string_view category);
+
+    // Logs a fixed message as a public string.
+    void error(std::string_view message) const;
+
+private:
+    struct State;
+    std::shared_ptr<const State> state_;
+};
+
+} // namespace kestrune
