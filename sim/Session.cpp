@@ -1,0 +1,137 @@
+#include "sim/Session.h"
+
+#include "base/Fatal.h"
+#include "sim/PointerConfinement.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kestrune::sim {
+
+namespace {
+
+// Counts on as long as the process lives, so that an object never takes a later session for its own.
+std::uint64_t nextSessionNumber = 1; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+} // namespace
+
+Session::Session(SessionOptions options)
+    : number_(nextSessionNumber++),
+      journal_(options.recordJournal),
+      accessibility_(options.permission),
+      displays_(std::move(options.displays)),
+      dock_(displays_, options.dockDwell),
+      defaults_(std::move(options.defaults)),
+      bundleIdentifier_(std::move(options.bundleIdentifier)),
+      cursorFollowsEvents_(options.cursorFollowsEvents) {
+    if (current_ != nullptr) {
+        fatal("A simulated session exists already.");
+    }
+    current_ = this;
+    if (!displays_.connected().empty()) {
+        const Rect& primary = displays_.connected().front().bounds;
+        placePointer({primary.minX() + primary.width() / 2, primary.minY() + primary.height() / 2});
+    }
+}
+
+Session::~Session() { current_ = nullptr; }
+
+Session* Session::withNumber(std::uint64_t number) {
+    return current_ != nullptr && current_->number_ == number ? current_ : nullptr;
+}
+
+void Session::stopWithoutSession() { fatal("A platform call needs a simulated session."); }
+
+Delivery Session::movePointer(double deltaX, double deltaY, EventType type) {
+    const Point wanted{pointer_.x + deltaX, pointer_.y + deltaY};
+    pointer_ = confinePointer(displays_.connected(), pointer_, wanted);
+    return deliver(type, pointer_, deltaY);
+}
+
+Delivery Session::movePointerTo(Point location, EventType type) {
+    return movePointer(location.x - pointer_.x, location.y - pointer_.y, type);
+}
+
+void Session::placePointer(Point location) {
+    pointer_ = confinePointer(displays_.connected(), pointer_, location);
+}
+
+Delivery Session::post(EventType type, Point location) {
+    const double deltaY = location.y - pointer_.y;
+    return deliver(type, location, deltaY);
+}
+
+Delivery Session::deliver(EventType type, Point location, double deltaY) {
+    if (type >= EventType::tapDisabledByTimeout) {
+        fatal("A notice to a tap is no event of the pointer.");
+    }
+    PointerEvent event(type, location);
+    waitForTaps(type);
+    const TapVerdict verdict = taps_.deliver(event);
+    const Delivery delivery{type, location, event.location, verdict.swallowed, verdict.replaced};
+    if (!delivery.swallowed) {
+        if (cursorFollowsEvents_ && delivery.delivered != pointer_) {
+            placePointer(delivery.delivered);
+        }
+        dock_.pointerArrived(delivery.delivered, deltaY, clock_.now());
+    }
+    runPendingNotices();
+    return delivery;
+}
+
+// The window server waits for each active tap. It waits in vain when the application's permission is gone,
+// and too long when its main thread is busy; then the tap is switched off and the event goes on without it.
+void Session::waitForTaps(EventType type) {
+    if (!taps_.waitsFor(type)) {
+        return;
+    }
+    const Duration wait = accessibility_.allowsActiveTaps()
+                              ? std::max(mainThreadFreeAt_ - clock_.now(), Duration::zero())
+                              : Duration::max();
+    if (wait < TapTimeout) {
+        hold(wait);
+        return;
+    }
+    hold(TapTimeout);
+    taps_.timeOut(type);
+}
+
+void Session::hold(Duration duration) {
+    longestHold_ = std::max(longestHold_, duration);
+    clock_.elapse(duration);
+}
+
+void Session::changeDisplays(std::vector<Display> displays) {
+    displays_.set(std::move(displays));
+    dock_.displaysChanged();
+    placePointer(pointer_);
+}
+
+void Session::advance(Duration duration) {
+    const Duration end = clock_.now() + duration;
+    if (mainThreadFreeAt_ > clock_.now()) {
+        clock_.elapse(std::min(mainThreadFreeAt_, end) - clock_.now());
+        runPendingNotices();
+    }
+    if (mainThreadFreeAt_ <= end) {
+        clock_.advance(end - clock_.now());
+        runPendingNotices();
+    }
+}
+
+void Session::stallMainThread(Duration duration) {
+    mainThreadFreeAt_ = std::max(mainThreadFreeAt_, clock_.now() + duration);
+}
+
+void Session::disableTaps(EventType reason) {
+    taps_.disableAll(reason);
+    runPendingNotices();
+}
+
+void Session::runPendingNotices() {
+    if (clock_.now() >= mainThreadFreeAt_) {
+        taps_.notify();
+    }
+}
+
+} // namespace kestrune::sim

@@ -1,0 +1,160 @@
+// A simulated Mac session: displays, pointer, Dock, event taps, run loop, defaults, permission and log.
+#pragma once
+
+#include "platform/Event.h"
+#include "sim/Accessibility.h"
+#include "sim/DefaultsDomain.h"
+#include "sim/Displays.h"
+#include "sim/Dock.h"
+#include "sim/Journal.h"
+#include "sim/RunLoopSources.h"
+#include "sim/TapChain.h"
+#include "sim/VirtualClock.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kestrune::sim {
+
+struct SessionOptions {
+    std::vector<Display> displays = {makeDisplay(1, "Built-in Display", {0, 0, 1512, 982})};
+    Permission permission = Permission::granted;
+    PropertyListDictionary defaults = {};
+    std::optional<std::string> bundleIdentifier = "org.kestrune.Kestrune";
+    bool recordJournal = true;
+
+    // Whether the visible pointer goes where an active tap put the event. Not confirmed for session taps.
+    bool cursorFollowsEvents = true;
+
+    Duration dockDwell = Dock::DefaultDwell;
+};
+
+enum class LogLevel { error };
+
+struct LogRecord {
+    LogLevel level;
+    std::string subsystem;
+    std::string category;
+    std::string message;
+};
+
+// What became of one pointer event. Locations are in global display coordinates.
+struct Delivery {
+    EventType type;
+    Point sent;
+    Point delivered;
+    bool swallowed = false;
+    bool replaced = false;
+};
+
+// Every call of the seam needs a session; there is one at a time, and nothing survives it. Deterministic:
+// time, motion and faults come from whoever drives it. All on one thread.
+class Session {
+public:
+    // How long the system waits for an active tap's reply before it switches the tap off. Not documented;
+    // reports start at one second.
+    static constexpr Duration TapTimeout = std::chrono::seconds(1);
+
+    explicit Session(SessionOptions options = {});
+    ~Session();
+
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    // The session that exists; stops the process when there is none.
+    static Session& current() {
+        if (current_ == nullptr) {
+            stopWithoutSession();
+        }
+        return *current_;
+    }
+
+    // The session with that number, null when it is gone.
+    static Session* withNumber(std::uint64_t number);
+    std::uint64_t number() const { return number_; }
+
+    Journal& journal() { return journal_; }
+    VirtualClock& clock() { return clock_; }
+    Accessibility& accessibility() { return accessibility_; }
+    Displays& displays() { return displays_; }
+    DefaultsDomain& defaults() { return defaults_; }
+    TapChain& taps() { return taps_; }
+    RunLoopSources& sources() { return sources_; }
+    Dock& dock() { return dock_; }
+    const std::optional<std::string>& bundleIdentifier() const { return bundleIdentifier_; }
+
+    // In global display coordinates, like every location below.
+    Point pointer() const { return pointer_; }
+
+    // The hardware moves the pointer, in points, y downwards; it stays on the displays.
+    Delivery movePointer(double deltaX, double deltaY, EventType type = EventType::mouseMoved);
+
+    // The same, towards a location.
+    Delivery movePointerTo(Point location, EventType type = EventType::mouseMoved);
+
+    // Puts the pointer somewhere without an event, confined to the displays.
+    void placePointer(Point location);
+
+    // An event with any location enters the session, as another process can post one.
+    Delivery post(EventType type, Point location);
+
+    // Plugs, unplugs or rearranges displays: the pointer and the Dock follow. The application is not told.
+    void changeDisplays(std::vector<Display> displays);
+
+    // Lets time pass. The main thread runs what falls due, once it is free.
+    void advance(Duration duration);
+
+    // Fault: the main thread is busy for that long. Events wait for it, at most until the tap times out.
+    void stallMainThread(Duration duration);
+
+    // Fault: the system switches the taps off and, unless the main thread is busy, tells the application at
+    // once.
+    void disableTaps(EventType reason);
+
+    // Fault: CGEventTapCreate refuses although the permission is there.
+    void refuseTapCreation(bool refuse) { refusesTapCreation_ = refuse; }
+    bool allowsTapCreation() const { return !refusesTapCreation_ && accessibility_.allowsActiveTaps(); }
+
+    // The longest time that an event was held up before it was delivered.
+    Duration longestHold() const { return longestHold_; }
+
+    const std::vector<LogRecord>& logRecords() const { return logRecords_; }
+    void appendLogRecord(LogRecord record) { logRecords_.push_back(std::move(record)); }
+
+    // Objects of the platform's that the application retains.
+    std::int64_t liveObjects() const { return liveObjects_; }
+    void countLiveObject(std::int64_t change) { liveObjects_ += change; }
+
+private:
+    Delivery deliver(EventType type, Point location, double deltaY);
+    void waitForTaps(EventType type);
+    void hold(Duration duration);
+    void runPendingNotices();
+    [[noreturn]] static void stopWithoutSession();
+
+    // The platform is one for the whole process, and so is what stands in for it.
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
+    inline static Session* current_ = nullptr;
+
+    std::uint64_t number_;
+    Journal journal_;
+    VirtualClock clock_;
+    Accessibility accessibility_;
+    Displays displays_;
+    Dock dock_;
+    DefaultsDomain defaults_;
+    TapChain taps_;
+    RunLoopSources sources_;
+    std::optional<std::string> bundleIdentifier_;
+    bool cursorFollowsEvents_;
+    bool refusesTapCreation_ = false;
+    Point pointer_;
+    Duration mainThreadFreeAt_{0};
+    Duration longestHold_{0};
+    std::vector<LogRecord> logRecords_;
+    std::int64_t liveObjects_ = 0;
+};
+
+} // namespace kestrune::sim

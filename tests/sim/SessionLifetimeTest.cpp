@@ -1,0 +1,162 @@
+// One session at a time, no platform without one, and nothing that survives it does harm.
+#include "platform/AccessibilityTrust.h"
+#include "platform/Bundle.h"
+#include "platform/DisplayUUID.h"
+#include "platform/Log.h"
+#include "platform/Screen.h"
+#include "platform/UserDefaults.h"
+#include "sim/Session.h"
+#include "tests/contract/RecordingTap.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace kestrune::sim {
+namespace {
+
+using testing::IsEmpty;
+
+constexpr const char* NoSession = "Fatal error: A platform call needs a simulated session\\.";
+
+TEST(SessionDeathTest, StopsTheProcessWhenThereIsOneAlready) {
+    const Session session;
+    EXPECT_DEATH(Session(), "Fatal error: A simulated session exists already\\.");
+}
+
+TEST(SessionDeathTest, StopsAPlatformCallThatHasNone) {
+    EXPECT_DEATH(isProcessTrusted(), NoSession);
+    EXPECT_DEATH(Bundle::mainBundleIdentifier(), NoSession);
+    EXPECT_DEATH(DisplayUUID::createFromDisplayID(1), NoSession);
+    EXPECT_DEATH(Log("subsystem", "category"), NoSession);
+    EXPECT_DEATH(RunLoop::current(), NoSession);
+    EXPECT_DEATH(Screen::screens(), NoSession);
+    EXPECT_DEATH(Screen::mainScreen(), NoSession);
+    EXPECT_DEATH(UserDefaults::standardUserDefaults(), NoSession);
+    contract::ReceivedEvents received;
+    EXPECT_DEATH(contract::RecordingTap(received, {}), NoSession);
+}
+
+TEST(SessionDeathTest, StopsACallOfAnObjectThatSurvivedIt) {
+    std::shared_ptr<UserDefaults> defaults;
+    std::optional<DisplayUUID> uuid;
+    {
+        const Session session;
+        defaults = UserDefaults::standardUserDefaults();
+        uuid = DisplayUUID::createFromDisplayID(1);
+        ASSERT_TRUE(uuid);
+    }
+    EXPECT_DEATH(defaults->boolForKey(UserDefaultsKey("key")), NoSession);
+    EXPECT_DEATH(uuid->createString(), NoSession);
+}
+
+TEST(Session, CanFollowAnother) {
+    std::uint64_t first = 0;
+    {
+        const Session session;
+        first = session.number();
+        EXPECT_EQ(&Session::current(), &session);
+        EXPECT_EQ(Session::withNumber(first), &session);
+    }
+    EXPECT_EQ(Session::withNumber(first), nullptr);
+    const Session session;
+    EXPECT_NE(session.number(), first);
+    EXPECT_EQ(Session::withNumber(first), nullptr);
+    EXPECT_EQ(Session::withNumber(session.number()), &session);
+}
+
+TEST(Session, StartsWithNothingOfTheOneBefore) {
+    {
+        Session session;
+        UserDefaults::standardUserDefaults()->setBool(true, UserDefaultsKey("key"));
+        session.accessibility().setPermission(Permission::switchedOff);
+        session.advance(std::chrono::seconds(5));
+        Log("subsystem", "category").error("message");
+    }
+    Session session;
+    EXPECT_THAT(session.defaults().entries(), IsEmpty());
+    EXPECT_EQ(session.accessibility().permission(), Permission::granted);
+    EXPECT_EQ(session.clock().now(), Duration::zero());
+    EXPECT_THAT(session.logRecords(), IsEmpty());
+    EXPECT_THAT(session.journal().lines(), IsEmpty());
+    EXPECT_EQ(session.liveObjects(), 0);
+}
+
+TEST(Session, CountsTheObjectsThatTheApplicationRetains) {
+    const Session session;
+    {
+        const auto uuid = DisplayUUID::createFromDisplayID(1);
+        ASSERT_TRUE(uuid);
+        EXPECT_EQ(session.liveObjects(), 1);
+        const DisplayUUID copy = *uuid; // NOLINT(performance-unnecessary-copy-initialization): copies retain.
+        EXPECT_EQ(session.liveObjects(), 1);
+        EXPECT_TRUE(copy.createString());
+        EXPECT_EQ(session.liveObjects(), 1);
+    }
+    EXPECT_EQ(session.liveObjects(), 0);
+}
+
+TEST(Session, CountsATapAndItsSourceUntilTheRunLoopLetsGo) {
+    Session session;
+    contract::ReceivedEvents received;
+    contract::RecordingTap tap(received, {});
+    EXPECT_EQ(session.liveObjects(), 2);
+    ASSERT_TRUE(tap.schedule());
+    const RunLoopSource source = tap.source();
+    tap.releaseTap();
+    tap.releaseSource();
+    EXPECT_EQ(session.liveObjects(), 2);
+    EXPECT_EQ(session.taps().count(), 1U);
+    RunLoop::current().removeSource(source, RunLoopMode::commonModes);
+    EXPECT_EQ(session.sources().count(), 0U);
+    EXPECT_EQ(session.liveObjects(), 2);
+}
+
+TEST(Session, IsNotTouchedByObjectsOfTheOneBefore) {
+    auto former = std::make_unique<Session>();
+    auto uuid = DisplayUUID::createFromDisplayID(1);
+    ASSERT_TRUE(uuid);
+    contract::ReceivedEvents received;
+    auto tap = EventTap::create(
+        EventTapLocation::session, EventTapPlacement::headInsert, EventTapOptions::defaultTap,
+        contract::MouseMovedMask,
+        [](EventTapProxy*, EventType, Event* event, void*) noexcept { return event; }, nullptr);
+    ASSERT_TRUE(tap);
+    RunLoop::current().addSource(tap->createRunLoopSource(0), RunLoopMode::commonModes);
+    std::optional<Log> log(std::in_place, "subsystem", "category");
+    std::vector<Screen> screens = Screen::screens();
+    former.reset();
+
+    Session session;
+    uuid.reset();
+    tap.reset();
+    log.reset();
+    screens.clear();
+    EXPECT_EQ(session.liveObjects(), 0);
+    EXPECT_THAT(session.journal().lines(), IsEmpty());
+}
+
+TEST(SessionDeathTest, StopsAnEventWithATypeThatIsANotice) {
+    Session session;
+    EXPECT_DEATH(session.post(EventType::tapDisabledByTimeout, {}),
+                 "Fatal error: A notice to a tap is no event of the pointer\\.");
+}
+
+// Its objects end without any session to count them in, and the process goes on.
+TEST(SessionDeathTest, MayEndBeforeTheObjectsThatCameFromIt) {
+    EXPECT_EXIT(
+        {
+            std::optional<DisplayUUID> uuid;
+            {
+                const Session session;
+                uuid = DisplayUUID::createFromDisplayID(1);
+            }
+            uuid.reset();
+            std::exit(EXIT_SUCCESS);
+        },
+        testing::ExitedWithCode(EXIT_SUCCESS), "^$");
+}
+
+} // namespace
+} // namespace kestrune::sim
