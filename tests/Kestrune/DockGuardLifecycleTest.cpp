@@ -1,0 +1,188 @@
+#include "tests/Kestrune/GuardFixture.h"
+
+namespace kestrune {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+constexpr const char* Creation =
+    "CGEventTapCreate(kCGSessionEventTap, kCGHeadInsertEventTap, kCGEventTapOptionDefault, 0x080000E0)";
+
+class DockGuardLifecycle : public GuardFixture {
+protected:
+    void expectStopped() {
+        EXPECT_FALSE(guard.isRunning());
+        EXPECT_EQ(session.taps().count(), 0U);
+        EXPECT_EQ(session.sources().count(), 0U);
+        EXPECT_EQ(session.liveObjects(), 0);
+    }
+
+    void expectRunning() {
+        EXPECT_TRUE(guard.isRunning());
+        EXPECT_EQ(session.taps().count(), 1U);
+        EXPECT_EQ(session.taps().enabledCount(), 1U);
+        EXPECT_EQ(session.sources().count(), 1U);
+    }
+
+    void expectOneErrorAndNoTap() {
+        expectStopped();
+        ASSERT_THAT(session.logRecords(), SizeIs(1));
+        const sim::LogRecord& record = session.logRecords().front();
+        EXPECT_EQ(record.level, sim::LogLevel::error);
+        EXPECT_EQ(record.subsystem, "org.kestrune.Kestrune");
+        EXPECT_EQ(record.category, "dockGuard");
+        EXPECT_EQ(record.message, "Failed to create event tap. Accessibility permission required.");
+    }
+};
+
+TEST_F(DockGuardLifecycle, StartsInOrder) {
+    guard.start();
+    EXPECT_THAT(session.journal().take(),
+                ElementsAre(Creation, "CFMachPortCreateRunLoopSource(kCFAllocatorDefault, tap, 0)",
+                            "CFRunLoopGetCurrent()",
+                            "CFRunLoopAddSource(main, source, kCFRunLoopCommonModes)",
+                            "CGEventTapEnable(tap, true)"));
+    expectRunning();
+    EXPECT_THAT(session.logRecords(), IsEmpty());
+}
+
+TEST_F(DockGuardLifecycle, StopsInOrder) {
+    refreshAndStart();
+    guard.stop();
+    EXPECT_THAT(session.journal().take(),
+                ElementsAre("CGEventTapEnable(tap, false)", "CFRunLoopGetCurrent()",
+                            "CFRunLoopRemoveSource(main, source, kCFRunLoopCommonModes)", "CFRelease(source)",
+                            "CFRelease(tap)"));
+    expectStopped();
+}
+
+TEST_F(DockGuardLifecycle, DoesNothingWhenStoppedTwice) {
+    refreshAndStart();
+    guard.stop();
+    session.journal().take();
+    guard.stop();
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+    expectStopped();
+}
+
+TEST_F(DockGuardLifecycle, DoesNothingWhenStoppedBeforeItEverStarted) {
+    guard.stop();
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+}
+
+TEST_F(DockGuardLifecycle, StartsAgainAfterAStop) {
+    refreshAndStart();
+    guard.stop();
+    guard.start();
+    expectRunning();
+    EXPECT_EQ(delivered({2000, 1079}), (Point{2000, 1075}));
+}
+
+TEST_F(DockGuardLifecycle, LogsOneErrorWithoutThePermission) {
+    session.accessibility().setPermission(sim::Permission::notListed);
+    guard.start();
+    EXPECT_THAT(
+        session.journal().take(),
+        ElementsAre(
+            Creation, "NSBundle.mainBundle.bundleIdentifier",
+            "os_log_create(org.kestrune.Kestrune, dockGuard)",
+            "os_log_error(dockGuard, Failed to create event tap. Accessibility permission required.)"));
+    expectOneErrorAndNoTap();
+}
+
+TEST_F(DockGuardLifecycle, LogsOneErrorWhenTheSystemRefusesTheTapDespiteThePermission) {
+    session.refuseTapCreation(true);
+    guard.start();
+    expectOneErrorAndNoTap();
+}
+
+TEST_F(DockGuardLifecycle, LogsOneErrorWhenTheRowWasDeletedButReadsAsTrusted) {
+    session.accessibility().setPermission(sim::Permission::rowDeleted);
+    guard.start();
+    expectOneErrorAndNoTap();
+}
+
+TEST_F(DockGuardLifecycle, MakesItsLogChannelOnceAndOnlyWhenNeeded) {
+    guard.start();
+    guard.stop();
+    session.refuseTapCreation(true);
+    session.journal().take();
+    guard.start();
+    guard.start();
+    const std::vector<std::string> calls = session.journal().take();
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "os_log_create(org.kestrune.Kestrune, dockGuard)"), 1);
+    EXPECT_THAT(session.logRecords(), SizeIs(2));
+}
+
+TEST_F(DockGuardLifecycle, ChangesNoFieldWhenTheTapIsRefused) {
+    guard.refreshScreens();
+    session.accessibility().setPermission(sim::Permission::switchedOff);
+    guard.start();
+    EXPECT_THAT(guard.screensCache(), SizeIs(2));
+    ASSERT_TRUE(guard.pinnedScreen());
+    EXPECT_EQ(guard.pinnedScreen()->displayID, 1U);
+    EXPECT_FALSE(guard.isRunning());
+}
+
+TEST_F(DockGuardLifecycle, LetsEveryEventPassBeforeTheFirstRefresh) {
+    guard.start();
+    EXPECT_EQ(delivered({2000, 1079}), (Point{2000, 1079}));
+}
+
+TEST_F(DockGuardLifecycle, ReleasesItsTapWithoutDisablingItWhenItGoes) {
+    {
+        DockGuardController shortLived;
+        shortLived.start();
+        session.journal().take();
+    }
+    // The run loop still holds the source, and with it the tap: stopping is the owner's business.
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+    EXPECT_EQ(session.taps().enabledCount(), 1U);
+    EXPECT_EQ(session.sources().count(), 1U);
+}
+
+TEST_F(DockGuardLifecycle, StartsOnceThePermissionArrives) {
+    session.accessibility().setPermission(sim::Permission::switchedOff);
+    guard.start();
+    session.accessibility().setPermission(sim::Permission::granted);
+    guard.start();
+    expectRunning();
+}
+
+TEST_F(DockGuardLifecycle, StartedWhileRunningReplacesItsTap) {
+    refreshAndStart();
+    guard.start();
+    EXPECT_THAT(
+        session.journal().take(),
+        ElementsAre(Creation, "CFMachPortCreateRunLoopSource(kCFAllocatorDefault, tap, 0)",
+                    "CFRunLoopGetCurrent()", "CFRunLoopAddSource(main, source, kCFRunLoopCommonModes)",
+                    "CGEventTapEnable(tap, true)", "CGEventTapEnable(tap, false)", "CFRunLoopGetCurrent()",
+                    "CFRunLoopRemoveSource(main, source, kCFRunLoopCommonModes)", "CFRelease(source)",
+                    "CFRelease(tap)"));
+    expectRunning();
+}
+
+TEST_F(DockGuardLifecycle, KeepsItsTapWhenAnotherIsRefused) {
+    refreshAndStart();
+    session.refuseTapCreation(true);
+    guard.start();
+    expectRunning();
+    EXPECT_THAT(session.logRecords(), SizeIs(1));
+    EXPECT_EQ(delivered({2000, 1079}), (Point{2000, 1075}));
+}
+
+TEST(DockGuardLog, HasAnEmptySubsystemWhenTheBundleHasNoIdentifier) {
+    sim::SessionOptions options;
+    options.permission = sim::Permission::notListed;
+    options.bundleIdentifier = std::nullopt;
+    sim::Session session(options);
+    DockGuardController guard;
+    guard.start();
+    ASSERT_THAT(session.logRecords(), SizeIs(1));
+    EXPECT_EQ(session.logRecords().front().subsystem, "");
+}
+
+} // namespace
+} // namespace kestrune
