@@ -1,0 +1,45 @@
+// A simulated session with the guard on it, set up from the options of the command line.
+#pragma once
+
+#include "base/Geometry.h"
+#include "desk/replay/GuardHost.h"
+#include "desk/replay/Judge.h"
+#include "sim/Session.h"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace kestrune::desk {
+
+struct DeskSetup {
+    std::vector<Rect> displays; // global display coordinates, the primary first; at least one
+    std::size_t pinned = 0;     // index into `displays`
+    bool guardOn = true;
+    std::optional<double> margin; // what is stored as the block margin, if anything
+};
+
+// Displays with the names that macOS would give them.
+std::vector<sim::Display> connectDisplays(const std::vector<Rect>& bounds);
+
+// The session, the application's part and the Dock, which starts on the pinned display.
+class SimulatedDesk {
+public:
+    explicit SimulatedDesk(const DeskSetup& setup);
+
+    sim::Session& session() { return session_; }
+    GuardHost& host() { return host_; }
+
+    // The setup as the judge sees it.
+    const JudgedDesk& judged() const { return judged_; }
+
+    // The display with the Dock, as an index into the setup's displays.
+    std::size_t dockDisplay();
+
+private:
+    JudgedDesk judged_;
+    sim::Session session_;
+    GuardHost host_;
+};
+
+} // namespace kestrune::desk

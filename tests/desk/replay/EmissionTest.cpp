@@ -1,0 +1,36 @@
+#include "desk/replay/Emission.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <limits>
+
+namespace kestrune::desk {
+namespace {
+
+std::string contentOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+TEST(Emission, WritesNumbersInTheShortestFormThatReadsBackEqual) {
+    const std::string path = ::testing::TempDir() + "emission.csv";
+    Emission emission(path);
+    emission.write(0, {EventType::mouseMoved, {100, 0.1}, {100, 1.0 / 3}});
+    emission.write(12, {EventType::otherMouseDragged, {-1920.00390625, 1e21}, {0, -0.5}});
+    EXPECT_EQ(emission.finish(), std::nullopt);
+    EXPECT_EQ(contentOf(path), "0,5,100,0.1,100,0.3333333333333333\n12,27,-1920.00390625,1e+21,0,-0.5\n");
+}
+
+TEST(Emission, NamesTheFileThatCannotBeWritten) {
+    const std::string path = ::testing::TempDir() + "no such folder/emission.csv";
+    Emission emission(path);
+    emission.write(0, {EventType::mouseMoved, {}, {}});
+    const std::optional<InputError> error = emission.finish();
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->message, path + ": expected a file that can be written");
+}
+
+} // namespace
+} // namespace kestrune::desk
