@@ -1,0 +1,46 @@
+#include "desk/live/DeskKeys.h"
+
+namespace kestrune::desk {
+
+const std::vector<KeyHint>& keyLegend() {
+    static const std::vector<KeyHint> legend = {
+        {"1–9", "pin a display"}, {"G", "guard on or off"}, {"U", "unplug"}, {"P", "plug in"},
+        {"A", "permission"},      {"T", "tap timeout"},     {"+ −", "band"}, {"D", "dark"},
+        {"S", "save picture"},    {"H", "hide keys"},       {"Q", "quit"},
+    };
+    return legend;
+}
+
+bool pressDeskKey(LiveDesk& desk, char key) {
+    if (key >= '1' && key <= '9') {
+        desk.pin(static_cast<DisplayID>(key - '0'));
+        return true;
+    }
+    switch (key) {
+    case 'g':
+        desk.toggleGuard();
+        return true;
+    case 'u':
+        desk.unplugUnderPointer();
+        return true;
+    case 'p':
+        desk.plugIn();
+        return true;
+    case 'a':
+        desk.togglePermission();
+        return true;
+    case 't':
+        desk.timeOutTap();
+        return true;
+    case '+':
+        desk.deepenBand();
+        return true;
+    case '-':
+        desk.narrowBand();
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,231 @@
+#include "desk/window/DeskWindow.h"
+
+#include "desk/live/DeskKeys.h"
+#include "desk/live/Hand.h"
+#include "desk/live/LivePicture.h"
+#include "desk/live/OpenDesk.h"
+#include "desk/live/Tour.h"
+#include "desk/paint/DeskLayout.h"
+#include "desk/window/WindowCanvas.h"
+
+#include <chrono>
+#include <cstdio>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace kestrune::desk {
+
+namespace {
+
+constexpr int BadInput = 2;
+constexpr const char* TourFolder = "out/tour";
+constexpr const char* UsualScreenshot = "kestrune-desk.png";
+
+// Between two looks at the events, in milliseconds. SDL_WaitEventTimeout would sleep until there is one, but
+// on X11 it can leave a message to the window on its way when the window goes, which ends the process.
+constexpr Uint32 Pause = 8;
+
+int refuse(const std::string& message) {
+    std::fprintf(stderr, "kestrune-desk: %s\n", message.c_str());
+    return BadInput;
+}
+
+EventType motionType(Uint32 buttons) {
+    if ((buttons & SDL_BUTTON_LMASK) != 0) {
+        return EventType::leftMouseDragged;
+    }
+    if ((buttons & SDL_BUTTON_RMASK) != 0) {
+        return EventType::rightMouseDragged;
+    }
+    return buttons != 0 ? EventType::otherMouseDragged : EventType::mouseMoved;
+}
+
+// The key as the desk knows it, 0 for one that it does not know.
+char deskKey(SDL_Keycode key) {
+    switch (key) {
+    case SDLK_KP_PLUS:
+    case SDLK_PLUS:
+    case SDLK_EQUALS: // The plus sign's key without Shift.
+        return '+';
+    case SDLK_KP_MINUS:
+    case SDLK_MINUS:
+        return '-';
+    default:
+        return key > 0 && key < 0x80 ? static_cast<char>(key) : '\0';
+    }
+}
+
+class DeskWindow {
+public:
+    DeskWindow(WindowCanvas canvas, LiveDesk& desk, const Options& options)
+        : canvas_(std::move(canvas)), desk_(desk), options_(options), hand_(desk), isDark_(options.dark) {}
+
+    void run() {
+        while (!isClosed_) {
+            SDL_Event event;
+            while (SDL_PollEvent(&event) != 0) {
+                hand_.letTimePass(elapsed());
+                handle(event);
+            }
+            hand_.letTimePass(elapsed());
+            canvas_.show(picture());
+            SDL_Delay(Pause);
+        }
+    }
+
+    std::optional<PaintError> writePicture(const std::string& path) {
+        return writePng(path, picture(), canvas_.size(), canvas_.scale());
+    }
+
+private:
+    DeskPicture picture() {
+        DeskPicture result = pictureOf(desk_);
+        result.dark = isDark_;
+        if (hidesKeys_) {
+            result.keys = {{"H", "show the keys"}};
+        }
+        return result;
+    }
+
+    sim::Duration elapsed() const { return std::chrono::steady_clock::now() - start_; }
+
+    void handle(const SDL_Event& event) {
+        switch (event.type) {
+        case SDL_QUIT:
+            isClosed_ = true;
+            break;
+        case SDL_KEYDOWN:
+            press(event.key.keysym.sym, event.key.repeat != 0);
+            break;
+        case SDL_MOUSEMOTION:
+            handleMotion(event.motion);
+            break;
+        case SDL_WINDOWEVENT:
+            if (event.window.event == SDL_WINDOWEVENT_EXPOSED) {
+                canvas_.forget();
+            }
+            break;
+        case SDL_RENDER_TARGETS_RESET:
+        case SDL_RENDER_DEVICE_RESET:
+            canvas_.forget();
+            break;
+        default:
+            break;
+        }
+    }
+
+    void handleMotion(const SDL_MouseMotionEvent& motion) {
+        const Point place{static_cast<double>(motion.x), static_cast<double>(motion.y)};
+        const DeskLayout layout = DeskLayout::of(pictureOf(desk_), canvas_.size());
+        // The simulated pointer stands in for the real one where the displays are.
+        SDL_ShowCursor(layout.isEmpty() || !layout.content().contains(place) ? SDL_ENABLE : SDL_DISABLE);
+        hand_.moveTo(layout.toGlobal(place), motionType(motion.state), elapsed());
+    }
+
+    void press(SDL_Keycode key, bool repeats) {
+        const char character = deskKey(key);
+        if (repeats && character != '+' && character != '-') {
+            return;
+        }
+        switch (key) {
+        case SDLK_q:
+        case SDLK_ESCAPE:
+            isClosed_ = true;
+            break;
+        case SDLK_d:
+            isDark_ = !isDark_;
+            break;
+        case SDLK_h:
+            hidesKeys_ = !hidesKeys_;
+            break;
+        case SDLK_s:
+            saveScreenshot();
+            break;
+        default:
+            pressDeskKey(desk_, character);
+            break;
+        }
+    }
+
+    void saveScreenshot() {
+        const std::string path = options_.screenshot.value_or(UsualScreenshot);
+        const auto error = writePicture(path);
+        desk_.announce(error ? News{"The picture was not saved: " + error->message, Occurrence::warning}
+                             : News{"The picture was saved as " + path, Occurrence::neutral});
+    }
+
+    WindowCanvas canvas_;
+    LiveDesk& desk_;
+    const Options& options_;
+    const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    Hand hand_;
+    bool isDark_;
+    bool hidesKeys_ = false;
+    bool isClosed_ = false;
+};
+
+// SDL's video for the length of a scope.
+class Video {
+public:
+    Video() : isThere_(SDL_Init(SDL_INIT_VIDEO) == 0) {}
+    ~Video() { SDL_Quit(); }
+
+    Video(const Video&) = delete;
+    Video& operator=(const Video&) = delete;
+
+    // Whether a person can see and use a window.
+    bool isUsable() const {
+        if (!isThere_) {
+            return false;
+        }
+        const std::string_view driver = SDL_GetCurrentVideoDriver();
+        return driver != "dummy" && driver != "offscreen";
+    }
+
+private:
+    bool isThere_;
+};
+
+int playTourInstead(const Options& options) {
+    std::printf("No display server gives a window: the tour's pictures go to %s\n", TourFolder);
+    const auto error = runTour(TourFolder, options);
+    return error ? refuse(error->message) : 0;
+}
+
+int finish(DeskWindow& window, LiveDesk& desk, const Options& options) {
+    if (options.screenshot) {
+        if (const auto error = window.writePicture(*options.screenshot)) {
+            return refuse(error->message);
+        }
+    }
+    if (const auto& error = desk.savingError()) {
+        return refuse(*error);
+    }
+    const Report report = desk.report();
+    const std::string text = options.reportAsJSON ? reportAsJSON(report) : reportAsText(report);
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    return 0;
+}
+
+} // namespace
+
+int runDeskWindow(const Options& options) {
+    auto opened = openDesk(options);
+    if (const auto* error = std::get_if<InputError>(&opened)) {
+        return refuse(error->message);
+    }
+    auto desk = std::get<std::unique_ptr<LiveDesk>>(std::move(opened));
+    const Video video;
+    std::optional<WindowCanvas> canvas = video.isUsable() ? WindowCanvas::open(UsualWindow) : std::nullopt;
+    if (!canvas) {
+        desk.reset(); // There is one session at a time, and the tour has its own.
+        return playTourInstead(options);
+    }
+    DeskWindow window(*std::move(canvas), *desk, options);
+    window.run();
+    return finish(window, *desk, options);
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,48 @@
+#include "desk/live/DeskKeys.h"
+
+#include "tests/desk/live/LiveFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrune::desk {
+namespace {
+
+std::string newsAfter(char key) {
+    LiveDesk desk({});
+    EXPECT_TRUE(pressDeskKey(desk, key)) << key;
+    return desk.news().text;
+}
+
+TEST(DeskKeys, DoWhatTheLegendSays) {
+    EXPECT_EQ(newsAfter('1'), "Built-in Display is pinned and has the Dock");
+    EXPECT_EQ(newsAfter('9'), "There is no display 9");
+    EXPECT_EQ(newsAfter('g'), "Guard off: the Dock goes wherever the pointer pushes it");
+    EXPECT_EQ(newsAfter('p'), "Display 3 was plugged in");
+    EXPECT_EQ(newsAfter('t'),
+              "The system switched the tap off after a timeout; the guard switched it on again at once");
+    EXPECT_EQ(newsAfter('+'), "The guarded band is 8 points deep");
+    EXPECT_EQ(newsAfter('-'), "The guarded band is 2 points deep");
+    EXPECT_EQ(newsAfter('u').substr(0, 30), "Built-in Display was unplugged");
+    EXPECT_EQ(newsAfter('a').substr(0, 32), "Accessibility permission revoked");
+}
+
+TEST(DeskKeys, LeaveTheDeskAloneWhenTheyMeanNothingToIt) {
+    LiveDesk desk({});
+    const std::string before = desk.news().text;
+    for (const char key : {'0', 'd', 'q', 'G', '\0'}) {
+        EXPECT_FALSE(pressDeskKey(desk, key));
+    }
+    EXPECT_EQ(desk.news().text, before);
+}
+
+TEST(DeskKeys, AreAllInTheLegend) {
+    std::string keys;
+    for (const KeyHint& hint : keyLegend()) {
+        EXPECT_FALSE(hint.action.empty());
+        keys += hint.key + " ";
+    }
+    EXPECT_EQ(keys, "1–9 G U P A T + − D S H Q ");
+}
+
+} // namespace
+} // namespace kestrune::desk

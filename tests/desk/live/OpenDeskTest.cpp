@@ -1,0 +1,135 @@
+#include "desk/live/OpenDesk.h"
+
+#include "sim/DefaultsFile.h"
+#include "tests/desk/live/LiveFixture.h"
+#include "tests/desk/recording/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <iterator>
+
+namespace kestrune::desk {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::unique_ptr<LiveDesk> opened(const Options& options) {
+    auto desk = openDesk(options);
+    if (const auto* error = std::get_if<InputError>(&desk)) {
+        ADD_FAILURE() << error->message;
+        return nullptr;
+    }
+    return std::get<std::unique_ptr<LiveDesk>>(std::move(desk));
+}
+
+std::string refusal(const Options& options) {
+    const auto desk = openDesk(options);
+    const auto* error = std::get_if<InputError>(&desk);
+    return error != nullptr ? error->message : "";
+}
+
+std::string contentOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(OpenDesk, NeedsNoFile) {
+    const auto desk = opened({});
+    ASSERT_TRUE(desk);
+    EXPECT_TRUE(desk->session().defaults().entries().empty());
+}
+
+TEST(OpenDesk, MakesNoFileBeforeSomethingIsChosen) {
+    const TemporaryFolder folder;
+    Options options;
+    options.defaults = folder.path() / "defaults.plist";
+    const auto desk = opened(options);
+    EXPECT_FALSE(std::filesystem::exists(*options.defaults));
+}
+
+TEST(OpenDesk, KeepsWhatWasChosenForTheNextTime) {
+    const TemporaryFolder folder;
+    Options options;
+    options.defaults = folder.path() / "defaults.plist";
+    {
+        const auto desk = opened(options);
+        desk->pin(2);
+        desk->toggleGuard();
+        desk->deepenBand();
+    }
+    const auto desk = opened(options);
+    EXPECT_EQ(desk->session().dock().display(), 2U);
+    EXPECT_FALSE(desk->host().guard().isRunning());
+    EXPECT_EQ(storedText(*desk, "blockMargin"), "8");
+}
+
+TEST(OpenDesk, PrefersTheOptionsToWhatIsStoredAndStoresThem) {
+    const TemporaryFolder folder;
+    Options options;
+    options.defaults = folder.path() / "defaults.plist";
+    opened(options)->pin(2);
+    options.pinned = 0;
+    options.guardOn = false;
+    options.margin = 12;
+    EXPECT_EQ(opened(options)->session().dock().display(), 1U);
+
+    const auto loaded = sim::loadDefaultsFile(*options.defaults);
+    const auto& entries = std::get<sim::PropertyListDictionary>(loaded);
+    EXPECT_EQ(entries.at("pinnedScreenUUID").asString(), sim::uuidOfDisplay(1));
+    EXPECT_FALSE(entries.at("isEnabled").asBool());
+    EXPECT_EQ(entries.at("blockMargin").asDouble(), 12);
+}
+
+TEST(OpenDesk, StoresTheFallbackWhenTheChosenDisplayIsNotConnected) {
+    const TemporaryFolder folder;
+    Options options;
+    options.defaults = folder.path() / "defaults.plist";
+    opened(options)->pin(2);
+    options.displays = {{0, 0, 1512, 982}};
+    opened(options);
+    const auto loaded = sim::loadDefaultsFile(*options.defaults);
+    EXPECT_EQ(std::get<sim::PropertyListDictionary>(loaded).at("pinnedScreenUUID").asString(),
+              sim::uuidOfDisplay(1));
+}
+
+TEST(OpenDesk, RefusesAFileThatIsNoPropertyListAndLeavesItAlone) {
+    const TemporaryFolder folder;
+    Options options;
+    options.defaults = folder.file("defaults.plist", "nonsense");
+    options.guardOn = false;
+    EXPECT_THAT(refusal(options), StartsWith(*options.defaults));
+    EXPECT_THAT(refusal(options), testing::Not(HasSubstr("\n")));
+    EXPECT_EQ(contentOf(*options.defaults), "nonsense");
+}
+
+TEST(OpenDesk, RefusesAFileThatCannotBeSaved) {
+    const TemporaryFolder folder;
+    Options options;
+    options.defaults = folder.path() / "missing" / "defaults.plist";
+    options.guardOn = false;
+    EXPECT_THAT(refusal(options), HasSubstr("cannot be written"));
+}
+
+TEST(OpenDesk, TellsThatPreferencesAreNotSavedAsLongAsItIsSo) {
+    const TemporaryFolder folder;
+    const std::filesystem::path home = folder.path() / "home";
+    std::filesystem::create_directory(home);
+    Options options;
+    options.defaults = home / "defaults.plist";
+    const auto desk = opened(options);
+    std::filesystem::remove(home);
+    desk->pin(2);
+    EXPECT_THAT(desk->news().text, StartsWith("The preferences are not saved: "));
+    EXPECT_EQ(desk->news().kind, Occurrence::warning);
+    EXPECT_TRUE(desk->savingError());
+
+    std::filesystem::create_directory(home);
+    desk->pin(1);
+    EXPECT_EQ(desk->news().text, "Built-in Display is pinned and has the Dock");
+    EXPECT_FALSE(desk->savingError());
+}
+
+} // namespace
+} // namespace kestrune::desk

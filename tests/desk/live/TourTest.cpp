@@ -1,0 +1,137 @@
+#include "desk/live/Tour.h"
+
+#include "desk/live/TourScenes.h"
+#include "tests/desk/recording/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <vector>
+
+namespace kestrune::desk {
+namespace {
+
+using testing::AllOf;
+using testing::Contains;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct PngSize {
+    unsigned width = 0;
+    unsigned height = 0;
+};
+
+// Width and height stand in the first chunk, in big-endian order.
+PngSize sizeOfPng(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::array<char, 24> head{};
+    file.read(head.data(), head.size());
+    const auto number = [&head](std::size_t offset) {
+        unsigned value = 0;
+        for (std::size_t index = offset; index < offset + 4; ++index) {
+            value = value << 8 | static_cast<unsigned char>(head[index]);
+        }
+        return value;
+    };
+    const bool isPng = file && std::string_view(head.data() + 1, 3) == "PNG";
+    return isPng ? PngSize{number(16), number(20)} : PngSize{};
+}
+
+std::vector<std::filesystem::path> picturesIn(const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> pictures;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (entry.path().extension() == ".png") {
+            pictures.push_back(entry.path());
+        }
+    }
+    std::sort(pictures.begin(), pictures.end());
+    return pictures;
+}
+
+std::string textOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Tour, WritesAPictureForEachSceneAndTellsThemAll) {
+    const TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.path() / "made" / "on the way";
+    const auto error = runTour(folder, {});
+    ASSERT_FALSE(error) << error->message;
+
+    const auto pictures = picturesIn(folder);
+    ASSERT_EQ(pictures.size(), 13U);
+    EXPECT_EQ(pictures.front().filename(), "01-two-displays.png");
+    EXPECT_EQ(pictures.back().filename(), "13-one-display-left.png");
+    const std::string report = textOf(folder / "report.txt");
+    for (const auto& picture : pictures) {
+        EXPECT_EQ(sizeOfPng(picture).width, 2880U) << picture;
+        EXPECT_EQ(sizeOfPng(picture).height, 1800U) << picture;
+        EXPECT_GT(std::filesystem::file_size(picture), 100'000U) << picture;
+        EXPECT_THAT(report, HasSubstr("\n" + picture.filename().string() + "\n"));
+    }
+    EXPECT_THAT(report, HasSubstr("the pointer pulls the Dock over.\n    The Dock moved to Display 2.\n"
+                                  "    Events 150, held 0, Dock moves 1, against the rule 0."));
+    EXPECT_THAT(report, HasSubstr("and the Dock stays.\n    Held at 977 on Display 2.\n"
+                                  "    Events 150, held 68, Dock moves 0, against the rule 0."));
+    EXPECT_THAT(report,
+                HasSubstr("Display 2 was unplugged; the pin and the Dock moved to Built-in Display."));
+    EXPECT_THAT(report, HasSubstr("\nviolations             0  against the rule\nDock moves             3 "));
+}
+
+TEST(Tour, IsPlayedOnOtherDisplaysToo) {
+    LiveDeskSetup setup;
+    // The second display is above the first one, which leaves it no free bottom edge.
+    setup.displays = {{0, 0, 1000, 600}, {0, -500, 800, 500}, {-900, 0, 900, 700}};
+    setup.pinned = 2;
+    setup.guardOn = false;
+    LiveDesk desk(setup);
+    TourScenes scenes(desk);
+    ASSERT_TRUE(scenes.canBePlayed());
+    std::vector<std::string> stories;
+    for (const TourScenes::Scene& scene : TourScenes::all()) {
+        stories.push_back((scenes.*scene.play)());
+    }
+    EXPECT_THAT(stories, Contains("Display 3 has the Dock, and nothing keeps it there."));
+    EXPECT_THAT(stories, Contains(HasSubstr("the bottom edge of Built-in Display")));
+    EXPECT_EQ(desk.report().dockMoves, 3U);
+    EXPECT_EQ(desk.report().violations, 0U);
+    EXPECT_GT(desk.report().changed, 100U);
+}
+
+TEST(Tour, CannotBePlayedWithoutAnotherDisplayToPushAgainst) {
+    const TemporaryFolder folder;
+    Options options;
+    options.displays = {{0, 0, 1000, 600}};
+    const auto error = runTour(folder.path(), options);
+    ASSERT_TRUE(error);
+    EXPECT_THAT(error->message, StartsWith("--tour: expected another display"));
+
+    options.displays = {{0, 0, 1000, 600}, {0, -500, 800, 500}};
+    EXPECT_TRUE(runTour(folder.path(), options));
+    options.pinned = 1;
+    EXPECT_TRUE(runTour(folder.path(), options));
+    EXPECT_TRUE(picturesIn(folder.path()).empty());
+}
+
+TEST(Tour, TellsThatAFolderCannotBeMade) {
+    const TemporaryFolder folder;
+    const auto file = folder.file("taken", "");
+    const auto error = runTour(file / "tour", {});
+    ASSERT_TRUE(error);
+    EXPECT_THAT(error->message, AllOf(StartsWith(file.string() + "/tour: "), testing::Not(HasSubstr("\n"))));
+}
+
+TEST(Tour, TellsThatAPictureCannotBeWritten) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder.path() / "01-two-displays.png");
+    const auto error = runTour(folder.path(), {});
+    ASSERT_TRUE(error);
+    EXPECT_THAT(error->message, HasSubstr("01-two-displays.png: "));
+}
+
+} // namespace
+} // namespace kestrune::desk
