@@ -15,7 +15,8 @@ public:
     // os_log_create: a channel for one category of one subsystem.
     Log(std::string_view subsystem, std::string_view category);
 
-    // Logs a fixed message as a public string.
+    // Each logs a fixed message as a public string.
+    void debug(std::string_view message) const;
     void error(std::string_view message) const;
 
 private:

@@ -6,4 +6,48 @@ bool Accessibility::readsAsTrusted() const {
     return permission_ == Permission::granted || permission_ == Permission::rowDeleted;
 }
 
+void Accessibility::listApplication() {
+    if (permission_ == Permission::notListed) {
+        permission_ = Permission::switchedOff;
+    }
+}
+
+void Accessibility::askUser() {
+    listApplication();
+    isDialogShown_ = true;
+}
+
+void Accessibility::openSettingsFromDialog() {
+    isDialogShown_ = false;
+    showPane();
+}
+
+bool Accessibility::isListed() const {
+    return permission_ != Permission::notListed && permission_ != Permission::rowDeleted;
+}
+
+bool Accessibility::isSwitchedOn() const {
+    return permission_ == Permission::granted || permission_ == Permission::stale;
+}
+
+void Accessibility::flipSwitch() {
+    if (permission_ == Permission::switchedOff) {
+        permission_ = Permission::granted;
+    } else if (permission_ == Permission::granted) {
+        permission_ = Permission::switchedOff;
+    }
+}
+
+void Accessibility::removeRow() {
+    if (isListed()) {
+        permission_ = permission_ == Permission::granted ? Permission::rowDeleted : Permission::notListed;
+    }
+}
+
+void Accessibility::processEnded() {
+    if (permission_ == Permission::rowDeleted) {
+        permission_ = Permission::notListed;
+    }
+}
+
 } // namespace kestrune::sim

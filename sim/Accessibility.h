@@ -1,7 +1,9 @@
-// The Accessibility pane's row for the application, and what the system makes of it.
+// The Accessibility pane's row for the application, what the system makes of it, and how the user is asked.
 //
 // Source: docs/MAC_FACTS.md, "Accessibility trust".
 #pragma once
+
+#include <string_view>
 
 namespace kestrune::sim {
 
@@ -15,6 +17,10 @@ enum class Permission {
 
 class Accessibility {
 public:
+    // Where System Settings shows the pane.
+    static constexpr std::string_view PaneAddress =
+        "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
+
     explicit Accessibility(Permission permission) : permission_(permission) {}
 
     Permission permission() const { return permission_; }
@@ -26,8 +32,35 @@ public:
     // Whether active taps of the application can be created and are waited for in good order.
     bool allowsActiveTaps() const { return permission_ == Permission::granted; }
 
+    // The application asked for something that needs the permission: it gets a row, switched off.
+    void listApplication();
+
+    // The same, and the system's own dialog tells the user.
+    void askUser();
+
+    // The system's dialog: one button leads to the pane, the other only closes the dialog.
+    bool isDialogShown() const { return isDialogShown_; }
+    void openSettingsFromDialog();
+    void denyInDialog() { isDialogShown_ = false; }
+
+    // System Settings with the pane. The row, while there is one, has a switch, and can be removed.
+    bool isPaneShown() const { return isPaneShown_; }
+    void showPane() { isPaneShown_ = true; }
+    void closePane() { isPaneShown_ = false; }
+    bool isListed() const;
+    bool isSwitchedOn() const;
+
+    // A switch that is on for an older build has no effect; only removing the row helps.
+    void flipSwitch();
+    void removeRow();
+
+    // The application's process has ended; only that process still read as trusted after its row was removed.
+    void processEnded();
+
 private:
     Permission permission_;
+    bool isDialogShown_ = false;
+    bool isPaneShown_ = false;
 };
 
 } // namespace kestrune::sim

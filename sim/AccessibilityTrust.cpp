@@ -11,4 +11,15 @@ bool isProcessTrusted() {
     return trusted;
 }
 
+bool isProcessTrustedWithOptions(const TrustOptions& options) {
+    sim::Session& session = sim::Session::current();
+    const bool trusted = session.accessibility().readsAsTrusted();
+    session.journal().record("AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: ", options.prompt,
+                             "}) -> ", trusted);
+    if (options.prompt && !trusted) {
+        session.accessibility().askUser();
+    }
+    return trusted;
+}
+
 } // namespace kestrune

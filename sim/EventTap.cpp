@@ -56,6 +56,7 @@ std::optional<EventTap> EventTap::create(EventTapLocation location, EventTapPlac
                                  nameOf(options), ", ", mask.data(), ")");
     }
     if (options == EventTapOptions::defaultTap && !session.allowsTapCreation()) {
+        session.accessibility().listApplication();
         return std::nullopt;
     }
     auto tap = std::make_shared<sim::Tap>(

@@ -4,7 +4,8 @@
 
 namespace kestrune::sim {
 
-LiveObject::LiveObject(std::string_view kind) : kind_(kind), sessionNumber_(Session::current().number()) {
+LiveObject::LiveObject(std::string_view kind, Release release)
+    : kind_(kind), release_(release), sessionNumber_(Session::current().number()) {
     Session::current().countLiveObject(+1);
 }
 
@@ -12,7 +13,9 @@ LiveObject::~LiveObject() {
     // The session may be gone by now: nothing is left to count in.
     if (Session* session = Session::withNumber(sessionNumber_)) {
         session->countLiveObject(-1);
-        session->journal().record("CFRelease(", kind_, ")");
+        if (release_ == Release::recorded) {
+            session->journal().record("CFRelease(", kind_, ")");
+        }
     }
 }
 

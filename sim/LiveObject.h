@@ -1,4 +1,5 @@
-// An object of the platform's that the application retains: counted while it lives, journaled when it goes.
+// An object of the platform's that the application retains: counted while it lives; its release may be
+// journaled.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +10,11 @@ namespace kestrune::sim {
 // Member of an implementation's state, so that it lives as long as the last reference.
 class LiveObject {
 public:
+    // Core Foundation objects are released by a call, Objective-C objects by the last reference to them.
+    enum class Release { recorded, unrecorded };
+
     // `kind` must have static storage, such as "tap" or "uuid".
-    explicit LiveObject(std::string_view kind);
+    explicit LiveObject(std::string_view kind, Release release = Release::recorded);
     ~LiveObject();
 
     LiveObject(const LiveObject&) = delete;
@@ -18,6 +22,7 @@ public:
 
 private:
     std::string_view kind_;
+    Release release_;
     std::uint64_t sessionNumber_;
 };
 

@@ -9,6 +9,12 @@ namespace kestrune {
 struct Log::State {
     std::string subsystem;
     std::string category;
+
+    void append(std::string_view function, sim::LogLevel level, std::string_view message) const {
+        sim::Session& session = sim::Session::current();
+        session.journal().record(function, "(", category, ", ", message, ")");
+        session.appendLogRecord({level, subsystem, category, std::string(message)});
+    }
 };
 
 Log::Log(std::string_view subsystem, std::string_view category)
@@ -16,11 +22,12 @@ Log::Log(std::string_view subsystem, std::string_view category)
     sim::Session::current().journal().record("os_log_create(", subsystem, ", ", category, ")");
 }
 
+void Log::debug(std::string_view message) const {
+    state_->append("os_log_debug", sim::LogLevel::debug, message);
+}
+
 void Log::error(std::string_view message) const {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("os_log_error(", state_->category, ", ", message, ")");
-    session.appendLogRecord(
-        {sim::LogLevel::error, state_->subsystem, state_->category, std::string(message)});
+    state_->append("os_log_error", sim::LogLevel::error, message);
 }
 
 } // namespace kestrune

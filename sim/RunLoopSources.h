@@ -18,6 +18,9 @@ public:
 
     std::size_t count() const { return entries_.size(); }
 
+    // The application's process has ended.
+    void clear() { entries_.clear(); }
+
 private:
     struct Entry {
         std::shared_ptr<void> source;

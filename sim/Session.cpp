@@ -1,6 +1,7 @@
 #include "sim/Session.h"
 
 #include "base/Fatal.h"
+#include "platform/NotificationCenter.h"
 #include "sim/PointerConfinement.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ Session::Session(SessionOptions options)
       displays_(std::move(options.displays)),
       dock_(displays_, options.dockDwell),
       defaults_(std::move(options.defaults)),
-      bundleIdentifier_(std::move(options.bundleIdentifier)),
+      bundle_(std::move(options.bundle)),
       cursorFollowsEvents_(options.cursorFollowsEvents) {
     if (current_ != nullptr) {
         fatal("A simulated session exists already.");
@@ -105,6 +106,57 @@ void Session::changeDisplays(std::vector<Display> displays) {
     displays_.set(std::move(displays));
     dock_.displaysChanged();
     placePointer(pointer_);
+    if (clock_.now() >= mainThreadFreeAt_) {
+        announceScreenParameters();
+    } else {
+        enqueueOnMainQueue([this] { announceScreenParameters(); });
+    }
+}
+
+void Session::announceScreenParameters() {
+    observers_.post(ApplicationDidChangeScreenParametersNotification.name());
+}
+
+void Session::startApplication() {
+    if (!application_.exists) {
+        application_.exists = true;
+        application_.policy =
+            bundle_.infoFlag("LSUIElement") ? ActivationPolicy::accessory : ActivationPolicy::regular;
+    }
+}
+
+void Session::endApplication() {
+    ++processNumber_;
+    timers_.clear();
+    menus_.close();
+    observers_.clear();
+    statusItems_.clear();
+    taps_.clear();
+    sources_.clear();
+    accessibility_.processEnded();
+    mainThreadFreeAt_ = clock_.now();
+    application_ = {};
+}
+
+void Session::enqueueOnMainQueue(std::function<void()> task) {
+    clock_.schedule(Duration::zero(), [this, process = processNumber_, queued = std::move(task)] {
+        if (process == processNumber_) {
+            queued();
+        }
+    });
+}
+
+void Session::openURL(const std::string& text) {
+    openedURLs_.push_back(text);
+    if (text == Accessibility::PaneAddress) {
+        accessibility_.showPane();
+    }
+}
+
+void Session::onAnotherThread(const std::function<void()>& work) {
+    isOnMainThread_ = false;
+    work();
+    isOnMainThread_ = true;
 }
 
 void Session::advance(Duration duration) {

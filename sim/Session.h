@@ -3,15 +3,22 @@
 
 #include "platform/Event.h"
 #include "sim/Accessibility.h"
+#include "sim/ApplicationState.h"
+#include "sim/BundleContents.h"
 #include "sim/DefaultsDomain.h"
 #include "sim/Displays.h"
 #include "sim/Dock.h"
 #include "sim/Journal.h"
+#include "sim/MenuTracking.h"
+#include "sim/Observers.h"
 #include "sim/RunLoopSources.h"
+#include "sim/StatusItems.h"
 #include "sim/TapChain.h"
+#include "sim/Timers.h"
 #include "sim/VirtualClock.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,7 +29,7 @@ struct SessionOptions {
     std::vector<Display> displays = {makeDisplay(1, "Built-in Display", {0, 0, 1512, 982})};
     Permission permission = Permission::granted;
     PropertyListDictionary defaults = {};
-    std::optional<std::string> bundleIdentifier = "org.kestrune.Kestrune";
+    BundleContents bundle = {};
     bool recordJournal = true;
 
     // Whether the visible pointer goes where an active tap put the event. Not confirmed for session taps.
@@ -31,7 +38,7 @@ struct SessionOptions {
     Duration dockDwell = Dock::DefaultDwell;
 };
 
-enum class LogLevel { error };
+enum class LogLevel { debug, error };
 
 struct LogRecord {
     LogLevel level;
@@ -83,7 +90,12 @@ public:
     TapChain& taps() { return taps_; }
     RunLoopSources& sources() { return sources_; }
     Dock& dock() { return dock_; }
-    const std::optional<std::string>& bundleIdentifier() const { return bundleIdentifier_; }
+    const BundleContents& bundle() const { return bundle_; }
+    ApplicationState& application() { return application_; }
+    Timers& timers() { return timers_; }
+    Observers& observers() { return observers_; }
+    StatusItems& statusItems() { return statusItems_; }
+    MenuTracking& menus() { return menus_; }
 
     // In global display coordinates, like every location below.
     Point pointer() const { return pointer_; }
@@ -100,8 +112,31 @@ public:
     // An event with any location enters the session, as another process can post one.
     Delivery post(EventType type, Point location);
 
-    // Plugs, unplugs or rearranges displays: the pointer and the Dock follow. The application is not told.
+    // Plugs, unplugs or rearranges displays: the pointer and the Dock follow, and the application is told
+    // once its main thread is free.
     void changeDisplays(std::vector<Display> displays);
+
+    // The application's process has its shared application.
+    void startApplication();
+
+    // The process ends, by itself or by force: its taps, timers, observers, status items and tasks go, and
+    // what is left of its objects has no effect any more. Another process may start.
+    void endApplication();
+
+    // Runs on the main thread when time passes next, if the process is still the same then.
+    void enqueueOnMainQueue(std::function<void()> task);
+
+    // The URLs that were opened, in order.
+    const std::vector<std::string>& openedURLs() const { return openedURLs_; }
+    void openURL(const std::string& text);
+
+    // Fault: no text is a URL.
+    void refuseURLs(bool refuse) { refusesURLs_ = refuse; }
+    bool refusesURLs() const { return refusesURLs_; }
+
+    // Fault: what `work` makes the application do happens on another thread.
+    void onAnotherThread(const std::function<void()>& work);
+    bool isOnMainThread() const { return isOnMainThread_; }
 
     // Lets time pass. The main thread runs what falls due, once it is free.
     void advance(Duration duration);
@@ -131,6 +166,7 @@ private:
     Delivery deliver(EventType type, Point location, double deltaY);
     void waitForTaps(EventType type);
     void hold(Duration duration);
+    void announceScreenParameters();
     void runPendingNotices();
     [[noreturn]] static void stopWithoutSession();
 
@@ -147,7 +183,16 @@ private:
     DefaultsDomain defaults_;
     TapChain taps_;
     RunLoopSources sources_;
-    std::optional<std::string> bundleIdentifier_;
+    BundleContents bundle_;
+    ApplicationState application_;
+    Timers timers_{clock_};
+    Observers observers_;
+    StatusItems statusItems_;
+    MenuTracking menus_{*this};
+    std::uint64_t processNumber_ = 0;
+    std::vector<std::string> openedURLs_;
+    bool refusesURLs_ = false;
+    bool isOnMainThread_ = true;
     bool cursorFollowsEvents_;
     bool refusesTapCreation_ = false;
     Point pointer_;

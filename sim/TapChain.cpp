@@ -26,6 +26,9 @@ void TapChain::add(const std::shared_ptr<Tap>& tap) {
                                                                : location > tap->location;
     });
     taps_.insert(position, tap);
+    if (addObserver_) {
+        addObserver_(*tap);
+    }
 }
 
 TapVerdict TapChain::deliver(PointerEvent& event) {
@@ -90,6 +93,13 @@ void TapChain::notify() {
         const EventType reason = *std::exchange(tap->pendingNotice, std::nullopt);
         PointerEvent notice(reason, {});
         tap->callback(nullptr, reason, &notice, tap->userInfo);
+    }
+}
+
+// Their places stay until the next `add`, because a callback on the way of an event may end the process.
+void TapChain::clear() {
+    for (std::weak_ptr<Tap>& tap : taps_) {
+        tap.reset();
     }
 }
 

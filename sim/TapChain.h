@@ -7,8 +7,10 @@
 #include "sim/Tap.h"
 
 #include <cstdint>
+#include <functional>
 #include <list>
 #include <memory>
+#include <utility>
 
 namespace kestrune::sim {
 
@@ -23,6 +25,9 @@ public:
     // Taps of one location are called from the most recent head insert to the most recent tail append;
     // locations from HID over session to annotated session. The chain ends a tap's membership with the tap.
     void add(const std::shared_ptr<Tap>& tap);
+
+    // Called with each tap that is added, also with one that is never scheduled.
+    void onAdd(std::function<void(const Tap&)> observer) { addObserver_ = std::move(observer); }
 
     // Hands `event` to each tap that receives it, and a copy to those that only listen. A callback may add,
     // disable and remove taps.
@@ -40,6 +45,9 @@ public:
     // Tells the application which of its taps were switched off. Whatever a callback returns is ignored.
     void notify();
 
+    // The application's process has ended, and its taps with it.
+    void clear();
+
     // The taps that exist, and of those the enabled ones.
     std::size_t count() const;
     std::size_t enabledCount() const;
@@ -47,6 +55,7 @@ public:
 private:
     // A list, because a callback may add a tap while an event is on its way along them.
     std::list<std::weak_ptr<Tap>> taps_;
+    std::function<void(const Tap&)> addObserver_;
 };
 
 } // namespace kestrune::sim

@@ -1,0 +1,62 @@
+// The application as AppKit sees it.
+//
+// Source: AppKit, NSApplication.h, NSRunningApplication.h.
+#pragma once
+
+#include "platform/Menu.h"
+#include "platform/Object.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace kestrune {
+
+// NSApplicationActivationPolicy.
+enum class ActivationPolicy : std::intptr_t {
+    regular = 0,   // in the Dock and the application switcher, with a menu bar of its own
+    accessory = 1, // neither, but it can show windows and be activated
+    prohibited = 2,
+};
+
+// NSApplicationDelegate.
+class ApplicationDelegate : public Object {
+public:
+    // applicationDidFinishLaunching:, before the first event is handled.
+    virtual void applicationDidFinishLaunching() noexcept = 0;
+
+    // applicationWillTerminate:, the last call before the process exits.
+    virtual void applicationWillTerminate() noexcept = 0;
+};
+
+// NSApplication: one for the process, and alive as long as it.
+class Application {
+public:
+    // NSApplication.sharedApplication, which makes the application object on the first call.
+    static Application sharedApplication();
+
+    // NSApp: the shared application, absent before it was made.
+    static std::optional<Application> nsApp();
+
+    // setDelegate:. Held weakly.
+    void setDelegate(const std::weak_ptr<ApplicationDelegate>& delegate);
+
+    // setActivationPolicy:. False when the system refuses.
+    bool setActivationPolicy(ActivationPolicy policy);
+
+    // setMainMenu:. Retained. It shows while the application is regular and active; its key equivalents work
+    // while the application is active.
+    void setMainMenu(const Menu& menu);
+
+    // run. Launches the application and handles its events. It ends with the process on a Mac; another
+    // implementation may return, and deliver the events by other means.
+    void run();
+
+    // terminate: with a nil sender. Tells the delegate and ends the process.
+    void terminate();
+
+private:
+    Application() = default;
+};
+
+} // namespace kestrune

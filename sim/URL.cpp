@@ -1,0 +1,17 @@
+#include "sim/Session.h"
+#include "sim/URLState.h"
+
+#include <utility>
+
+namespace kestrune {
+
+std::optional<URL> URL::withString(std::string_view text) {
+    sim::Session& session = sim::Session::current();
+    session.journal().record("+[NSURL URLWithString:] ", text);
+    if (text.empty() || session.refusesURLs()) {
+        return std::nullopt;
+    }
+    return URL(std::make_shared<const State>(State{std::string(text)}));
+}
+
+} // namespace kestrune

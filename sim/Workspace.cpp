@@ -1,0 +1,20 @@
+#include "platform/Workspace.h"
+
+#include "sim/Session.h"
+#include "sim/URLState.h"
+
+namespace kestrune {
+
+Workspace Workspace::sharedWorkspace() {
+    sim::Session::current().journal().record("NSWorkspace.sharedWorkspace");
+    return {};
+}
+
+bool Workspace::openURL(const URL& url) {
+    sim::Session& session = sim::Session::current();
+    session.journal().record("-[NSWorkspace openURL:] ", url.state()->text);
+    session.openURL(url.state()->text);
+    return true;
+}
+
+} // namespace kestrune
