@@ -1,7 +1,7 @@
 #include "Kestrune/DockGuardController.h"
 
+#include "Kestrune/ApplicationLog.h"
 #include "Kestrune/BlockedBand.h"
-#include "platform/Bundle.h"
 
 #include <algorithm>
 #include <utility>
@@ -140,7 +140,7 @@ double DockGuardController::blockMargin() const {
 
 const Log& DockGuardController::log() {
     if (!log_) {
-        log_.emplace(Bundle::mainBundleIdentifier().value_or(""), "dockGuard");
+        log_ = applicationLog("dockGuard");
     }
     return *log_;
 }

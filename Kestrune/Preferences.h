@@ -19,7 +19,8 @@ public:
     // and by the guard when the chosen display is gone.
     static constexpr UserDefaultsKey PinnedScreenUUIDKey{"pinnedScreenUUID"};
 
-    // Bool, absent means false. Set to true once, when the first-run wizard is finished or not needed.
+    // Bool, absent means false. Set to true when the first-run wizard is finished, and at each launch that
+    // does not need it.
     static constexpr UserDefaultsKey HasCompletedOnboardingKey{"hasCompletedOnboarding"};
 
     // Points, a floating-point number; anything not greater than 0 means the guard's default. Nothing in the

@@ -86,7 +86,7 @@ TEST_F(DockGuardLifecycle, LogsOneErrorWithoutThePermission) {
     EXPECT_THAT(
         session.journal().take(),
         ElementsAre(
-            Creation, "NSBundle.mainBundle.bundleIdentifier",
+            Creation, "NSBundle.mainBundle", "-[NSBundle bundleIdentifier]",
             "os_log_create(org.kestrune.Kestrune, dockGuard)",
             "os_log_error(dockGuard, Failed to create event tap. Accessibility permission required.)"));
     expectOneErrorAndNoTap();
@@ -176,7 +176,7 @@ TEST_F(DockGuardLifecycle, KeepsItsTapWhenAnotherIsRefused) {
 TEST(DockGuardLog, HasAnEmptySubsystemWhenTheBundleHasNoIdentifier) {
     sim::SessionOptions options;
     options.permission = sim::Permission::notListed;
-    options.bundleIdentifier = std::nullopt;
+    options.bundle.infoDictionary.clear();
     sim::Session session(options);
     DockGuardController guard;
     guard.start();

@@ -1,6 +1,6 @@
 """The checks of tools/check. Each module has run(tree), which returns a Result."""
 
-from . import format, includes, sleeping, strings, style, tidy, unbuilt, words
+from . import format, includes, resources, sleeping, strings, style, tidy, unbuilt, words
 
 # In the order they run: the quick ones first.
 ALL = {
@@ -10,6 +10,7 @@ ALL = {
     "style": style,
     "sleeping": sleeping,
     "strings": strings,
+    "resources": resources,
     "format": format,
     "tidy": tidy,
 }

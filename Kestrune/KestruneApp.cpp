@@ -1,0 +1,199 @@
+#include "Kestrune/KestruneApp.h"
+
+#include "Kestrune/AccessibilityList.h"
+#include "Kestrune/ApplicationLog.h"
+#include "Kestrune/MainMenu.h"
+#include "base/Fatal.h"
+#include "platform/AccessibilityTrust.h"
+#include "platform/MainActor.h"
+#include "platform/NotificationCenter.h"
+
+namespace kestrune {
+
+namespace {
+
+constexpr double WatcherInterval = 1.0; // seconds
+
+constexpr Selector MenuOpenSettings{"menuOpenSettings"};
+
+constexpr ActionMethod Actions[] = {
+    {MenuOpenSettings,
+     [](Object& receiver, const MenuItem&) noexcept {
+         static_cast<KestruneApp&>(receiver).menuOpenSettings();
+     }},
+};
+
+void requireMainActor(const char* message) {
+    if (!MainActor::isCurrent()) {
+        fatal(message);
+    }
+}
+
+} // namespace
+
+std::shared_ptr<KestruneApp> runKestrune() {
+    Application application = Application::sharedApplication();
+    std::shared_ptr<KestruneApp> delegate = KestruneApp::make();
+    application.setDelegate(delegate);
+    application.setActivationPolicy(ActivationPolicy::accessory);
+    application.run();
+    return delegate;
+}
+
+std::shared_ptr<KestruneApp> KestruneApp::make() { return std::make_shared<KestruneApp>(Construction()); }
+
+KestruneApp::KestruneApp(Construction)
+    : preferences_(std::make_shared<Preferences>(UserDefaults::standardUserDefaults())),
+      dockGuard_(std::make_shared<DockGuardController>()) {
+    init();
+}
+
+std::span<const ActionMethod> KestruneApp::actionMethods() const { return Actions; }
+
+template <void (KestruneApp::*operation)()>
+std::function<void()> KestruneApp::whileAlive() {
+    return [weakThis = weak_from_this()] {
+        if (const auto self = weakThis.lock()) {
+            (self.get()->*operation)();
+        }
+    };
+}
+
+void KestruneApp::applicationDidFinishLaunching() noexcept {
+    installMainMenu();
+    menuBarController_ = makeMenuBarController();
+    dockGuard_->setPreferences(preferences_);
+    startGuardIfAllowed();
+    rebuildMenu();
+    menuBarController_->setOnAccessibilityGranted(whileAlive<&KestruneApp::accessibilityGranted>());
+    if (!isProcessTrusted()) {
+        registerForAccessibilityList();
+        startAccessibilityWatcher();
+    }
+    scheduleWelcomeDecision();
+    observeScreenParameters();
+}
+
+void KestruneApp::applicationWillTerminate() noexcept { dockGuard_->stop(); }
+
+void KestruneApp::installMainMenu() {
+    const Menu mainMenu = buildMainMenu(weak_from_this(), MenuOpenSettings);
+    std::optional<Application> application = Application::nsApp();
+    if (!application) {
+        fatal("The application has launched without a shared application.");
+    }
+    application->setMainMenu(mainMenu);
+}
+
+std::shared_ptr<MenuBarController> KestruneApp::makeMenuBarController() {
+    return MenuBarController::make(preferences_, dockGuard_,
+                                   {.openSettings = whileAlive<&KestruneApp::openSettingsWindow>(),
+                                    .openWelcome = whileAlive<&KestruneApp::showWelcomeWindow>()});
+}
+
+void KestruneApp::menuOpenSettings() {
+    if (isSetupComplete()) {
+        openSettingsWindow();
+    } else {
+        showWelcomeWindow();
+    }
+}
+
+// There is no Settings window yet.
+void KestruneApp::openSettingsWindow() {}
+
+// There is no wizard yet.
+void KestruneApp::showWelcomeWindow() {}
+
+bool KestruneApp::isSetupComplete() const {
+    return preferences_->defaults().boolForKey(Preferences::HasCompletedOnboardingKey) && isProcessTrusted();
+}
+
+void KestruneApp::startGuardIfAllowed() {
+    if (!preferences_->isEnabled() || dockGuard_->isRunning() || !isProcessTrusted()) {
+        return;
+    }
+    dockGuard_->refreshScreens();
+    dockGuard_->start();
+}
+
+void KestruneApp::startAccessibilityWatcher() {
+    if (accessibilityWatcher_) {
+        accessibilityWatcher_->invalidate();
+    }
+    accessibilityWatcher_ =
+        Timer::scheduledTimer(WatcherInterval, true, [weakThis = weak_from_this()](Timer& watcher) {
+            requireMainActor("The Accessibility watcher has left the main thread.");
+            if (const auto self = weakThis.lock()) {
+                self->checkAccessibility(watcher);
+            } else {
+                watcher.invalidate();
+            }
+        });
+}
+
+void KestruneApp::checkAccessibility(Timer& watcher) {
+    if (!isProcessTrusted()) {
+        return;
+    }
+    watcher.invalidate();
+    accessibilityWatcher_.reset();
+    startGuardIfAllowed();
+    rebuildMenu();
+}
+
+void KestruneApp::endAccessibilityWatcher() {
+    if (accessibilityWatcher_) {
+        accessibilityWatcher_->invalidate();
+    }
+    accessibilityWatcher_.reset();
+}
+
+void KestruneApp::accessibilityGranted() {
+    startGuardIfAllowed();
+    endAccessibilityWatcher();
+}
+
+void KestruneApp::welcomeFinished() {
+    startGuardIfAllowed();
+    endAccessibilityWatcher();
+    rebuildMenu();
+}
+
+void KestruneApp::scheduleWelcomeDecision() {
+    MainActor::startTask(whileAlive<&KestruneApp::decideOnWelcome>());
+}
+
+// Whoever holds the permission already has no use for the wizard; whoever lost it sees the wizard again at
+// every launch, whatever was completed before.
+void KestruneApp::decideOnWelcome() {
+    if (!isProcessTrusted()) {
+        showWelcomeWindow();
+        return;
+    }
+    preferences_->defaults().setBool(true, Preferences::HasCompletedOnboardingKey);
+    applicationLog("app").debug("scheduleWelcomeDecision: skipping wizard, already onboarded");
+}
+
+void KestruneApp::observeScreenParameters() {
+    // The token is dropped: the displays are followed as long as the process lives.
+    NotificationCenter::defaultCenter().addObserver(
+        ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(),
+        [follow = whileAlive<&KestruneApp::screenParametersChanged>()] {
+            requireMainActor("A change of displays was announced outside the main thread.");
+            follow();
+        });
+}
+
+void KestruneApp::screenParametersChanged() {
+    dockGuard_->refreshScreens();
+    rebuildMenu();
+}
+
+void KestruneApp::rebuildMenu() {
+    if (menuBarController_) {
+        menuBarController_->rebuildMenu();
+    }
+}
+
+} // namespace kestrune

@@ -1,0 +1,306 @@
+#include "tests/Kestrune/AppFixture.h"
+
+namespace kestrune {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::IsEmpty;
+
+using namespace std::chrono_literals;
+
+const std::string OnMainThread = "+[NSThread isMainThread]";
+const Calls StartRule = {ReadingTheSwitch, Trusted, ReadingThePin};
+
+class AccessibilityWatcher : public AppWithoutPermission {
+protected:
+    AccessibilityWatcher() { launchAndSettle(); }
+
+    void expectOver() {
+        EXPECT_FALSE(app->isWatchingAccessibility());
+        EXPECT_EQ(session.timers().count(), 0U);
+        session.journal().take();
+        session.advance(1h);
+        EXPECT_THAT(session.journal().take(), IsEmpty());
+    }
+};
+
+TEST_F(AccessibilityWatcher, LooksOnceASecondForAsLongAsItTakes) {
+    session.advance(999ms);
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+    session.advance(1ms);
+    EXPECT_THAT(session.journal().take(), ElementsAre(OnMainThread, NotTrusted));
+    session.advance(24h);
+    EXPECT_EQ(session.journal().take().size(), 2U * 24 * 60 * 60);
+    EXPECT_TRUE(app->isWatchingAccessibility());
+}
+
+TEST_F(AccessibilityWatcher, StartsTheGuardAtTheFirstTickWithThePermissionInOrder) {
+    session.advance(500ms);
+    grant();
+    session.advance(499ms);
+    EXPECT_FALSE(guard->isRunning());
+    session.advance(1ms);
+    EXPECT_THAT(outlineOfCalls(),
+                ElementsAreArray(inOrder({{OnMainThread, Trusted, "-[NSTimer invalidate]"},
+                                          StartRule,
+                                          StartingTheTap,
+                                          rebuildOutline({.trusted = true, .items = 10})})));
+    EXPECT_TRUE(guard->isRunning());
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, EndsWithThePermissionAlthoughTheGuardIsSwitchedOff) {
+    store("isEnabled", sim::PropertyList{false});
+    grant();
+    session.advance(1s);
+    EXPECT_FALSE(guard->isRunning());
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, EndsAlthoughTheStartFails) {
+    session.refuseTapCreation(true);
+    grant();
+    session.advance(1s);
+    EXPECT_FALSE(guard->isRunning());
+    EXPECT_EQ(session.logRecords().size(), 1U);
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, IsForestalledByTheMenu) {
+    grant();
+    session.menus().open(sim::StatusItemIndex{0});
+    EXPECT_THAT(outlineOfCalls(),
+                ElementsAreArray(inOrder({{"-[MenuBarController menuWillOpen:]", Trusted},
+                                          StartRule,
+                                          StartingTheTap,
+                                          {"-[NSTimer invalidate]"},
+                                          rebuildOutline({.trusted = true, .items = 10})})));
+    EXPECT_TRUE(guard->isRunning());
+    session.menus().close();
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, IsForestalledByTheMenuOfAGuardThatIsSwitchedOff) {
+    store("isEnabled", sim::PropertyList{false});
+    grant();
+    session.menus().open(sim::StatusItemIndex{0});
+    const std::string readingTheValue = "-[NSUserDefaults boolForKey:] isEnabled";
+    EXPECT_THAT(
+        outlineOfCalls(),
+        ElementsAreArray(inOrder(
+            {{"-[MenuBarController menuWillOpen:]", Trusted, ReadingTheSwitch, readingTheValue,
+              "-[NSTimer invalidate]", Trusted, "-[NSUserDefaults boolForKey:] hasCompletedOnboarding",
+              ReadingThePin, ReadingTheSwitch, readingTheValue, "-[NSStatusItem setMenu:] 10 items"}})));
+    EXPECT_FALSE(guard->isRunning());
+    session.menus().close();
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, IsLeftAloneAtTheEnd) {
+    app->applicationWillTerminate();
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+    EXPECT_TRUE(app->isWatchingAccessibility());
+    EXPECT_EQ(session.timers().count(), 1U);
+}
+
+TEST_F(AccessibilityWatcher, PausesWhileTheMenuIsOpen) {
+    session.menus().open(sim::StatusItemIndex{0});
+    session.journal().take();
+    grant();
+    session.advance(10s);
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+    EXPECT_FALSE(guard->isRunning());
+    session.menus().close();
+    EXPECT_TRUE(guard->isRunning());
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, EndsWithTheWizardInOrder) {
+    grant();
+    app->welcomeFinished();
+    EXPECT_THAT(outlineOfCalls(),
+                ElementsAreArray(inOrder({StartRule,
+                                          StartingTheTap,
+                                          {"-[NSTimer invalidate]"},
+                                          rebuildOutline({.trusted = true, .items = 10})})));
+    EXPECT_TRUE(guard->isRunning());
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, EndsWithTheWizardAlsoWithoutThePermission) {
+    app->welcomeFinished();
+    EXPECT_FALSE(guard->isRunning());
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, IsNotTakenUpAgain) {
+    grant();
+    session.advance(1s);
+    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.menus().open(sim::StatusItemIndex{0});
+    session.menus().close();
+    app->welcomeFinished();
+    expectOver();
+}
+
+TEST_F(AccessibilityWatcher, IsReplacedWhenTheApplicationLaunchesTwice) {
+    app->applicationDidFinishLaunching();
+    EXPECT_EQ(session.timers().count(), 1U);
+    const Calls steps = outlineOfCalls();
+    const auto scheduling = std::find(steps.begin(), steps.end(),
+                                      "+[NSTimer scheduledTimerWithTimeInterval:repeats:block:] 1, true");
+    ASSERT_NE(scheduling, steps.end());
+    EXPECT_EQ(*(scheduling - 1), "-[NSTimer invalidate]");
+}
+
+using AppEvents = AppFixture;
+
+TEST_F(AppEvents, TheMenusCallbackEndsAWatcherThatIsNotThere) {
+    launchAndSettle();
+    app->accessibilityGranted();
+    EXPECT_THAT(session.journal().take(), ElementsAre(ReadingTheSwitch));
+}
+
+TEST_F(AppEvents, TheMenusItemsForItsWindowsCanBeChosen) {
+    launchAndSettle();
+    EXPECT_TRUE(chooseRow(session, "Complete setup…"));
+    EXPECT_TRUE(chooseRow(session, "Settings…"));
+}
+
+TEST_F(AppEvents, ARevokedPermissionLeavesTheGuardRunning) {
+    launchAndSettle();
+    session.accessibility().setPermission(sim::Permission::switchedOff);
+    openedMenu(session);
+    session.menus().close();
+    session.changeDisplays({primaryDisplay(), thirdDisplay()});
+    app->welcomeFinished();
+    EXPECT_TRUE(guard->isRunning());
+    EXPECT_EQ(session.taps().count(), 1U);
+    EXPECT_FALSE(app->isWatchingAccessibility());
+}
+
+TEST_F(AppEvents, TheWizardCanEndTwice) {
+    launchAndSettle();
+    app->welcomeFinished();
+    app->welcomeFinished();
+    EXPECT_TRUE(guard->isRunning());
+    EXPECT_EQ(session.taps().count(), 1U);
+}
+
+TEST_F(AppEvents, TheWizardCanEndBeforeTheLaunch) {
+    const auto delegate = KestruneApp::make();
+    delegate->welcomeFinished();
+    EXPECT_THAT(session.statusItems().shown(), IsEmpty());
+    delegate->dockGuard()->stop();
+}
+
+TEST_F(AppEvents, ChangedDisplaysAreReadAndShownInOrder) {
+    launchAndSettle();
+    session.changeDisplays({primaryDisplay(), secondDisplay(), thirdDisplay()});
+    EXPECT_THAT(outlineOfCalls(), ElementsAreArray(inOrder({{OnMainThread, ReadingThePin},
+                                                            rebuildOutline({.trusted = true, .items = 9})})));
+    EXPECT_EQ(guard->screensCache().size(), 3U);
+    EXPECT_TRUE(guard->isRunning());
+}
+
+TEST_F(AppEvents, ChangedDisplaysAreReadAndShownWhileTheGuardIsStopped) {
+    store("isEnabled", sim::PropertyList{false});
+    launchAndSettle();
+    session.changeDisplays({primaryDisplay()});
+    EXPECT_EQ(guard->screensCache().size(), 1U);
+    EXPECT_EQ(openedMenu(session)[1], "✓  Primary  (1920×1080)  (Main)");
+    EXPECT_FALSE(guard->isRunning());
+}
+
+TEST_F(AppEvents, ChangedDisplaysReachTheGuardWhileTheMenuIsOpen) {
+    launchAndSettle();
+    session.menus().open(sim::StatusItemIndex{0});
+    session.changeDisplays({primaryDisplay()});
+    EXPECT_EQ(guard->screensCache().size(), 1U);
+    EXPECT_TRUE(session.menus().place());
+}
+
+TEST_F(AppEvents, TheMainMenusSettingsLookAtTheSetup) {
+    launchAndSettle();
+    app->menuOpenSettings();
+    EXPECT_THAT(session.journal().take(),
+                ElementsAre("-[NSUserDefaults boolForKey:] hasCompletedOnboarding", Trusted));
+    EXPECT_TRUE(app->isSetupComplete());
+    session.accessibility().setPermission(sim::Permission::switchedOff);
+    EXPECT_FALSE(app->isSetupComplete());
+    store("hasCompletedOnboarding", sim::PropertyList{false});
+    EXPECT_FALSE(app->isSetupComplete());
+    app->menuOpenSettings();
+}
+
+class DelegateGone : public AppWithoutPermission {
+protected:
+    void letGo() {
+        app.reset();
+        session.journal().take();
+    }
+};
+
+TEST_F(DelegateGone, TheTaskDoesNothing) {
+    launch();
+    letGo();
+    grant();
+    session.advance(sim::Duration::zero());
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+    EXPECT_EQ(stored("hasCompletedOnboarding"), nullptr);
+}
+
+TEST_F(DelegateGone, TheTimerEndsItself) {
+    launchAndSettle();
+    letGo();
+    EXPECT_EQ(session.timers().count(), 1U);
+    session.advance(1s);
+    EXPECT_THAT(session.journal().take(), ElementsAre(OnMainThread, "-[NSTimer invalidate]"));
+    EXPECT_EQ(session.timers().count(), 0U);
+}
+
+TEST_F(DelegateGone, ChangedDisplaysMeanNothing) {
+    launchAndSettle();
+    letGo();
+    session.changeDisplays({primaryDisplay()});
+    EXPECT_THAT(session.journal().take(), ElementsAre(OnMainThread));
+    EXPECT_TRUE(guard->screensCache().empty());
+}
+
+TEST_F(DelegateGone, TheMenusCallbacksDoNothing) {
+    launchAndSettle();
+    const std::shared_ptr<MenuBarController> menuBarController = app->menuBarController();
+    letGo();
+    grant();
+    menuBarController->showSettings();
+    menuBarController->showWelcome();
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+    session.menus().open(sim::StatusItemIndex{0});
+    EXPECT_FALSE(guard->isRunning());
+}
+
+TEST_F(DelegateGone, NothingOfItIsLeft) {
+    launchAndSettle();
+    letGo();
+    guard.reset();
+    session.endApplication();
+    EXPECT_EQ(session.liveObjects(), 0);
+}
+
+using AppEventsDeathTest = AppWithoutPermission;
+
+TEST_F(AppEventsDeathTest, TheWatcherStaysOnTheMainThread) {
+    launchAndSettle();
+    EXPECT_DEATH(session.onAnotherThread([this] { session.advance(1s); }),
+                 "Fatal error: The Accessibility watcher has left the main thread\\.");
+}
+
+TEST_F(AppEventsDeathTest, ChangesOfDisplaysArriveOnTheMainThread) {
+    launchAndSettle();
+    EXPECT_DEATH(session.onAnotherThread([this] { session.changeDisplays({primaryDisplay()}); }),
+                 "Fatal error: A change of displays was announced outside the main thread\\.");
+}
+
+} // namespace
+} // namespace kestrune

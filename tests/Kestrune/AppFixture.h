@@ -1,0 +1,64 @@
+// A session in which the whole application is launched.
+#pragma once
+
+#include "Kestrune/KestruneApp.h"
+#include "tests/Kestrune/MenuFixture.h"
+
+#include <memory>
+#include <string>
+
+namespace kestrune {
+
+class AppFixture : public ::testing::Test {
+protected:
+    explicit AppFixture(sim::Permission permission = sim::Permission::granted)
+        : session(options(permission)) {}
+
+    ~AppFixture() override {
+        if (guard) {
+            guard->stop();
+        }
+    }
+
+    void launch() {
+        app = runKestrune();
+        guard = app->dockGuard();
+    }
+
+    // The same, and the tasks that the launch left behind.
+    void launchAndSettle() {
+        launch();
+        session.advance(sim::Duration::zero());
+        session.journal().take();
+    }
+
+    // The user grants the permission; nobody tells the application.
+    void grant() { session.accessibility().setPermission(sim::Permission::granted); }
+
+    void store(std::string_view key, sim::PropertyList value) {
+        session.defaults().set(key, std::move(value));
+    }
+
+    const sim::PropertyList* stored(std::string_view key) { return session.defaults().find(key); }
+
+    Calls outlineOfCalls() { return outline(session.journal().take()); }
+
+    sim::Session session;
+    std::shared_ptr<KestruneApp> app;
+    // Kept for the tests that let the delegate go: the tap holds the guard unretained.
+    std::shared_ptr<DockGuardController> guard;
+
+private:
+    static sim::SessionOptions options(sim::Permission permission) {
+        sim::SessionOptions options = withDisplays({primaryDisplay(), secondDisplay()});
+        options.permission = permission;
+        return options;
+    }
+};
+
+class AppWithoutPermission : public AppFixture {
+protected:
+    AppWithoutPermission() : AppFixture(sim::Permission::notListed) {}
+};
+
+} // namespace kestrune

@@ -1,0 +1,95 @@
+#include "sim/StatusItemState.h"
+#include "tests/Kestrune/MenuFixture.h"
+
+namespace kestrune {
+namespace {
+
+using ::testing::ElementsAreArray;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+const std::string ToolTip = "Kestrune — Pin the Dock to one screen";
+
+const Calls Obtaining = {"NSStatusBar.systemStatusBar", "-[NSStatusBar statusItemWithLength:] -1",
+                         "-[MenuBarController init]", "-[NSStatusItem button]"};
+
+class MenuBarIcon : public MenuFixture {
+protected:
+    explicit MenuBarIcon(sim::SessionOptions options = {}) : MenuFixture(std::move(options)) {}
+
+    // The calls of the construction until it builds the menu.
+    Calls configurationCalls() {
+        make();
+        Calls calls = session.journal().take();
+        calls.erase(std::find(calls.begin(), calls.end(), "-[NSMenu init]"), calls.end());
+        return calls;
+    }
+
+    std::shared_ptr<StatusItem::State> item() { return session.statusItems().shown().at(0); }
+};
+
+TEST_F(MenuBarIcon, IsObtainedAndConfiguredInOrder) {
+    EXPECT_THAT(configurationCalls(),
+                ElementsAreArray(
+                    inOrder({Obtaining,
+                             {"+[NSImage imageNamed:] MenuBarIcon", "-[NSImage setTemplate:] true",
+                              "-[NSImage setSize:] 20 x 20", "-[NSStatusBarButton setImage:] MenuBarIcon",
+                              "-[NSStatusBarButton setImageScaling:] 0"},
+                             localizing(ToolTip),
+                             {"-[NSStatusBarButton setToolTip:] " + ToolTip}})));
+}
+
+TEST_F(MenuBarIcon, HasItsImageItsToolTipAndAMenuFromTheStart) {
+    make();
+    ASSERT_THAT(session.statusItems().shown(), SizeIs(1));
+    EXPECT_EQ(item()->length, VariableStatusItemLength);
+    ASSERT_TRUE(item()->button);
+    ASSERT_TRUE(item()->button->image);
+    const Image::State& image = *item()->button->image->state();
+    EXPECT_EQ(image.name, "MenuBarIcon");
+    EXPECT_TRUE(image.isTemplate);
+    EXPECT_EQ(image.size, (Size{20, 20}));
+    EXPECT_EQ(item()->button->scaling, ImageScaling::proportionallyDown);
+    EXPECT_EQ(item()->button->toolTip, ToolTip);
+    EXPECT_TRUE(item()->menu);
+}
+
+TEST_F(MenuBarIcon, LeavesTheBarWithTheController) {
+    make();
+    controller.reset();
+    EXPECT_THAT(session.statusItems().shown(), IsEmpty());
+    EXPECT_EQ(session.liveObjects(), 0);
+}
+
+TEST_F(MenuBarIcon, StaysEmptyWithoutAButton) {
+    session.statusItems().withholdButtons(true);
+    EXPECT_THAT(configurationCalls(), ElementsAreArray(Obtaining));
+    EXPECT_FALSE(item()->button);
+    EXPECT_TRUE(item()->menu);
+}
+
+sim::SessionOptions withoutImages() {
+    sim::SessionOptions options;
+    options.bundle.images.clear();
+    return options;
+}
+
+class MenuBarIconWithoutImage : public MenuBarIcon {
+protected:
+    MenuBarIconWithoutImage() : MenuBarIcon(withoutImages()) {}
+};
+
+TEST_F(MenuBarIconWithoutImage, IsConfiguredAllTheSame) {
+    EXPECT_THAT(
+        configurationCalls(),
+        ElementsAreArray(inOrder({Obtaining,
+                                  {"+[NSImage imageNamed:] MenuBarIcon", "-[NSStatusBarButton setImage:] nil",
+                                   "-[NSStatusBarButton setImageScaling:] 0"},
+                                  localizing(ToolTip),
+                                  {"-[NSStatusBarButton setToolTip:] " + ToolTip}})));
+    EXPECT_FALSE(item()->button->image);
+    EXPECT_EQ(item()->button->toolTip, ToolTip);
+}
+
+} // namespace
+} // namespace kestrune
