@@ -39,6 +39,24 @@ TEST_F(EventTapContract, IsRefusedAfterThePermissionsRowWasDeleted) {
     EXPECT_FALSE(canCreate(Trust::rowDeleted, EventTapOptions::defaultTap));
 }
 
+TEST_F(EventTapContract, ListsTheApplicationWhenItIsRefused) {
+    EXPECT_FALSE(canCreate(Trust::notListed, EventTapOptions::defaultTap));
+    EXPECT_EQ(world_.trust(), Trust::switchedOff);
+    EXPECT_FALSE(world_.isTrustDialogShown());
+}
+
+TEST_F(EventTapContract, LeavesTheRowAsItIsWhenItIsRefused) {
+    for (const Trust trust : {Trust::switchedOff, Trust::outdated}) {
+        EXPECT_FALSE(canCreate(trust, EventTapOptions::defaultTap));
+        EXPECT_EQ(world_.trust(), trust);
+    }
+}
+
+TEST_F(EventTapContract, ListsNothingWhenItOnlyListens) {
+    EXPECT_TRUE(canCreate(Trust::notListed, EventTapOptions::listenOnly));
+    EXPECT_EQ(world_.trust(), Trust::notListed);
+}
+
 TEST_F(EventTapContract, CanBeCreatedAgainOnceThePermissionIsBack) {
     EXPECT_FALSE(canCreate(Trust::switchedOff, EventTapOptions::defaultTap));
     EXPECT_TRUE(canCreate(Trust::granted, EventTapOptions::defaultTap));

@@ -3,12 +3,16 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "platform/Application.h"
 #include "platform/DisplayUUID.h"
 #include "platform/Event.h"
 #include "platform/Screen.h"
+#include "tests/contract/Shown.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -56,13 +60,23 @@ enum class Trust {
     outdated,   // switched on for an older build of the application
 };
 
-// One error message in the system log.
-struct LoggedError {
+// One message in the system log, seen by somebody who looks at every level.
+struct LoggedMessage {
+    enum class Level { debug, error };
+
+    Level level;
     std::string subsystem;
     std::string category;
     std::string message;
 
-    friend bool operator==(const LoggedError&, const LoggedError&) = default;
+    friend bool operator==(const LoggedMessage&, const LoggedMessage&) = default;
+};
+
+// What lies in the application's bundle.
+struct BundleFiles {
+    std::map<std::string, std::variant<std::string, std::int64_t>> infoDictionary;
+    std::map<std::string, std::string> localizedStrings; // The default string table of the user's language.
+    std::vector<std::string> imageNames;                 // Among the resources.
 };
 
 // A fresh session of one user, in which the process under test may create event taps. Only one exists at a
@@ -71,18 +85,16 @@ class World {
 public:
     static constexpr std::string_view BundleIdentifier = "org.kestrune.Contract";
 
+    // The bundle has nothing but that identifier.
     World();
+    explicit World(const BundleFiles& bundle);
     ~World();
 
     World(const World&) = delete;
     World& operator=(const World&) = delete;
 
-    // The Info.plist has no CFBundleIdentifier. Takes effect for a world made with it.
-    struct WithoutBundleIdentifier {};
-    explicit World(WithoutBundleIdentifier);
-
     // Connects exactly these displays, the primary first; it lies at the origin. The first also has the key
-    // window.
+    // window. The system tells the application, which handles that before this returns.
     void connect(const std::vector<ConnectedDisplay>& displays);
 
     // The display with the key window, by its place in the list; absent: there is none.
@@ -91,7 +103,10 @@ public:
     // The platform makes no string of any UUID.
     void failUUIDStrings();
 
+    // The application's row under Accessibility, and whether the system's dialog asks the user about it.
     void setTrust(Trust trust);
+    Trust trust() const;
+    bool isTrustDialogShown() const;
 
     // Another process stores a value in the application's defaults.
     void store(std::string_view key, const StoredValue& value);
@@ -103,7 +118,51 @@ public:
     // The system switches the application's taps off for that reason, and the application handles that.
     void switchTapsOff(EventType reason);
 
-    std::vector<LoggedError> loggedErrors() const;
+    std::vector<LoggedMessage> loggedMessages() const;
+
+    // The main thread's run loop runs for that long, so that timers fire and deferred work is done.
+    void letTimePass(double seconds);
+
+    // The main thread does what waits for it.
+    void runMainQueue() { letTimePass(0); }
+
+    // What `work` does happens on a thread that is not the main thread; this waits for it.
+    void onAnotherThread(const std::function<void()>& work);
+
+    // Calls `run` and comes back once the application has launched.
+    void launchApplication();
+
+    // Does `work`, in which the application terminates. Only the end of the process is held back.
+    void catchTermination(const std::function<void()>& work);
+
+    // The user makes it the active application.
+    void activateApplication();
+    ActivationPolicy activationPolicy() const;
+
+    // The status items of the application in the menu bar, from the first to the latest.
+    std::size_t statusItemCount() const;
+    ShownButton statusButton(std::size_t statusItem = 0) const;
+
+    // The user clicks a status item or an item of the main menu, by its place from 0. `whileOpen` runs while
+    // the menu there is tracked; afterwards it closes, unless a row was chosen. False when no menu opens.
+    bool openStatusMenu(const std::function<void()>& whileOpen, std::size_t statusItem = 0);
+    bool openMainMenu(std::size_t item, const std::function<void()>& whileOpen);
+
+    // Of the open menu, from the top.
+    std::vector<ShownRow> openMenuRows() const;
+
+    // The user clicks a row of the open menu, by its place from 0.
+    void chooseRow(std::size_t row);
+
+    // Opens the status item's menu, looks at its rows or chooses one, and closes it.
+    std::vector<ShownRow> statusMenuRows();
+    void chooseInStatusMenu(std::size_t row);
+
+    // The user presses a character together with modifiers.
+    void pressKey(std::string_view character, EventModifierFlags modifiers);
+
+    // The texts of the URLs that the application opened, in order.
+    std::vector<std::string> openedURLs() const;
 
 private:
     struct State;

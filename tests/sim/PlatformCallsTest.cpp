@@ -90,7 +90,7 @@ TEST(PlatformCalls, AreJournaledForDefaultsTrustBundleAndLog) {
     defaults->setObject("text", key);
     defaults->setObject(std::nullopt, key);
     isProcessTrusted();
-    Bundle::mainBundleIdentifier();
+    Bundle::mainBundle().bundleIdentifier();
     Log("subsystem", "category").error("message");
     EXPECT_THAT(session.journal().take(),
                 ElementsAre("NSUserDefaults.standardUserDefaults", "-[NSUserDefaults objectForKey:] key",
@@ -99,8 +99,8 @@ TEST(PlatformCalls, AreJournaledForDefaultsTrustBundleAndLog) {
                             "-[NSUserDefaults setBool:forKey:] key = true",
                             "-[NSUserDefaults setObject:forKey:] key = text",
                             "-[NSUserDefaults setObject:forKey:] key = nil", "AXIsProcessTrusted() -> true",
-                            "NSBundle.mainBundle.bundleIdentifier", "os_log_create(subsystem, category)",
-                            "os_log_error(category, message)"));
+                            "NSBundle.mainBundle", "-[NSBundle bundleIdentifier]",
+                            "os_log_create(subsystem, category)", "os_log_error(category, message)"));
 }
 
 TEST(PlatformCalls, AreJournaledForAnEventInItsTap) {
@@ -139,6 +139,16 @@ TEST(PlatformCalls, RefuseATapAlthoughThePermissionIsThere) {
         createTap(EventTapLocation::session, EventTapPlacement::headInsert, EventTapOptions::defaultTap));
 }
 
+TEST(PlatformCalls, ListTheApplicationWhenTheyCreateNoTap) {
+    SessionOptions options;
+    options.permission = Permission::notListed;
+    Session session(options);
+    EXPECT_FALSE(
+        createTap(EventTapLocation::session, EventTapPlacement::headInsert, EventTapOptions::defaultTap));
+    EXPECT_EQ(session.accessibility().permission(), Permission::switchedOff);
+    EXPECT_FALSE(session.accessibility().isDialogShown());
+}
+
 TEST(PlatformCalls, CreateATapThatOnlyListensWithoutThePermission) {
     SessionOptions options;
     options.permission = Permission::notListed;
@@ -155,11 +165,13 @@ TEST(PlatformCalls, UseUpOneScriptedReadOfTheDisplaysEach) {
     EXPECT_EQ(Screen::screens().size(), 1U);
 }
 
-TEST(PlatformCalls, LogWithTheLevelOfAnError) {
+TEST(PlatformCalls, LogWithTheirLevel) {
     const Session session;
     Log("subsystem", "category").error("message");
-    ASSERT_EQ(session.logRecords().size(), 1U);
+    Log("subsystem", "category").debug("message");
+    ASSERT_EQ(session.logRecords().size(), 2U);
     EXPECT_EQ(session.logRecords()[0].level, LogLevel::error);
+    EXPECT_EQ(session.logRecords()[1].level, LogLevel::debug);
 }
 
 } // namespace

@@ -1,10 +1,16 @@
 // One session at a time, no platform without one, and nothing that survives it does harm.
 #include "platform/AccessibilityTrust.h"
+#include "platform/Application.h"
 #include "platform/Bundle.h"
 #include "platform/DisplayUUID.h"
 #include "platform/Log.h"
+#include "platform/MainActor.h"
+#include "platform/NotificationCenter.h"
 #include "platform/Screen.h"
+#include "platform/StatusBar.h"
+#include "platform/Timer.h"
 #include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
 #include "sim/Session.h"
 #include "tests/contract/RecordingTap.h"
 
@@ -27,13 +33,29 @@ TEST(SessionDeathTest, StopsTheProcessWhenThereIsOneAlready) {
 
 TEST(SessionDeathTest, StopsAPlatformCallThatHasNone) {
     EXPECT_DEATH(isProcessTrusted(), NoSession);
-    EXPECT_DEATH(Bundle::mainBundleIdentifier(), NoSession);
+    EXPECT_DEATH(isProcessTrustedWithOptions({}), NoSession);
+    EXPECT_DEATH(Application::nsApp(), NoSession);
+    EXPECT_DEATH(Application::sharedApplication(), NoSession);
+    EXPECT_DEATH(Bundle::mainBundle(), NoSession);
     EXPECT_DEATH(DisplayUUID::createFromDisplayID(1), NoSession);
     EXPECT_DEATH(Log("subsystem", "category"), NoSession);
+    EXPECT_DEATH(Image::imageNamed("name"), NoSession);
+    EXPECT_DEATH(MainActor::isCurrent(), NoSession);
+    EXPECT_DEATH(MainActor::startTask([] {}), NoSession);
+    EXPECT_DEATH(Menu(), NoSession);
+    EXPECT_DEATH(Menu("title"), NoSession);
+    EXPECT_DEATH(MenuItem(), NoSession);
+    EXPECT_DEATH(MenuItem::separatorItem(), NoSession);
+    EXPECT_DEATH(NotificationCenter::defaultCenter(), NoSession);
+    EXPECT_DEATH(OperationQueue::mainQueue(), NoSession);
     EXPECT_DEATH(RunLoop::current(), NoSession);
     EXPECT_DEATH(Screen::screens(), NoSession);
     EXPECT_DEATH(Screen::mainScreen(), NoSession);
+    EXPECT_DEATH(StatusBar::systemStatusBar(), NoSession);
+    EXPECT_DEATH(Timer::scheduledTimer(1, false, [](Timer&) {}), NoSession);
+    EXPECT_DEATH(URL::withString("text"), NoSession);
     EXPECT_DEATH(UserDefaults::standardUserDefaults(), NoSession);
+    EXPECT_DEATH(Workspace::sharedWorkspace(), NoSession);
     contract::ReceivedEvents received;
     EXPECT_DEATH(contract::RecordingTap(received, {}), NoSession);
 }
@@ -135,6 +157,25 @@ TEST(Session, IsNotTouchedByObjectsOfTheOneBefore) {
     screens.clear();
     EXPECT_EQ(session.liveObjects(), 0);
     EXPECT_THAT(session.journal().lines(), IsEmpty());
+}
+
+TEST(Session, IsNotTouchedByTheMenusAndTimersOfTheOneBefore) {
+    auto former = std::make_unique<Session>();
+    std::optional<Menu> menu(std::in_place);
+    menu->addItem(MenuItem());
+    std::optional<StatusItem> statusItem = StatusBar::systemStatusBar().statusItem(10);
+    statusItem->setMenu(*menu);
+    std::optional<Timer> timer = Timer::scheduledTimer(1, true, [](Timer&) {});
+    EXPECT_EQ(former->liveObjects(), 4);
+    former.reset();
+
+    Session session;
+    menu.reset();
+    statusItem.reset();
+    timer.reset();
+    EXPECT_EQ(session.liveObjects(), 0);
+    EXPECT_THAT(session.journal().lines(), IsEmpty());
+    EXPECT_EQ(session.timers().count(), 0U);
 }
 
 TEST(SessionDeathTest, StopsAnEventWithATypeThatIsANotice) {

@@ -1,20 +1,33 @@
 #include "tests/contract/World.h"
 
 #include "sim/Session.h"
+#include "sim/StatusItemState.h"
 
+#include <chrono>
 #include <utility>
 
 namespace kestrune::contract {
 
 struct World::State {
+    bool open(const sim::MenuPlace& place, const std::function<void()>& whileOpen);
+
     sim::Session session;
 };
 
 namespace {
 
-sim::SessionOptions options(std::optional<std::string> bundleIdentifier) {
+sim::SessionOptions options(const BundleFiles& bundle) {
     sim::SessionOptions result;
-    result.bundleIdentifier = std::move(bundleIdentifier);
+    result.bundle.infoDictionary.clear();
+    for (const auto& [key, value] : bundle.infoDictionary) {
+        result.bundle.infoDictionary.emplace(
+            key, std::visit([](const auto& plain) { return sim::PropertyList{plain}; }, value));
+    }
+    result.bundle.localizedStrings.insert(bundle.localizedStrings.begin(), bundle.localizedStrings.end());
+    result.bundle.images.clear();
+    for (const std::string& name : bundle.imageNames) {
+        result.bundle.images.emplace(name, "");
+    }
     return result;
 }
 
@@ -32,6 +45,31 @@ sim::Permission permission(Trust trust) {
         break;
     }
     return sim::Permission::stale;
+}
+
+Trust trustOf(sim::Permission permission) {
+    switch (permission) {
+    case sim::Permission::notListed:
+        return Trust::notListed;
+    case sim::Permission::switchedOff:
+        return Trust::switchedOff;
+    case sim::Permission::granted:
+        return Trust::granted;
+    case sim::Permission::rowDeleted:
+        return Trust::rowDeleted;
+    case sim::Permission::stale:
+        break;
+    }
+    return Trust::outdated;
+}
+
+LoggedMessage messageOf(const sim::LogRecord& record) {
+    return {record.level == sim::LogLevel::error ? LoggedMessage::Level::error : LoggedMessage::Level::debug,
+            record.subsystem, record.category, record.message};
+}
+
+ShownRow rowOf(const sim::MenuRow& row) {
+    return {row.title, row.state, row.isEnabled, row.isSeparator, row.keyEquivalent, row.modifiers};
 }
 
 struct AsPropertyList {
@@ -60,9 +98,7 @@ struct AsPropertyList {
 
 } // namespace
 
-World::World() : state_(new State{sim::Session(options(std::string(BundleIdentifier)))}) {}
-
-World::World(WithoutBundleIdentifier /*tag*/) : state_(new State{sim::Session(options(std::nullopt))}) {}
+World::World(const BundleFiles& bundle) : state_(new State{sim::Session(options(bundle))}) {}
 
 World::~World() = default;
 
@@ -82,6 +118,10 @@ void World::failUUIDStrings() { state_->session.displays().setUUIDStringsFail(tr
 
 void World::setTrust(Trust trust) { state_->session.accessibility().setPermission(permission(trust)); }
 
+Trust World::trust() const { return trustOf(state_->session.accessibility().permission()); }
+
+bool World::isTrustDialogShown() const { return state_->session.accessibility().isDialogShown(); }
+
 void World::store(std::string_view key, const StoredValue& value) {
     state_->session.defaults().set(key, std::visit(AsPropertyList(), value));
 }
@@ -93,14 +133,73 @@ std::optional<Point> World::post(EventType type, Point location) {
 
 void World::switchTapsOff(EventType reason) { state_->session.disableTaps(reason); }
 
-std::vector<LoggedError> World::loggedErrors() const {
-    std::vector<LoggedError> errors;
+std::vector<LoggedMessage> World::loggedMessages() const {
+    std::vector<LoggedMessage> messages;
     for (const sim::LogRecord& record : state_->session.logRecords()) {
-        if (record.level == sim::LogLevel::error) {
-            errors.push_back({record.subsystem, record.category, record.message});
-        }
+        messages.push_back(messageOf(record));
     }
-    return errors;
+    return messages;
 }
+
+void World::letTimePass(double seconds) {
+    state_->session.advance(
+        std::chrono::duration_cast<sim::Duration>(std::chrono::duration<double>(seconds)));
+}
+
+void World::onAnotherThread(const std::function<void()>& work) { state_->session.onAnotherThread(work); }
+
+// In the simulation `run` returns after the launch, and `terminate:` after the process has ended.
+void World::launchApplication() { Application::sharedApplication().run(); }
+
+void World::catchTermination(const std::function<void()>& work) { work(); }
+
+void World::activateApplication() { state_->session.application().isActive = true; }
+
+ActivationPolicy World::activationPolicy() const { return state_->session.application().policy; }
+
+std::size_t World::statusItemCount() const { return state_->session.statusItems().shown().size(); }
+
+ShownButton World::statusButton(std::size_t statusItem) const {
+    const StatusBarButton::State& button = *state_->session.statusItems().shown().at(statusItem)->button;
+    ShownButton shown{std::nullopt, button.scaling, button.toolTip};
+    if (button.image) {
+        const Image::State& image = *button.image->state();
+        shown.image = {image.name, image.isTemplate, image.size};
+    }
+    return shown;
+}
+
+bool World::State::open(const sim::MenuPlace& place, const std::function<void()>& whileOpen) {
+    if (!session.menus().open(place)) {
+        return false;
+    }
+    whileOpen();
+    session.menus().close();
+    return true;
+}
+
+bool World::openStatusMenu(const std::function<void()>& whileOpen, std::size_t statusItem) {
+    return state_->open(sim::StatusItemIndex{statusItem}, whileOpen);
+}
+
+bool World::openMainMenu(std::size_t item, const std::function<void()>& whileOpen) {
+    return state_->open(sim::MainMenuIndex{item}, whileOpen);
+}
+
+std::vector<ShownRow> World::openMenuRows() const {
+    std::vector<ShownRow> rows;
+    for (const sim::MenuRow& row : state_->session.menus().rows()) {
+        rows.push_back(rowOf(row));
+    }
+    return rows;
+}
+
+void World::chooseRow(std::size_t row) { state_->session.menus().choose(row); }
+
+void World::pressKey(std::string_view character, EventModifierFlags modifiers) {
+    state_->session.menus().press(character, modifiers);
+}
+
+std::vector<std::string> World::openedURLs() const { return state_->session.openedURLs(); }
 
 } // namespace kestrune::contract
