@@ -1,6 +1,7 @@
 // The simulated Mac on the screen, and its windowless commands.
 
 #include "desk/command/OptionsReader.h"
+#include "desk/headless/LaunchCommand.h"
 #include "desk/headless/ReplayCommand.h"
 #include "desk/live/Tour.h"
 #include "desk/window/DeskWindow.h"
@@ -38,10 +39,10 @@ int run(const Options& options) {
         const auto error = runGenerate(options);
         return error ? refuse(*error) : 0;
     }
-    if (options.replay) {
-        const auto result = runReplay(options);
-        const auto* report = std::get_if<std::string>(&result);
-        return report != nullptr ? print(*report) : refuse(std::get<InputError>(result));
+    if (options.replay || options.launch) {
+        const auto result = options.replay ? runReplay(options) : runLaunch(options);
+        const auto* text = std::get_if<std::string>(&result);
+        return text != nullptr ? print(*text) : refuse(std::get<InputError>(result));
     }
     if (options.tour) {
         const auto error = runTour(*options.tour, options);

@@ -9,6 +9,8 @@ std::string_view helpText() {
   kestrune-desk --tour DIR             plays the first-run story and writes a PNG for each scene
   kestrune-desk --replay FILE          plays a pointer recording without a window
   kestrune-desk --generate FILE        writes a made-up recording
+  kestrune-desk --launch               launches Kestrune without a window and prints every call to the
+                                       platform, in order
 
 The desk
   --displays LIST    at most 16 displays as WxH+X+Y or WxH-X-Y, separated by commas, in points, y
@@ -17,7 +19,10 @@ The desk
   --pin N            the display that keeps the Dock, counted from 1. Usual: 1
   --guard on|off     whether Kestrune guards the Dock. Usual: on
   --margin M         depth of the guarded band in points; 4 when absent or not greater than 0
-  --defaults FILE    keeps the preferences in a property list; with the window only
+  --permission P     granted or missing: whether Kestrune has the Accessibility permission when it is
+                     launched; with the window and --launch only. Usual: granted
+  --defaults FILE    keeps the preferences in a property list; with the window and
+                     --launch only
   --dark             paints the desk dark
 
 With --replay, or when the window is closed

@@ -28,6 +28,12 @@ struct Options {
     std::optional<std::string> generate;   // where to write a made-up recording
     std::optional<std::string> defaults;   // the file that keeps the preferences
 
+    // Whether Kestrune has the Accessibility permission when it is launched.
+    bool isPermissionGranted = true;
+
+    // Whether to launch Kestrune without a window and print what it asks of the platform.
+    bool launch = false;
+
     bool reportAsJSON = false;
     bool dark = false;
     bool help = false;

@@ -62,9 +62,10 @@ public:
     }
 
 private:
-    static constexpr std::array<std::string_view, 14> ValueOptions = {
-        "--displays", "--pin",      "--guard",    "--margin", "--replay", "--emit", "--report",
-        "--tour",     "--defaults", "--generate", "--seed",   "--rows",   "--size", "--screenshot"};
+    static constexpr std::array<std::string_view, 15> ValueOptions = {
+        "--displays", "--pin",    "--guard", "--margin",     "--replay",
+        "--emit",     "--report", "--tour",  "--defaults",   "--generate",
+        "--seed",     "--rows",   "--size",  "--screenshot", "--permission"};
 
     static bool isValueOption(std::string_view option) {
         return std::find(ValueOptions.begin(), ValueOptions.end(), option) != ValueOptions.end();
@@ -75,6 +76,8 @@ private:
             options_.help = true;
         } else if (option == "--dark") {
             options_.dark = true;
+        } else if (option == "--launch") {
+            options_.launch = true;
         } else {
             return false;
         }
@@ -94,6 +97,9 @@ private:
         }
         if (option == "--margin") {
             return readMargin(value);
+        }
+        if (option == "--permission") {
+            return readPermission(value);
         }
         if (option == "--report") {
             options_.reportAsJSON = true;
@@ -149,6 +155,14 @@ private:
             return expected("--guard", "on or off", value);
         }
         options_.guardOn = value == "on";
+        return std::nullopt;
+    }
+
+    MaybeError readPermission(std::string_view value) {
+        if (value != "granted" && value != "missing") {
+            return expected("--permission", "granted or missing", value);
+        }
+        options_.isPermissionGranted = value == "granted";
         return std::nullopt;
     }
 
@@ -213,8 +227,14 @@ private:
 
     MaybeError checkCompany() const {
         const int modes = (options_.replay ? 1 : 0) + (options_.tour ? 1 : 0) + (options_.generate ? 1 : 0);
-        if (modes > 1) {
-            return InputError{"expected only one of --replay, --tour and --generate"};
+        if (modes + (options_.launch ? 1 : 0) > 1) {
+            return InputError{"expected only one of --replay, --tour, --generate and --launch"};
+        }
+        if (modes > 0) {
+            if (auto error =
+                    refuseSeen({"--permission"}, "expected without --replay, --tour and --generate")) {
+                return error;
+            }
         }
         if (options_.emit && !options_.replay) {
             return InputError{"--emit: expected together with --replay"};

@@ -4,9 +4,19 @@ namespace kestrune::desk {
 
 const std::vector<KeyHint>& keyLegend() {
     static const std::vector<KeyHint> legend = {
-        {"1–9", "pin a display"}, {"G", "guard on or off"}, {"U", "unplug"}, {"P", "plug in"},
-        {"A", "permission"},      {"T", "tap timeout"},     {"+ −", "band"}, {"D", "dark"},
-        {"S", "save picture"},    {"H", "hide keys"},       {"Q", "quit"},
+        {"1–9", "pin a display"},
+        {"G", "guard on or off"},
+        {"M", "menu"},
+        {"U", "unplug"},
+        {"P", "plug in"},
+        {"A", "ask for permission"},
+        {"T", "tap timeout"},
+        {"+ −", "band"},
+        {"L", "quit or launch Kestrune"},
+        {"D", "dark"},
+        {"S", "save picture"},
+        {"H", "hide keys"},
+        {"Q", "quit"},
     };
     return legend;
 }
@@ -26,8 +36,14 @@ bool pressDeskKey(LiveDesk& desk, char key) {
     case 'p':
         desk.plugIn();
         return true;
+    case 'm':
+        desk.openStatusMenu();
+        return true;
+    case 'l':
+        desk.quitOrLaunch();
+        return true;
     case 'a':
-        desk.togglePermission();
+        desk.askForPermission();
         return true;
     case 't':
         desk.timeOutTap();

@@ -1,11 +1,9 @@
 #include "desk/live/LiveDesk.h"
 
-#include "desk/live/Arrangement.h"
-#include "desk/replay/SimulatedDesk.h"
+#include "desk/live/PinnedDisplay.h"
 #include "sim/DefaultsFile.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 
@@ -13,48 +11,16 @@ namespace kestrune::desk {
 
 namespace {
 
-constexpr double UsualMargin = 4;
+constexpr double UsualMargin = DockGuardController::DefaultBlockMargin;
 constexpr double NarrowestMargin = 1;
 constexpr double DeepestMargin = 256;
 
-constexpr sim::Duration PermissionWatchInterval = std::chrono::seconds(1);
-
-// The keys 1 to 9 choose a display.
-constexpr std::size_t MostDisplays = 9;
-constexpr std::array<Size, 4> NewDisplaySizes = {{{1280, 800}, {2560, 1440}, {1080, 1920}, {1920, 1080}}};
-
-sim::SessionOptions sessionOptions(const LiveDeskSetup& setup) {
-    sim::SessionOptions options;
-    options.displays = connectDisplays(setup.displays);
-    options.recordJournal = false;
-    options.defaults = setup.defaults;
-    if (setup.guardOn) {
-        options.defaults.insert_or_assign("isEnabled", sim::PropertyList{*setup.guardOn});
-    }
-    if (setup.pinned) {
-        options.defaults.insert_or_assign("pinnedScreenUUID",
-                                          sim::PropertyList{*options.displays.at(*setup.pinned).uuid});
-    }
-    if (setup.margin) {
-        options.defaults.insert_or_assign("blockMargin", sim::PropertyList{*setup.margin});
-    }
-    return options;
-}
-
-bool areSameDisplays(const std::vector<sim::Display>& some, const std::vector<sim::Display>& others) {
-    return std::is_permutation(
-        some.begin(), some.end(), others.begin(), others.end(),
-        [](const sim::Display& one, const sim::Display& other) { return one.displayID == other.displayID; });
-}
-
 } // namespace
 
-LiveDesk::LiveDesk(const LiveDeskSetup& setup) : session_(sessionOptions(setup)) {
+LiveDesk::LiveDesk(const LiveDeskSetup& setup) : session_(sessionOptionsOf(setup)) {
     startKeepingDefaults(setup);
-    session_.dock().place(host_.guard().pinnedScreen()->displayID);
-    host_.startIfAllowed();
-    schedulePermissionWatch();
-    news_ = host_.preferences().isEnabled() ? newsOfEnabledGuard() : newsOfGuardOff();
+    session_.dock().place(pinnedDisplay(session_)->displayID);
+    news_ = newsOfLaunch(standing());
 }
 
 // The setup's choices, and what the guard made of a stored display that is not connected, are saved at once.
@@ -71,16 +37,12 @@ void LiveDesk::startKeepingDefaults(const LiveDeskSetup& setup) {
     session_.defaults().onChange(save);
 }
 
-void LiveDesk::schedulePermissionWatch() {
-    session_.clock().schedule(PermissionWatchInterval, [this] {
-        if (!host_.guard().isRunning()) {
-            host_.startIfAllowed();
-            if (host_.guard().isRunning()) {
-                news_ = newsOfEnabledGuard();
-            }
-        }
-        schedulePermissionWatch();
-    });
+void LiveDesk::advance(sim::Duration duration) {
+    const bool wasRunning = host_.guardIsRunning();
+    session_.advance(duration);
+    if (!wasRunning && host_.guardIsRunning()) {
+        news_ = newsOfGuard(standing());
+    }
 }
 
 void LiveDesk::movePointerTowards(Point target, EventType type) {
@@ -126,82 +88,143 @@ void LiveDesk::pin(DisplayID number) {
         return;
     }
     const std::string name = display->localizedName;
-    host_.pin(*display->uuid);
-    news_ = newsOfPin(name, session_.dock().display() == number);
+    news_ = host_.chooseDisplay(number) ? newsOfPin(name, session_.dock().display() == number)
+                                        : newsOfClosedMenu(standing());
 }
 
 void LiveDesk::toggleGuard() {
-    const bool enabled = !host_.preferences().isEnabled();
-    host_.setEnabled(enabled);
-    news_ = enabled ? newsOfEnabledGuard() : newsOfGuardOff();
+    news_ = host_.flipSwitch() ? newsOfGuard(standing()) : newsOfClosedMenu(standing());
 }
 
-News LiveDesk::newsOfEnabledGuard() {
-    const GuardReadiness withoutTap = session_.accessibility().readsAsTrusted()
-                                          ? GuardReadiness::startsSoon
-                                          : GuardReadiness::waitsForPermission;
-    return newsOfGuardOn(host_.guard().isRunning() ? GuardReadiness::running : withoutTap,
-                         whereabouts().pinned);
+void LiveDesk::pressButton(const std::optional<DeskTarget>& target) {
+    tell([&] { return parts_.press(target); });
+}
+
+void LiveDesk::releaseButton(const std::optional<DeskTarget>& target) {
+    tell([&] { return parts_.release(target); });
+}
+
+bool LiveDesk::navigate(NavigationKey key) {
+    const bool isTaken = parts_.takesKeys();
+    if (isTaken) {
+        tell([&] { return parts_.press(key); });
+    }
+    return isTaken;
+}
+
+void LiveDesk::pressEquivalent(std::string_view character, bool withShift) {
+    tell([&] { return parts_.pressEquivalent(character, withShift); });
+}
+
+void LiveDesk::openStatusMenu() {
+    if (host_.isRunning()) {
+        tell([this] {
+            parts_.openStatusMenu(displayUnderPointer());
+            return PartsOutcome();
+        });
+    } else {
+        news_ = newsOfClosedMenu(standing());
+    }
+}
+
+void LiveDesk::quitOrLaunch() {
+    if (host_.isRunning()) {
+        host_.quit();
+        news_ = newsOfQuit();
+    } else {
+        host_.launch();
+        news_ = newsOfLaunch(standing());
+    }
+}
+
+void LiveDesk::askForPermission() {
+    if (!host_.askForPermission()) {
+        news_ = newsOfClosedMenu(standing());
+    } else if (session_.accessibility().isDialogShown()) {
+        news_ = {"Kestrune asks for the Accessibility permission", Occurrence::neutral};
+    } else {
+        news_ = {"The system does not ask: Kestrune counts as trusted already", Occurrence::neutral};
+    }
+}
+
+std::size_t LiveDesk::displayUnderPointer() {
+    const auto& connected = session_.displays().connected();
+    const sim::Display* display = session_.displays().containing(session_.pointer());
+    return display != nullptr ? static_cast<std::size_t>(display - connected.data()) : 0;
+}
+
+void LiveDesk::tell(const std::function<PartsOutcome()>& action) {
+    const Standing before = standing();
+    const PartsOutcome outcome = action();
+    host_.noticeEnd();
+    const Standing after = standing();
+    if (auto news = newsOfChange(before, after)) {
+        news_ = *std::move(news);
+    } else if (outcome.wasMarked && after.pinned) {
+        news_ = newsOfPin(*after.pinned, after.pinnedHasDock);
+    } else if (outcome.chosenRow) {
+        news_ = newsOfChoiceWithoutEffect(*outcome.chosenRow);
+    }
+}
+
+Standing LiveDesk::standing() {
+    Standing result;
+    result.applicationRuns = host_.isRunning();
+    result.guardRuns = host_.guardIsRunning();
+    result.isWatching = host_.isWatchingAccessibility();
+    result.isEnabled = isEnabled();
+    result.permission = session_.accessibility().permission();
+    const sim::Display* pinned = pinnedDisplay(session_);
+    if (pinned != nullptr) {
+        result.pinned = pinned->localizedName;
+        result.pinnedHasDock = session_.dock().display() == pinned->displayID;
+    }
+    const sim::PropertyList* choice = session_.defaults().find("pinnedScreenUUID");
+    result.choice = choice != nullptr ? choice->asString() : std::nullopt;
+    return result;
+}
+
+bool LiveDesk::isEnabled() {
+    const sim::PropertyList* stored = session_.defaults().find("isEnabled");
+    return stored == nullptr || stored->asBool();
 }
 
 void LiveDesk::unplugUnderPointer() {
-    const auto& connected = session_.displays().connected();
-    const sim::Display* display = session_.displays().containing(session_.pointer());
-    if (display == nullptr) {
+    auto change = plugs_.unplug(session_.pointer());
+    if (!change) {
         news_ = {"No display is under the pointer", Occurrence::neutral};
         return;
     }
     const Whereabouts before = whereabouts();
-    const std::string name = display->localizedName;
-    unplugged_.push_back({*display, connected});
-    changeDisplays(withoutDisplay(connected, static_cast<std::size_t>(display - connected.data())));
-    news_ = newsOfUnplugging(name, before, whereabouts());
+    changeDisplays(std::move(change->arrangement));
+    news_ = newsOfUnplugging(change->name, before, whereabouts());
 }
 
 void LiveDesk::plugIn() {
-    const auto& connected = session_.displays().connected();
-    std::string name;
-    if (!unplugged_.empty()) {
-        Unplugged latest = std::move(unplugged_.back());
-        unplugged_.pop_back();
-        name = latest.display.localizedName;
-        changeDisplays(arrangementWith(std::move(latest)));
-    } else if (connected.size() < MostDisplays) {
-        const auto number = static_cast<DisplayID>(connected.size() + 1);
-        name = "Display " + std::to_string(number);
-        const Size size = NewDisplaySizes[(number - 1) % NewDisplaySizes.size()];
-        changeDisplays(
-            withDisplayAtRight(connected, sim::makeDisplay(number, name, {0, 0, size.width, size.height})));
-    } else {
+    auto change = plugs_.plugIn();
+    if (!change) {
         news_ = {"There is no other display to plug in", Occurrence::neutral};
         return;
     }
-    news_ = newsOfPlugging(name, whereabouts().primary == name);
-}
-
-std::vector<sim::Display> LiveDesk::arrangementWith(Unplugged unplugged) {
-    std::vector<sim::Display> together = session_.displays().connected();
-    together.push_back(unplugged.display);
-    if (areSameDisplays(together, unplugged.arrangement)) {
-        return std::move(unplugged.arrangement);
-    }
-    return withDisplayAtRight(session_.displays().connected(), std::move(unplugged.display));
+    changeDisplays(std::move(change->arrangement));
+    news_ = newsOfPlugging(change->name, whereabouts().primary == change->name);
 }
 
 void LiveDesk::changeDisplays(std::vector<sim::Display> displays) {
     lastDockDisplay_ = session_.dock().display().value_or(lastDockDisplay_);
+    parts_.displaysChanged();
     session_.changeDisplays(std::move(displays));
-    host_.displaysChanged();
     heldPointer_.reset();
     dockMove_.reset();
 }
 
 void LiveDesk::togglePermission() {
     const bool grant = session_.accessibility().permission() != sim::Permission::granted;
-    session_.accessibility().setPermission(grant ? sim::Permission::granted : sim::Permission::switchedOff);
-    const bool isRunning = host_.guard().isRunning();
-    news_ = grant ? newsOfGrantedPermission(isRunning, host_.preferences().isEnabled())
-                  : newsOfRevokedPermission(isRunning);
+    tell([&] {
+        session_.accessibility().setPermission(grant ? sim::Permission::granted
+                                                     : sim::Permission::switchedOff);
+        return PartsOutcome();
+    });
 }
 
 void LiveDesk::timeOutTap() {
@@ -232,15 +255,14 @@ double LiveDesk::margin() {
 // Made from what is stored and connected, not from what the guard remembers.
 JudgedDesk LiveDesk::judgedDesk() {
     JudgedDesk judged;
-    const sim::PropertyList* stored = session_.defaults().find("pinnedScreenUUID");
-    const std::optional<std::string> pinned = stored != nullptr ? stored->asString() : std::nullopt;
+    const sim::Display* pinned = pinnedDisplay(session_);
     for (const sim::Display& display : session_.displays().connected()) {
-        if (pinned && display.uuid == pinned) {
+        if (&display == pinned) {
             judged.pinned = judged.displays.size();
         }
         judged.displays.push_back(display.bounds);
     }
-    judged.guardOn = host_.guard().isRunning() && host_.preferences().isEnabled();
+    judged.guardOn = host_.guardIsRunning() && isEnabled();
     judged.margin = margin();
     return judged;
 }
@@ -250,7 +272,7 @@ Whereabouts LiveDesk::whereabouts() {
     if (!session_.displays().connected().empty()) {
         result.primary = session_.displays().connected().front().localizedName;
     }
-    if (const auto& pinned = host_.guard().pinnedScreen()) {
+    if (const sim::Display* pinned = pinnedDisplay(session_)) {
         result.pinned = pinned->localizedName;
     }
     result.isPinStored = session_.defaults().find("pinnedScreenUUID") != nullptr;

@@ -2,36 +2,28 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "desk/live/LiveDeskSetup.h"
 #include "desk/live/News.h"
-#include "desk/replay/GuardHost.h"
+#include "desk/live/Plugs.h"
+#include "desk/live/ScreenParts.h"
+#include "desk/replay/ApplicationHost.h"
 #include "desk/replay/Judge.h"
 #include "desk/replay/Report.h"
 #include "sim/Session.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace kestrune::desk {
 
-struct LiveDeskSetup {
-    // Global display coordinates, the primary first; at least one.
-    std::vector<Rect> displays = {{0, 0, 1512, 982}, {1512, -98, 1920, 1080}};
-
-    // The stored preferences. The choices that follow are stored in their place where they are present.
-    sim::PropertyListDictionary defaults = {};
-    std::optional<std::size_t> pinned = std::nullopt; // index into `displays`
-    std::optional<bool> guardOn = std::nullopt;
-    std::optional<double> margin = std::nullopt; // points
-
-    // Where every change of the preferences is saved.
-    std::optional<std::string> defaultsFile = std::nullopt;
-};
-
-// Owns the session and the application's part in it. The Dock starts on the pinned display. A display's
-// number is its identifier; it stays with the display when others go. Time is the session's.
+// Owns the session and the application on it, which is launched at once. The Dock starts on the pinned
+// display. A display's number is its identifier; it stays with the display when others go. Time is the
+// session's.
 class LiveDesk {
 public:
     explicit LiveDesk(const LiveDeskSetup& setup);
@@ -44,8 +36,30 @@ public:
     // edge pushes the pointer against it.
     void movePointerTowards(Point target, EventType type = EventType::mouseMoved);
 
+    // Through the menu of the application's status item.
     void pin(DisplayID number);
     void toggleGuard();
+
+    // The button that clicks is pressed or released over a part of the screen, absent for the bare desk, or
+    // the pointer comes there.
+    void pressButton(const std::optional<DeskTarget>& target);
+    void releaseButton(const std::optional<DeskTarget>& target);
+    void hover(const std::optional<DeskTarget>& target) { parts_.hover(target); }
+
+    // A key for an open menu or the dialog; false when neither is there.
+    bool navigate(NavigationKey key);
+
+    // Command, and Shift where asked, with a character.
+    void pressEquivalent(std::string_view character, bool withShift);
+
+    // Opens the application's menu on the display with the pointer.
+    void openStatusMenu();
+
+    // The application ends, or is launched again.
+    void quitOrLaunch();
+
+    // The application asks for the permission: the system's dialog and the pane of System Settings.
+    void askForPermission();
 
     void unplugUnderPointer();
 
@@ -62,7 +76,7 @@ public:
     void deepenBand();
     void narrowBand();
 
-    void advance(sim::Duration duration) { session_.advance(duration); }
+    void advance(sim::Duration duration);
     sim::Duration now() { return session_.clock().now(); }
 
     // Tells something that happened outside the session.
@@ -91,35 +105,36 @@ public:
     const std::optional<DockMove>& dockMove() const { return dockMove_; }
 
     sim::Session& session() { return session_; }
-    const GuardHost& host() const { return host_; }
+    const ApplicationHost& host() const { return host_; }
+    ScreenParts& parts() { return parts_; }
+
+    // The display under the pointer, as an index; the first where there is none.
+    std::size_t displayUnderPointer();
 
 private:
-    struct Unplugged {
-        sim::Display display;
-        std::vector<sim::Display> arrangement; // before it was unplugged
-    };
-
     void startKeepingDefaults(const LiveDeskSetup& setup);
-    void schedulePermissionWatch();
+
+    // Does something and tells what has changed by it.
+    void tell(const std::function<PartsOutcome()>& action);
+    Standing standing();
+    bool isEnabled();
     void noteDelivery(const sim::Delivery& delivery, bool answered);
     void noteDockMove(DisplayID from);
     void changeDisplays(std::vector<sim::Display> displays);
-    std::vector<sim::Display> arrangementWith(Unplugged unplugged);
     void setMargin(double wanted);
     double margin();
     JudgedDesk judgedDesk();
     Whereabouts whereabouts();
     std::string nameOf(std::optional<DisplayID> number);
-    News newsOfEnabledGuard();
-
     sim::Session session_;
-    GuardHost host_;
+    ApplicationHost host_{session_};
+    ScreenParts parts_{session_};
+    Plugs plugs_{session_};
     Report report_;
     News news_;
     std::optional<std::string> savingError_;
     std::optional<HeldPointer> heldPointer_;
     std::optional<DockMove> dockMove_;
-    std::vector<Unplugged> unplugged_;
     DisplayID lastDockDisplay_ = 1;
 };
 

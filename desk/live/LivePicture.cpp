@@ -2,6 +2,7 @@
 
 #include "Kestrune/BlockedBand.h"
 #include "desk/live/DeskKeys.h"
+#include "desk/live/PinnedDisplay.h"
 #include "desk/paint/StatusBarPainter.h"
 
 #include <algorithm>
@@ -32,22 +33,22 @@ double margin(sim::Session& session) {
     return margin > 0 ? margin : DockGuardController::DefaultBlockMargin;
 }
 
-GuardState guardState(sim::Session& session, const GuardHost& host) {
-    if (!host.preferences().isEnabled()) {
+GuardState guardState(sim::Session& session, const ApplicationHost& host) {
+    const sim::PropertyList* isEnabled = session.defaults().find("isEnabled");
+    if (!host.isRunning() || (isEnabled != nullptr && !isEnabled->asBool())) {
         return GuardState::off;
     }
     if (!session.accessibility().allowsActiveTaps()) {
         return GuardState::noPermission;
     }
-    return host.guard().isRunning() ? GuardState::on : GuardState::off;
+    return host.guardIsRunning() ? GuardState::on : GuardState::off;
 }
 
-DisplayPicture pictureOfDisplay(const sim::Display& display, sim::Session& session, const GuardHost& host) {
-    const auto& pinned = host.guard().pinnedScreen();
+DisplayPicture pictureOfDisplay(const sim::Display& display, sim::Session& session) {
     DisplayPicture picture;
     picture.name = display.localizedName;
     picture.bounds = display.bounds;
-    picture.pinned = pinned && pinned->displayID == display.displayID;
+    picture.pinned = &display == pinnedDisplay(session);
     if (!picture.pinned && session.displays().connected().size() >= 2) {
         picture.bandTop = BlockedBand(display.bounds, margin(session)).heldY();
     }
@@ -65,10 +66,10 @@ std::optional<std::size_t> indexOf(DisplayID number, sim::Session& session) {
     return std::nullopt;
 }
 
-DeskPicture pictureOfSession(sim::Session& session, const GuardHost& host) {
+DeskPicture pictureOfSession(sim::Session& session, const ApplicationHost& host) {
     DeskPicture picture;
     for (const sim::Display& display : session.displays().connected()) {
-        picture.displays.push_back(pictureOfDisplay(display, session, host));
+        picture.displays.push_back(pictureOfDisplay(display, session));
     }
     if (const auto dock = session.dock().display()) {
         picture.dockDisplay = indexOf(*dock, session);
@@ -121,6 +122,9 @@ DeskPicture pictureOf(LiveDesk& desk) {
     picture.whatHappened = news.text;
     picture.occurrence = news.kind;
     picture.keys = keyLegend();
+    const auto& images = desk.session().bundle().images;
+    const auto icon = images.find("AppIcon");
+    desk.parts().addTo(picture, icon != images.end() ? icon->second : "");
     return picture;
 }
 

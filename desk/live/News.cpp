@@ -45,22 +45,85 @@ News newsOfPin(const std::string& display, bool hasDock) {
             Occurrence::neutral};
 }
 
-News newsOfGuardOn(GuardReadiness readiness, const std::optional<std::string>& pinned) {
-    switch (readiness) {
-    case GuardReadiness::running:
-        return {pinned ? "Guard on: only " + *pinned + " may have the Dock"
-                       : "Guard on, but no display is connected",
-                Occurrence::neutral};
-    case GuardReadiness::startsSoon:
-        return {"Guard on: it starts within a second", Occurrence::neutral};
-    case GuardReadiness::waitsForPermission:
-        break;
+News newsOfLaunch(const Standing& standing) {
+    if (standing.isWatching && standing.isEnabled) {
+        return {"Kestrune has started and waits for the Accessibility permission", Occurrence::warning};
     }
-    return {"Guard on, but it waits for the Accessibility permission", Occurrence::warning};
+    return newsOfGuard(standing);
 }
 
-News newsOfGuardOff() {
-    return {"Guard off: the Dock goes wherever the pointer pushes it", Occurrence::neutral};
+News newsOfQuit() {
+    return {"Kestrune has quit: the Dock goes wherever the pointer pushes it", Occurrence::neutral};
+}
+
+News newsOfGuard(const Standing& standing) {
+    if (!standing.isEnabled) {
+        return {"Guard off: the Dock goes wherever the pointer pushes it", Occurrence::neutral};
+    }
+    if (!standing.guardRuns) {
+        return {"Guard on, but the system gave it no event tap", Occurrence::warning};
+    }
+    return {standing.pinned ? "Guard on: only " + *standing.pinned + " may have the Dock"
+                            : "Guard on, but no display is connected",
+            Occurrence::neutral};
+}
+
+namespace {
+
+News newsOfPermission(const Standing& standing) {
+    if (!standing.applicationRuns) {
+        const bool isGranted = standing.permission == sim::Permission::granted;
+        return {std::string("Accessibility permission ") + (isGranted ? "granted" : "revoked") +
+                    "; Kestrune does not run",
+                Occurrence::neutral};
+    }
+    if (standing.permission == sim::Permission::notListed) {
+        return {"Kestrune is no longer in the Accessibility list", Occurrence::neutral};
+    }
+    if (standing.permission != sim::Permission::granted) {
+        return {standing.guardRuns ? "Accessibility permission revoked: the system waits a second for a tap "
+                                     "that never answers"
+                                   : "Accessibility permission revoked: the guard cannot start",
+                Occurrence::warning};
+    }
+    const std::string granted = "Accessibility permission granted";
+    if (standing.guardRuns) {
+        return {granted + ": the tap answers again", Occurrence::neutral};
+    }
+    if (!standing.isEnabled) {
+        return {granted + "; the guard is off", Occurrence::neutral};
+    }
+    return {granted + (standing.isWatching ? ": Kestrune looks for it once a second"
+                                           : ": Kestrune notices when its menu opens"),
+            Occurrence::neutral};
+}
+
+} // namespace
+
+std::optional<News> newsOfChange(const Standing& before, const Standing& after) {
+    if (before.applicationRuns && !after.applicationRuns) {
+        return newsOfQuit();
+    }
+    if (before.permission != after.permission) {
+        return newsOfPermission(after);
+    }
+    if (before.choice != after.choice && after.pinned) {
+        return newsOfPin(*after.pinned, after.pinnedHasDock);
+    }
+    if (before.isEnabled != after.isEnabled || before.guardRuns != after.guardRuns) {
+        return newsOfGuard(after);
+    }
+    return std::nullopt;
+}
+
+News newsOfChoiceWithoutEffect(const std::string& row) {
+    return {"“" + row + "” leads to a window that Kestrune does not have yet", Occurrence::neutral};
+}
+
+News newsOfClosedMenu(const Standing& standing) {
+    return standing.applicationRuns
+               ? News{"Kestrune's menu does not offer that before its setup is complete", Occurrence::warning}
+               : News{"Kestrune does not run", Occurrence::neutral};
 }
 
 News newsOfUnplugging(const std::string& display, const Whereabouts& before, const Whereabouts& after) {
@@ -89,22 +152,6 @@ News newsOfUnplugging(const std::string& display, const Whereabouts& before, con
 
 News newsOfPlugging(const std::string& display, bool isPrimary) {
     return {display + " was plugged in" + (isPrimary ? " as the primary display" : ""), Occurrence::neutral};
-}
-
-News newsOfRevokedPermission(bool guardIsRunning) {
-    return {guardIsRunning ? "Accessibility permission revoked: the system waits a second for a tap that "
-                             "never answers"
-                           : "Accessibility permission revoked: the guard cannot start",
-            Occurrence::warning};
-}
-
-News newsOfGrantedPermission(bool guardIsRunning, bool guardIsEnabled) {
-    if (guardIsRunning) {
-        return {"Accessibility permission granted: the tap answers again", Occurrence::neutral};
-    }
-    return {guardIsEnabled ? "Accessibility permission granted: the guard looks for it once a second"
-                           : "Accessibility permission granted; the guard is off",
-            Occurrence::neutral};
 }
 
 News newsOfTapTimeout(bool switchedOnAgain) {

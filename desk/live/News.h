@@ -22,8 +22,17 @@ struct Whereabouts {
     bool isPinStored = false;
 };
 
-// Where the guard stands when it wants to act.
-enum class GuardReadiness { running, startsSoon, waitsForPermission };
+// Where the application stands.
+struct Standing {
+    bool applicationRuns = false;
+    bool guardRuns = false;
+    bool isWatching = false; // for the permission
+    bool isEnabled = true;
+    sim::Permission permission = sim::Permission::notListed;
+    std::optional<std::string> pinned; // the display that keeps the Dock
+    bool pinnedHasDock = false;
+    std::optional<std::string> choice; // the stored identifier
+};
 
 News newsOfHeldPointer(const sim::Delivery& delivery, const std::string& display);
 News newsOfDockMove(const std::string& display);
@@ -33,15 +42,23 @@ News newsOfUnansweredEvent(bool switchedOnAgain);
 
 News newsOfPin(const std::string& display, bool hasDock);
 
-// `pinned` is the display that keeps the Dock.
-News newsOfGuardOn(GuardReadiness readiness, const std::optional<std::string>& pinned);
-News newsOfGuardOff();
+News newsOfLaunch(const Standing& standing);
+News newsOfQuit();
+
+// Why the guard acts or does not.
+News newsOfGuard(const Standing& standing);
+
+// What a press of a button or a key has changed; absent when that is nothing.
+std::optional<News> newsOfChange(const Standing& before, const Standing& after);
+
+// A row of a menu was chosen, and nothing has changed.
+News newsOfChoiceWithoutEffect(const std::string& row);
+
+// The menu could not be used for what was asked.
+News newsOfClosedMenu(const Standing& standing);
 
 News newsOfUnplugging(const std::string& display, const Whereabouts& before, const Whereabouts& after);
 News newsOfPlugging(const std::string& display, bool isPrimary);
-
-News newsOfRevokedPermission(bool guardIsRunning);
-News newsOfGrantedPermission(bool guardIsRunning, bool guardIsEnabled);
 
 News newsOfTapTimeout(bool switchedOnAgain);
 News newsOfMargin(double margin);

@@ -18,13 +18,13 @@ constexpr double PictureScale = 2;
 // Long enough for the marks of a scene to fade before the next.
 constexpr sim::Duration Pause = std::chrono::seconds(20);
 
-LiveDeskSetup tourSetup(const Options& options) {
-    LiveDeskSetup setup;
-    setup.displays = options.displays;
-    setup.pinned = options.pinned.value_or(0);
-    setup.guardOn = false;
-    setup.margin = options.margin;
-    return setup;
+// A user's first launch: nothing is granted and nothing is stored.
+std::variant<LiveDeskSetup, InputError> tourSetup(Options options) {
+    options.pinned.reset();
+    options.guardOn.reset();
+    options.defaults.reset();
+    options.isPermissionGranted = false;
+    return setupOf(options);
 }
 
 std::string figures(const Report& before, const Report& after) {
@@ -57,7 +57,11 @@ std::optional<InputError> runTour(const std::string& folder, const Options& opti
     if (failure) {
         return inputError(folder, "expected a folder that can be written: " + failure.message());
     }
-    LiveDesk desk(tourSetup(options));
+    const auto setup = tourSetup(options);
+    if (const auto* error = std::get_if<InputError>(&setup)) {
+        return *error;
+    }
+    LiveDesk desk(std::get<LiveDeskSetup>(setup));
     TourScenes scenes(desk);
     if (!scenes.canBePlayed()) {
         return InputError{

@@ -1,29 +1,28 @@
 #include "desk/live/TourScenes.h"
 
-#include <cmath>
+#include "desk/live/PinnedDisplay.h"
 
 namespace kestrune::desk {
 
 namespace {
 
-constexpr sim::Duration HandStep = std::chrono::milliseconds(8);
-constexpr int GlideSteps = 60;
-constexpr int PushSteps = 90;
-
 // Each takes a second.
 constexpr int UnansweredEvents = 3;
 
-// A hand keeps going this far below the edge, in points.
-constexpr double PushDepth = 24;
+constexpr int DeepeningSteps = 4;
+
+constexpr sim::Duration LongRest = std::chrono::seconds(2);
+constexpr sim::Duration UntilTheWatcherLooks = std::chrono::seconds(1);
 
 } // namespace
 
-TourScenes::TourScenes(LiveDesk& desk) : desk_(desk), first_(desk.host().guard().pinnedScreen()->displayID) {
-    if (!bottomEdge(first_)) {
+TourScenes::TourScenes(LiveDesk& desk)
+    : desk_(desk), hand_(desk), first_(pinnedDisplay(desk.session())->displayID) {
+    if (!hand_.bottomEdge(first_)) {
         return;
     }
     for (const sim::Display& display : desk.session().displays().connected()) {
-        if (!other_ && display.displayID != first_ && bottomEdge(display.displayID)) {
+        if (!other_ && display.displayID != first_ && hand_.bottomEdge(display.displayID)) {
             other_ = display.displayID;
         }
     }
@@ -31,91 +30,169 @@ TourScenes::TourScenes(LiveDesk& desk) : desk_(desk), first_(desk.host().guard()
 
 const std::vector<TourScenes::Scene>& TourScenes::all() {
     static const std::vector<Scene> scenes = {
-        {"two-displays", &TourScenes::showDisplays},
+        {"first-launch", &TourScenes::firstLaunch},
         {"the-dock-leaves", &TourScenes::letDockLeave},
-        {"guard-on", &TourScenes::switchOn},
+        {"menu-before-setup", &TourScenes::openMenuBeforeSetup},
+        {"permission-asked-for", &TourScenes::askForPermission},
+        {"permission-granted", &TourScenes::grantPermission},
+        {"the-dock-comes-home", &TourScenes::bringDockHome},
         {"held", &TourScenes::hold},
         {"held-while-dragging", &TourScenes::holdDrag},
-        {"another-choice", &TourScenes::chooseOther},
+        {"tool-tip", &TourScenes::restToSeeTheToolTip},
+        {"menu-after-setup", &TourScenes::launchAgain},
+        {"choosing-a-display", &TourScenes::chooseOther},
+        {"another-choice", &TourScenes::pushWhereChosen},
+        {"switched-off", &TourScenes::switchOff},
+        {"switched-on", &TourScenes::switchOn},
         {"one-more-display", &TourScenes::plugIn},
         {"deeper-band", &TourScenes::deepen},
         {"pinned-display-unplugged", &TourScenes::unplugPinned},
+        {"plugged-in-again", &TourScenes::plugInAgain},
         {"permission-revoked", &TourScenes::revoke},
-        {"permission-granted", &TourScenes::grant},
+        {"permission-back", &TourScenes::grantAgain},
         {"tap-timeout", &TourScenes::timeOut},
         {"one-display-left", &TourScenes::leaveOneDisplay},
+        {"quit", &TourScenes::quit},
     };
     return scenes;
 }
 
-std::string TourScenes::showDisplays() {
-    glideTo(onDisplay(first_, 0.62, 0.55));
-    return nameOf(first_) + " has the Dock, and nothing keeps it there.";
+std::string TourScenes::firstLaunch() {
+    hand_.glideTo(hand_.onDisplay(first_, 0.62, 0.55));
+    return "Kestrune runs for the first time. Its icon is in every menu bar; nothing keeps the Dock yet.";
 }
 
 std::string TourScenes::letDockLeave() {
-    push(*other_);
+    hand_.push(*other_);
     return "Pushed against the bottom edge of " + nameOf(*other_) + ", the pointer pulls the Dock over.";
 }
 
-std::string TourScenes::switchOn() {
-    desk_.toggleGuard();
-    push(first_);
+std::string TourScenes::openMenuBeforeSetup() {
+    hand_.openMenu(*other_);
+    hand_.pointAtRow("Complete setup");
+    return "Before its setup the menu lists the displays and lets nobody choose one.";
+}
+
+std::string TourScenes::askForPermission() {
+    hand_.clickRow("Complete setup");
+    desk_.askForPermission();
+    hand_.pointAt(DialogButtonTarget{DialogButton::openSystemSettings});
+    desk_.pressButton(DialogButtonTarget{DialogButton::openSystemSettings});
+    return "Moving events needs the Accessibility permission, and the system asks for it.";
+}
+
+std::string TourScenes::grantPermission() {
+    desk_.releaseButton(DialogButtonTarget{DialogButton::openSystemSettings});
+    hand_.click(PaneSwitchTarget{0});
+    desk_.advance(UntilTheWatcherLooks);
+    return "Switched on in System Settings, and within a second the guard runs by itself.";
+}
+
+std::string TourScenes::bringDockHome() {
+    hand_.click(PaneCloseTarget{});
+    hand_.push(first_);
     return "The guard is on. One push brings the Dock home to " + nameOf(first_) + ".";
 }
 
 std::string TourScenes::hold() {
-    push(*other_);
+    hand_.push(*other_);
     return "The same push as before: the pointer is held above the edge, and the Dock stays.";
 }
 
 std::string TourScenes::holdDrag() {
-    push(*other_, EventType::leftMouseDragged);
+    hand_.push(*other_, EventType::leftMouseDragged);
     return "Dragging a window down makes no difference.";
 }
 
+std::string TourScenes::restToSeeTheToolTip() {
+    const auto& connected = desk_.session().displays().connected();
+    const sim::Display* other = desk_.session().displays().withID(*other_);
+    hand_.pointAt(StatusItemTarget{static_cast<std::size_t>(other - connected.data()), 0});
+    desk_.advance(LongRest);
+    return "The pointer rests on the icon.";
+}
+
+std::string TourScenes::launchAgain() {
+    desk_.quitOrLaunch();
+    desk_.quitOrLaunch();
+    // The menu that opens first is the one that was built at launch.
+    hand_.openMenu(first_);
+    hand_.openMenu(first_);
+    hand_.openMenu(first_);
+    hand_.pointAtRow(nameOf(first_));
+    return "Launched again with the permission, the setup is complete and the menu is all there.";
+}
+
 std::string TourScenes::chooseOther() {
-    desk_.pin(*other_);
-    push(*other_);
-    return "Choose " + nameOf(*other_) + " instead, and there the Dock may go.";
+    hand_.pointAtRow(nameOf(*other_));
+    return "Choose the display that keeps the Dock: " + nameOf(*other_) + ".";
+}
+
+std::string TourScenes::pushWhereChosen() {
+    hand_.clickRow(nameOf(*other_));
+    hand_.push(*other_);
+    return "The pin is on " + nameOf(*other_) + " now, and there the Dock may go.";
+}
+
+std::string TourScenes::switchOff() {
+    hand_.openMenu(first_);
+    hand_.clickRow("Disable");
+    hand_.openMenu(first_);
+    hand_.pointAtRow("Enable");
+    return "The menu's switch: off, the Dock goes wherever the pointer pushes it.";
+}
+
+std::string TourScenes::switchOn() {
+    hand_.clickRow("Enable");
+    hand_.push(first_);
+    return "On again, and the choice has stayed: " + nameOf(first_) + " is guarded.";
 }
 
 std::string TourScenes::plugIn() {
     desk_.plugIn();
     const DisplayID added = desk_.session().displays().connected().back().displayID;
-    push(added);
+    hand_.push(added);
     return nameOf(added) + " is plugged in, and guarded from its first event on.";
 }
 
 std::string TourScenes::deepen() {
-    for (int step = 0; step < 4; ++step) {
+    for (int step = 0; step < DeepeningSteps; ++step) {
         desk_.deepenBand();
     }
-    push(first_);
+    hand_.push(first_);
     return "A deeper band keeps the pointer further from the edge.";
 }
 
 std::string TourScenes::unplugPinned() {
-    for (int step = 0; step < 4; ++step) {
+    for (int step = 0; step < DeepeningSteps; ++step) {
         desk_.narrowBand();
     }
     const std::string unplugged = nameOf(*other_);
-    glideTo(onDisplay(*other_, 0.5, 0.5));
+    hand_.glideTo(hand_.onDisplay(*other_, 0.5, 0.5));
     desk_.unplugUnderPointer();
     return unplugged + " is unplugged: the choice falls back to " + pinnedName() + " and is stored.";
 }
 
+std::string TourScenes::plugInAgain() {
+    desk_.plugIn();
+    hand_.openMenu(first_);
+    hand_.pointAtRow(nameOf(*other_));
+    return nameOf(*other_) + " is back. The pin stays where it fell; the menu moves it with one click.";
+}
+
 std::string TourScenes::revoke() {
+    hand_.openMenu(first_);
     desk_.togglePermission();
     for (int event = 0; event < UnansweredEvents; ++event) {
-        desk_.movePointerTowards({desk_.session().pointer().x + PushDepth, desk_.session().pointer().y});
+        const Point pointer = desk_.session().pointer();
+        desk_.movePointerTowards({pointer.x + 24, pointer.y});
     }
     return "Without the Accessibility permission every event waits a second for the tap.";
 }
 
-std::string TourScenes::grant() {
+std::string TourScenes::grantAgain() {
     desk_.togglePermission();
-    push(desk_.session().displays().connected().back().displayID);
+    hand_.push(desk_.session().displays().connected().back().displayID);
     return "Granted again, the tap answers and the guard holds as before.";
 }
 
@@ -126,58 +203,22 @@ std::string TourScenes::timeOut() {
 
 std::string TourScenes::leaveOneDisplay() {
     while (desk_.session().displays().connected().size() > 1) {
-        glideTo(onDisplay(desk_.session().displays().connected().back().displayID, 0.5, 0.5));
+        hand_.glideTo(hand_.onDisplay(desk_.session().displays().connected().back().displayID, 0.5, 0.5));
         desk_.unplugUnderPointer();
     }
-    push(desk_.session().displays().connected().front().displayID);
+    hand_.push(desk_.session().displays().connected().front().displayID);
     return "With one display left there is nothing to guard, and the pointer goes everywhere.";
 }
 
-std::optional<Point> TourScenes::bottomEdge(DisplayID number) {
-    const sim::Displays& displays = desk_.session().displays();
-    const Rect bounds = displays.withID(number)->bounds;
-    // From the middle outwards, so that a picture shows the pointer where people look.
-    for (const double fraction : {0.46, 0.3, 0.7, 0.15, 0.85, 0.02, 0.98}) {
-        const Point edge{std::round(bounds.minX() + fraction * bounds.width()), bounds.maxY()};
-        if (displays.containing(edge) == nullptr && bounds.contains({edge.x, bounds.minY()})) {
-            return edge;
-        }
-    }
-    return std::nullopt;
-}
-
-void TourScenes::glideTo(Point target, EventType type) {
-    const Point start = desk_.session().pointer();
-    for (int step = 1; step <= GlideSteps; ++step) {
-        const double fraction = static_cast<double>(step) / GlideSteps;
-        desk_.advance(HandStep);
-        desk_.movePointerTowards(
-            {start.x + (target.x - start.x) * fraction, start.y + (target.y - start.y) * fraction}, type);
-    }
-}
-
-void TourScenes::push(DisplayID number, EventType type) {
-    const std::optional<Point> edge = bottomEdge(number);
-    if (!edge) {
-        return;
-    }
-    const Rect bounds = desk_.session().displays().withID(number)->bounds;
-    glideTo({edge->x, bounds.minY() + bounds.height() / 2}, type);
-    for (int step = 0; step < PushSteps; ++step) {
-        desk_.advance(HandStep);
-        desk_.movePointerTowards({edge->x, desk_.session().pointer().y + PushDepth}, type);
-    }
-}
-
-Point TourScenes::onDisplay(DisplayID number, double fractionX, double fractionY) {
-    const Rect bounds = desk_.session().displays().withID(number)->bounds;
-    return {bounds.minX() + fractionX * bounds.width(), bounds.minY() + fractionY * bounds.height()};
+std::string TourScenes::quit() {
+    desk_.quitOrLaunch();
+    return "Quit, the icon and the tap are gone; what was chosen is kept for the next launch.";
 }
 
 const std::string& TourScenes::nameOf(DisplayID number) {
     return desk_.session().displays().withID(number)->localizedName;
 }
 
-std::string TourScenes::pinnedName() const { return desk_.host().guard().pinnedScreen()->localizedName; }
+std::string TourScenes::pinnedName() { return pinnedDisplay(desk_.session())->localizedName; }
 
 } // namespace kestrune::desk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desk/live/LiveDesk.h"
+#include "desk/live/TourHand.h"
 
 #include <optional>
 #include <string>
@@ -9,7 +10,8 @@
 
 namespace kestrune::desk {
 
-// Plays the story scene by scene on a desk whose guard is off.
+// Plays the story scene by scene on a desk on which the application was just launched for the first time,
+// without the permission.
 class TourScenes {
 public:
     // The story is about the display that is pinned and another one. `desk` must outlive the scenes.
@@ -25,35 +27,35 @@ public:
     static const std::vector<Scene>& all();
 
 private:
-    std::string showDisplays();
+    std::string firstLaunch();
     std::string letDockLeave();
-    std::string switchOn();
+    std::string openMenuBeforeSetup();
+    std::string askForPermission();
+    std::string grantPermission();
+    std::string bringDockHome();
     std::string hold();
     std::string holdDrag();
+    std::string restToSeeTheToolTip();
+    std::string launchAgain();
     std::string chooseOther();
+    std::string pushWhereChosen();
+    std::string switchOff();
+    std::string switchOn();
     std::string plugIn();
     std::string deepen();
     std::string unplugPinned();
+    std::string plugInAgain();
     std::string revoke();
-    std::string grant();
+    std::string grantAgain();
     std::string timeOut();
     std::string leaveOneDisplay();
+    std::string quit();
 
-    // Where the pointer can be pushed against a display's bottom edge, absent where other displays are below
-    // all of it.
-    std::optional<Point> bottomEdge(DisplayID number);
-
-    // Moves the pointer in small steps, as a hand does.
-    void glideTo(Point target, EventType type = EventType::mouseMoved);
-
-    // Pushes for longer than the Dock waits.
-    void push(DisplayID number, EventType type = EventType::mouseMoved);
-
-    Point onDisplay(DisplayID number, double fractionX, double fractionY);
     const std::string& nameOf(DisplayID number);
-    std::string pinnedName() const;
+    std::string pinnedName();
 
     LiveDesk& desk_;
+    TourHand hand_;
     DisplayID first_;
     std::optional<DisplayID> other_;
 };

@@ -29,7 +29,7 @@ class DeskLayout {
 public:
     static constexpr double HeaderHeight = 64;
     static constexpr double StoryHeight = 56;
-    static constexpr double FooterHeight = 104;
+    static constexpr double FooterHeight = 112;
 
     // A story takes a strip of its own below the header.
     DeskLayout(Size window, std::span<const Rect> displays, bool hasStory = false);

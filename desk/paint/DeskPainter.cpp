@@ -5,6 +5,8 @@
 #include "desk/paint/DisplayPainter.h"
 #include "desk/paint/DockPainter.h"
 #include "desk/paint/HeaderPainter.h"
+#include "desk/paint/MenuBarLayout.h"
+#include "desk/paint/MenuBarPainter.h"
 #include "desk/paint/PointerPainter.h"
 #include "desk/paint/Shapes.h"
 #include "desk/paint/StatusBarPainter.h"
@@ -15,27 +17,16 @@
 namespace kestrune::desk {
 namespace {
 
-DeskPicture withoutWhatMoves(DeskPicture picture) {
-    const DeskPicture nothing;
-    picture.pointer = nothing.pointer;
-    picture.whatHappened = nothing.whatHappened;
-    picture.occurrence = nothing.occurrence;
-    picture.events = nothing.events;
-    picture.held = nothing.held;
-    picture.dockMoves = nothing.dockMoves;
-    picture.heldMark = nothing.heldMark;
-    picture.dockMoveMark = nothing.dockMoveMark;
-    return picture;
-}
-
-void paintScreens(const Canvas& canvas, const DeskLayout& layout, const DeskPicture& picture) {
+void paintScreens(const Canvas& canvas, TextMeasure& measure, ImageStore& images, const DeskLayout& layout,
+                  const DeskPicture& picture) {
     for (std::size_t index = 0; index < picture.displays.size(); ++index) {
         const DisplayPicture& display = picture.displays[index];
         const DisplayPlace* const place = layout.place(index);
         if (!place) {
             continue;
         }
-        paintMenuBar(canvas, *place, layout.scale(), picture.clock);
+        paintMenuBar(canvas, images, *place, menuBarLayout(measure, *place, layout.scale(), picture), picture,
+                     index);
         if (display.bandTop && picture.guard == GuardState::on) {
             paintBand(canvas, *place, *display.bandTop);
         } else if (display.bandTop) {
@@ -93,6 +84,26 @@ void paintPointerAt(cairo_t* context, Point hotSpot, Size window) {
 
 } // namespace
 
+DeskPicture withoutWhatMoves(DeskPicture picture) {
+    const DeskPicture nothing;
+    picture.pointer = nothing.pointer;
+    picture.whatHappened = nothing.whatHappened;
+    picture.occurrence = nothing.occurrence;
+    picture.events = nothing.events;
+    picture.held = nothing.held;
+    picture.dockMoves = nothing.dockMoves;
+    picture.heldMark = nothing.heldMark;
+    picture.dockMoveMark = nothing.dockMoveMark;
+    if (picture.menu) {
+        picture.menu->rows.clear(); // What it hangs from is highlighted in the menu bar.
+    }
+    picture.toolTip = nothing.toolTip;
+    picture.permissionDialog = nothing.permissionDialog;
+    picture.accessibilityPane = nothing.accessibilityPane;
+    picture.pressed = nothing.pressed;
+    return picture;
+}
+
 void DeskPainter::paint(cairo_t* context, const DeskPicture& picture, Size window) {
     const auto isPaintable = [](double length) { return length > 0 && length <= LongestSide; };
     if (!isPaintable(window.width) || !isPaintable(window.height)) {
@@ -108,6 +119,9 @@ void DeskPainter::paint(cairo_t* context, const DeskPicture& picture, Size windo
     paintStatus(canvas, layout, picture);
     if (!layout.isEmpty()) {
         paintMarks(canvas, layout, picture);
+    }
+    systemParts_.paint(canvas, measure_, images_, layout, picture, window);
+    if (!layout.isEmpty()) {
         paintPointerAt(context, layout.toWindow(picture.pointer), window);
     }
 }
@@ -122,7 +136,7 @@ void DeskPainter::paintStill(cairo_t* context, const DeskPicture& picture, const
     if (layout.isEmpty()) {
         paintNoDisplay(canvas, layout);
     } else {
-        paintScreens(canvas, layout, picture);
+        paintScreens(canvas, measure_, images_, layout, picture);
     }
 }
 

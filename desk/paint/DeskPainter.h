@@ -6,11 +6,18 @@
 #include "desk/paint/CairoObjects.h"
 #include "desk/paint/DeskLayout.h"
 #include "desk/paint/DeskPicture.h"
+#include "desk/paint/ImageStore.h"
+#include "desk/paint/SystemPartsPainter.h"
+#include "desk/paint/TextMeasure.h"
 
 #include <cstddef>
 #include <vector>
 
 namespace kestrune::desk {
+
+// The picture, cleared of all that is painted anew each time or kept apart: pictures that differ only in that
+// share everything behind it.
+DeskPicture withoutWhatMoves(DeskPicture picture);
 
 // Keep one for each window: it remembers what stays the same from picture to picture.
 class DeskPainter {
@@ -36,8 +43,11 @@ private:
     void paintStill(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout, Size window);
 
     CachedLayer<Backdrop> backdrop_;
-    // All that does not change with every event; the subject has the rest cleared.
+    // The subject is without what moves.
     CachedLayer<DeskPicture> still_;
+    SystemPartsPainter systemParts_;
+    TextMeasure measure_;
+    ImageStore images_;
 };
 
 } // namespace kestrune::desk

@@ -5,6 +5,8 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "desk/paint/DeskTarget.h"
+#include "desk/paint/SystemPicture.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -76,6 +78,19 @@ struct DeskPicture {
 
     // Text at the trailing end of each menu bar.
     std::string clock;
+    // In the order of the menu bar; the last is next to the clock.
+    std::vector<StatusItemPicture> statusItems;
+    // The first is the application's name. Empty while the application has no main menu.
+    std::vector<std::string> mainMenuTitles;
+
+    // From front to back.
+    std::optional<MenuPicture> menu;
+    std::optional<ToolTipPicture> toolTip;
+    std::optional<PermissionDialogPicture> permissionDialog;
+    std::optional<AccessibilityPanePicture> accessibilityPane;
+    // The button, switch or close button that is held down.
+    std::optional<DeskTarget> pressed;
+
     // A sentence above the displays that tells what the picture is about; may be empty.
     std::string story;
     bool dark = false;

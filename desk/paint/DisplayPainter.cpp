@@ -1,5 +1,6 @@
 #include "desk/paint/DisplayPainter.h"
 
+#include "desk/paint/MenuBarLayout.h"
 #include "desk/paint/Shapes.h"
 #include "desk/paint/SoftShadow.h"
 #include "desk/paint/Wallpaper.h"
@@ -9,6 +10,7 @@
 #include <cmath>
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 namespace kestrune::desk {
 namespace {
@@ -128,47 +130,6 @@ void paintHousing(cairo_t* context, const Palette& palette, const DisplayPlace& 
     paintWallpaper(context, place.screen, wallpaper);
     setColor(context, palette.wallpaperShade);
     cairo_paint(context);
-}
-
-Rect menuBarArea(const DisplayPlace& place, double scale) {
-    const double height =
-        std::round(std::min(std::clamp(24 * scale, 16.0, 24.0), place.screen.height() * 0.12));
-    return {place.screen.minX(), place.screen.minY(), place.screen.width(), height};
-}
-
-void paintMenuBar(const Canvas& canvas, const DisplayPlace& place, double scale, std::string_view clock) {
-    const Rect area = menuBarArea(place, scale);
-    const double height = area.height();
-    if (height < 3) {
-        return;
-    }
-    const SavedState saved{canvas.context};
-    clipToScreen(canvas.context, place);
-    fillRoundedRectangle(canvas.context, area, 0, canvas.palette.menuBar);
-
-    const Color faintText = canvas.palette.menuBarText.withAlpha(0.42);
-    const double middle = area.minY() + height / 2;
-    double x = area.minX() + std::max(place.screenCornerRadius, height * 0.6);
-    fillCircle(canvas.context, {x + height * 0.18, middle}, height * 0.18, canvas.palette.menuBarText);
-    x += height * 0.85;
-    for (const double width : {1.9, 1.2, 1.4, 1.1}) {
-        const Rect title{x, middle - height * 0.09, width * height, height * 0.18};
-        if (title.maxX() > area.minX() + area.width() * 0.5) {
-            break;
-        }
-        fillRoundedRectangle(canvas.context, title, height, faintText);
-        x = title.maxX() + height * 0.55;
-    }
-    constexpr double SmallestLegibleBar = 11;
-    if (height >= SmallestLegibleBar) {
-        canvas.text.paint(clock, {area.maxX() - std::max(place.screenCornerRadius, height * 0.6), middle},
-                          {.size = height * 0.56,
-                           .weight = FontWeight::medium,
-                           .color = canvas.palette.menuBarText,
-                           .alignment = TextAlignment::trailing,
-                           .tabularNumbers = true,
-                           .maximumWidth = area.width() * 0.4});
-    }
 }
 
 CaptionPlace captionPlace(const Canvas& canvas, const DisplayPlace& place, double scale,

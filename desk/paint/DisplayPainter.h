@@ -1,4 +1,4 @@
-// One display: its housing with the wallpaper, the menu bar, and the caption with the pin.
+// One display: its housing with the wallpaper, and the caption with the pin.
 #pragma once
 
 #include "desk/paint/Canvas.h"
@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <string_view>
 
 namespace kestrune::desk {
 
@@ -16,11 +15,6 @@ void paintHousingShadow(cairo_t* context, const Palette& palette, const DisplayP
 
 // The housing and the wallpaper.
 void paintHousing(cairo_t* context, const Palette& palette, const DisplayPlace& place, std::size_t wallpaper);
-
-// In window coordinates, at the top of the screen.
-Rect menuBarArea(const DisplayPlace& place, double scale);
-
-void paintMenuBar(const Canvas& canvas, const DisplayPlace& place, double scale, std::string_view clock);
 
 // Where the caption with a display's name and size stands, and the badge of a pinned display after it, in
 // window coordinates. A display that is drawn too small has no caption, and the badge alone.

@@ -28,6 +28,33 @@ constexpr Color rgb(std::uint32_t hexadecimal, double alpha = 1) {
 // The colour `fraction` of the way from the first to the second.
 Color mix(const Color& first, const Color& second, double fraction);
 
+// Of menus, tool tips, windows and their controls.
+struct SystemColors {
+    Color menuBarHighlight; // behind the title or status item of an open menu
+
+    Color menuPanel;
+    Color toolTipPanel;
+    Color windowPanel;
+    Color panelEdge;      // a hairline around a panel
+    Color panelHighlight; // a hairline inside that
+    Color panelShadow;
+
+    Color text;
+    Color detailText;
+    Color disabledText;
+    Color separator;
+    Color selection; // of a row that keeps its text's colour
+
+    Color groupBox;
+    Color groupBoxEdge;
+
+    Color buttonFace;
+    Color buttonEdge;
+    Color pressedShade; // laid over a control that is held down
+    Color switchTrack;  // while it is off
+    Color windowButton; // one that is disabled
+};
+
 struct Palette {
     Color windowTop;
     Color windowBottom;
@@ -59,6 +86,8 @@ struct Palette {
     Color positive;
     Color caution;
     Color inactive;
+
+    SystemColors system;
 };
 
 const Palette& paletteFor(bool dark);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <vector>
 
 namespace kestrune::desk {
 namespace {
@@ -65,6 +66,70 @@ double keyWidth(const Canvas& canvas, std::string_view key) {
     return std::max(KeyHeight + 2, canvas.text.width(key, keyStyle(canvas.palette)) + 14);
 }
 
+TextStyle actionStyle(const Palette& palette) { return {.size = 12.5, .color = palette.secondaryText}; }
+
+// A hint's parts, measured from the leading end of its line.
+struct KeyPlace {
+    const KeyHint* hint = nullptr;
+    double keyLeft = 0;
+    double keyWidth = 0;
+    double actionLeft = 0;
+    double trailing = 0;
+};
+
+constexpr double HintSpacing = 22;
+constexpr double NarrowHintSpacing = 15;
+
+// The places of the hints if all stood in one line.
+std::vector<KeyPlace> placesInOneLine(const Canvas& canvas, const std::vector<KeyHint>& keys,
+                                      double spacing) {
+    std::vector<KeyPlace> places;
+    double x = 0;
+    for (const KeyHint& hint : keys) {
+        KeyPlace place{.hint = &hint, .keyLeft = x, .keyWidth = keyWidth(canvas, hint.key)};
+        place.actionLeft = place.keyLeft + place.keyWidth + 8;
+        place.trailing = place.actionLeft + canvas.text.width(hint.action, actionStyle(canvas.palette));
+        places.push_back(place);
+        x = place.trailing + spacing;
+    }
+    return places;
+}
+
+KeyPlace shifted(KeyPlace place, double distance) {
+    place.keyLeft += distance;
+    place.actionLeft += distance;
+    place.trailing += distance;
+    return place;
+}
+
+// One line where all hints fit into it, if need be closer together; otherwise two of about the same length.
+// Better no hint than half a hint: those that do not fit into the second line are left out.
+std::vector<std::vector<KeyPlace>> keyLines(const Canvas& canvas, const std::vector<KeyHint>& keys,
+                                            double width) {
+    for (const double spacing : {HintSpacing, NarrowHintSpacing}) {
+        const std::vector<KeyPlace> line = placesInOneLine(canvas, keys, spacing);
+        if (line.empty() || line.back().trailing <= width) {
+            return {line};
+        }
+    }
+    const std::vector<KeyPlace> all = placesInOneLine(canvas, keys, HintSpacing);
+    std::vector<std::vector<KeyPlace>> lines(2);
+    const double half = std::min(width, (all.back().trailing - HintSpacing) / 2);
+    for (const KeyPlace& place : all) {
+        const bool startsInFirstHalf = lines[1].empty() && place.keyLeft <= half && place.trailing <= width;
+        if (startsInFirstHalf) {
+            lines[0].push_back(place);
+            continue;
+        }
+        const KeyPlace below = shifted(place, -all[lines[0].size()].keyLeft);
+        if (below.trailing > width) {
+            break;
+        }
+        lines[1].push_back(below);
+    }
+    return lines;
+}
+
 void paintKeyCap(const Canvas& canvas, std::string_view key, const Rect& face) {
     constexpr double Radius = 5.5;
     const Rect edge{face.minX(), face.minY() + 1.5, face.width(), face.height()};
@@ -98,19 +163,18 @@ void paintKeys(const Canvas& canvas, const DeskLayout& layout, const DeskPicture
     setColor(canvas.context, canvas.palette.hairline);
     cairo_fill(canvas.context);
 
-    const double middle = footer.minY() + 70;
-    const TextStyle style{.size = 12.5, .color = canvas.palette.secondaryText};
-    double x = Margin;
-    for (const KeyHint& hint : picture.keys) {
-        const Rect face{x, middle - KeyHeight / 2, keyWidth(canvas, hint.key), KeyHeight};
-        const double actionLeft = face.maxX() + 8;
-        const double actionRight = actionLeft + canvas.text.width(hint.action, style);
-        if (actionRight > footer.maxX() - Margin) {
-            return; // Better no hint than half a hint.
+    const std::vector<std::vector<KeyPlace>> lines =
+        keyLines(canvas, picture.keys, footer.width() - 2 * Margin);
+    constexpr double LineDistance = 27;
+    double middle = footer.minY() + (lines.size() > 1 ? 64 : 74);
+    for (const std::vector<KeyPlace>& line : lines) {
+        for (const KeyPlace& place : line) {
+            paintKeyCap(canvas, place.hint->key,
+                        {Margin + place.keyLeft, middle - KeyHeight / 2, place.keyWidth, KeyHeight});
+            canvas.text.paint(place.hint->action, {Margin + place.actionLeft, middle},
+                              actionStyle(canvas.palette));
         }
-        paintKeyCap(canvas, hint.key, face);
-        canvas.text.paint(hint.action, {actionLeft, middle}, style);
-        x = actionRight + 22;
+        middle += LineDistance;
     }
 }
 

@@ -87,10 +87,22 @@ void TextPainter::paintParagraph(std::string_view text, const Rect& area, const 
     pango_layout_set_height(layout_.get(), toPango(area.height()));
     pango_layout_set_wrap(layout_.get(), PANGO_WRAP_WORD_CHAR);
     pango_layout_set_alignment(layout_.get(), PANGO_ALIGN_CENTER);
-    int height = 0;
-    pango_layout_get_size(layout_.get(), nullptr, &height);
     setColor(context_, style.color);
-    cairo_move_to(context_, area.minX(), area.minY() + (area.height() - fromPango(height)) / 2);
+    cairo_move_to(context_, area.minX(), area.minY() + (area.height() - preparedHeight()) / 2);
+    fillPrepared();
+}
+
+double TextPainter::wrappedHeight(std::string_view text, double width, int maximumLines,
+                                  const TextStyle& style) {
+    prepareWrapped(text, width, maximumLines, style);
+    return preparedHeight();
+}
+
+void TextPainter::paintWrapped(std::string_view text, Point topLeft, double width, int maximumLines,
+                               const TextStyle& style) {
+    prepareWrapped(text, width, maximumLines, style);
+    setColor(context_, style.color);
+    cairo_move_to(context_, topLeft.x, topLeft.y);
     fillPrepared();
 }
 
@@ -122,6 +134,14 @@ void TextPainter::prepare(std::string_view text, const TextStyle& style) {
     pango_layout_set_text(layout_.get(), valid.get(), -1);
 }
 
+void TextPainter::prepareWrapped(std::string_view text, double width, int maximumLines,
+                                 const TextStyle& style) {
+    prepare(text, style);
+    pango_layout_set_width(layout_.get(), toPango(width));
+    pango_layout_set_height(layout_.get(), -maximumLines); // Pango takes a negative height as lines.
+    pango_layout_set_wrap(layout_.get(), PANGO_WRAP_WORD_CHAR);
+}
+
 void TextPainter::fillPrepared() {
     // Cached glyph images would be placed on whole pixels, which makes small text uneven.
     pango_cairo_layout_path(context_, layout_.get());
@@ -132,6 +152,12 @@ double TextPainter::preparedWidth() const {
     int width = 0;
     pango_layout_get_size(layout_.get(), &width, nullptr);
     return fromPango(width);
+}
+
+double TextPainter::preparedHeight() const {
+    int height = 0;
+    pango_layout_get_size(layout_.get(), nullptr, &height);
+    return fromPango(height);
 }
 
 } // namespace kestrune::desk

@@ -40,13 +40,20 @@ public:
     // Paints text that wraps, centred in the area both ways; what does not fit ends in an ellipsis.
     void paintParagraph(std::string_view text, const Rect& area, const TextStyle& style);
 
+    // Text that wraps at `width` and ends in an ellipsis after `maximumLines`.
+    double wrappedHeight(std::string_view text, double width, int maximumLines, const TextStyle& style);
+    void paintWrapped(std::string_view text, Point topLeft, double width, int maximumLines,
+                      const TextStyle& style);
+
     // The family of the font file that text is really set in.
     std::string resolvedFamily();
 
 private:
     void prepare(std::string_view text, const TextStyle& style);
+    void prepareWrapped(std::string_view text, double width, int maximumLines, const TextStyle& style);
     void fillPrepared();
     double preparedWidth() const;
+    double preparedHeight() const;
 
     cairo_t* context_;
     TextLayoutHandle layout_;

@@ -7,7 +7,7 @@ namespace kestrune::desk {
 namespace {
 
 // Any margin that is not greater than 0 stands for this one.
-constexpr double UsualMargin = 4;
+constexpr double UsualMargin = DockGuardController::DefaultBlockMargin;
 
 sim::SessionOptions sessionOptions(const DeskSetup& setup) {
     sim::SessionOptions options;
@@ -40,9 +40,8 @@ std::vector<sim::Display> connectDisplays(const std::vector<Rect>& bounds) {
 }
 
 SimulatedDesk::SimulatedDesk(const DeskSetup& setup)
-    : judged_(judgedDesk(setup)), session_(sessionOptions(setup)) {
+    : judged_(judgedDesk(setup)), session_(sessionOptions(setup)), host_(session_) {
     session_.dock().place(static_cast<DisplayID>(setup.pinned + 1));
-    host_.startIfAllowed();
 }
 
 std::size_t SimulatedDesk::dockDisplay() { return session_.dock().display().value_or(1) - 1; }

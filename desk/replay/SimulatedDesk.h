@@ -1,8 +1,8 @@
-// A simulated session with the guard on it, set up from the options of the command line.
+// A simulated session with the application on it, set up from the options of the command line.
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/replay/GuardHost.h"
+#include "desk/replay/ApplicationHost.h"
 #include "desk/replay/Judge.h"
 #include "sim/Session.h"
 
@@ -22,13 +22,13 @@ struct DeskSetup {
 // Displays with the names that macOS would give them.
 std::vector<sim::Display> connectDisplays(const std::vector<Rect>& bounds);
 
-// The session, the application's part and the Dock, which starts on the pinned display.
+// The session with the permission granted, the application and the Dock, which starts on the pinned display.
 class SimulatedDesk {
 public:
     explicit SimulatedDesk(const DeskSetup& setup);
 
     sim::Session& session() { return session_; }
-    GuardHost& host() { return host_; }
+    ApplicationHost& host() { return host_; }
 
     // The setup as the judge sees it.
     const JudgedDesk& judged() const { return judged_; }
@@ -39,7 +39,7 @@ public:
 private:
     JudgedDesk judged_;
     sim::Session session_;
-    GuardHost host_;
+    ApplicationHost host_;
 };
 
 } // namespace kestrune::desk

@@ -5,10 +5,12 @@
 #include "desk/live/LivePicture.h"
 #include "desk/live/OpenDesk.h"
 #include "desk/live/Tour.h"
+#include "desk/paint/DeskHitTest.h"
 #include "desk/paint/DeskLayout.h"
 #include "desk/window/WindowCanvas.h"
 
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <optional>
 #include <string>
@@ -57,6 +59,28 @@ char deskKey(SDL_Keycode key) {
     }
 }
 
+// The keys of menus and dialogs.
+std::optional<NavigationKey> navigationKey(SDL_Keycode key) {
+    switch (key) {
+    case SDLK_UP:
+        return NavigationKey::up;
+    case SDLK_DOWN:
+        return NavigationKey::down;
+    case SDLK_LEFT:
+        return NavigationKey::left;
+    case SDLK_RIGHT:
+        return NavigationKey::right;
+    case SDLK_RETURN:
+    case SDLK_KP_ENTER:
+    case SDLK_SPACE:
+        return NavigationKey::enter;
+    case SDLK_ESCAPE:
+        return NavigationKey::escape;
+    default:
+        return std::nullopt;
+    }
+}
+
 class DeskWindow {
 public:
     DeskWindow(WindowCanvas canvas, LiveDesk& desk, const Options& options)
@@ -97,7 +121,17 @@ private:
             isClosed_ = true;
             break;
         case SDL_KEYDOWN:
-            press(event.key.keysym.sym, event.key.repeat != 0);
+            press(event.key);
+            break;
+        case SDL_MOUSEBUTTONDOWN:
+            if (event.button.button == SDL_BUTTON_LEFT) {
+                desk_.pressButton(targetAt(placeOf(event.button)));
+            }
+            break;
+        case SDL_MOUSEBUTTONUP:
+            if (event.button.button == SDL_BUTTON_LEFT) {
+                desk_.releaseButton(targetAt(placeOf(event.button)));
+            }
             break;
         case SDL_MOUSEMOTION:
             handleMotion(event.motion);
@@ -117,21 +151,55 @@ private:
     }
 
     void handleMotion(const SDL_MouseMotionEvent& motion) {
-        const Point place{static_cast<double>(motion.x), static_cast<double>(motion.y)};
+        const Point place = placeOf(motion);
         const DeskLayout layout = DeskLayout::of(pictureOf(desk_), canvas_.size());
-        // The simulated pointer stands in for the real one where the displays are.
-        SDL_ShowCursor(layout.isEmpty() || !layout.content().contains(place) ? SDL_ENABLE : SDL_DISABLE);
+        const std::optional<DeskTarget> target = targetAt(place);
         hand_.moveTo(layout.toGlobal(place), motionType(motion.state), elapsed());
+        desk_.hover(target);
+        // The simulated pointer stands in for the real one where the displays are, but cannot follow it over
+        // a menu that reaches beyond them.
+        const bool isBesideDisplays =
+            layout.isEmpty() || !layout.content().contains(place) || (target && !isOnDisplay(layout, place));
+        SDL_ShowCursor(isBesideDisplays ? SDL_ENABLE : SDL_DISABLE);
     }
 
-    void press(SDL_Keycode key, bool repeats) {
-        const char character = deskKey(key);
-        if (repeats && character != '+' && character != '-') {
+    static bool isOnDisplay(const DeskLayout& layout, Point place) {
+        const Point nearest = layout.toWindow(layout.toGlobal(place));
+        return std::abs(nearest.x - place.x) < 1 && std::abs(nearest.y - place.y) < 1;
+    }
+
+    template <typename MouseEvent>
+    static Point placeOf(const MouseEvent& event) {
+        return {static_cast<double>(event.x), static_cast<double>(event.y)};
+    }
+
+    std::optional<DeskTarget> targetAt(Point place) {
+        return hitTest_.targetAt(pictureOf(desk_), canvas_.size(), place);
+    }
+
+    void press(const SDL_KeyboardEvent& event) {
+        const SDL_Keycode key = event.keysym.sym;
+        const auto navigation = navigationKey(key);
+        if (navigation && desk_.navigate(*navigation)) {
             return;
         }
+        const char character = deskKey(key);
+        if (event.repeat != 0 && character != '+' && character != '-') {
+            return;
+        }
+        // Command; keyboards that are not a Mac's have Control where its hand looks for it.
+        if ((event.keysym.mod & (KMOD_CTRL | KMOD_GUI)) != 0) {
+            if (character != '\0') {
+                desk_.pressEquivalent(std::string(1, character), (event.keysym.mod & KMOD_SHIFT) != 0);
+            }
+            return;
+        }
+        pressPlain(key, character);
+    }
+
+    void pressPlain(SDL_Keycode key, char character) {
         switch (key) {
         case SDLK_q:
-        case SDLK_ESCAPE:
             isClosed_ = true;
             break;
         case SDLK_d:
@@ -161,6 +229,7 @@ private:
     const Options& options_;
     const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     Hand hand_;
+    DeskHitTest hitTest_;
     bool isDark_;
     bool hidesKeys_ = false;
     bool isClosed_ = false;

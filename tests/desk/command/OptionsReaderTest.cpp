@@ -62,6 +62,30 @@ TEST(OptionsReader, ReadsWhatTheOtherCommandsTake) {
     EXPECT_EQ(read({"--guard", "on"}).guardOn, true);
 }
 
+TEST(OptionsReader, ReadsWhatALaunchTakes) {
+    EXPECT_FALSE(read({}).launch);
+    EXPECT_TRUE(read({}).isPermissionGranted);
+    EXPECT_TRUE(read({"--launch"}).launch);
+    EXPECT_TRUE(read({"--permission", "granted"}).isPermissionGranted);
+    EXPECT_FALSE(read({"--permission", "missing"}).isPermissionGranted);
+    const Options options = read({"--launch", "--permission", "missing", "--defaults", "kestrune.plist",
+                                  "--guard", "off", "--pin", "2"});
+    EXPECT_TRUE(options.launch);
+    EXPECT_FALSE(options.isPermissionGranted);
+    EXPECT_EQ(options.defaults, "kestrune.plist");
+    EXPECT_EQ(options.guardOn, false);
+    EXPECT_EQ(options.pinned, 1U);
+}
+
+TEST(OptionsReader, TellsOfEveryOptionInItsHelp) {
+    for (const std::string_view option :
+         {"--tour", "--replay", "--generate", "--launch", "--displays", "--pin", "--guard", "--margin",
+          "--permission", "--defaults", "--dark", "--report", "--screenshot", "--emit", "--seed", "--rows",
+          "--size"}) {
+        EXPECT_NE(helpText().find(" " + std::string(option) + " "), std::string_view::npos) << option;
+    }
+}
+
 TEST(OptionsReader, CountsDisplaysFromOneWhereverThePinStands) {
     EXPECT_EQ(read({"--pin", "3", "--displays", "9x9+0+0,9x9+9+0,9x9+18+0"}).pinned, 2U);
     EXPECT_EQ(refusalOf({"--pin", "3"}), "--pin: expected a display number from 1 to 2, found \"3\"");
@@ -84,6 +108,12 @@ TEST(OptionsReader, RefusesAnOptionWithoutValueAndOneThatStandsTwice) {
 
 TEST(OptionsReader, RefusesUnusableValues) {
     EXPECT_EQ(refusalOf({"--guard", "yes"}), "--guard: expected on or off, found \"yes\"");
+    EXPECT_EQ(refusalOf({"--permission", "perhaps"}),
+              "--permission: expected granted or missing, found \"perhaps\"");
+    EXPECT_EQ(refusalOf({"--permission", ""}), "--permission: expected granted or missing, found \"\"");
+    EXPECT_EQ(refusalOf({"--permission"}), "--permission: expected a value after it");
+    EXPECT_EQ(refusalOf({"--permission", "granted", "--permission", "missing"}),
+              "--permission: expected once, found twice");
     EXPECT_EQ(refusalOf({"--report", "xml"}), "--report: expected json, found \"xml\"");
     for (const std::string_view margin : {"wide", "inf", "nan", "", "4pt", "1e999"}) {
         EXPECT_EQ(refusalOf({"--margin", margin}),
@@ -107,7 +137,17 @@ TEST(OptionsReader, RefusesUnusableValues) {
 
 TEST(OptionsReader, RefusesOptionsThatDoNotGoTogether) {
     EXPECT_EQ(refusalOf({"--replay", "a", "--tour", "b"}),
-              "expected only one of --replay, --tour and --generate");
+              "expected only one of --replay, --tour, --generate and --launch");
+    EXPECT_EQ(refusalOf({"--launch", "--tour", "b"}),
+              "expected only one of --replay, --tour, --generate and --launch");
+    EXPECT_EQ(refusalOf({"--replay", "a", "--launch"}),
+              "expected only one of --replay, --tour, --generate and --launch");
+    EXPECT_EQ(refusalOf({"--launch", "--generate", "a"}),
+              "expected only one of --replay, --tour, --generate and --launch");
+    for (const std::string_view mode : {"--replay", "--tour", "--generate"}) {
+        EXPECT_EQ(refusalOf({mode, "a", "--permission", "granted"}),
+                  "--permission: expected without --replay, --tour and --generate");
+    }
     EXPECT_EQ(refusalOf({"--replay", "a", "--defaults", "b"}),
               "--defaults: expected without --replay, --tour and --generate");
     EXPECT_EQ(refusalOf({"--emit", "a"}), "--emit: expected together with --replay");

@@ -23,7 +23,28 @@ TEST(DeskKeys, DoWhatTheLegendSays) {
     EXPECT_EQ(newsAfter('+'), "The guarded band is 8 points deep");
     EXPECT_EQ(newsAfter('-'), "The guarded band is 2 points deep");
     EXPECT_EQ(newsAfter('u').substr(0, 30), "Built-in Display was unplugged");
-    EXPECT_EQ(newsAfter('a').substr(0, 32), "Accessibility permission revoked");
+    EXPECT_EQ(newsAfter('a').substr(0, 23), "The system does not ask");
+    EXPECT_EQ(newsAfter('l'), "Kestrune has quit: the Dock goes wherever the pointer pushes it");
+}
+
+TEST(DeskKeys, OpenTheMenu) {
+    LiveDesk desk({});
+    EXPECT_TRUE(pressDeskKey(desk, 'm'));
+    EXPECT_TRUE(desk.parts().isMenuOpen());
+}
+
+TEST(DeskKeys, LaunchAnApplicationThatHasQuit) {
+    LiveDesk desk({});
+    pressDeskKey(desk, 'l');
+    EXPECT_FALSE(desk.host().isRunning());
+    for (const char key : {'1', 'g', 'm', 'a'}) {
+        desk.announce({});
+        EXPECT_TRUE(pressDeskKey(desk, key));
+        EXPECT_EQ(desk.news().text, "Kestrune does not run") << key;
+    }
+    pressDeskKey(desk, 'l');
+    EXPECT_TRUE(desk.host().guardIsRunning());
+    EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
 }
 
 TEST(DeskKeys, LeaveTheDeskAloneWhenTheyMeanNothingToIt) {
@@ -41,7 +62,7 @@ TEST(DeskKeys, AreAllInTheLegend) {
         EXPECT_FALSE(hint.action.empty());
         keys += hint.key + " ";
     }
-    EXPECT_EQ(keys, "1–9 G U P A T + − D S H Q ");
+    EXPECT_EQ(keys, "1–9 G M U P A T + − L D S H Q ");
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace kestrune::desk {
 namespace {
 
@@ -16,7 +18,7 @@ TEST(LiveDesk, StartsWithTheDockOnThePinnedDisplay) {
     EXPECT_EQ(desk.session().dock().display(), 2U);
     EXPECT_EQ(desk.report().dockDisplay, 1U);
     EXPECT_EQ(desk.news().text, "Guard on: only Display 2 may have the Dock");
-    EXPECT_TRUE(desk.host().guard().isRunning());
+    EXPECT_TRUE(desk.host().guardIsRunning());
 }
 
 TEST(LiveDesk, StartsWithTheDockOnTheMainDisplayWhenNoneWasChosen) {
@@ -102,14 +104,14 @@ TEST(LiveDesk, SwitchesTheGuardOffAndOn) {
     LiveDesk desk({});
     desk.toggleGuard();
     EXPECT_EQ(desk.news().text, "Guard off: the Dock goes wherever the pointer pushes it");
-    EXPECT_FALSE(desk.host().guard().isRunning());
+    EXPECT_FALSE(desk.host().guardIsRunning());
     EXPECT_EQ(storedText(desk, "isEnabled"), "0");
     push(desk, Display2Edge);
     EXPECT_EQ(desk.report().dockMoves, 1U);
 
     desk.toggleGuard();
     EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
-    EXPECT_TRUE(desk.host().guard().isRunning());
+    EXPECT_TRUE(desk.host().guardIsRunning());
     push(desk, BuiltInEdge);
     push(desk, Display2Edge);
     EXPECT_EQ(desk.report().dockMoves, 2U);
@@ -278,6 +280,111 @@ TEST(LiveDesk, FindsTheNextPowerOfTwoFromAnyMargin) {
     LiveDesk desk(setup);
     desk.narrowBand();
     EXPECT_EQ(storedText(desk, "blockMargin"), "4");
+}
+
+void click(LiveDesk& desk, const DeskTarget& target) {
+    desk.pressButton(target);
+    desk.releaseButton(target);
+}
+
+// Of the row of the open menu with that title at its beginning, spaces aside.
+DeskTarget menuRow(LiveDesk& desk, std::string_view title) {
+    const auto rows = desk.session().menus().rows();
+    const auto row = std::find_if(rows.begin(), rows.end(), [title](const sim::MenuRow& candidate) {
+        return candidate.title.find(title) < 3;
+    });
+    EXPECT_NE(row, rows.end()) << title;
+    return MenuRowTarget{static_cast<std::size_t>(row - rows.begin())};
+}
+
+// Past the menu that was built at launch, before the setup was noted.
+void openMenu(LiveDesk& desk) {
+    desk.openStatusMenu();
+    desk.openStatusMenu();
+}
+
+TEST(LiveDesk, TellsWhatWasChosenInTheMenu) {
+    LiveDesk desk({});
+    openMenu(desk);
+    click(desk, menuRow(desk, "Display 2"));
+    EXPECT_EQ(desk.news().text, "Display 2 is pinned: push into its bottom edge, and the Dock comes");
+    EXPECT_EQ(storedText(desk, "pinnedScreenUUID"), sim::uuidOfDisplay(2));
+    openMenu(desk);
+    click(desk, menuRow(desk, "Disable"));
+    EXPECT_EQ(desk.news().text, "Guard off: the Dock goes wherever the pointer pushes it");
+    openMenu(desk);
+    click(desk, menuRow(desk, "Enable"));
+    EXPECT_EQ(desk.news().text, "Guard on: only Display 2 may have the Dock");
+    openMenu(desk);
+    click(desk, menuRow(desk, "Settings…"));
+    EXPECT_EQ(desk.news().text, "“Settings…” leads to a window that Kestrune does not have yet");
+    openMenu(desk);
+    click(desk, menuRow(desk, "Quit"));
+    EXPECT_EQ(desk.news().text, "Kestrune has quit: the Dock goes wherever the pointer pushes it");
+    EXPECT_FALSE(desk.host().isRunning());
+}
+
+TEST(LiveDesk, TellsOfTheMarkedDisplayThatItIsPinned) {
+    LiveDesk desk({});
+    for (const char* time : {"the first time", "again"}) {
+        openMenu(desk);
+        click(desk, menuRow(desk, "Built-in Display"));
+        EXPECT_EQ(desk.news().text, "Built-in Display is pinned and has the Dock") << time;
+        desk.announce({});
+    }
+}
+
+TEST(LiveDesk, ClosesTheMenuWhenDisplaysComeOrGo) {
+    LiveDesk desk({});
+    desk.movePointerTowards({2000, 400});
+    desk.openStatusMenu();
+    EXPECT_EQ(desk.displayUnderPointer(), 1U);
+    desk.unplugUnderPointer();
+    EXPECT_FALSE(desk.parts().isMenuOpen());
+    EXPECT_FALSE(desk.navigate(NavigationKey::down)) << "no key goes to a menu that nobody sees";
+    desk.openStatusMenu();
+    desk.plugIn();
+    EXPECT_FALSE(desk.parts().isMenuOpen());
+}
+
+TEST(LiveDesk, QuitsByKeyEquivalentWhileTheMenuIsOpen) {
+    LiveDesk desk({});
+    desk.pressEquivalent("q", false);
+    EXPECT_TRUE(desk.host().isRunning()) << "an accessory does not hear keys";
+    desk.openStatusMenu();
+    desk.pressEquivalent("q", false);
+    EXPECT_FALSE(desk.host().isRunning());
+    EXPECT_EQ(desk.news().text, "Kestrune has quit: the Dock goes wherever the pointer pushes it");
+    push(desk, Display2Edge);
+    EXPECT_EQ(desk.report().dockMoves, 1U);
+    EXPECT_EQ(desk.report().violations, 0U);
+}
+
+TEST(LiveDesk, LaunchesTheApplicationAgainWithWhatItHadStored) {
+    LiveDesk desk({});
+    desk.pin(2);
+    desk.quitOrLaunch();
+    EXPECT_EQ(desk.news().text, "Kestrune has quit: the Dock goes wherever the pointer pushes it");
+    desk.openStatusMenu();
+    EXPECT_EQ(desk.news().text, "Kestrune does not run");
+    desk.quitOrLaunch();
+    EXPECT_EQ(desk.news().text, "Guard on: only Display 2 may have the Dock");
+    push(desk, BuiltInEdge);
+    EXPECT_EQ(desk.news().text, "Held at 977 on Built-in Display");
+}
+
+TEST(LiveDesk, SwitchesThePermissionInThePane) {
+    LiveDeskSetup setup;
+    setup.permission = sim::Permission::notListed;
+    LiveDesk desk(setup);
+    desk.askForPermission();
+    click(desk, DialogButtonTarget{DialogButton::openSystemSettings});
+    click(desk, PaneSwitchTarget{0});
+    EXPECT_EQ(desk.news().text, "Accessibility permission granted: Kestrune looks for it once a second");
+    desk.advance(std::chrono::seconds(1));
+    EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
+    click(desk, PaneSwitchTarget{0});
+    EXPECT_EQ(desk.news().text.substr(0, 32), "Accessibility permission revoked");
 }
 
 TEST(LiveDesk, TellsWhatIsAnnounced) {

@@ -36,23 +36,75 @@ TEST(LivePermission, LetsTheTapAnswerAgainWhenItIsGrantedAgain) {
     EXPECT_EQ(desk.news().text, "Held at 977 on Display 2");
 }
 
-TEST(LivePermission, IsLookedForOnceASecondByAGuardThatDoesNotRun) {
+LiveDeskSetup withoutPermission() {
+    LiveDeskSetup setup;
+    setup.permission = sim::Permission::notListed;
+    return setup;
+}
+
+TEST(LivePermission, IsLookedForOnceASecondAfterALaunchWithoutIt) {
+    LiveDesk desk(withoutPermission());
+    EXPECT_EQ(desk.news().text, "Kestrune has started and waits for the Accessibility permission");
+    EXPECT_EQ(desk.news().kind, Occurrence::warning);
+    desk.advance(3 * Second);
+    EXPECT_FALSE(desk.host().guardIsRunning());
+
+    desk.togglePermission();
+    EXPECT_EQ(desk.news().text, "Accessibility permission granted: Kestrune looks for it once a second");
+    desk.advance(Second - sim::Duration(1));
+    EXPECT_FALSE(desk.host().guardIsRunning());
+    desk.advance(sim::Duration(1));
+    EXPECT_TRUE(desk.host().guardIsRunning());
+    EXPECT_FALSE(desk.host().isWatchingAccessibility());
+    EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
+}
+
+TEST(LivePermission, IsNoticedAtOnceWhenTheMenuOpens) {
+    LiveDesk desk(withoutPermission());
+    desk.togglePermission();
+    desk.openStatusMenu();
+    EXPECT_TRUE(desk.host().guardIsRunning());
+    EXPECT_FALSE(desk.host().isWatchingAccessibility());
+    EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
+}
+
+TEST(LivePermission, IsNotLookedForWhileTheMenuIsOpen) {
+    LiveDesk desk(withoutPermission());
+    desk.openStatusMenu();
+    desk.togglePermission();
+    desk.advance(3 * Second);
+    EXPECT_FALSE(desk.host().guardIsRunning());
+    desk.navigate(NavigationKey::escape);
+    EXPECT_TRUE(desk.host().guardIsRunning());
+    EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
+}
+
+TEST(LivePermission, IsOnlyNoticedByTheMenuOnceItWasThere) {
     LiveDesk desk(unguarded());
     desk.togglePermission();
     EXPECT_EQ(desk.news().text, "Accessibility permission revoked: the guard cannot start");
-    desk.toggleGuard();
-    EXPECT_EQ(desk.news().text, "Guard on, but it waits for the Accessibility permission");
-    EXPECT_EQ(desk.news().kind, Occurrence::warning);
-    desk.advance(3 * Second);
-    EXPECT_FALSE(desk.host().guard().isRunning());
-
+    // The menu offers no switch now, but another process can turn it.
+    desk.session().defaults().set("isEnabled", sim::PropertyList{true});
     desk.togglePermission();
-    EXPECT_EQ(desk.news().text, "Accessibility permission granted: the guard looks for it once a second");
-    desk.advance(Second - sim::Duration(1));
-    EXPECT_FALSE(desk.host().guard().isRunning());
-    desk.advance(sim::Duration(1));
-    EXPECT_TRUE(desk.host().guard().isRunning());
+    EXPECT_EQ(desk.news().text, "Accessibility permission granted: Kestrune notices when its menu opens");
+    desk.advance(5 * Second);
+    EXPECT_FALSE(desk.host().guardIsRunning());
+    desk.openStatusMenu();
+    EXPECT_TRUE(desk.host().guardIsRunning());
     EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
+}
+
+TEST(LivePermission, IsNeededForTheSwitchAndTheDisplaysOfTheMenu) {
+    LiveDesk desk(withoutPermission());
+    const std::string refusal = "Kestrune's menu does not offer that before its setup is complete";
+    desk.toggleGuard();
+    EXPECT_EQ(desk.news().text, refusal);
+    EXPECT_EQ(desk.news().kind, Occurrence::warning);
+    EXPECT_EQ(storedText(desk, "isEnabled"), "");
+    desk.announce({});
+    desk.pin(2);
+    EXPECT_EQ(desk.news().text, refusal);
+    EXPECT_EQ(storedText(desk, "pinnedScreenUUID"), "");
 }
 
 TEST(LivePermission, StartsNoGuardThatIsOff) {
@@ -61,19 +113,40 @@ TEST(LivePermission, StartsNoGuardThatIsOff) {
     desk.togglePermission();
     EXPECT_EQ(desk.news().text, "Accessibility permission granted; the guard is off");
     desk.advance(5 * Second);
-    EXPECT_FALSE(desk.host().guard().isRunning());
+    desk.openStatusMenu();
+    EXPECT_FALSE(desk.host().guardIsRunning());
 }
 
-TEST(LivePermission, LeavesAGuardThatTheSystemRefusesATapToTheNextSecond) {
+TEST(LivePermission, IsAskedForByDialogAndPane) {
+    LiveDesk desk(withoutPermission());
+    desk.askForPermission();
+    EXPECT_EQ(desk.news().text, "Kestrune asks for the Accessibility permission");
+    EXPECT_TRUE(desk.session().accessibility().isDialogShown());
+    EXPECT_TRUE(desk.session().accessibility().isPaneShown());
+    desk.quitOrLaunch();
+    desk.askForPermission();
+    EXPECT_EQ(desk.news().text, "Kestrune does not run");
+}
+
+TEST(LivePermission, IsNotAskedForWhenItIsThere) {
+    LiveDesk desk({});
+    desk.askForPermission();
+    EXPECT_EQ(desk.news().text, "The system does not ask: Kestrune counts as trusted already");
+    EXPECT_FALSE(desk.session().accessibility().isDialogShown());
+    EXPECT_TRUE(desk.session().accessibility().isPaneShown());
+}
+
+TEST(LivePermission, GivesNoTapThatTheSystemRefuses) {
     LiveDesk desk(unguarded());
     desk.session().refuseTapCreation(true);
     desk.toggleGuard();
-    EXPECT_EQ(desk.news().text, "Guard on: it starts within a second");
-    desk.advance(2 * Second);
-    EXPECT_FALSE(desk.host().guard().isRunning());
+    EXPECT_EQ(desk.news().text, "Guard on, but the system gave it no event tap");
+    EXPECT_EQ(desk.news().kind, Occurrence::warning);
     desk.session().refuseTapCreation(false);
-    desk.advance(Second);
-    EXPECT_TRUE(desk.host().guard().isRunning());
+    desk.advance(3 * Second);
+    EXPECT_FALSE(desk.host().guardIsRunning()) << "nobody tries again by the clock";
+    desk.openStatusMenu();
+    EXPECT_TRUE(desk.host().guardIsRunning());
 }
 
 TEST(LivePermission, SurvivesATapTimeout) {

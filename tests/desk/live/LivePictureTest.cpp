@@ -56,9 +56,18 @@ TEST(LivePicture, ShowsTheStateOfTheGuard) {
     LiveDesk desk({});
     desk.togglePermission();
     EXPECT_EQ(pictureOf(desk).guard, GuardState::noPermission);
+    desk.togglePermission();
     desk.toggleGuard();
     EXPECT_EQ(pictureOf(desk).guard, GuardState::off);
-    desk.toggleGuard();
+    desk.quitOrLaunch();
+    EXPECT_EQ(pictureOf(desk).guard, GuardState::off);
+}
+
+TEST(LivePicture, ShowsAGuardThatWaitsForTheNextLookAtThePermission) {
+    LiveDeskSetup setup;
+    setup.permission = sim::Permission::switchedOff;
+    LiveDesk desk(setup);
+    EXPECT_EQ(pictureOf(desk).guard, GuardState::noPermission);
     desk.togglePermission();
     EXPECT_EQ(pictureOf(desk).guard, GuardState::off) << "it has not started yet";
     desk.advance(std::chrono::seconds(1));

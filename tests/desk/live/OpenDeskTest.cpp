@@ -1,6 +1,7 @@
 #include "desk/live/OpenDesk.h"
 
 #include "sim/DefaultsFile.h"
+#include "sim/StatusItemState.h"
 #include "tests/desk/live/LiveFixture.h"
 #include "tests/desk/recording/TemporaryFolder.h"
 
@@ -38,15 +39,41 @@ std::string contentOf(const std::filesystem::path& path) {
 TEST(OpenDesk, NeedsNoFile) {
     const auto desk = opened({});
     ASSERT_TRUE(desk);
-    EXPECT_TRUE(desk->session().defaults().entries().empty());
+    EXPECT_TRUE(desk->host().guardIsRunning());
+    EXPECT_EQ(storedText(*desk, "pinnedScreenUUID"), "");
 }
 
-TEST(OpenDesk, MakesNoFileBeforeSomethingIsChosen) {
+TEST(OpenDesk, LaunchesTheApplicationWithoutThePermissionWhenItIsToBeMissing) {
+    Options options;
+    options.isPermissionGranted = false;
+    const auto desk = opened(options);
+    EXPECT_EQ(desk->news().text, "Kestrune has started and waits for the Accessibility permission");
+    EXPECT_FALSE(desk->host().guardIsRunning());
+    EXPECT_TRUE(desk->host().isWatchingAccessibility());
+}
+
+TEST(OpenDesk, FindsTheApplicationsResources) {
+    const auto desk = opened({});
+    const auto items = desk->session().statusItems().shown();
+    ASSERT_EQ(items.size(), 1U);
+    ASSERT_TRUE(items[0]->button->image);
+    EXPECT_TRUE(std::filesystem::is_regular_file(items[0]->button->image->state()->file));
+    EXPECT_EQ(items[0]->button->toolTip, "Kestrune — Pin the Dock to one screen");
+}
+
+TEST(OpenDesk, MakesNoFileBeforeSomethingIsStored) {
     const TemporaryFolder folder;
     Options options;
     options.defaults = folder.path() / "defaults.plist";
+    options.isPermissionGranted = false;
+    {
+        const auto desk = opened(options);
+        EXPECT_FALSE(std::filesystem::exists(*options.defaults));
+    }
+    options.isPermissionGranted = true;
     const auto desk = opened(options);
-    EXPECT_FALSE(std::filesystem::exists(*options.defaults));
+    const auto loaded = sim::loadDefaultsFile(*options.defaults);
+    EXPECT_EQ(std::get<sim::PropertyListDictionary>(loaded).size(), 1U) << "the setup is complete";
 }
 
 TEST(OpenDesk, KeepsWhatWasChosenForTheNextTime) {
@@ -61,7 +88,7 @@ TEST(OpenDesk, KeepsWhatWasChosenForTheNextTime) {
     }
     const auto desk = opened(options);
     EXPECT_EQ(desk->session().dock().display(), 2U);
-    EXPECT_FALSE(desk->host().guard().isRunning());
+    EXPECT_FALSE(desk->host().guardIsRunning());
     EXPECT_EQ(storedText(*desk, "blockMargin"), "8");
 }
 
@@ -119,7 +146,7 @@ TEST(OpenDesk, TellsThatPreferencesAreNotSavedAsLongAsItIsSo) {
     Options options;
     options.defaults = home / "defaults.plist";
     const auto desk = opened(options);
-    std::filesystem::remove(home);
+    std::filesystem::remove_all(home);
     desk->pin(2);
     EXPECT_THAT(desk->news().text, StartsWith("The preferences are not saved: "));
     EXPECT_EQ(desk->news().kind, Occurrence::warning);

@@ -63,9 +63,9 @@ TEST(Tour, WritesAPictureForEachSceneAndTellsThemAll) {
     ASSERT_FALSE(error) << error->message;
 
     const auto pictures = picturesIn(folder);
-    ASSERT_EQ(pictures.size(), 13U);
-    EXPECT_EQ(pictures.front().filename(), "01-two-displays.png");
-    EXPECT_EQ(pictures.back().filename(), "13-one-display-left.png");
+    ASSERT_EQ(pictures.size(), 23U);
+    EXPECT_EQ(pictures.front().filename(), "01-first-launch.png");
+    EXPECT_EQ(pictures.back().filename(), "23-quit.png");
     const std::string report = textOf(folder / "report.txt");
     for (const auto& picture : pictures) {
         EXPECT_EQ(sizeOfPng(picture).width, 2880U) << picture;
@@ -77,6 +77,9 @@ TEST(Tour, WritesAPictureForEachSceneAndTellsThemAll) {
                                   "    Events 150, held 0, Dock moves 1, against the rule 0."));
     EXPECT_THAT(report, HasSubstr("and the Dock stays.\n    Held at 977 on Display 2.\n"
                                   "    Events 150, held 68, Dock moves 0, against the rule 0."));
+    EXPECT_THAT(report, HasSubstr("within a second the guard runs by itself.\n"
+                                  "    Guard on: only Built-in Display may have the Dock.\n"));
+    EXPECT_THAT(report, HasSubstr("and there the Dock may go.\n    The Dock moved to Display 2.\n"));
     EXPECT_THAT(report,
                 HasSubstr("Display 2 was unplugged; the pin and the Dock moved to Built-in Display."));
     EXPECT_THAT(report, HasSubstr("\nviolations             0  against the rule\nDock moves             3 "));
@@ -87,7 +90,7 @@ TEST(Tour, IsPlayedOnOtherDisplaysToo) {
     // The second display is above the first one, which leaves it no free bottom edge.
     setup.displays = {{0, 0, 1000, 600}, {0, -500, 800, 500}, {-900, 0, 900, 700}};
     setup.pinned = 2;
-    setup.guardOn = false;
+    setup.permission = sim::Permission::notListed;
     LiveDesk desk(setup);
     TourScenes scenes(desk);
     ASSERT_TRUE(scenes.canBePlayed());
@@ -95,9 +98,10 @@ TEST(Tour, IsPlayedOnOtherDisplaysToo) {
     for (const TourScenes::Scene& scene : TourScenes::all()) {
         stories.push_back((scenes.*scene.play)());
     }
-    EXPECT_THAT(stories, Contains("Display 3 has the Dock, and nothing keeps it there."));
+    EXPECT_THAT(stories, Contains(HasSubstr("brings the Dock home to Display 3.")));
     EXPECT_THAT(stories, Contains(HasSubstr("the bottom edge of Built-in Display")));
     EXPECT_EQ(desk.report().dockMoves, 3U);
+    EXPECT_FALSE(desk.host().isRunning());
     EXPECT_EQ(desk.report().violations, 0U);
     EXPECT_GT(desk.report().changed, 100U);
 }
@@ -127,10 +131,10 @@ TEST(Tour, TellsThatAFolderCannotBeMade) {
 
 TEST(Tour, TellsThatAPictureCannotBeWritten) {
     const TemporaryFolder folder;
-    std::filesystem::create_directory(folder.path() / "01-two-displays.png");
+    std::filesystem::create_directory(folder.path() / "01-first-launch.png");
     const auto error = runTour(folder.path(), {});
     ASSERT_TRUE(error);
-    EXPECT_THAT(error->message, HasSubstr("01-two-displays.png: "));
+    EXPECT_THAT(error->message, HasSubstr("01-first-launch.png: "));
 }
 
 } // namespace

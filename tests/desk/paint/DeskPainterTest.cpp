@@ -6,6 +6,7 @@
 #include "desk/paint/DisplayPainter.h"
 #include "desk/paint/DockPainter.h"
 #include "tests/desk/paint/PaintedPicture.h"
+#include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
 
@@ -215,11 +216,72 @@ TEST(DeskPainter, LeavesOutKeysThatDoNotFit) {
     EXPECT_TRUE(encloses(layoutOf(picture).footer(), *keys));
 }
 
+TEST(DeskPainter, WrapsTheKeysWhereOneLineHasNoRoomForThem) {
+    DeskPicture picture = twoDisplays();
+    picture.keys = {{"1–9", "pin a display"},
+                    {"G", "guard on or off"},
+                    {"U", "unplug"},
+                    {"P", "plug in"},
+                    {"A", "permission"},
+                    {"T", "tap timeout"},
+                    {"+ −", "band"},
+                    {"D", "dark"},
+                    {"S", "save picture"},
+                    {"H", "hide keys"},
+                    {"M", "menu"},
+                    {"R", "relaunch"},
+                    {"O", "open settings"},
+                    {"Q", "quit"}};
+    DeskPicture withoutLast = picture;
+    withoutLast.keys.back() = {"W", "leave"};
+    const std::vector<std::pair<Size, double>> windows{
+        {{1600, 900}, 30}, {{1100, 700}, 60}, {{900, 600}, 60}};
+    for (const auto& [window, tallest] : windows) {
+        const PaintedPicture painted{picture, window};
+        EXPECT_TRUE(differenceOf(painted, PaintedPicture{withoutLast, window})) << window.width;
+        DeskPicture withoutKeys = picture;
+        withoutKeys.keys.clear();
+        const std::optional<Rect> keys = differenceOf(painted, PaintedPicture{withoutKeys, window});
+        ASSERT_TRUE(keys);
+        EXPECT_TRUE(encloses(DeskLayout::of(picture, window).footer(), *keys)) << window.width;
+        EXPECT_LE(keys->maxX(), window.width - 27);
+        EXPECT_LE(keys->height(), tallest);
+        EXPECT_GE(keys->height(), tallest - 10);
+    }
+}
+
 TEST(DeskPainter, IsLightOrDark) {
     DeskPicture picture = twoDisplays();
     EXPECT_GT(PaintedPicture{picture}.at(5, 300).red, 200);
     picture.dark = true;
     EXPECT_LT(PaintedPicture{picture}.at(5, 300).red, 70);
+}
+
+TEST(DeskPainter, KeepsWhatStandsBehindAMenuWhileTheHighlightMoves) {
+    const DeskPicture picture = withMenu();
+    const std::vector<std::function<void(DeskPicture&)>> changes{
+        [](DeskPicture& changed) { changed.menu->rows[0].highlighted = true; },
+        [](DeskPicture& changed) { changed.menu->rows.pop_back(); },
+        [](DeskPicture& changed) { changed.permissionDialog = withDialog().permissionDialog; },
+        [](DeskPicture& changed) { changed.accessibilityPane = withPane().accessibilityPane; },
+        [](DeskPicture& changed) { changed.pressed = PaneCloseTarget{}; },
+        [](DeskPicture& changed) {
+            changed.toolTip = ToolTipPicture{0, 0, "A tool tip"};
+        },
+        [](DeskPicture& changed) {
+            changed.pointer = {1, 1};
+        },
+    };
+    for (std::size_t index = 0; index < changes.size(); ++index) {
+        DeskPicture changed = picture;
+        changes[index](changed);
+        EXPECT_NE(changed, picture) << index;
+        EXPECT_EQ(withoutWhatMoves(changed), withoutWhatMoves(picture)) << index;
+    }
+    // The menu bar shows what the menu hangs from.
+    DeskPicture closed = picture;
+    closed.menu.reset();
+    EXPECT_NE(withoutWhatMoves(closed), withoutWhatMoves(picture));
 }
 
 TEST(DeskPainter, PaintsTheSameWithWhatItRememberedAsAnew) {
@@ -249,6 +311,30 @@ TEST(DeskPainter, PaintsTheSameWithWhatItRememberedAsAnew) {
         [](DeskPicture& picture) { picture.displays[1].bounds.origin.y = -300; },
         [](DeskPicture& picture) { picture.clock = "Wed 11:05"; },
         [](DeskPicture& picture) { picture.keys.pop_back(); },
+        [](DeskPicture& picture) {
+            picture.mainMenuTitles = {"Kestrune", "File"};
+        },
+        [](DeskPicture& picture) {
+            picture.statusItems = withMenu().statusItems;
+            picture.menu = withMenu().menu;
+        },
+        [](DeskPicture& picture) { picture.menu->rows[0].highlighted = true; },
+        [](DeskPicture& picture) { picture.menu->rows.pop_back(); },
+        [](DeskPicture& picture) { picture.menu->anchor = MainMenuTitleAnchor{1}; },
+        [](DeskPicture& picture) { picture.menu->display = 0; },
+        [](DeskPicture& picture) { picture.accessibilityPane = withPane().accessibilityPane; },
+        [](DeskPicture& picture) { picture.accessibilityPane->rows[1].isOn = true; },
+        [](DeskPicture& picture) { picture.accessibilityPane->display = 1; },
+        [](DeskPicture& picture) { picture.pressed = PaneSwitchTarget{0}; },
+        [](DeskPicture& picture) { picture.accessibilityPane.reset(); },
+        [](DeskPicture& picture) { picture.permissionDialog = withDialog().permissionDialog; },
+        [](DeskPicture& picture) { picture.pressed = DialogButtonTarget{DialogButton::deny}; },
+        [](DeskPicture& picture) { picture.permissionDialog.reset(); },
+        [](DeskPicture& picture) { picture.menu.reset(); },
+        [](DeskPicture& picture) {
+            picture.toolTip = ToolTipPicture{0, 0, "A tool tip"};
+        },
+        [](DeskPicture& picture) { picture.toolTip->text = "Another tool tip"; },
         [](DeskPicture& picture) { picture.story = "A story begins."; },
         [](DeskPicture& picture) { picture.dark = true; },
         [](DeskPicture& picture) { picture.displays.pop_back(); },

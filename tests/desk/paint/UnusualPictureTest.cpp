@@ -1,5 +1,7 @@
+#include "desk/paint/DeskHitTest.h"
 #include "desk/paint/DeskLayout.h"
 #include "tests/desk/paint/PaintedPicture.h"
+#include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
 
@@ -105,6 +107,55 @@ TEST(UnusualPicture, InAWindowOfAnySizePaints) {
         EXPECT_EQ(statusAfterPainting(picture, {length, 700}), CAIRO_STATUS_SUCCESS) << length;
         EXPECT_EQ(statusAfterPainting(picture, {1200, length}), CAIRO_STATUS_SUCCESS) << length;
     }
+}
+
+// With every part of the system's that there is.
+DeskPicture crowdedPicture() {
+    DeskPicture picture = withMenu();
+    picture.toolTip = ToolTipPicture{0, 0, "A tool tip"};
+    picture.permissionDialog = withDialog().permissionDialog;
+    picture.accessibilityPane = withPane().accessibilityPane;
+    picture.mainMenuTitles = {"Kestrune", "File"};
+    return picture;
+}
+
+TEST(UnusualPicture, WithTheSystemsPartsInAWindowOfAnySizePaints) {
+    const DeskPicture picture = crowdedPicture();
+    for (const double length : {0.0, -5.0, NotANumber, Infinity, 1e9, 0.5, 1.0, 30.0, 200.0}) {
+        EXPECT_EQ(statusAfterPainting(picture, {length, length}), CAIRO_STATUS_SUCCESS) << length;
+        EXPECT_EQ(statusAfterPainting(picture, {length, 700}), CAIRO_STATUS_SUCCESS) << length;
+        EXPECT_EQ(statusAfterPainting(picture, {1200, length}), CAIRO_STATUS_SUCCESS) << length;
+        DeskHitTest hitTest;
+        EXPECT_FALSE(hitTest.targetAt(picture, {length, length}, {-1, -1}));
+    }
+}
+
+TEST(UnusualPicture, WithTheSystemsPartsButNoDisplayShowsTheWindowsInTheMiddle) {
+    DeskPicture picture = crowdedPicture();
+    picture.displays.clear();
+    const PaintedPicture painted{picture};
+    DeskPicture without = picture;
+    without.accessibilityPane.reset();
+    without.permissionDialog.reset();
+    const std::optional<Rect> windows = differenceOf(painted, PaintedPicture{without});
+    ASSERT_TRUE(windows);
+    EXPECT_NEAR(windows->minX() + windows->width() / 2, TestWindow.width / 2, 2);
+}
+
+TEST(UnusualPicture, WithPartsOfTheSystemThatDoNotExistPaints) {
+    DeskPicture picture = crowdedPicture();
+    picture.menu->anchor = StatusItemAnchor{99};
+    picture.toolTip->item = 99;
+    picture.permissionDialog->display = 99;
+    picture.accessibilityPane->display = 99;
+    picture.pressed = PaneSwitchTarget{99};
+    EXPECT_EQ(statusAfterPainting(picture), CAIRO_STATUS_SUCCESS);
+    picture.menu->anchor = StatusItemAnchor{0};
+    picture.menu->rows.clear();
+    picture.mainMenuTitles = {"", "\xFF"};
+    picture.permissionDialog->applicationName = "\xC3\x28";
+    picture.statusItems[0].imageSize = {NotANumber, Infinity};
+    EXPECT_EQ(statusAfterPainting(picture), CAIRO_STATUS_SUCCESS);
 }
 
 TEST(UnusualPicture, WithIllFormedTextPaints) {

@@ -83,8 +83,8 @@ TEST(Replay, GivesTheSameEventsEveryTime) {
 TEST(SimulatedDesk, StartsWithTheDockOnThePinnedDisplayAndTheChoicesStored) {
     SimulatedDesk desk({SideBySide, 1, true, 12.5});
     EXPECT_EQ(desk.dockDisplay(), 1U);
-    EXPECT_EQ(desk.host().guard().pinnedScreen()->displayID, 2U);
-    EXPECT_TRUE(desk.host().guard().isRunning());
+    EXPECT_EQ(desk.host().guard()->pinnedScreen()->displayID, 2U);
+    EXPECT_TRUE(desk.host().guardIsRunning());
     EXPECT_EQ(desk.session().defaults().find("blockMargin")->asDouble(), 12.5);
     EXPECT_EQ(desk.judged().margin, 12.5);
 }
@@ -97,7 +97,7 @@ TEST(SimulatedDesk, JudgesAMarginThatIsNotGreaterThanZeroAsTheUsualOne) {
 
 TEST(SimulatedDesk, LeavesTheGuardStoppedWhenItIsSwitchedOff) {
     SimulatedDesk desk(setup(false));
-    EXPECT_FALSE(desk.host().guard().isRunning());
+    EXPECT_FALSE(desk.host().guardIsRunning());
     EXPECT_EQ(desk.session().taps().count(), 0U);
 }
 

@@ -1,0 +1,82 @@
+// The user's hand at the parts of the Mac's screen: menus, the permission dialog, the Accessibility pane.
+#pragma once
+
+#include "desk/paint/DeskPicture.h"
+#include "desk/paint/DeskTarget.h"
+#include "sim/Session.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+namespace kestrune::desk {
+
+enum class NavigationKey { up, down, left, right, enter, escape };
+
+// What came of a press, release or key.
+struct PartsOutcome {
+    // A row of a menu was chosen, by its title.
+    std::optional<std::string> chosenRow = std::nullopt;
+
+    // Whether that row had a check mark already.
+    bool wasMarked = false;
+};
+
+// Works like macOS: a menu opens with the press, a row is chosen by a release over it, after a click as well
+// as at the end of a drag; a press elsewhere closes the menu. Buttons and switches act when the press is
+// released over them.
+class ScreenParts {
+public:
+    // `session` must outlive the parts.
+    explicit ScreenParts(sim::Session& session) : session_(session) {}
+
+    // With the button that clicks, at what is under the pointer; absent for the bare desk.
+    PartsOutcome press(const std::optional<DeskTarget>& target);
+    PartsOutcome release(const std::optional<DeskTarget>& target);
+
+    // The pointer is there now.
+    void hover(const std::optional<DeskTarget>& target);
+
+    // Whether a key goes to a menu or the dialog, before anybody else.
+    bool takesKeys() const;
+    PartsOutcome press(NavigationKey key);
+
+    // Command, and Shift where asked, with a character: a key equivalent of the open or the main menu.
+    PartsOutcome pressEquivalent(std::string_view character, bool withShift);
+
+    // As the keyboard's command for the status menus does, on the display with that index.
+    void openStatusMenu(std::size_t display);
+
+    bool isMenuOpen() const { return session_.menus().place().has_value(); }
+
+    // Displays have come or gone: what was open or pressed on one of them is no longer there.
+    void displaysChanged();
+
+    // Puts the parts into a picture of the session's displays. The dialog shows on the primary display, the
+    // pane beside it where there is another.
+    void addTo(DeskPicture& picture, const std::string& iconPath);
+
+private:
+    void openMenu(const sim::MenuPlace& place, std::size_t display);
+    void closeMenu();
+    void noteClosedMenu();
+    PartsOutcome choose(std::size_t row);
+    void act(const DeskTarget& target);
+    void moveHighlight(int step);
+    void moveToMenuBeside(int step);
+    void addMenu(DeskPicture& picture) const;
+    void addToolTip(DeskPicture& picture);
+
+    sim::Session& session_;
+    std::size_t menuDisplay_ = 0;
+    std::optional<std::size_t> highlightedRow_;
+    std::optional<DeskTarget> pressed_;
+    bool isOpenedByThisPress_ = false;
+    bool isRowSelected_ = false; // in the Accessibility pane
+
+    // Where the pointer rests, and since when without an open menu.
+    std::optional<DeskTarget> hovered_;
+    sim::Duration hoveredSince_{0};
+};
+
+} // namespace kestrune::desk

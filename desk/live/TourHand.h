@@ -1,0 +1,48 @@
+// The hand that plays the tour: it moves in small steps, pushes against edges and uses what is on the screen.
+#pragma once
+
+#include "desk/live/LiveDesk.h"
+#include "desk/paint/DeskHitTest.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kestrune::desk {
+
+class TourHand {
+public:
+    // `desk` must outlive the hand.
+    explicit TourHand(LiveDesk& desk) : desk_(desk) {}
+
+    // Where the pointer can be pushed against a display's bottom edge, absent where other displays are below
+    // all of it.
+    std::optional<Point> bottomEdge(DisplayID number);
+
+    // A place on a display, by fractions of its width and height.
+    Point onDisplay(DisplayID number, double fractionX, double fractionY);
+
+    void glideTo(Point target, EventType type = EventType::mouseMoved);
+
+    // Pushes for longer than the Dock waits.
+    void push(DisplayID number, EventType type = EventType::mouseMoved);
+
+    // Moves over a part of the screen; the second also clicks there.
+    void pointAt(const DeskTarget& target);
+    void click(const DeskTarget& target);
+
+    // Opens the application's menu on a display.
+    void openMenu(DisplayID number);
+
+    // Moves over the row of the open menu whose title has that in it; the second also clicks there.
+    void pointAtRow(std::string_view title);
+    void clickRow(std::string_view title);
+
+private:
+    std::optional<DeskTarget> rowWith(std::string_view title);
+
+    LiveDesk& desk_;
+    DeskHitTest hitTest_;
+};
+
+} // namespace kestrune::desk

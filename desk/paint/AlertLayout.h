@@ -1,0 +1,44 @@
+// Where the permission dialog and its parts stand, in window coordinates, for painting and for the pointer.
+//
+// Like menus, windows keep the size in which they can be read, whatever the displays' scale.
+#pragma once
+
+#include "base/Geometry.h"
+#include "desk/paint/DeskLayout.h"
+#include "desk/paint/DeskPicture.h"
+#include "desk/paint/TextMeasure.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kestrune::desk {
+
+struct AlertLayout {
+    Rect frame;
+    Rect titleBar;
+    Rect icon;
+    Rect message;
+    Rect information;
+    Rect openSystemSettings;
+    Rect deny;
+
+    friend bool operator==(const AlertLayout&, const AlertLayout&) = default;
+};
+
+// Absent without a permission dialog.
+std::optional<AlertLayout> alertLayout(TextMeasure& measure, const DeskLayout& layout,
+                                       const DeskPicture& picture, Size window);
+
+// What the dialog says, and how it is set; the colours are left to the painter.
+std::string alertMessage(const PermissionDialogPicture& dialog);
+inline constexpr std::string_view AlertTitle = "Accessibility Access (Events)";
+inline constexpr std::string_view AlertInformation =
+    "Grant access to this application in Privacy & Security settings, located in System Settings.";
+inline constexpr std::string_view OpenSystemSettingsLabel = "Open System Settings";
+inline constexpr std::string_view DenyLabel = "Deny";
+inline constexpr int AlertLongestText = 4; // lines
+TextStyle alertMessageStyle();
+TextStyle alertInformationStyle();
+
+} // namespace kestrune::desk

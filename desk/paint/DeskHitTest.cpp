@@ -1,0 +1,187 @@
+#include "desk/paint/DeskHitTest.h"
+
+#include "desk/paint/AccessibilityPaneLayout.h"
+#include "desk/paint/AlertLayout.h"
+#include "desk/paint/DeskLayout.h"
+#include "desk/paint/MenuBarLayout.h"
+#include "desk/paint/MenuLayout.h"
+
+namespace kestrune::desk {
+namespace {
+
+std::optional<DeskTarget> targetInMenu(const MenuLayout& menu, Point place) {
+    if (!menu.panel.contains(place)) {
+        return std::nullopt;
+    }
+    for (std::size_t row = 0; row < menu.rows.size(); ++row) {
+        if (menu.rows[row].contains(place)) {
+            return MenuRowTarget{row};
+        }
+    }
+    return MenuPanelTarget{};
+}
+
+std::optional<DeskTarget> targetInAlert(const AlertLayout& alert, Point place) {
+    if (!alert.frame.contains(place)) {
+        return std::nullopt;
+    }
+    if (alert.openSystemSettings.contains(place)) {
+        return DialogButtonTarget{DialogButton::openSystemSettings};
+    }
+    if (alert.deny.contains(place)) {
+        return DialogButtonTarget{DialogButton::deny};
+    }
+    return DialogTarget{};
+}
+
+// Small controls take presses close beside them, too.
+bool isCloseTo(const Rect& control, Point place) {
+    constexpr double Reach = 5;
+    return Rect{control.minX() - Reach, control.minY() - Reach, control.width() + 2 * Reach,
+                control.height() + 2 * Reach}
+        .contains(place);
+}
+
+std::optional<DeskTarget> targetInPane(const AccessibilityPaneLayout& layout,
+                                       const AccessibilityPanePicture& pane, Point place) {
+    if (!layout.frame.contains(place)) {
+        return std::nullopt;
+    }
+    if (isCloseTo(layout.closeButton, place)) {
+        return PaneCloseTarget{};
+    }
+    if (canRemove(pane) && layout.removeButton.contains(place)) {
+        return PaneRemoveTarget{};
+    }
+    for (std::size_t row = 0; row < layout.rows.size(); ++row) {
+        if (isCloseTo(layout.rows[row].toggle, place)) {
+            return PaneSwitchTarget{row};
+        }
+        if (layout.rows[row].area.contains(place)) {
+            return PaneRowTarget{row};
+        }
+    }
+    return PaneTarget{};
+}
+
+std::optional<DeskTarget> targetInMenuBar(const MenuBarLayout& bar, std::size_t display, Point place) {
+    for (std::size_t item = 0; item < bar.statusItems.size(); ++item) {
+        if (bar.statusItems[item].slot.contains(place)) {
+            return StatusItemTarget{display, item};
+        }
+    }
+    for (std::size_t title = 0; title < bar.titles.size(); ++title) {
+        if (bar.titles[title].contains(place)) {
+            return MainMenuTitleTarget{display, title};
+        }
+    }
+    return std::nullopt;
+}
+
+template <typename Place>
+const Place* at(const std::vector<Place>& places, std::size_t index) {
+    return index < places.size() ? &places[index] : nullptr;
+}
+
+// Finds the area of a part, each kind by the layout that it belongs to.
+struct AreaOfTarget {
+    TextMeasure& measure;
+    const DeskLayout& layout;
+    const DeskPicture& picture;
+    Size window;
+
+    std::optional<Rect> operator()(const StatusItemTarget& target) const {
+        const auto bar = menuBar(target.display);
+        const auto* item = bar ? at(bar->statusItems, target.item) : nullptr;
+        return item != nullptr ? std::optional(item->slot) : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const MainMenuTitleTarget& target) const {
+        const auto bar = menuBar(target.display);
+        const auto* title = bar ? at(bar->titles, target.title) : nullptr;
+        return title != nullptr ? std::optional(*title) : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const MenuRowTarget& target) const {
+        const auto menu = menuLayout(measure, layout, picture, window);
+        const auto* row = menu ? at(menu->rows, target.row) : nullptr;
+        return row != nullptr ? std::optional(*row) : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const DialogButtonTarget& target) const {
+        const auto alert = alertLayout(measure, layout, picture, window);
+        if (!alert) {
+            return std::nullopt;
+        }
+        return target.button == DialogButton::deny ? alert->deny : alert->openSystemSettings;
+    }
+
+    std::optional<Rect> operator()(const PaneSwitchTarget& target) const {
+        const auto pane = accessibilityPaneLayout(layout, picture, window);
+        const auto* row = pane ? at(pane->rows, target.row) : nullptr;
+        return row != nullptr ? std::optional(row->toggle) : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const PaneRowTarget& target) const {
+        const auto pane = accessibilityPaneLayout(layout, picture, window);
+        const auto* row = pane ? at(pane->rows, target.row) : nullptr;
+        return row != nullptr ? std::optional(row->area) : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const PaneCloseTarget&) const {
+        const auto pane = accessibilityPaneLayout(layout, picture, window);
+        return pane ? std::optional(pane->closeButton) : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const PaneRemoveTarget&) const {
+        const auto pane = accessibilityPaneLayout(layout, picture, window);
+        return pane && canRemove(*picture.accessibilityPane) ? std::optional(pane->removeButton)
+                                                             : std::nullopt;
+    }
+
+    // Everything that lies around other parts.
+    template <typename Surrounding>
+    std::optional<Rect> operator()(const Surrounding&) const {
+        return std::nullopt;
+    }
+
+    std::optional<MenuBarLayout> menuBar(std::size_t display) const {
+        const DisplayPlace* place = layout.place(display);
+        return place != nullptr ? std::optional(menuBarLayout(measure, *place, layout.scale(), picture))
+                                : std::nullopt;
+    }
+};
+
+} // namespace
+
+std::optional<DeskTarget> DeskHitTest::targetAt(const DeskPicture& picture, Size window, Point place) {
+    const DeskLayout layout = DeskLayout::of(picture, window);
+    std::optional<DeskTarget> target;
+    if (const auto menu = menuLayout(measure_, layout, picture, window)) {
+        target = targetInMenu(*menu, place);
+    }
+    if (const auto alert = target ? std::nullopt : alertLayout(measure_, layout, picture, window)) {
+        target = targetInAlert(*alert, place);
+    }
+    if (const auto pane = target ? std::nullopt : accessibilityPaneLayout(layout, picture, window)) {
+        target = targetInPane(*pane, *picture.accessibilityPane, place);
+    }
+    for (std::size_t display = 0; !target && display < picture.displays.size(); ++display) {
+        const DisplayPlace* const displayPlace = layout.place(display);
+        // Only a bar under the place is worth measuring its texts.
+        if (displayPlace && menuBarArea(*displayPlace, layout.scale()).contains(place)) {
+            target = targetInMenuBar(menuBarLayout(measure_, *displayPlace, layout.scale(), picture), display,
+                                     place);
+        }
+    }
+    return target;
+}
+
+std::optional<Rect> DeskHitTest::areaOf(const DeskPicture& picture, Size window, const DeskTarget& target) {
+    const DeskLayout layout = DeskLayout::of(picture, window);
+    const auto area = std::visit(AreaOfTarget{measure_, layout, picture, window}, target);
+    // What there is no room for has a null rectangle in the layouts.
+    return area && !area->isNull() ? area : std::nullopt;
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,81 @@
+// What of the Mac's own screen parts a place in the window belongs to, or a press of the button began on.
+#pragma once
+
+#include <cstddef>
+#include <variant>
+
+namespace kestrune::desk {
+
+// Displays, items, titles and rows are indices into the picture that was asked about.
+
+struct StatusItemTarget {
+    std::size_t display = 0;
+    std::size_t item = 0;
+
+    friend bool operator==(const StatusItemTarget&, const StatusItemTarget&) = default;
+};
+
+struct MainMenuTitleTarget {
+    std::size_t display = 0;
+    std::size_t title = 0;
+
+    friend bool operator==(const MainMenuTitleTarget&, const MainMenuTitleTarget&) = default;
+};
+
+// Any row of the open menu, separators and disabled rows included.
+struct MenuRowTarget {
+    std::size_t row = 0;
+
+    friend bool operator==(const MenuRowTarget&, const MenuRowTarget&) = default;
+};
+
+// The open menu's margins.
+struct MenuPanelTarget {
+    friend bool operator==(const MenuPanelTarget&, const MenuPanelTarget&) = default;
+};
+
+enum class DialogButton { openSystemSettings, deny };
+
+struct DialogButtonTarget {
+    DialogButton button = DialogButton::deny;
+
+    friend bool operator==(const DialogButtonTarget&, const DialogButtonTarget&) = default;
+};
+
+// The permission dialog beside its buttons.
+struct DialogTarget {
+    friend bool operator==(const DialogTarget&, const DialogTarget&) = default;
+};
+
+struct PaneSwitchTarget {
+    std::size_t row = 0;
+
+    friend bool operator==(const PaneSwitchTarget&, const PaneSwitchTarget&) = default;
+};
+
+// A row of the Accessibility pane beside its switch.
+struct PaneRowTarget {
+    std::size_t row = 0;
+
+    friend bool operator==(const PaneRowTarget&, const PaneRowTarget&) = default;
+};
+
+struct PaneCloseTarget {
+    friend bool operator==(const PaneCloseTarget&, const PaneCloseTarget&) = default;
+};
+
+// The − button while it is enabled.
+struct PaneRemoveTarget {
+    friend bool operator==(const PaneRemoveTarget&, const PaneRemoveTarget&) = default;
+};
+
+// The Accessibility pane where nothing can be pressed.
+struct PaneTarget {
+    friend bool operator==(const PaneTarget&, const PaneTarget&) = default;
+};
+
+using DeskTarget = std::variant<StatusItemTarget, MainMenuTitleTarget, MenuRowTarget, MenuPanelTarget,
+                                DialogButtonTarget, DialogTarget, PaneSwitchTarget, PaneRowTarget,
+                                PaneCloseTarget, PaneRemoveTarget, PaneTarget>;
+
+} // namespace kestrune::desk

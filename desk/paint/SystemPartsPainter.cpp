@@ -1,0 +1,106 @@
+#include "desk/paint/SystemPartsPainter.h"
+
+#include "desk/paint/AccessibilityPanePainter.h"
+#include "desk/paint/AlertPainter.h"
+#include "desk/paint/MenuPainter.h"
+#include "desk/paint/ToolTipPainter.h"
+
+#include <utility>
+#include <variant>
+
+namespace kestrune::desk {
+namespace {
+
+// A sprite has a context of its own to paint text into.
+void paintInto(cairo_t* sprite, const Palette& palette, const std::function<void(const Canvas&)>& paint) {
+    TextPainter text{sprite};
+    paint(Canvas{sprite, text, palette});
+}
+
+template <typename... Targets>
+std::optional<DeskTarget> pressedAmong(const std::optional<DeskTarget>& pressed) {
+    const bool isAmong = pressed && (std::holds_alternative<Targets>(*pressed) || ...);
+    return isAmong ? pressed : std::nullopt;
+}
+
+} // namespace
+
+template <typename Picture, typename Layout>
+void SystemPartsPainter::Part<Picture, Layout>::paint(
+    const Canvas& canvas, const Panel& shown, Content<Picture, Layout> shownContent,
+    const std::function<void(const Canvas&)>& paintContent) {
+    panel.paint(canvas.context, panelExtent(shown.frame, shown.style), shown, [&](cairo_t* sprite) {
+        paintInto(sprite, canvas.palette,
+                  [&](const Canvas& own) { paintPanel(own, shown.frame, shown.style); });
+    });
+    content.paint(canvas.context, shown.frame, std::move(shownContent),
+                  [&](cairo_t* sprite) { paintInto(sprite, canvas.palette, paintContent); });
+}
+
+template <typename Picture, typename Layout>
+void SystemPartsPainter::Part<Picture, Layout>::forget() {
+    panel.forget();
+    content.forget();
+}
+
+void SystemPartsPainter::paint(const Canvas& canvas, TextMeasure& measure, ImageStore& images,
+                               const DeskLayout& layout, const DeskPicture& picture, Size window) {
+    paintPane(canvas, images, layout, picture, window);
+    paintDialog(canvas, measure, images, layout, picture, window);
+    paintTip(canvas, measure, layout, picture, window);
+    paintOpenMenu(canvas, measure, layout, picture, window);
+}
+
+void SystemPartsPainter::paintPane(const Canvas& canvas, ImageStore& images, const DeskLayout& layout,
+                                   const DeskPicture& picture, Size window) {
+    const auto place = accessibilityPaneLayout(layout, picture, window);
+    if (!place) {
+        pane_.forget();
+        return;
+    }
+    const AccessibilityPanePicture& pane = *picture.accessibilityPane;
+    const auto pressed = pressedAmong<PaneSwitchTarget, PaneCloseTarget, PaneRemoveTarget>(picture.pressed);
+    pane_.paint(canvas, {place->frame, windowPanelStyle(canvas.palette), picture.dark},
+                {pane, *place, pressed, picture.dark},
+                [&](const Canvas& own) { paintAccessibilityPane(own, images, *place, pane, pressed); });
+}
+
+void SystemPartsPainter::paintDialog(const Canvas& canvas, TextMeasure& measure, ImageStore& images,
+                                     const DeskLayout& layout, const DeskPicture& picture, Size window) {
+    const auto place = alertLayout(measure, layout, picture, window);
+    if (!place) {
+        dialog_.forget();
+        return;
+    }
+    const PermissionDialogPicture& dialog = *picture.permissionDialog;
+    const auto pressed = pressedAmong<DialogButtonTarget>(picture.pressed);
+    dialog_.paint(canvas, {place->frame, windowPanelStyle(canvas.palette), picture.dark},
+                  {dialog, *place, pressed, picture.dark},
+                  [&](const Canvas& own) { paintAlert(own, images, *place, dialog, pressed); });
+}
+
+void SystemPartsPainter::paintTip(const Canvas& canvas, TextMeasure& measure, const DeskLayout& layout,
+                                  const DeskPicture& picture, Size window) {
+    const auto area = toolTipArea(measure, layout, picture, window);
+    if (!area) {
+        toolTip_.forget();
+        return;
+    }
+    toolTip_.paint(canvas, {*area, toolTipPanelStyle(canvas.palette), picture.dark},
+                   {*picture.toolTip, *area, std::nullopt, picture.dark},
+                   [&](const Canvas& own) { paintToolTip(own, *area, picture.toolTip->text); });
+}
+
+void SystemPartsPainter::paintOpenMenu(const Canvas& canvas, TextMeasure& measure, const DeskLayout& layout,
+                                       const DeskPicture& picture, Size window) {
+    const auto place = menuLayout(measure, layout, picture, window);
+    if (!place) {
+        menu_.forget();
+        return;
+    }
+    menu_.paint(canvas, {place->panel, menuPanelStyle(canvas.palette), picture.dark},
+                {*picture.menu, *place, std::nullopt, picture.dark},
+                [&](const Canvas& own) { paintMenu(own, *place, *picture.menu); });
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,98 @@
+// The parts of a Mac's screen that an application of the menu bar lives in, as plain data: status items,
+// menus, tool tips, the dialog that asks for a permission, and the pane that grants it.
+#pragma once
+
+#include "base/Geometry.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace kestrune::desk {
+
+// Every menu bar shows it, before the clock.
+struct StatusItemPicture {
+    // A PNG file. The item keeps its place in the menu bar without one, and with one that cannot be read.
+    std::optional<std::string> imagePath = std::nullopt;
+    Size imageSize{18, 18}; // in points; a menu bar is 24 points high
+    // Whether only the image's opacity counts, and it takes the colour of the menu bar's text.
+    bool isTemplate = true;
+    // For whoever fills in the tool tip; the item itself does not show it.
+    std::string toolTip = {};
+
+    friend bool operator==(const StatusItemPicture&, const StatusItemPicture&) = default;
+};
+
+// What a menu hangs from.
+struct StatusItemAnchor {
+    std::size_t item = 0;
+
+    friend bool operator==(const StatusItemAnchor&, const StatusItemAnchor&) = default;
+};
+struct MainMenuTitleAnchor {
+    std::size_t title = 0;
+
+    friend bool operator==(const MainMenuTitleAnchor&, const MainMenuTitleAnchor&) = default;
+};
+using MenuAnchor = std::variant<StatusItemAnchor, MainMenuTitleAnchor>;
+
+enum class MenuRowKind { item, separator };
+
+struct MenuRowPicture {
+    MenuRowKind kind = MenuRowKind::item;
+    std::string title = {}; // spaces at its beginning indent it
+    bool marked = false;
+    bool enabled = true;
+    bool highlighted = false;       // has no effect on a disabled row
+    std::string keyEquivalent = {}; // ready to be shown, as in "⇧⌘Z"
+
+    friend bool operator==(const MenuRowPicture&, const MenuRowPicture&) = default;
+};
+
+// The open menu.
+struct MenuPicture {
+    std::size_t display = 0; // index of the display whose menu bar it hangs from
+    MenuAnchor anchor = StatusItemAnchor{};
+    std::vector<MenuRowPicture> rows = {};
+
+    friend bool operator==(const MenuPicture&, const MenuPicture&) = default;
+};
+
+// A tool tip below a status item.
+struct ToolTipPicture {
+    std::size_t display = 0;
+    std::size_t item = 0;
+    std::string text = {};
+
+    friend bool operator==(const ToolTipPicture&, const ToolTipPicture&) = default;
+};
+
+// The system's question whether an application may control the computer.
+struct PermissionDialogPicture {
+    std::size_t display = 0;
+    std::string applicationName = {};
+    std::optional<std::string> iconPath = std::nullopt; // a PNG file; otherwise a general icon is shown
+
+    friend bool operator==(const PermissionDialogPicture&, const PermissionDialogPicture&) = default;
+};
+
+struct PaneRowPicture {
+    std::string name = {};
+    std::optional<std::string> iconPath = std::nullopt; // a PNG file; otherwise a general icon is shown
+    bool isOn = false;
+    bool selected = false;
+
+    friend bool operator==(const PaneRowPicture&, const PaneRowPicture&) = default;
+};
+
+// The system's list of applications that may control the computer.
+struct AccessibilityPanePicture {
+    std::size_t display = 0;
+    std::vector<PaneRowPicture> rows = {};
+
+    friend bool operator==(const AccessibilityPanePicture&, const AccessibilityPanePicture&) = default;
+};
+
+} // namespace kestrune::desk

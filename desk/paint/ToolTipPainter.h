@@ -1,0 +1,26 @@
+// The tool tip of a status item.
+#pragma once
+
+#include "base/Geometry.h"
+#include "desk/paint/Canvas.h"
+#include "desk/paint/DeskLayout.h"
+#include "desk/paint/DeskPicture.h"
+#include "desk/paint/PanelPainter.h"
+#include "desk/paint/TextMeasure.h"
+
+#include <optional>
+#include <string_view>
+
+namespace kestrune::desk {
+
+// In window coordinates, clear of a pointer that rests on the status item. Absent without a tool tip, and
+// when the picture does not show the item.
+std::optional<Rect> toolTipArea(TextMeasure& measure, const DeskLayout& layout, const DeskPicture& picture,
+                                Size window);
+
+PanelStyle toolTipPanelStyle(const Palette& palette);
+
+// The text; the panel is not painted with it.
+void paintToolTip(const Canvas& canvas, const Rect& area, std::string_view text);
+
+} // namespace kestrune::desk

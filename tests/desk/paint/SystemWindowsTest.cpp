@@ -1,0 +1,239 @@
+#include "desk/paint/AccessibilityPaneLayout.h"
+#include "desk/paint/AlertLayout.h"
+#include "desk/paint/ToolTipPainter.h"
+#include "tests/desk/paint/SystemPictures.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrune::desk {
+namespace {
+
+AlertLayout dialogOf(const DeskPicture& picture, Size window = TestWindow) {
+    TextMeasure measure;
+    return *alertLayout(measure, DeskLayout::of(picture, window), picture, window);
+}
+
+AccessibilityPaneLayout paneOf(const DeskPicture& picture, Size window = TestWindow) {
+    return *accessibilityPaneLayout(DeskLayout::of(picture, window), picture, window);
+}
+
+std::optional<Rect> toolTipOf(const DeskPicture& picture, Size window = TestWindow) {
+    TextMeasure measure;
+    return toolTipArea(measure, DeskLayout::of(picture, window), picture, window);
+}
+
+bool overlap(const Rect& first, const Rect& second) {
+    return first.minX() < second.maxX() && second.minX() < first.maxX() && first.minY() < second.maxY() &&
+           second.minY() < first.maxY();
+}
+
+TEST(PermissionDialog, HoldsItsPartsApartFromEachOther) {
+    DeskPicture picture = withDialog();
+    for (const char* const name : {"Kestrune", "", "An application with a very long name indeed, and more"}) {
+        picture.permissionDialog->applicationName = name;
+        const AlertLayout dialog = dialogOf(picture);
+        const std::vector<Rect> parts{dialog.titleBar,    dialog.icon, dialog.message,
+                                      dialog.information, dialog.deny, dialog.openSystemSettings};
+        for (std::size_t first = 0; first < parts.size(); ++first) {
+            EXPECT_TRUE(encloses(dialog.frame, parts[first])) << name << first;
+            for (std::size_t second = first + 1; second < parts.size(); ++second) {
+                EXPECT_FALSE(overlap(parts[first], parts[second])) << name << first << second;
+            }
+        }
+        EXPECT_LT(dialog.openSystemSettings.maxX(), dialog.deny.minX());
+    }
+}
+
+TEST(PermissionDialog, GrowsWithItsTextButNotWithoutEnd) {
+    DeskPicture picture = withDialog();
+    const double usual = dialogOf(picture).frame.height();
+    picture.permissionDialog->applicationName = std::string(2000, 'n');
+    const double tallest = dialogOf(picture).frame.height();
+    EXPECT_GT(tallest, usual);
+    EXPECT_LT(tallest, usual + 60);
+}
+
+TEST(PermissionDialog, StandsABitAboveTheMiddleOfItsDisplay) {
+    DeskPicture picture = withDialog();
+    for (const std::size_t display : {0U, 1U}) {
+        picture.permissionDialog->display = display;
+        const Point middle = centerOf(DeskLayout::of(picture, TestWindow).place(display)->screen);
+        const Point center = centerOf(dialogOf(picture).frame);
+        EXPECT_NEAR(center.x, middle.x, 30);
+        EXPECT_LT(center.y, middle.y);
+        EXPECT_GT(center.y, middle.y - 60);
+    }
+    picture.permissionDialog->display = 9;
+    EXPECT_NEAR(centerOf(dialogOf(picture).frame).x, TestWindow.width / 2, 1);
+}
+
+TEST(PermissionDialog, HasDenyInTheAccentColour) {
+    const DeskPicture picture = withDialog();
+    const AlertLayout dialog = dialogOf(picture);
+    const PaintedPicture painted{picture};
+    const Pixel deny = painted.at({dialog.deny.minX() + 6, dialog.deny.maxY() - 5});
+    EXPECT_GT(deny.blue, deny.red + 80);
+    const Pixel open =
+        painted.at({dialog.openSystemSettings.minX() + 6, dialog.openSystemSettings.maxY() - 5});
+    EXPECT_GT(open.red, 240);
+}
+
+TEST(PermissionDialog, DarkensThePressedButtonOnly) {
+    DeskPicture picture = withDialog();
+    const AlertLayout dialog = dialogOf(picture);
+    const PaintedPicture released{picture};
+    picture.pressed = DialogButtonTarget{DialogButton::deny};
+    std::optional<Rect> changed = differenceOf(PaintedPicture{picture}, released);
+    ASSERT_TRUE(changed);
+    EXPECT_TRUE(encloses(dialog.deny, *changed, 1));
+    picture.pressed = DialogButtonTarget{DialogButton::openSystemSettings};
+    changed = differenceOf(PaintedPicture{picture}, released);
+    ASSERT_TRUE(changed);
+    EXPECT_TRUE(encloses(dialog.openSystemSettings, *changed, 1));
+    picture.pressed = PaneCloseTarget{};
+    EXPECT_FALSE(differenceOf(PaintedPicture{picture}, released));
+}
+
+TEST(PermissionDialog, ShowsTheApplicationsIconOrAGeneralOne) {
+    const IconFile icon{rgb(0x00FF00)};
+    DeskPicture picture = withDialog();
+    const Point center = centerOf(dialogOf(picture).icon);
+    const PaintedPicture general{picture};
+    picture.permissionDialog->iconPath = "/no/such/icon.png";
+    EXPECT_FALSE(differenceOf(PaintedPicture{picture}, general));
+    picture.permissionDialog->iconPath = icon.path();
+    EXPECT_TRUE(isNear(PaintedPicture{picture}.at(center), 0, 255, 0, 4));
+}
+
+TEST(AccessibilityPane, ListsEachApplicationWithItsSwitch) {
+    const DeskPicture picture = withPane();
+    const AccessibilityPaneLayout pane = paneOf(picture);
+    ASSERT_EQ(pane.rows.size(), 2U);
+    EXPECT_TRUE(encloses(pane.frame, pane.box));
+    EXPECT_TRUE(encloses(pane.titleBar, pane.closeButton));
+    for (const PaneRowPlace& row : pane.rows) {
+        EXPECT_TRUE(encloses(pane.list, row.area));
+        EXPECT_TRUE(encloses(row.area, row.icon));
+        EXPECT_TRUE(encloses(row.area, row.toggle));
+        EXPECT_LT(row.icon.maxX(), row.toggle.minX());
+    }
+    EXPECT_EQ(pane.rows[0].area.maxY(), pane.rows[1].area.minY());
+    EXPECT_GE(pane.removeButton.minY(), pane.list.maxY());
+    EXPECT_LE(pane.addButton.maxX(), pane.removeButton.minX());
+    EXPECT_TRUE(encloses(pane.box, pane.removeButton));
+}
+
+TEST(AccessibilityPane, ShowsWhichSwitchesAreOn) {
+    const DeskPicture picture = withPane();
+    const AccessibilityPaneLayout pane = paneOf(picture);
+    const PaintedPicture painted{picture};
+    // The half of the switch that its knob leaves free.
+    const auto track = [&](std::size_t row, double part) {
+        const Rect& toggle = pane.rows[row].toggle;
+        return painted.at({toggle.minX() + toggle.width() * part, toggle.minY() + toggle.height() / 2});
+    };
+    EXPECT_GT(track(0, 0.25).blue, track(0, 0.25).red + 80);
+    EXPECT_LT(std::abs(track(1, 0.8).blue - track(1, 0.8).red), 12);
+    EXPECT_TRUE(isNear(track(0, 0.72), 255, 255, 255, 4));
+    EXPECT_TRUE(isNear(track(1, 0.28), 255, 255, 255, 4));
+}
+
+TEST(AccessibilityPane, EnablesRemovingOnlyWithASelectedRow) {
+    DeskPicture picture = withPane();
+    EXPECT_FALSE(canRemove(*picture.accessibilityPane));
+    const Rect minus = paneOf(picture).removeButton;
+    const auto darkest = [&] {
+        int value = 255;
+        PaintedPicture{picture}.count(minus, [&](Pixel pixel) {
+            value = std::min(value, pixel.red);
+            return false;
+        });
+        return value;
+    };
+    const int disabled = darkest();
+    picture.accessibilityPane->rows[1].selected = true;
+    EXPECT_TRUE(canRemove(*picture.accessibilityPane));
+    EXPECT_LT(darkest(), disabled - 60);
+}
+
+TEST(AccessibilityPane, ShowsWhatIsHeldDown) {
+    DeskPicture picture = withPane();
+    picture.accessibilityPane->rows[0].selected = true;
+    const AccessibilityPaneLayout pane = paneOf(picture);
+    const PaintedPicture released{picture};
+    const std::vector<std::pair<DeskTarget, Rect>> parts{{PaneSwitchTarget{1}, pane.rows[1].toggle},
+                                                         {PaneCloseTarget{}, pane.closeButton},
+                                                         {PaneRemoveTarget{}, pane.removeButton}};
+    for (std::size_t index = 0; index < parts.size(); ++index) {
+        picture.pressed = parts[index].first;
+        const std::optional<Rect> changed = differenceOf(PaintedPicture{picture}, released);
+        ASSERT_TRUE(changed) << index;
+        EXPECT_TRUE(encloses(parts[index].second, *changed, 1)) << index;
+    }
+}
+
+TEST(AccessibilityPane, SaysThatItsListIsEmpty) {
+    DeskPicture picture = withPane();
+    picture.accessibilityPane->rows.clear();
+    const AccessibilityPaneLayout pane = paneOf(picture);
+    EXPECT_TRUE(pane.rows.empty());
+    const Point middle = centerOf(pane.list);
+    EXPECT_GT(PaintedPicture{picture}.count({middle.x - 40, middle.y - 8, 80, 16},
+                                            [](Pixel pixel) { return pixel.red < 190; }),
+              30);
+}
+
+TEST(SystemWindows, StayInsideTheWindow) {
+    DeskPicture picture = withDialog();
+    picture.accessibilityPane = withPane().accessibilityPane;
+    for (const Size window : {Size{1440, 900}, Size{900, 600}, Size{720, 450}}) {
+        for (const std::size_t rows : {0U, 2U, 80U}) {
+            picture.accessibilityPane->rows.assign(rows, {.name = "Application", .iconPath = std::nullopt});
+            for (const std::size_t display : {0U, 1U, 5U}) {
+                picture.permissionDialog->display = display;
+                picture.accessibilityPane->display = display;
+                const Rect all{0, 0, window.width, window.height};
+                EXPECT_TRUE(encloses(all, dialogOf(picture, window).frame)) << window.width;
+                EXPECT_TRUE(encloses(all, paneOf(picture, window).frame)) << window.width << " " << rows;
+            }
+        }
+    }
+}
+
+TEST(SystemWindows, HaveTheDialogInFrontOfThePane) {
+    DeskPicture picture = withDialog();
+    picture.permissionDialog->display = 0;
+    const Point inDialog = centerOf(dialogOf(picture).message);
+    const Pixel alone = PaintedPicture{picture}.at(inDialog);
+    picture.accessibilityPane = withPane().accessibilityPane;
+    ASSERT_TRUE(paneOf(picture).frame.contains(inDialog));
+    EXPECT_EQ(PaintedPicture{picture}.at(inDialog), alone);
+}
+
+TEST(ToolTip, StandsBelowItsStatusItemAndInsideTheWindow) {
+    DeskPicture picture = withStatusItem();
+    for (const char* const text :
+         {"Kestrune", "A tool tip that has so much to tell that it cannot be shown"}) {
+        for (const std::size_t display : {0U, 1U}) {
+            picture.toolTip = ToolTipPicture{display, 0, text};
+            const Rect slot = menuBarOf(picture, display).statusItems[0].slot;
+            const std::optional<Rect> area = toolTipOf(picture);
+            ASSERT_TRUE(area);
+            EXPECT_GT(area->minY(), slot.maxY());
+            EXPECT_TRUE(encloses({0, 0, TestWindow.width, TestWindow.height}, *area));
+        }
+    }
+}
+
+TEST(ToolTip, IsAbsentWithoutTextOrStatusItem) {
+    DeskPicture picture = withStatusItem();
+    picture.toolTip = ToolTipPicture{0, 0, ""};
+    EXPECT_FALSE(toolTipOf(picture));
+    picture.toolTip = ToolTipPicture{0, 1, "Kestrune"};
+    EXPECT_FALSE(toolTipOf(picture));
+    picture.toolTip = ToolTipPicture{4, 0, "Kestrune"};
+    EXPECT_FALSE(toolTipOf(picture));
+}
+
+} // namespace
+} // namespace kestrune::desk

@@ -1,0 +1,98 @@
+// Prints where the parts of a desk stand in its window, for a test with a real pointer: a line for each part
+// with its name, its left and top edges, its width and its height in logical pixels, separated by tabs.
+//
+// The arguments are those of the desk; a file with preferences is read and left as it is.
+
+#include "desk/command/OptionsReader.h"
+#include "desk/live/LiveDesk.h"
+#include "desk/live/LivePicture.h"
+#include "desk/paint/DeskHitTest.h"
+#include "desk/paint/MenuLayout.h"
+
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace kestrune::desk {
+namespace {
+
+constexpr int BadInput = 2;
+
+// Of the column of check marks.
+constexpr double MarkWidth = 11;
+
+void print(const std::string& name, const Rect& area) {
+    std::printf("%s\t%g\t%g\t%g\t%g\n", name.c_str(), area.minX(), area.minY(), area.width(), area.height());
+}
+
+void printTarget(LiveDesk& desk, const std::string& name, const DeskTarget& target) {
+    DeskHitTest hitTest;
+    if (const auto area = hitTest.areaOf(pictureOf(desk), UsualWindow, target)) {
+        print(name, *area);
+    }
+}
+
+// The rows of the menu that opens on the display with the pointer, and where their marks are.
+void printMenu(LiveDesk& desk, const std::string& kind) {
+    desk.openStatusMenu();
+    const DeskPicture picture = pictureOf(desk);
+    TextMeasure measure;
+    const auto layout = menuLayout(measure, DeskLayout::of(picture, UsualWindow), picture, UsualWindow);
+    for (std::size_t row = 0; layout && row < layout->rows.size(); ++row) {
+        const Rect& area = layout->rows[row];
+        const std::string& title = picture.menu->rows[row].title;
+        const std::string name = title.empty() ? "separator" : title.substr(title.find_first_not_of(' '));
+        print(kind + ": " + name, area);
+        print(kind + " mark: " + name, {layout->checkLeft, area.minY(), MarkWidth, area.height()});
+    }
+    desk.navigate(NavigationKey::escape);
+}
+
+void printParts(LiveDesk& desk) {
+    print("window", {0, 0, UsualWindow.width, UsualWindow.height});
+    const DeskLayout layout = DeskLayout::of(pictureOf(desk), UsualWindow);
+    for (std::size_t display = 0; display < desk.session().displays().connected().size(); ++display) {
+        print("display " + std::to_string(display + 1), layout.place(display)->screen);
+        printTarget(desk, "icon " + std::to_string(display + 1), StatusItemTarget{display, 0});
+    }
+    printMenu(desk, "first menu");
+    printMenu(desk, "menu");
+    desk.askForPermission();
+    printTarget(desk, "open system settings", DialogButtonTarget{DialogButton::openSystemSettings});
+    printTarget(desk, "deny", DialogButtonTarget{DialogButton::deny});
+    printTarget(desk, "switch", PaneSwitchTarget{0});
+    printTarget(desk, "row", PaneRowTarget{0});
+    printTarget(desk, "close", PaneCloseTarget{});
+    desk.pressButton(PaneRowTarget{0});
+    desk.releaseButton(PaneRowTarget{0});
+    printTarget(desk, "remove", PaneRemoveTarget{});
+}
+
+int refuse(const InputError& error) {
+    std::fprintf(stderr, "places: %s\n", error.message.c_str());
+    return BadInput;
+}
+
+int run(const std::vector<std::string_view>& words) {
+    const auto options = readOptions(words);
+    if (const auto* error = std::get_if<InputError>(&options)) {
+        return refuse(*error);
+    }
+    auto setup = setupOf(std::get<Options>(options));
+    if (const auto* error = std::get_if<InputError>(&setup)) {
+        return refuse(*error);
+    }
+    std::get<LiveDeskSetup>(setup).defaultsFile.reset();
+    LiveDesk desk(std::get<LiveDeskSetup>(setup));
+    printParts(desk);
+    return 0;
+}
+
+} // namespace
+} // namespace kestrune::desk
+
+int main(int argumentCount, char** arguments) {
+    return kestrune::desk::run({arguments + 1, arguments + argumentCount});
+}
