@@ -51,7 +51,8 @@ else
 run:
 	$(call build,run,kestrune-desk)
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then $(DIR)/desk/kestrune-desk; \
-	else $(DIR)/desk/kestrune-desk --tour out/tour; fi
+	else $(DIR)/desk/kestrune-desk --tour out/tour && \
+	    echo "No display server: the tour's pictures and its report are in out/tour"; fi
 endif
 
 test:
@@ -69,8 +70,9 @@ bench:
 	@benchmarks/run build/$(PRESET)
 
 simulate:
-	$(call build,simulate,kestrune-simulate)
+	$(call build,simulate,kestrune-simulate kestrune-simulate-shell)
 	@$(DIR)/tests/simulate/kestrune-simulate --seed $(SEED) --seeds $(SEEDS)
+	@$(DIR)/tests/shell/kestrune-simulate-shell --seed $(SEED) --seeds $(SEEDS)
 
 fuzz: override PRESET = fuzz
 fuzz:

@@ -1,32 +1,8 @@
 // The lasting state of a guarded session, compared with what it must be.
+#include "tests/simulate/GuardRecords.h"
 #include "tests/simulate/GuardedSession.h"
-#include "tests/simulate/Judge.h"
 
 namespace kestrune::simulate {
-
-namespace {
-
-bool isRecordOf(const ManagedScreen& screen, const KnownDisplay& display) {
-    return screen.uuid == display.identifier && screen.displayID == display.number &&
-           screen.localizedName == display.name &&
-           identical(screen.cgFrame.origin, {display.left, display.top}) &&
-           identical({screen.cgFrame.size.width, screen.cgFrame.size.height},
-                     {display.width, display.height});
-}
-
-bool areRecordsOf(const std::vector<ManagedScreen>& screens, const std::vector<KnownDisplay>& displays) {
-    if (screens.size() != displays.size()) {
-        return false;
-    }
-    for (std::size_t index = 0; index < screens.size(); ++index) {
-        if (!isRecordOf(screens[index], displays[index])) {
-            return false;
-        }
-    }
-    return true;
-}
-
-} // namespace
 
 void GuardedSession::checkState() {
     require(guard_->isRunning() == tap_.isRunning(), "isRunning is not what starting and stopping made it");
@@ -42,12 +18,9 @@ void GuardedSession::checkState() {
 }
 
 void GuardedSession::checkScreens() {
-    require(areRecordsOf(guard_->screensCache(), expected_.displays),
+    require(knowsDisplays(*guard_, expected_.displays),
             "screensCache is not what the displays were at the last refresh");
-    const std::optional<ManagedScreen>& pinned = guard_->pinnedScreen();
-    require(pinned.has_value() == expected_.pinned.has_value() &&
-                (!pinned || isRecordOf(*pinned, *expected_.pinned)),
-            "pinnedScreen is not what the last refresh had to resolve");
+    require(pins(*guard_, expected_.pinned), "pinnedScreen is not what the last refresh had to resolve");
 }
 
 void GuardedSession::checkLog() {
@@ -55,7 +28,8 @@ void GuardedSession::checkLog() {
     require(records.size() == refusals_, "not exactly one log line for each refused start");
     if (!records.empty()) {
         const sim::LogRecord& last = records.back();
-        require(last.level == sim::LogLevel::error && last.subsystem == session_.bundleIdentifier() &&
+        require(last.level == sim::LogLevel::error &&
+                    last.subsystem == session_.bundle().infoString("CFBundleIdentifier") &&
                     last.category == "dockGuard" &&
                     last.message == "Failed to create event tap. Accessibility permission required.",
                 "the log line of a refused start is wrong");

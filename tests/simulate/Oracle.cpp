@@ -43,7 +43,9 @@ std::string identifierOf(const sim::Displays& system, std::uint32_t number) {
     return uuid && !system.uuidStringsFail() ? *uuid : "display-" + std::to_string(number);
 }
 
-std::vector<KnownDisplay> enumerate(sim::Displays& system) {
+} // namespace
+
+std::vector<KnownDisplay> enumerateDisplays(sim::Displays& system) {
     std::vector<KnownDisplay> known;
     for (const ScreenReading& reading : readScreens(system)) {
         const std::optional<std::uint32_t> number = usableNumber(reading.display);
@@ -68,8 +70,16 @@ std::vector<KnownDisplay> enumerate(sim::Displays& system) {
     return known;
 }
 
+std::optional<std::string> mainIdentifier(const sim::Displays& system) {
+    const std::optional<sim::Display> main = system.main();
+    const std::optional<std::uint32_t> number = main ? usableNumber(*main) : std::nullopt;
+    return number ? std::optional(identifierOf(system, *number)) : std::nullopt;
+}
+
+namespace {
+
 std::optional<KnownDisplay> findByEnumerating(sim::Displays& system, const std::string& identifier) {
-    for (KnownDisplay& display : enumerate(system)) {
+    for (KnownDisplay& display : enumerateDisplays(system)) {
         if (display.identifier == identifier) {
             return std::move(display);
         }
@@ -85,16 +95,15 @@ bool KnownDisplay::holds(Point point) const {
     return inColumn && inRow;
 }
 
-Resolution expectedResolution(sim::Displays system, const std::optional<std::string>& storedChoice) {
+Resolution resolve(sim::Displays& system, const std::optional<std::string>& storedChoice) {
     Resolution resolution;
-    resolution.displays = enumerate(system);
+    resolution.displays = enumerateDisplays(system);
     if (storedChoice) {
         resolution.pinned = findByEnumerating(system, *storedChoice);
     }
-    const std::optional<sim::Display> main = system.main();
-    if (!resolution.pinned && main) {
-        if (const std::optional<std::uint32_t> number = usableNumber(*main)) {
-            resolution.pinned = findByEnumerating(system, identifierOf(system, *number));
+    if (!resolution.pinned) {
+        if (const std::optional<std::string> main = mainIdentifier(system)) {
+            resolution.pinned = findByEnumerating(system, *main);
         }
     }
     if (!resolution.pinned && !resolution.displays.empty()) {
@@ -109,6 +118,10 @@ Resolution expectedResolution(sim::Displays system, const std::optional<std::str
         resolution.written = resolved;
     }
     return resolution;
+}
+
+Resolution expectedResolution(sim::Displays system, const std::optional<std::string>& storedChoice) {
+    return resolve(system, storedChoice);
 }
 
 double GuardState::bandDepth() const { return storedMargin > 0 ? storedMargin : 4; }

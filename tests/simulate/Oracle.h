@@ -38,8 +38,17 @@ struct Resolution {
     std::optional<std::string> written;
 };
 
-// `system` is what the system knows at the moment of the refresh; it is a copy, because enumerating uses up
-// scripted readings. `storedChoice` is what stringForKey: answers.
+// The displays that the application must list, in order; uses up readings of the system's list, as it does.
+std::vector<KnownDisplay> enumerateDisplays(sim::Displays& system);
+
+// The identifier of the main display; absent when there is none or it has no usable number.
+std::optional<std::string> mainIdentifier(const sim::Displays& system);
+
+// Uses up readings, as the refresh does. `storedChoice` is what stringForKey: answers.
+Resolution resolve(sim::Displays& system, const std::optional<std::string>& storedChoice);
+
+// The same for a copy of what the system knows at the moment of the refresh, whose readings are still unused
+// afterwards.
 Resolution expectedResolution(sim::Displays system, const std::optional<std::string>& storedChoice);
 
 // All that the decision about an event depends on.

@@ -21,6 +21,10 @@ public:
 
     GuardedSession& session() { return *session_; }
 
+    // Whether each step of an action is kept as text, beside the action's own.
+    void trace(bool trace) { session_->traceDeliveries(trace); }
+    std::vector<std::string> takeTrace() { return session_->takeTrace(); }
+
     // One action; returns what it was, readable.
     std::string act();
 

@@ -34,8 +34,8 @@ std::optional<std::uint64_t> readNumber(std::string_view text) {
 
 } // namespace
 
-std::variant<Settings, std::string> readSettings(int argumentCount, const char* const* arguments) {
-    Settings settings;
+std::variant<Settings, std::string> readSettings(int argumentCount, const char* const* arguments,
+                                                 Settings settings) {
     for (int index = 1; index < argumentCount; ++index) {
         const std::string option = arguments[index];
         if (option == "--trace") {

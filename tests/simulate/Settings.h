@@ -15,7 +15,8 @@ struct Settings {
     bool trace = false;          // print every action and delivery
 };
 
-// The settings, or what is wrong with the arguments.
-std::variant<Settings, std::string> readSettings(int argumentCount, const char* const* arguments);
+// The settings, or what is wrong with the arguments; `settings` is what holds without arguments.
+std::variant<Settings, std::string> readSettings(int argumentCount, const char* const* arguments,
+                                                 Settings settings = {});
 
 } // namespace kestrune::simulate

@@ -1,0 +1,68 @@
+#include "tests/shell/ShellCounts.h"
+
+#include "tests/simulate/SessionRun.h"
+
+namespace kestrune::simulate {
+
+namespace {
+
+// In the order of the enumerators.
+constexpr std::array<const char*, static_cast<std::size_t>(Happening::total)> Names{
+    "launches",
+    "of them without permission",
+    "quits from the status menu",
+    "quits from the main menu",
+    "other terminations",
+    "kills",
+    "delegates let go",
+    "status menus opened",
+    "main menus opened",
+    "lines chosen",
+    "of them after the delegate was gone",
+    "displays selected",
+    "switches off",
+    "switches on",
+    "rebuilds before setup",
+    "rebuilds after setup",
+    "menus marked by the stored choice",
+    "marked as the main display",
+    "marked as the first display",
+    "unmarked by a stale choice",
+    "without displays",
+    "display changes followed",
+    "of them while stopped",
+    "refreshes",
+    "write-backs",
+    "starts",
+    "of them while a menu was open",
+    "refused starts",
+    "stops",
+    "permissions found by the menu",
+    "ticks without permission",
+    "late ticks",
+    "watchers ended by a tick",
+    "by the menu",
+    "by the wizard",
+    "without the delegate",
+    "welcome decisions with permission",
+    "without permission",
+    "without the delegate",
+    "wizards finished",
+};
+
+} // namespace
+
+ShellCounts& ShellCounts::operator+=(const ShellCounts& other) {
+    for (std::size_t index = 0; index < numbers_.size(); ++index) {
+        numbers_[index] += other.numbers_[index];
+    }
+    return *this;
+}
+
+void ShellCounts::print() const {
+    for (std::size_t index = 0; index < numbers_.size(); ++index) {
+        printCount(Names[index], numbers_[index]);
+    }
+}
+
+} // namespace kestrune::simulate
