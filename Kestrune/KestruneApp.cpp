@@ -8,6 +8,8 @@
 #include "platform/MainActor.h"
 #include "platform/NotificationCenter.h"
 
+#include <utility>
+
 namespace kestrune {
 
 namespace {
@@ -86,9 +88,10 @@ void KestruneApp::installMainMenu() {
 }
 
 std::shared_ptr<MenuBarController> KestruneApp::makeMenuBarController() {
-    return MenuBarController::make(preferences_, dockGuard_,
-                                   {.openSettings = whileAlive<&KestruneApp::openSettingsWindow>(),
-                                    .openWelcome = whileAlive<&KestruneApp::showWelcomeWindow>()});
+    MenuBarController::Openers openers;
+    openers.openSettings = whileAlive<&KestruneApp::openSettingsWindow>();
+    openers.openWelcome = whileAlive<&KestruneApp::showWelcomeWindow>();
+    return MenuBarController::make(preferences_, dockGuard_, std::move(openers));
 }
 
 void KestruneApp::menuOpenSettings() {

@@ -70,9 +70,9 @@ std::optional<RepresentedObject> MenuItem::representedObject() const {
     return state_->representedObject;
 }
 
-void MenuItem::setState(ControlState control) {
-    record("-[NSMenuItem setState:] ", static_cast<std::intptr_t>(control));
-    state_->control = control;
+void MenuItem::setState(ControlState state) {
+    record("-[NSMenuItem setState:] ", static_cast<std::intptr_t>(state));
+    state_->control = state;
 }
 
 void MenuItem::setEnabled(bool enabled) {
