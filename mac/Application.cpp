@@ -1,0 +1,42 @@
+#include "platform/Application.h"
+
+#include "mac/Handles.h"
+#include "mac/ObjectCounterpart.h"
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+
+// NSApp: nil before the first sharedApplication.
+// NOLINTNEXTLINE(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)
+extern "C" id NSApp;
+
+namespace kestrune {
+
+Application Application::sharedApplication() {
+    const mac::Pool pool;
+    mac::ns_application::sharedApplication(mac::ns_application::type.object());
+    return {};
+}
+
+std::optional<Application> Application::nsApp() {
+    return NSApp != nullptr ? std::optional(Application()) : std::nullopt;
+}
+
+void Application::setDelegate(const std::weak_ptr<ApplicationDelegate>& delegate) {
+    const mac::Pool pool;
+    mac::ns_application::setDelegate(NSApp, Object::Counterpart::of(delegate));
+}
+
+bool Application::setActivationPolicy(ActivationPolicy policy) {
+    return mac::ns_application::setActivationPolicy(NSApp, static_cast<mac::Integer>(policy)) != 0;
+}
+
+void Application::setMainMenu(const Menu& menu) {
+    const mac::Pool pool;
+    mac::ns_application::setMainMenu(NSApp, menu.state()->menu.get());
+}
+
+void Application::run() { mac::ns_application::run(NSApp); }
+
+void Application::terminate() { mac::ns_application::terminate(NSApp, nullptr); }
+
+} // namespace kestrune

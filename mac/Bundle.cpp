@@ -1,0 +1,35 @@
+#include "platform/Bundle.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
+
+namespace kestrune {
+
+namespace {
+
+id theMainBundle() { return mac::ns_bundle::mainBundle(mac::ns_bundle::type.object()); }
+
+} // namespace
+
+// There is one; it is asked for with each call.
+Bundle Bundle::mainBundle() { return {}; }
+
+std::optional<std::string> Bundle::bundleIdentifier() const {
+    const mac::Pool pool;
+    return mac::textIfString(mac::ns_bundle::bundleIdentifier(theMainBundle()));
+}
+
+std::optional<std::string> Bundle::infoDictionaryString(std::string_view key) const {
+    const mac::Pool pool;
+    const id dictionary = mac::ns_bundle::infoDictionary(theMainBundle());
+    return mac::textIfString(mac::ns_dictionary::objectForKey(dictionary, mac::nsString(key).get()));
+}
+
+std::string Bundle::localizedString(std::string_view key) const {
+    const mac::Pool pool;
+    return mac::textOf(mac::ns_bundle::localizedString(theMainBundle(), mac::nsString(key).get(),
+                                                       mac::nsString("").get(), nullptr));
+}
+
+} // namespace kestrune

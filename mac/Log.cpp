@@ -1,0 +1,63 @@
+#include "platform/Log.h"
+
+#include "mac/c/UnifiedLog.h"
+
+#include <array>
+#include <cstring>
+#include <string>
+
+namespace kestrune {
+
+namespace {
+
+constexpr std::uint8_t Debug = 0x02;
+constexpr std::uint8_t Error = 0x10;
+
+// The log keeps a reference into the image, so the text must lie where the linker puts format strings.
+#ifdef __APPLE__
+__attribute__((section("__TEXT,__oslogstring,cstring_literals")))
+#endif
+constexpr char PublicString[] = "%{public}s";
+
+// The arguments of "%{public}s": one that is no scalar, a public string, eight bytes long.
+class PublicArgument {
+public:
+    explicit PublicArgument(const char* text) {
+        constexpr std::array<std::uint8_t, 4> Head = {0x02, 0x01, 0x22, 0x08};
+        static_assert(sizeof(text) == 8);
+        std::memcpy(bytes_.data(), Head.data(), Head.size());
+        std::memcpy(bytes_.data() + Head.size(), &text, sizeof(text));
+    }
+
+    std::uint8_t* bytes() { return bytes_.data(); }
+    static constexpr std::uint32_t Size = 12;
+
+private:
+    alignas(16) std::array<std::uint8_t, Size> bytes_{};
+};
+
+void write(os_log_t log, std::uint8_t type, OSLogFunction* function, std::string_view message) {
+    if (!os_log_type_enabled(log, type)) {
+        return;
+    }
+    const std::string text(message);
+    PublicArgument argument(text.c_str());
+    function(&__dso_handle, log, type, PublicString, argument.bytes(), PublicArgument::Size);
+}
+
+} // namespace
+
+// The system keeps log objects for ever.
+struct Log::State {
+    os_log_t log;
+};
+
+Log::Log(std::string_view subsystem, std::string_view category)
+    : state_(std::make_shared<State>(
+          State{os_log_create(std::string(subsystem).c_str(), std::string(category).c_str())})) {}
+
+void Log::debug(std::string_view message) const { write(state_->log, Debug, _os_log_debug_impl, message); }
+
+void Log::error(std::string_view message) const { write(state_->log, Error, _os_log_error_impl, message); }
+
+} // namespace kestrune

@@ -1,0 +1,17 @@
+#include "platform/Workspace.h"
+
+#include "mac/URLState.h"
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+
+namespace kestrune {
+
+Workspace Workspace::sharedWorkspace() { return {}; }
+
+bool Workspace::openURL(const URL& url) {
+    const mac::Pool pool;
+    const id workspace = mac::ns_workspace::sharedWorkspace(mac::ns_workspace::type.object());
+    return mac::ns_workspace::openURL(workspace, url.state()->url.get()) != 0;
+}
+
+} // namespace kestrune

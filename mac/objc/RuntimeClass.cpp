@@ -1,0 +1,47 @@
+#include "mac/objc/RuntimeClass.h"
+
+#include "base/Fatal.h"
+#include "mac/Vocabulary.h"
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+namespace kestrune::mac {
+
+namespace {
+
+constexpr const char* TargetVariable = "target";
+constexpr std::uint8_t AlignmentOfPointers = 3; // as a power of two
+
+void** targetVariable(id instance) {
+    const Ivar variable = class_getInstanceVariable(object_getClass(instance), TargetVariable);
+    return reinterpret_cast<void**>(reinterpret_cast<char*>(instance) + ivar_getOffset(variable));
+}
+
+} // namespace
+
+RuntimeClass::RuntimeClass(const char* name)
+    : class_(objc_allocateClassPair(ns_object::type.find(), name, 0)) {
+    if (class_ == nullptr) {
+        fatal(std::string("There is a class named ") + name + " already.");
+    }
+    class_addIvar(class_, TargetVariable, sizeof(void*), AlignmentOfPointers, "^v");
+}
+
+void RuntimeClass::add(SEL selector, IMP implementation, const char* encoding) {
+    if (class_addMethod(class_, selector, implementation, encoding) == 0) {
+        fatal(std::string("There is a method ") + sel_getName(selector) + " already.");
+    }
+}
+
+Class RuntimeClass::finish() {
+    objc_registerClassPair(class_);
+    return class_;
+}
+
+void* RuntimeClass::target(id instance) { return *targetVariable(instance); }
+
+void RuntimeClass::setTarget(id instance, void* target) { *targetVariable(instance) = target; }
+
+} // namespace kestrune::mac

@@ -1,0 +1,28 @@
+// Whether the platform has what the binding calls, with the signatures that the binding believes in.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace kestrune::mac {
+
+struct SelfCheckResult {
+    std::size_t classes = 0; // declared
+    std::size_t messages = 0;
+
+    // Each names a class, or a method and its encodings.
+    std::vector<std::string> missingClasses;
+    std::vector<std::string> missingMethods;
+    std::vector<std::string> differences;
+
+    bool isClean() const { return missingClasses.empty() && missingMethods.empty() && differences.empty(); }
+};
+
+// Holds every declared class and message against the runtime.
+SelfCheckResult checkVocabulary();
+
+// Stops the process unless that finds nothing, and names everything that it finds.
+void requireVocabulary();
+
+} // namespace kestrune::mac
