@@ -8,6 +8,10 @@ ConnectedDisplay connectedDisplay(DisplayID displayID, const Rect& bounds) {
 
 World::World() : World(BundleFiles{{{"CFBundleIdentifier", std::string(BundleIdentifier)}}, {}, {}}) {}
 
+void World::launchApplication() {
+    launch([] { Application::sharedApplication().run(); });
+}
+
 std::vector<ShownRow> World::statusMenuRows() {
     std::vector<ShownRow> rows;
     openStatusMenu([&] { rows = openMenuRows(); });

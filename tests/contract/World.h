@@ -129,7 +129,10 @@ public:
     // What `work` does happens on a thread that is not the main thread; this waits for it.
     void onAnotherThread(const std::function<void()>& work);
 
-    // Calls `run` and comes back once the application has launched.
+    // Does `work`, in which the application runs, and comes back once it has launched.
+    void launch(const std::function<void()>& work);
+
+    // The same with nothing but `run`.
     void launchApplication();
 
     // Does `work`, in which the application terminates. Only the end of the process is held back.

@@ -149,7 +149,7 @@ void World::letTimePass(double seconds) {
 void World::onAnotherThread(const std::function<void()>& work) { state_->session.onAnotherThread(work); }
 
 // In the simulation `run` returns after the launch, and `terminate:` after the process has ended.
-void World::launchApplication() { Application::sharedApplication().run(); }
+void World::launch(const std::function<void()>& work) { work(); }
 
 void World::catchTermination(const std::function<void()>& work) { work(); }
 

@@ -1,0 +1,37 @@
+#include "tests/gnustep/Allocations.h"
+
+#include "tests/gnustep/Send.h"
+
+// Source: GNUstepBase, GSObjCRuntime and NSDebug.h.
+extern "C" {
+BOOL GSDebugAllocationActive(BOOL active);
+Class* GSDebugAllocationClassList();
+int GSDebugAllocationCount(Class type);
+}
+
+namespace kestrune::gnustep {
+
+void countAllocations() { GSDebugAllocationActive(mac::truth(true)); }
+
+AllocatedObjects allocatedObjects() {
+    AllocatedObjects objects;
+    // GNUstep frees the list itself; it ends with a null.
+    for (const Class* type = GSDebugAllocationClassList(); *type != nullptr; ++type) {
+        objects.emplace(class_getName(*type), static_cast<std::size_t>(GSDebugAllocationCount(*type)));
+    }
+    return objects;
+}
+
+std::vector<std::string> growth(const AllocatedObjects& before, const AllocatedObjects& after) {
+    std::vector<std::string> grown;
+    for (const auto& [name, count] : after) {
+        const auto former = before.find(name);
+        const std::size_t formerCount = former != before.end() ? former->second : 0;
+        if (count > formerCount) {
+            grown.push_back(name + ": " + std::to_string(count - formerCount) + " more");
+        }
+    }
+    return grown;
+}
+
+} // namespace kestrune::gnustep

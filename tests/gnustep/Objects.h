@@ -1,0 +1,28 @@
+// Plain values as Foundation's objects, which the innermost autorelease pool owns.
+#pragma once
+
+#include "tests/gnustep/Send.h"
+
+#include <concepts>
+#include <cstdint>
+#include <string>
+
+namespace kestrune::gnustep {
+
+inline id objectFor(const std::string& text) {
+    return send(classObject("NSString"), "stringWithUTF8String:", text.c_str());
+}
+
+// A literal text must not turn into a truth value.
+template <std::same_as<bool> Truth>
+id objectFor(Truth value) {
+    return send(classObject("NSNumber"), "numberWithBool:", mac::truth(value));
+}
+
+inline id objectFor(std::int64_t number) {
+    return send(classObject("NSNumber"), "numberWithLongLong:", static_cast<long long>(number));
+}
+
+inline id objectFor(double number) { return send(classObject("NSNumber"), "numberWithDouble:", number); }
+
+} // namespace kestrune::gnustep

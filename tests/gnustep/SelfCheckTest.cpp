@@ -1,0 +1,122 @@
+// The binding's vocabulary held against GNUstep, with and without what stands in for the Mac.
+#include "mac/objc/SelfCheck.h"
+
+#include "mac/Vocabulary.h"
+#include "tests/gnustep/standins/StandIns.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace kestrune::gnustep {
+namespace {
+
+using testing::Contains;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+using testing::UnorderedElementsAreArray;
+
+// Methods that stand-ins alone have; the check tells nothing about their encodings.
+const std::vector<std::string> MissingInGNUstep = {
+    "-[NSApplication setActivationPolicy:]",
+    "-[NSButton setImageScaling:]",
+    "-[NSImage setTemplate:]",
+    "-[NSScreen localizedName]",
+    "-[NSStatusItem button]",
+};
+
+// Methods that GNUstep declares otherwise, and why the binding is right all the same.
+struct ExplainedDifference {
+    std::string method;
+    const char* explanation;
+};
+const ExplainedDifference Explained[] = {
+    {"-[NSString initWithBytes:length:encoding:]",
+     "NSStringEncoding is NSUInteger in Apple's NSString.h and an enumeration in GNUstep's."},
+    {"-[NSString lengthOfBytesUsingEncoding:]",
+     "NSStringEncoding is NSUInteger in Apple's NSString.h and an enumeration in GNUstep's."},
+};
+
+std::vector<std::string> explainedMethods() {
+    std::vector<std::string> methods;
+    for (const ExplainedDifference& difference : Explained) {
+        methods.push_back(difference.method);
+    }
+    return methods;
+}
+
+// Without the encodings.
+std::vector<std::string> methodsOf(const std::vector<std::string>& differences) {
+    std::vector<std::string> methods;
+    for (const std::string& difference : differences) {
+        methods.push_back(difference.substr(0, difference.find("]: ") + 1));
+    }
+    return methods;
+}
+
+void print(const mac::SelfCheckResult& result) {
+    const std::size_t own = result.messages - result.missingMethods.size();
+    std::printf(
+        "%zu classes, %zu messages and their encodings checked: GNUstep has %zu classes and %zu messages, "
+        "stand-ins alone %zu messages; of GNUstep's encodings %zu agree and %zu are explained\n",
+        result.classes, result.messages, result.classes - result.missingClasses.size(), own,
+        result.missingMethods.size(), own - result.differences.size(), result.differences.size());
+    for (const ExplainedDifference& difference : Explained) {
+        std::printf("%s: %s\n", difference.method.c_str(), difference.explanation);
+    }
+}
+
+TEST(SelfCheck, FindsInGNUstepWhatIsNotListedAsMissing) {
+    const mac::SelfCheckResult result = mac::checkVocabulary();
+    print(result);
+    EXPECT_GT(result.classes, 0U);
+    EXPECT_GT(result.messages, 0U);
+    EXPECT_THAT(result.missingClasses, IsEmpty());
+    EXPECT_THAT(result.missingMethods, UnorderedElementsAreArray(MissingInGNUstep));
+}
+
+TEST(SelfCheck, AgreesWithGNUstepsEncodingsButForThoseExplained) {
+    const mac::SelfCheckResult result = mac::checkVocabulary();
+    EXPECT_THAT(methodsOf(result.differences), UnorderedElementsAreArray(explainedMethods()));
+}
+
+TEST(SelfCheck, FindsEverythingWithTheStandIns) {
+    installStandIns();
+    const mac::SelfCheckResult result = mac::checkVocabulary();
+    EXPECT_THAT(result.missingClasses, IsEmpty());
+    EXPECT_THAT(result.missingMethods, IsEmpty());
+    EXPECT_THAT(methodsOf(result.differences), UnorderedElementsAreArray(explainedMethods()));
+}
+
+using SelfCheckDeathTest = testing::Test;
+
+TEST_F(SelfCheckDeathTest, NamesWhatIsMissingAndWhatDiffers) {
+    EXPECT_DEATH(mac::requireVocabulary(),
+                 "no method -.NSStatusItem button.\n(.*\n)*  another encoding: -.NSString "
+                 "initWithBytes:length:encoding:.: expected @@:.vQQ, found ");
+}
+
+// Last, as what is declared stays declared.
+TEST(SelfCheck, FindsDeliberateMistakes) {
+    using mac::Message;
+    const mac::SelfCheckResult before = mac::checkVocabulary();
+    static const Message<int()> WrongIntegerWidth{mac::ns_array::type, "count"};
+    static const Message<float()> FloatForDouble{mac::ns_number::type, "doubleValue"};
+    static const Message<id()> Misspelled{mac::ns_bundle::type, "infoDictionairy"};
+    static const Message<Size()> StructureOfAWrongSize{mac::ns_screen::type, "frame"};
+    const mac::SelfCheckResult after = mac::checkVocabulary();
+    EXPECT_EQ(after.messages, before.messages + 4);
+    EXPECT_THAT(after.differences, SizeIs(before.differences.size() + 3));
+    EXPECT_THAT(after.differences, Contains(StartsWith("-[NSArray count]: expected i@:, found ")));
+    EXPECT_THAT(after.differences, Contains(StartsWith("-[NSNumber doubleValue]: expected f@:, found ")));
+    EXPECT_THAT(after.differences, Contains(StartsWith("-[NSScreen frame]: expected {CGSize=dd}@:, found ")));
+    EXPECT_THAT(after.missingMethods, SizeIs(before.missingMethods.size() + 1));
+    EXPECT_THAT(after.missingMethods, Contains("-[NSBundle infoDictionairy]"));
+}
+
+} // namespace
+} // namespace kestrune::gnustep

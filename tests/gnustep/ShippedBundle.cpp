@@ -1,0 +1,48 @@
+#include "tests/gnustep/ShippedBundle.h"
+
+#include "base/Fatal.h"
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
+#include "tests/gnustep/Objects.h"
+
+#include <map>
+#include <string>
+
+namespace kestrune::gnustep {
+
+namespace {
+
+const std::string Resources = KESTRUNE_RESOURCES;
+
+// GNUstep's own reader of property lists and of tables of strings.
+std::map<std::string, std::string> textsIn(const std::string& file) {
+    const id dictionary = send(classObject("NSDictionary"), "dictionaryWithContentsOfFile:", objectFor(file));
+    if (dictionary == nullptr) {
+        fatal("GNUstep cannot read " + file + ".");
+    }
+    const id keys = send(dictionary, "allKeys");
+    std::map<std::string, std::string> texts;
+    for (mac::Unsigned index = 0; index < mac::ns_array::count(keys); ++index) {
+        const id key = mac::ns_array::objectAtIndex(keys, index);
+        if (const auto text = mac::textIfString(mac::ns_dictionary::objectForKey(dictionary, key))) {
+            texts.emplace(mac::textOf(key), *text);
+        }
+    }
+    return texts;
+}
+
+} // namespace
+
+contract::BundleFiles shippedBundle() {
+    const mac::Pool pool;
+    contract::BundleFiles files;
+    for (const auto& [key, value] : textsIn(Resources + "/Info.plist")) {
+        files.infoDictionary.emplace(key, value);
+    }
+    files.localizedStrings = textsIn(Resources + "/en.lproj/Localizable.strings");
+    files.imageNames = {"MenuBarIcon"};
+    return files;
+}
+
+} // namespace kestrune::gnustep

@@ -1,0 +1,271 @@
+// The contract tests' world on GNUstep: what GNUstep has is GNUstep's own, the rest is stood in for.
+#include "tests/contract/World.h"
+
+#include "base/Fatal.h"
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
+#include "tests/gnustep/Objects.h"
+#include "tests/gnustep/PrivateHome.h"
+#include "tests/gnustep/standins/AccessibilityTrust.h"
+#include "tests/gnustep/standins/ActivationPolicy.h"
+#include "tests/gnustep/standins/DisplayUUIDs.h"
+#include "tests/gnustep/standins/EventTaps.h"
+#include "tests/gnustep/standins/MainBundle.h"
+#include "tests/gnustep/standins/OpenedURLs.h"
+#include "tests/gnustep/standins/RunLoopSources.h"
+#include "tests/gnustep/standins/RunningApplication.h"
+#include "tests/gnustep/standins/Screens.h"
+#include "tests/gnustep/standins/StandIns.h"
+#include "tests/gnustep/standins/StatusItems.h"
+#include "tests/gnustep/standins/TemplateImages.h"
+#include "tests/gnustep/standins/UnifiedLog.h"
+
+#include <thread>
+#include <utility>
+
+extern "C" {
+// NOLINTNEXTLINE(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)
+extern id NSApp;
+extern const id NSDefaultRunLoopMode;
+extern const id NSEventTrackingRunLoopMode;
+}
+
+namespace kestrune::contract {
+
+using namespace gnustep;
+
+namespace {
+
+id userDefaults() {
+    return mac::ns_user_defaults::standardUserDefaults(mac::ns_user_defaults::type.object());
+}
+
+struct AsObject {
+    template <typename Plain>
+    id operator()(const Plain& value) const {
+        return objectFor(value);
+    }
+    id operator()(const StoredData& data) const {
+        return send(classObject("NSData"),
+                    "dataWithBytes:length:", static_cast<const void*>(data.bytes.data()),
+                    mac::Unsigned{data.bytes.size()});
+    }
+    // The getters look at the kind alone.
+    id operator()(const StoredDate& /*date*/) const { return send(classObject("NSDate"), "date"); }
+    id operator()(const StoredArray& array) const {
+        const id items = send(classObject("NSMutableArray"), "array");
+        for (const std::string& item : array.items) {
+            send<void>(items, "addObject:", objectFor(item));
+        }
+        return items;
+    }
+    id operator()(const StoredDictionary& dictionary) const {
+        return send(classObject("NSDictionary"), "dictionaryWithObject:forKey:", objectFor(dictionary.value),
+                    objectFor(dictionary.key));
+    }
+};
+
+ShownRow rowOf(id item) {
+    ShownRow row;
+    row.isSeparator = send<BOOL>(item, "isSeparatorItem") != 0;
+    // GNUstep's separators have dashes for a title, which nobody sees.
+    row.title = row.isSeparator ? "" : mac::textOf(send(item, "title"));
+    row.state = static_cast<ControlState>(send<mac::Integer>(item, "state"));
+    row.isEnabled = !row.isSeparator && send<BOOL>(item, "isEnabled") != 0;
+    row.keyEquivalent = mac::textOf(send(item, "keyEquivalent"));
+    row.modifiers = static_cast<EventModifierFlags>(send<mac::Unsigned>(item, "keyEquivalentModifierMask"));
+    return row;
+}
+
+// The items as they would be shown now.
+std::vector<id> itemsOf(id menu) {
+    send<void>(menu, "update");
+    const id list = send(menu, "itemArray");
+    std::vector<id> items;
+    for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
+        items.push_back(mac::ns_array::objectAtIndex(list, index));
+    }
+    return items;
+}
+
+// GNUstep's own search for a key equivalent takes no notice of the shift key, nor of disabled items.
+id itemForKey(id menu, std::string_view character, EventModifierFlags modifiers) {
+    for (const id item : itemsOf(menu)) {
+        if (const id found = itemForKey(send(item, "submenu"), character, modifiers)) {
+            return found;
+        }
+        const ShownRow row = rowOf(item);
+        if (row.isEnabled && row.keyEquivalent == character && row.modifiers == modifiers) {
+            return item;
+        }
+    }
+    return nullptr;
+}
+
+void runLoopUntil(id mode, id date) {
+    send<BOOL>(send(classObject("NSRunLoop"), "currentRunLoop"), "runMode:beforeDate:", mode, date);
+}
+
+} // namespace
+
+struct World::State {
+    // Tells the delegate and enables the rows, as AppKit does; closes the menu unless a row was chosen.
+    bool open(id menu, const std::function<void()>& whileOpen);
+    void choose(id item);
+    id mode() const { return openMenu ? NSEventTrackingRunLoopMode : NSDefaultRunLoopMode; }
+
+    mac::Retained openMenu;
+    bool isActive = false;
+};
+
+World::World(const BundleFiles& bundle) : state_(new State) {
+    static const bool isInstalled = (installStandIns(), true);
+    static_cast<void>(isInstalled);
+    if (NSApp != nullptr) {
+        fatal("A process has one application, and an earlier test used it: run each test by itself, as ctest "
+              "does.");
+    }
+    const mac::Pool pool;
+    setMainBundle(bundle, privateHome());
+    accessibilityRow() = {};
+    resetActivationPolicy();
+    gnustep::loggedMessages().clear();
+    gnustep::openedURLs().clear();
+    removeRunLoopSources();
+    setUUIDStringsFail(false);
+    connectDisplays({connectedDisplay(1, {0, 0, 1512, 982})});
+}
+
+World::~World() = default;
+
+void World::connect(const std::vector<ConnectedDisplay>& displays) { connectDisplays(displays); }
+
+void World::setMainDisplay(std::optional<std::size_t> index) { setMainScreen(index); }
+
+void World::failUUIDStrings() { setUUIDStringsFail(true); }
+
+void World::setTrust(Trust trust) { accessibilityRow().trust = trust; }
+
+Trust World::trust() const { return accessibilityRow().trust; }
+
+bool World::isTrustDialogShown() const { return accessibilityRow().isDialogShown; }
+
+// GNUstep hears of what other processes store only now and then, so this process does it.
+void World::store(std::string_view key, const StoredValue& value) {
+    const mac::Pool pool;
+    mac::ns_user_defaults::setObject(userDefaults(), std::visit(AsObject(), value),
+                                     objectFor(std::string(key)));
+}
+
+std::optional<Point> World::post(EventType type, Point location) { return postEvent(type, location); }
+
+void World::switchTapsOff(EventType reason) { gnustep::switchTapsOff(reason); }
+
+std::vector<LoggedMessage> World::loggedMessages() const { return gnustep::loggedMessages(); }
+
+void World::letTimePass(double seconds) {
+    const mac::Pool pool;
+    const id limit = send(classObject("NSDate"), "dateWithTimeIntervalSinceNow:", seconds);
+    while (send<double>(limit, "timeIntervalSinceNow") > 0) {
+        runLoopUntil(state_->mode(), limit);
+    }
+    // What is due by now, also when nothing was to wait for.
+    runLoopUntil(state_->mode(), limit);
+}
+
+void World::onAnotherThread(const std::function<void()>& work) {
+    std::thread thread(work);
+    thread.join();
+}
+
+void World::launch(const std::function<void()>& work) { runUntilLaunched(work); }
+
+void World::catchTermination(const std::function<void()>& work) { runWork(work); }
+
+void World::activateApplication() { state_->isActive = true; }
+
+ActivationPolicy World::activationPolicy() const { return gnustep::activationPolicy(); }
+
+std::size_t World::statusItemCount() const { return gnustep::statusItemCount(); }
+
+ShownButton World::statusButton(std::size_t statusItem) const {
+    const mac::Pool pool;
+    const id button = buttonOfStatusItem(statusItem);
+    ShownButton shown;
+    shown.scaling = static_cast<ImageScaling>(send<mac::Unsigned>(send(button, "cell"), "imageScaling"));
+    shown.toolTip = mac::textOf(send(button, "toolTip"));
+    if (const id image = send(button, "image")) {
+        shown.image =
+            ShownImage{mac::textOf(send(image, "name")), isTemplateImage(image), send<Size>(image, "size")};
+    }
+    return shown;
+}
+
+bool World::State::open(id menu, const std::function<void()>& whileOpen) {
+    if (menu == nullptr) {
+        return false;
+    }
+    openMenu = mac::Retained::retaining(menu);
+    const id delegate = send(menu, "delegate");
+    const SEL willOpen = sel_registerName("menuWillOpen:");
+    if (send<BOOL>(delegate, "respondsToSelector:", willOpen) != 0) {
+        send<void>(delegate, "menuWillOpen:", menu);
+    }
+    whileOpen();
+    openMenu = {};
+    return true;
+}
+
+void World::State::choose(id item) {
+    const mac::Retained menu = mac::Retained::retaining(send(item, "menu"));
+    openMenu = {};
+    send<void>(menu.get(),
+               "performActionForItemAtIndex:", send<mac::Integer>(menu.get(), "indexOfItem:", item));
+}
+
+bool World::openStatusMenu(const std::function<void()>& whileOpen, std::size_t statusItem) {
+    const mac::Pool pool;
+    return state_->open(menuOfStatusItem(statusItem), whileOpen);
+}
+
+bool World::openMainMenu(std::size_t item, const std::function<void()>& whileOpen) {
+    const mac::Pool pool;
+    const id menu = send(NSApp, "mainMenu");
+    if (!state_->isActive || activationPolicy() != ActivationPolicy::regular ||
+        static_cast<mac::Integer>(item) >= send<mac::Integer>(menu, "numberOfItems")) {
+        return false;
+    }
+    return state_->open(send(send(menu, "itemAtIndex:", static_cast<mac::Integer>(item)), "submenu"),
+                        whileOpen);
+}
+
+std::vector<ShownRow> World::openMenuRows() const {
+    const mac::Pool pool;
+    std::vector<ShownRow> rows;
+    for (const id item : itemsOf(state_->openMenu.get())) {
+        rows.push_back(rowOf(item));
+    }
+    return rows;
+}
+
+void World::chooseRow(std::size_t row) {
+    const mac::Pool pool;
+    const std::vector<id> items = itemsOf(state_->openMenu.get());
+    if (row < items.size() && rowOf(items[row]).isEnabled) {
+        state_->choose(items[row]);
+    }
+}
+
+// Without a pool: when the process is to end, GNUstep has drained it already.
+void World::pressKey(std::string_view character, EventModifierFlags modifiers) {
+    const id menu =
+        state_->openMenu ? state_->openMenu.get() : (state_->isActive ? send(NSApp, "mainMenu") : nullptr);
+    if (const id item = itemForKey(menu, character, modifiers)) {
+        state_->choose(item);
+    }
+}
+
+std::vector<std::string> World::openedURLs() const { return gnustep::openedURLs(); }
+
+} // namespace kestrune::contract

@@ -1,0 +1,63 @@
+#include "tests/gnustep/process/Session.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
+#include "tests/gnustep/Send.h"
+#include "tests/gnustep/ShippedBundle.h"
+#include "tests/gnustep/standins/AccessibilityTrust.h"
+#include "tests/gnustep/standins/EventTaps.h"
+#include "tests/gnustep/standins/MainBundle.h"
+#include "tests/gnustep/standins/Screens.h"
+#include "tests/gnustep/standins/StandIns.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace kestrune::gnustep {
+
+namespace {
+
+const std::vector<contract::ConnectedDisplay>& displays() {
+    static const std::vector<contract::ConnectedDisplay> both = {
+        {1, "Left", {0, 0, 1600, 1000}, "37D8832A-2D66-02CA-B9F7-8F3000000001", std::int64_t{1}},
+        {2, "Right", {1600, 0, 1920, 1080}, "37D8832A-2D66-02CA-B9F7-8F3000000002", std::int64_t{2}}};
+    return both;
+}
+
+// In the place of the black points that the stand-in makes.
+void copyPictures() {
+    const id bundle = mac::ns_bundle::mainBundle(mac::ns_bundle::type.object());
+    const std::filesystem::path target = mac::textOf(send(bundle, "resourcePath"));
+    for (const auto& file : std::filesystem::directory_iterator(KESTRUNE_RESOURCES)) {
+        if (file.path().extension() == ".png") {
+            std::filesystem::copy_file(file, target / file.path().filename(),
+                                       std::filesystem::copy_options::overwrite_existing);
+        }
+    }
+}
+
+} // namespace
+
+void beginSession(const std::filesystem::path& home, bool isPermitted) {
+    const mac::Pool pool;
+    installStandIns();
+    setMainBundle(shippedBundle(), home.string());
+    copyPictures();
+    connectDisplays(displays());
+    accessibilityRow().trust = isPermitted ? contract::Trust::granted : contract::Trust::notListed;
+}
+
+std::string guardedDisplays() {
+    std::string names;
+    for (const contract::ConnectedDisplay& display : displays()) {
+        const Rect& bounds = display.bounds;
+        const Point lowest{bounds.origin.x + bounds.size.width / 2, bounds.origin.y + bounds.size.height - 1};
+        if (postEvent(EventType::mouseMoved, lowest) != lowest) {
+            names += (names.empty() ? "" : " ") + display.localizedName;
+        }
+    }
+    return names;
+}
+
+} // namespace kestrune::gnustep

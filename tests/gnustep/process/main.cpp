@@ -1,0 +1,45 @@
+// The application's process on GNUstep: the entry point that is shipped, in a session that is made before it.
+// Its defaults are in the home that the environment names; with KESTRUNE_PERMITTED in the environment it has
+// the Accessibility permission.
+#include "base/Fatal.h"
+#include "platform/MainActor.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Timer.h"
+#include "tests/gnustep/TimeLimit.h"
+#include "tests/gnustep/process/MenuBar.h"
+#include "tests/gnustep/process/Session.h"
+
+#include <cstdlib>
+
+namespace kestrune::gnustep {
+
+namespace {
+
+constexpr unsigned SecondsForASession = 100;
+constexpr double HeartbeatInSeconds = 0.02;
+
+} // namespace
+
+// With --wrap=main the linker lets the process begin at the second, and knows the shipped `main` as the
+// first.
+extern "C" int applicationsMain() asm("__real_main");
+extern "C" int processMain() asm("__wrap_main");
+
+extern "C" int processMain() {
+    limitTime(SecondsForASession);
+    const char* const home = std::getenv("HOME");
+    if (home == nullptr) {
+        fatal("The environment names no home for the session.");
+    }
+    beginSession(home, std::getenv("KESTRUNE_PERMITTED") != nullptr);
+    // The delegate hears of the launch as well, before or after; the task comes after both.
+    NotificationCenter::defaultCenter().addObserver(
+        NotificationName("NSApplicationDidFinishLaunchingNotification"), OperationQueue::mainQueue(),
+        [] { MainActor::startTask(showMenuBar); });
+    // GNUstep's loop sleeps until the X server sends something, even when an event that Xlib has read already
+    // waits to be handled. Without this a press of the button was now and then noticed with the next one.
+    Timer::scheduledTimer(HeartbeatInSeconds, true, [](Timer&) {});
+    return applicationsMain();
+}
+
+} // namespace kestrune::gnustep

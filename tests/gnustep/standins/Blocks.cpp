@@ -1,0 +1,94 @@
+// Blocks on the heap, which GCC's runtime lacks: their class, their counting, and their end.
+//
+// This is what we believe the Mac does with a block that is born on the heap, and no proof of it. GNUstep
+// sends messages to blocks, so here a block has a class with methods; it finds `_Block_copy` and
+// `_Block_release` in the program.
+//
+// Source: clang.llvm.org, Block Implementation Specification.
+#include "tests/gnustep/standins/Blocks.h"
+
+#include "mac/objc/Block.h"
+#include "mac/objc/RuntimeClass.h"
+
+#include <atomic>
+#include <cstdlib>
+
+namespace kestrune::gnustep {
+
+namespace {
+
+struct Descriptor {
+    unsigned long reserved;
+    unsigned long size;
+    void (*copy)(void* target, const void* source);
+    void (*dispose)(const void* literal);
+};
+
+struct Literal {
+    void* isa;
+    int flags;
+    int reserved;
+    void (*invoke)(Literal* literal, id argument);
+    const Descriptor* descriptor;
+};
+
+constexpr int OneReference = 2;
+constexpr int ReferenceMask = 0xfffe;
+constexpr int HasCopyAndDispose = 1 << 25;
+
+Literal* literalOf(const void* block) { return static_cast<Literal*>(const_cast<void*>(block)); }
+
+id copyBlock(id block, SEL) noexcept { return static_cast<id>(_Block_copy(block)); }
+
+id copyBlockWithZone(id block, SEL, const void* /*zone*/) noexcept {
+    return static_cast<id>(_Block_copy(block));
+}
+
+void releaseBlock(id block, SEL) noexcept { _Block_release(block); }
+
+mac::Unsigned countReferences(id block, SEL) noexcept {
+    const int flags = std::atomic_ref(literalOf(block)->flags).load();
+    return static_cast<mac::Unsigned>((flags & ReferenceMask) / OneReference);
+}
+
+Class makeClass() {
+    mac::RuntimeClass made("KestruneHeapBlock");
+    made.addMethod("copy", copyBlock);
+    made.addMethod("copyWithZone:", copyBlockWithZone);
+    made.addMethod("retain", copyBlock);
+    made.addMethod("release", releaseBlock);
+    made.addMethod("retainCount", countReferences);
+    return made.finish();
+}
+
+} // namespace
+
+void callBlock(id block) { literalOf(block)->invoke(literalOf(block), nullptr); }
+
+extern "C" void* _Block_copy(const void* block) {
+    std::atomic_ref(literalOf(block)->flags).fetch_add(OneReference);
+    return literalOf(block);
+}
+
+extern "C" void _Block_release(const void* block) {
+    Literal* const literal = literalOf(block);
+    const int flags = std::atomic_ref(literal->flags).fetch_sub(OneReference) - OneReference;
+    if ((flags & ReferenceMask) != 0) {
+        return;
+    }
+    if ((flags & HasCopyAndDispose) != 0) {
+        literal->descriptor->dispose(literal);
+    }
+    std::free(literal); // NOLINT(cppcoreguidelines-no-malloc): whoever made it took it from there.
+}
+
+} // namespace kestrune::gnustep
+
+namespace kestrune::mac {
+
+void* classOfHeapBlocks() {
+    static const Class type = gnustep::makeClass();
+    return reinterpret_cast<void*>(type);
+}
+
+} // namespace kestrune::mac

@@ -1,0 +1,42 @@
+// Methods that take the place of GNUstep's or are added to its classes.
+#pragma once
+
+#include "mac/objc/TypeEncoding.h"
+#include "tests/gnustep/Send.h"
+
+#include <string>
+
+namespace kestrune::gnustep {
+
+template <typename Result, typename... Arguments>
+using Method = Result (*)(id, SEL, Arguments...);
+
+// Where the methods of the class itself live.
+inline Class classOf(Class type) { return object_getClass(reinterpret_cast<id>(type)); }
+
+// Adds a method that the class does not have, not even from a superclass.
+template <typename Result, typename... Arguments>
+void addMethod(Class type, const char* selector, Method<Result, Arguments...> implementation) {
+    const SEL name = sel_registerName(selector);
+    if (class_respondsToSelector(type, name) != 0) {
+        fatal(std::string("GNUstep has the method ") + selector + " after all.");
+    }
+    class_addMethod(type, name, mac::asImplementation(implementation),
+                    mac::encodingOfMethod<Result, Arguments...>().c_str());
+}
+
+// Takes the place of a method that the class has, perhaps from a superclass; gives the one before.
+template <typename Result, typename... Arguments>
+Method<Result, Arguments...> replaceMethod(Class type, const char* selector,
+                                           Method<Result, Arguments...> implementation) {
+    const SEL name = sel_registerName(selector);
+    if (class_respondsToSelector(type, name) == 0) {
+        fatal(std::string("GNUstep has no method ") + selector + " to replace.");
+    }
+    const IMP before = class_getMethodImplementation(type, name);
+    class_replaceMethod(type, name, mac::asImplementation(implementation),
+                        mac::encodingOfMethod<Result, Arguments...>().c_str());
+    return mac::asFunction<Method<Result, Arguments...>>(before);
+}
+
+} // namespace kestrune::gnustep

@@ -1,0 +1,27 @@
+// The workspace's openURL:, which on GNUstep asks other programs, and the user when there is none.
+//
+// This is what we believe the Mac does, and no proof of it: some application is responsible for every URL.
+#include "tests/gnustep/standins/OpenedURLs.h"
+
+#include "mac/objc/Text.h"
+#include "tests/gnustep/standins/Methods.h"
+
+namespace kestrune::gnustep {
+
+namespace {
+
+BOOL openURL(id, SEL, id url) {
+    openedURLs().push_back(mac::textOf(send(url, "absoluteString")));
+    return mac::truth(true);
+}
+
+} // namespace
+
+void installOpenedURLs() { replaceMethod(classNamed("NSWorkspace"), "openURL:", openURL); }
+
+std::vector<std::string>& openedURLs() {
+    static std::vector<std::string> urls;
+    return urls;
+}
+
+} // namespace kestrune::gnustep

@@ -1,0 +1,47 @@
+// Subclasses of GNUstep's classes whose instances own a C++ value.
+#pragma once
+
+#include "tests/gnustep/standins/Methods.h"
+
+#include <utility>
+
+namespace kestrune::gnustep {
+
+// A subclass of `parent` with a pointer variable; its instances are made without the parent's initializer.
+// `dealloc` frees what the pointer points at and ends with that of NSObject, for the same reason.
+Class makeSubclass(const char* name, const char* parent, void (*dealloc)(id, SEL));
+id newInstance(Class type, void* value);
+void* valueOf(id instance);
+void deallocAsObject(id instance);
+
+template <typename Value>
+class Subclass {
+public:
+    explicit Subclass(const char* name, const char* parent = "NSObject")
+        : class_(makeSubclass(name, parent, dealloc)) {}
+
+    template <typename Result, typename... Arguments>
+    Subclass& method(const char* selector, Method<Result, Arguments...> implementation) {
+        class_replaceMethod(class_, sel_registerName(selector), mac::asImplementation(implementation),
+                            mac::encodingOfMethod<Result, Arguments...>().c_str());
+        return *this;
+    }
+
+    // The caller owns the instance.
+    template <typename... Arguments>
+    id make(Arguments&&... arguments) const {
+        return newInstance(class_, new Value{std::forward<Arguments>(arguments)...});
+    }
+
+    static Value& of(id instance) { return *static_cast<Value*>(valueOf(instance)); }
+
+private:
+    static void dealloc(id instance, SEL) {
+        delete static_cast<Value*>(valueOf(instance));
+        deallocAsObject(instance);
+    }
+
+    Class class_;
+};
+
+} // namespace kestrune::gnustep

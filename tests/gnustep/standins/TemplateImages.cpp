@@ -1,0 +1,35 @@
+// The template flag of an image, which GNUstep lacks.
+//
+// This is what we believe the Mac does, and no proof of it: the flag belongs to the image object.
+#include "tests/gnustep/standins/TemplateImages.h"
+
+#include "tests/gnustep/standins/Deallocation.h"
+#include "tests/gnustep/standins/Methods.h"
+
+#include <unordered_set>
+
+namespace kestrune::gnustep {
+
+namespace {
+
+std::unordered_set<id>& templates() {
+    static auto& images = *new std::unordered_set<id>;
+    return images;
+}
+
+void setTemplate(id image, SEL, BOOL isTemplate) {
+    if (isTemplate == 0) {
+        templates().erase(image);
+        return;
+    }
+    templates().insert(image);
+    whenDeallocated(image, &templates(), [image] { templates().erase(image); });
+}
+
+} // namespace
+
+void installTemplateImages() { addMethod(classNamed("NSImage"), "setTemplate:", setTemplate); }
+
+bool isTemplateImage(id image) { return templates().contains(image); }
+
+} // namespace kestrune::gnustep
