@@ -2,6 +2,7 @@
 PRESET ?= gcc
 SEED ?= 1
 SEEDS ?= 1000
+RUNS ?= 200
 FUZZ_SECONDS ?= 30
 
 DIR = $(CURDIR)/build/$(PRESET)
@@ -28,16 +29,17 @@ ctest --test-dir $(DIR) --no-tests=error --max-width 90 --output-on-failure --ou
 status=$$?; tools/count-tests $(DIR)/tests.xml && exit $$status
 endef
 
-.PHONY: help run test check bench simulate fuzz coverage clean
+.PHONY: help run test check bench simulate soak fuzz coverage clean
 .NOTPARALLEL:
 .DEFAULT_GOAL := help
 
 help:
 	@echo "make run                 build Kestrune and start it on a simulated Mac (on Linux)"
 	@echo "make test                build everything and run every test"
-	@echo "make check               format, include rules, unbuilt files, strings, clang-tidy"
+	@echo "make check               format, include rules, unbuilt files, strings, contract tests, clang-tidy"
 	@echo "make bench               the event path against its floor, and the simulation"
 	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
+	@echo "make soak                RUNS=$(RUNS) times all tests on GNUstep, four runs at a time"
 	@echo "make fuzz                every fuzzer for FUZZ_SECONDS=$(FUZZ_SECONDS) seconds"
 	@echo "make coverage            line and branch coverage of Kestrune/ and base/; fails under 100 %"
 	@echo "make clean               remove everything that was built"
@@ -46,7 +48,10 @@ help:
 
 ifeq ($(shell uname -s),Darwin)
 run:
-	@echo "make run: the Mac build comes with mac/, which is not there yet"; exit 1
+	@tools/setup run
+	cmake --preset mac
+	cmake --build --preset mac --parallel
+	open build/mac/mac/Kestrune.app
 else
 run:
 	$(call build,run,kestrune-desk)
@@ -59,20 +64,26 @@ test:
 	$(call build,test,all)
 	$(run-tests)
 
-# clang-tidy understands the flags of clang++ only.
+# clang-tidy understands the flags of clang++ only. What both implementations define is seen where they are
+# built.
 check:
 	@tools/setup check
 	$(call configure,clang)
+	@cmake --build build/clang --target kestrune_contract kestrune_sim kestrune_mac
 	@tools/check --build build/clang
 
 bench:
-	$(call build,bench,benchmarks/all)
+	$(call build,bench,bench)
 	@benchmarks/run build/$(PRESET)
 
 simulate:
 	$(call build,simulate,kestrune-simulate kestrune-simulate-shell)
 	@$(DIR)/tests/simulate/kestrune-simulate --seed $(SEED) --seeds $(SEEDS)
 	@$(DIR)/tests/shell/kestrune-simulate-shell --seed $(SEED) --seeds $(SEEDS)
+
+soak:
+	$(call build,test,gnustep-tests)
+	@tests/gnustep/soak $(DIR)/tests/gnustep $(RUNS)
 
 fuzz: override PRESET = fuzz
 fuzz:

@@ -93,22 +93,23 @@ class Setup(TreeTest):
         self.assertEqual(result.returncode, 1)
         self.assertIn("no group is called 'tests'", result.stderr)
 
-    def test_installs_cmake_and_ninja_on_a_mac(self):
+    def test_installs_cmake_on_a_mac(self):
         self.program("uname", "echo Darwin")
         self.program("xcode-select", "exit 0")
         self.program("brew", 'echo "brew $*" >> "$LOG"')
         result, log = self.set_up("test")
-        self.assertEqual((result.returncode, log), (0, ["brew install cmake ninja"]))
+        self.assertEqual((result.returncode, log), (0, ["brew install cmake"]))
 
     def test_says_what_a_mac_needs(self):
         self.program("uname", "echo Darwin")
         self.program("xcode-select", "exit 2")
         self.assertIn("xcode-select --install", self.set_up()[0].stderr)
         self.program("xcode-select", "exit 0")
-        self.program("cmake", "exit 0")
         result, _ = self.set_up()
         self.assertEqual(result.returncode, 1)
-        self.assertIn("please install ninja", result.stderr)
+        self.assertIn("please install cmake", result.stderr)
+        self.program("cmake", "exit 0")
+        self.assertEqual(self.set_up()[0].returncode, 0)
 
     def test_says_what_another_system_needs(self):
         self.program("uname", "echo FreeBSD")

@@ -1,6 +1,6 @@
 """The checks of tools/check. Each module has run(tree), which returns a Result."""
 
-from . import format, includes, resources, sleeping, strings, style, tidy, unbuilt, words
+from . import contract, format, includes, resources, sleeping, strings, style, tidy, unbuilt, words
 
 # In the order they run: the quick ones first.
 ALL = {
@@ -11,6 +11,7 @@ ALL = {
     "sleeping": sleeping,
     "strings": strings,
     "resources": resources,
+    "contract": contract,
     "format": format,
     "tidy": tidy,
 }
