@@ -60,9 +60,17 @@ run:
 	    echo "No display server: the tour's pictures and its report are in out/tour"; fi
 endif
 
+ifeq ($(shell uname -s),Darwin)
+test:
+	@tools/setup test
+	cmake --preset mac
+	cmake --build --preset mac --parallel
+	ctest --test-dir build/mac --no-tests=error --output-on-failure
+else
 test:
 	$(call build,test,all)
 	$(run-tests)
+endif
 
 # clang-tidy understands the flags of clang++ only. What both implementations define is seen where they are
 # built.

@@ -30,9 +30,9 @@ Listener* lastingListener(const Listener& listener) {
     return known != listeners.end() ? &*known : &listeners.emplace_back(listener);
 }
 
-// With a pool, as the run loop has none around the callbacks of its ports: what the callback's calls leave
-// behind would otherwise pile up until AppKit's next event, which in an application without windows may be
-// hours away.
+// With a pool, as the run loop promises none around the callbacks of its ports: what the callback's calls
+// leave behind would otherwise pile up until AppKit's next event, which in an application without windows may
+// be hours away.
 Event* callListener(EventTapProxy* proxy, EventType type, Event* event, void* listener) noexcept {
     const mac::Pool pool;
     const auto [callback, userInfo] = *static_cast<const Listener*>(listener);

@@ -1,19 +1,28 @@
 #include "platform/MainActor.h"
 
 #include "mac/Vocabulary.h"
-#include "mac/objc/Block.h"
+#include "mac/c/Dispatch.h"
 #include "mac/objc/Pool.h"
 
+#include <memory>
 #include <utility>
 
 namespace kestrune {
 
-// The main queue runs its operations on the main thread, in order, after what runs there now.
-void MainActor::startTask(std::function<void()> body) {
+namespace {
+
+using Task = std::function<void()>;
+
+void runTask(void* context) noexcept {
     const mac::Pool pool;
-    const mac::Block task([body = std::move(body)](id) { body(); });
-    const id queue = mac::ns_operation_queue::mainQueue(mac::ns_operation_queue::type.object());
-    mac::ns_operation_queue::addOperationWithBlock(queue, task.get());
+    const std::unique_ptr<Task> task(static_cast<Task*>(context));
+    (*task)();
+}
+
+} // namespace
+
+void MainActor::startTask(std::function<void()> body) {
+    dispatch_async_f(&_dispatch_main_q, std::make_unique<Task>(std::move(body)).release(), runTask);
 }
 
 bool MainActor::isCurrent() { return mac::ns_thread::isMainThread(mac::ns_thread::type.object()) != 0; }

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace kestrune {
 
@@ -39,7 +40,7 @@ void performAction(id instance, SEL selector, id sender) noexcept {
     }
 }
 
-// The selector of a method without argument; AppKit sends it all the same.
+// The sender is in no register that the method may look at.
 void performActionWithoutSender(id instance, SEL selector) noexcept {
     performAction(instance, selector, nullptr);
 }
@@ -86,10 +87,12 @@ Class makeClass(const std::string& name, const Object& object) {
     return made.finish();
 }
 
+// Of its own list, because a framework may have a class of the same name.
 Class classOf(const Object& object) {
+    static std::unordered_map<std::string, Class> made;
     const std::string name(object.className());
-    const auto known = reinterpret_cast<Class>(objc_getClass(name.c_str()));
-    return known != nullptr ? known : makeClass(name, object);
+    const auto known = made.find(name);
+    return known != made.end() ? known->second : made.emplace(name, makeClass(name, object)).first->second;
 }
 
 } // namespace

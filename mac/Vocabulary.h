@@ -88,7 +88,6 @@ inline const Message<void()> invalidate{type, "invalidate"};
 namespace ns_operation_queue {
 inline const ClassReference type{"NSOperationQueue"};
 inline const Message<id()> mainQueue{type, "mainQueue", MethodKind::ofClass};
-inline const Message<void(id)> addOperationWithBlock{type, "addOperationWithBlock:"};
 } // namespace ns_operation_queue
 
 namespace ns_notification_center {

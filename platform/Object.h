@@ -26,8 +26,8 @@ private:
 };
 
 // A method that the platform calls by its selector, as the action of a menu item. A selector without a colon
-// takes no argument on the platform; `perform` gets the sender all the same. Receiver and sender are retained
-// until it returns, whatever it lets go of.
+// takes no argument on the platform, so `perform` gets an item that stands for nothing. Receiver and sender
+// are retained until it returns, whatever it lets go of.
 struct ActionMethod {
     Selector selector;
     void (*perform)(Object& receiver, const MenuItem& sender) noexcept;

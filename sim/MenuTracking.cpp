@@ -131,7 +131,9 @@ bool MenuTracking::sendAction(const MenuItem& item) {
         return false;
     }
     session_.journal().record("-[", receiver.object->className(), " ", receiver.method->selector.name(), "]");
-    receiver.method->perform(*receiver.object, item);
+    const bool takesSender = receiver.method->selector.name().ends_with(':');
+    receiver.method->perform(*receiver.object,
+                             takesSender ? item : MenuItem(std::make_shared<MenuItem::State>()));
     return true;
 }
 

@@ -58,8 +58,12 @@ Event* floorCallback(EventTapProxy*, EventType type, Event* event, void* userInf
         return event;
     }
     const Selectors& all = selectors();
+    const auto& floor = *static_cast<const CallbackFloor*>(userInfo);
+    if (!floor.hasPool) {
+        return decide(all, floor, event);
+    }
     const id pool = send<id>(send<id>(all.poolClass, all.alloc), all.init);
-    Event* const result = decide(all, *static_cast<const CallbackFloor*>(userInfo), event);
+    Event* const result = decide(all, floor, event);
     send<void>(pool, all.drain);
     return result;
 }

@@ -15,6 +15,8 @@ struct CallbackFloor {
     double width = 0;
     double height = 0;
     bool isLeftPinned = true;
+    // The pool that every entry from the platform needs; without it the floor shows what that costs.
+    bool hasPool = true;
 };
 
 // `userInfo` is a CallbackFloor.

@@ -21,8 +21,8 @@ namespace kestrune::mac {
 // The class of blocks that live on the heap; the blocks runtime's.
 void* classOfHeapBlocks();
 
-// A block that takes an object, or that takes none and is handed one that it ignores, and gives nothing. It
-// is born on the heap, so that copying it only counts; whoever keeps it releases it.
+// A block that takes an object and gives nothing. It is born on the heap, so that copying it only counts;
+// whoever keeps it releases it.
 class Block {
 public:
     explicit Block(std::function<void(id argument)> function);

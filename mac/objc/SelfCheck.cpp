@@ -36,7 +36,8 @@ SelfCheckResult checkVocabulary() {
             result.missingMethods.push_back(nameOf(*message));
             continue;
         }
-        const std::string actual = method_getTypeEncoding(method);
+        const char* const encoding = method_getTypeEncoding(method);
+        const std::string actual = encoding != nullptr ? encoding : "";
         if (normalizedEncoding(actual) != normalizedEncoding(message->encoding())) {
             result.differences.push_back(nameOf(*message) + ": expected " + message->encoding() + ", found " +
                                          actual);

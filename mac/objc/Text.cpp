@@ -12,16 +12,15 @@ constexpr Unsigned UTF8 = 4; // NSUTF8StringEncoding
 
 Retained nsString(std::string_view text) {
     const id string = ns_object::alloc(ns_string::type.object());
-    Retained result = Retained::adopting(ns_string::initWithBytes(string, text.data(), text.size(), UTF8));
-    return result ? result : nsString({});
+    const char* const bytes = text.empty() ? "" : text.data();
+    Retained result = Retained::adopting(ns_string::initWithBytes(string, bytes, text.size(), UTF8));
+    return result || text.empty() ? result : nsString({});
 }
 
 std::string textOf(id string) {
-    if (string == nullptr) {
-        return {};
-    }
+    const char* const bytes = ns_string::utf8String(string);
     // By length, because a text may have a zero character in it.
-    return {ns_string::utf8String(string), ns_string::lengthOfBytes(string, UTF8)};
+    return bytes != nullptr ? std::string(bytes, ns_string::lengthOfBytes(string, UTF8)) : std::string();
 }
 
 std::optional<std::string> textIfString(id object) {

@@ -132,11 +132,6 @@ TEST_F(ApplicationContract, TerminatesByAMenuItemWithoutTarget) {
                 ElementsAre("applicationDidFinishLaunching:", "applicationWillTerminate:"));
 }
 
-TEST(URLContract, IsAbsentForAnEmptyText) {
-    const World world;
-    EXPECT_FALSE(URL::withString(""));
-}
-
 TEST(URLContract, IsThereForAnAddressInSystemSettings) {
     const World world;
     EXPECT_TRUE(

@@ -23,6 +23,14 @@ TEST_F(MenuActionContract, ReachesTheTargetsMethodOfThatName) {
     EXPECT_THAT(target_->received(), ElementsAre(ReceivedAction{"recordAgain"}));
 }
 
+TEST_F(MenuActionContract, BringsNoSenderToAMethodWithoutArgument) {
+    MenuItem item("Title", RecordAgain, "");
+    item.setTarget(target_);
+    item.setRepresentedObject(std::string("object"));
+    choose(item);
+    EXPECT_THAT(target_->received(), ElementsAre(ReceivedAction{"recordAgain", std::nullopt}));
+}
+
 TEST_F(MenuActionContract, BringsTheSenderAlong) {
     Menu menu = manualMenu();
     MenuItem first = itemFor(target_);

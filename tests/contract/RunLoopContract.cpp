@@ -1,4 +1,6 @@
+#include "platform/Application.h"
 #include "platform/RunLoop.h"
+#include "platform/StatusBar.h"
 #include "tests/contract/RecordingTap.h"
 #include "tests/contract/World.h"
 
@@ -83,6 +85,14 @@ TEST_F(RunLoopContract, ServesATapThroughASourceThatRetainsIt) {
     tap_.releaseTap();
     ASSERT_TRUE(tap_.schedule());
     EXPECT_EQ(receptions(), 1U);
+}
+
+TEST_F(RunLoopContract, ServesTheCommonModesWhileAMenuIsTracked) {
+    Application::sharedApplication();
+    StatusItem item = StatusBar::systemStatusBar().statusItem(VariableStatusItemLength);
+    item.setMenu(Menu());
+    ASSERT_TRUE(tap_.schedule());
+    world_.openStatusMenu([this] { EXPECT_EQ(receptions(), 1U); });
 }
 
 TEST_F(RunLoopContract, EndsATapWithItsLastReference) {

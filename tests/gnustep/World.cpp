@@ -1,4 +1,8 @@
 // The contract tests' world on GNUstep: what GNUstep has is GNUstep's own, the rest is stood in for.
+//
+// Menus are GNUstep's objects and perform their items themselves, but nobody tracks them here: what opening,
+// choosing and pressing a key do beyond that is what we believe the Mac does, and no proof of it. So is who
+// is active, and that another process's change of the defaults is seen.
 #include "tests/contract/World.h"
 
 #include "base/Fatal.h"
@@ -113,6 +117,7 @@ struct World::State {
     // Tells the delegate and enables the rows, as AppKit does; closes the menu unless a row was chosen.
     bool open(id menu, const std::function<void()>& whileOpen);
     void choose(id item);
+    void track(id menu);
     id mode() const { return openMenu ? NSEventTrackingRunLoopMode : NSDefaultRunLoopMode; }
 
     mac::Retained openMenu;
@@ -206,20 +211,26 @@ bool World::State::open(id menu, const std::function<void()>& whileOpen) {
     if (menu == nullptr) {
         return false;
     }
-    openMenu = mac::Retained::retaining(menu);
+    track(menu);
     const id delegate = send(menu, "delegate");
     const SEL willOpen = sel_registerName("menuWillOpen:");
     if (send<BOOL>(delegate, "respondsToSelector:", willOpen) != 0) {
         send<void>(delegate, "menuWillOpen:", menu);
     }
     whileOpen();
-    openMenu = {};
+    track(nullptr);
     return true;
+}
+
+// Nil ends it.
+void World::State::track(id menu) {
+    openMenu = mac::Retained::retaining(menu);
+    setTracksMenu(menu != nullptr);
 }
 
 void World::State::choose(id item) {
     const mac::Retained menu = mac::Retained::retaining(send(item, "menu"));
-    openMenu = {};
+    track(nullptr);
     send<void>(menu.get(),
                "performActionForItemAtIndex:", send<mac::Integer>(menu.get(), "indexOfItem:", item));
 }

@@ -50,20 +50,22 @@ void tell(const std::string& line) {
     std::fflush(stdout);
 }
 
+// GNUstep's separators have dashes for a title, which nobody sees.
+std::string describe(id item) {
+    if (send<BOOL>(item, "isSeparatorItem") != 0) {
+        return "\tseparator";
+    }
+    const bool isMarked = send<mac::Integer>(item, "state") == static_cast<mac::Integer>(ControlState::on);
+    const bool isEnabled = send<BOOL>(item, "isEnabled") != 0;
+    return mac::textOf(send(item, "title")) + (isMarked ? "\tmarked" : "") + (isEnabled ? "" : "\tdisabled");
+}
+
 void tellRows(id menu) {
     const id view = send(menu, "menuRepresentation");
     const auto count = send<mac::Integer>(menu, "numberOfItems");
     for (mac::Integer index = 0; index < count; ++index) {
-        const id item = send(menu, "itemAtIndex:", index);
-        if (send<BOOL>(item, "isSeparatorItem") != 0) {
-            continue;
-        }
-        const bool isMarked =
-            send<mac::Integer>(item, "state") == static_cast<mac::Integer>(ControlState::on);
-        const bool isEnabled = send<BOOL>(item, "isEnabled") != 0;
         tell("row\t" + placeOf(view, send<Rect>(view, "rectOfItemAtIndex:", index)) + "\t" +
-             mac::textOf(send(item, "title")) + (isMarked ? "\tmarked" : "") +
-             (isEnabled ? "" : "\tdisabled"));
+             describe(send(menu, "itemAtIndex:", index)));
     }
     tell("open");
 }

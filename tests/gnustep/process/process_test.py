@@ -53,10 +53,13 @@ class Row:
     def __init__(self, window, left, top, width, height, title, *flags):
         self.place = Place.of(window, left, top, width, height)
         self.title = title
+        self.is_separator = "separator" in flags
         self.is_marked = "marked" in flags
         self.is_enabled = "disabled" not in flags
 
     def __str__(self):
+        if self.is_separator:
+            return "---"
         return ("✓" if self.is_marked else "") + self.title + ("" if self.is_enabled else " (disabled)")
 
     @property
@@ -265,7 +268,9 @@ class AfterSetup(ProcessTest):
                 "Pin Dock to: (disabled)",
                 "✓  Left  (1600×1000)  (Main)",
                 "  Right  (1920×1080)",
+                "---",
                 "Disable",
+                "---",
                 "Settings…",
                 "Quit",
             ],
@@ -303,10 +308,13 @@ class WithoutPermission(ProcessTest):
             application.look(),
             [
                 "Complete setup…",
+                "---",
                 "Pin Dock to: (disabled)",
                 "✓  Left  (1600×1000)  (Main) (disabled)",
                 "  Right  (1920×1080) (disabled)",
+                "---",
                 "Disable",
+                "---",
                 "Settings…",
                 "Quit",
             ],
@@ -357,12 +365,13 @@ class Drawing(ProcessTest):
         picture = self.photograph_menu(application, rows)
         self.keep(picture, rows)
         self.assertLess(self.difference_to_icon(picture, application.button.area), 0.01)
-        marked = [row.title for row in rows if has_drawing(picture, row.mark_area)]
+        titled = [row for row in rows if not row.is_separator]
+        marked = [row.title for row in titled if has_drawing(picture, row.mark_area)]
         self.assertEqual(marked, ["  Left  (1600×1000)  (Main)"])
-        with_key = [row.title for row in rows if has_drawing(picture, row.key_area)]
+        with_key = [row.title for row in titled if has_drawing(picture, row.key_area)]
         self.assertEqual(with_key, ["Settings…", "Quit"])
-        black = [row.title for row in rows if darkest(picture, row.title_area) < 0.1]
-        self.assertEqual(black, [row.title for row in rows if row.title != "Pin Dock to:"])
+        grey = [row.title for row in rows if darkest(picture, row.title_area) > 0.1]
+        self.assertEqual(grey, ["Pin Dock to:"])
         application.guarded_after(application.click_beside_menu)
         self.assert_quits(application)
 

@@ -27,6 +27,7 @@ struct Entry {
 
 struct Loop {
     std::vector<Entry> entries;
+    bool tracksMenu = false;
 };
 
 const Subclass<Source>& sources() {
@@ -53,9 +54,12 @@ std::vector<Entry>::iterator find(Loop& loop, id source, CFStringRef mode) {
 bool servesPort(id port) {
     const auto& entries = mainLoop().entries;
     return std::any_of(entries.begin(), entries.end(), [port](const Entry& entry) {
-        return Subclass<Source>::of(entry.source.get()).port.get() == port;
+        const bool isInMode = entry.mode == kCFRunLoopCommonModes || !mainLoop().tracksMenu;
+        return isInMode && Subclass<Source>::of(entry.source.get()).port.get() == port;
     });
 }
+
+void setTracksMenu(bool isTracking) { mainLoop().tracksMenu = isTracking; }
 
 void removeRunLoopSources() { mainLoop().entries.clear(); }
 

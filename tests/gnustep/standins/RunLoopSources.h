@@ -5,8 +5,11 @@
 
 namespace kestrune::gnustep {
 
-// Whether the main thread's run loop serves a source of this port in its default mode.
+// Whether the main thread's run loop serves a source of this port in the mode that it is in.
 bool servesPort(id port);
+
+// The loop leaves its default mode while a menu is tracked.
+void setTracksMenu(bool isTracking);
 
 void removeRunLoopSources();
 

@@ -40,8 +40,14 @@ std::string messageIn(const char* format, const std::uint8_t* buffer, std::uint3
     return text;
 }
 
-void keep(LoggedMessage::Level level, os_log_t log, const char* format, const std::uint8_t* buffer,
-          std::uint32_t size) {
+constexpr std::uint8_t Debug = 2;
+constexpr std::uint8_t Error = 16;
+
+void keep(LoggedMessage::Level level, os_log_t log, std::uint8_t type, const char* format,
+          const std::uint8_t* buffer, std::uint32_t size) {
+    if (type != (level == LoggedMessage::Level::error ? Error : Debug)) {
+        fatal("A message to the unified log has another type than its function.");
+    }
     loggedMessages().push_back({level, log->subsystem, log->category, messageIn(format, buffer, size)});
 }
 
@@ -61,14 +67,14 @@ os_log_t os_log_create(const char* subsystem, const char* category) {
 
 bool os_log_type_enabled(os_log_t /*log*/, std::uint8_t /*type*/) { return true; }
 
-void _os_log_debug_impl(void* /*image*/, os_log_t log, std::uint8_t /*type*/, const char* format,
+void _os_log_debug_impl(void* /*image*/, os_log_t log, std::uint8_t type, const char* format,
                         std::uint8_t* buffer, std::uint32_t size) {
-    keep(LoggedMessage::Level::debug, log, format, buffer, size);
+    keep(LoggedMessage::Level::debug, log, type, format, buffer, size);
 }
 
-void _os_log_error_impl(void* /*image*/, os_log_t log, std::uint8_t /*type*/, const char* format,
+void _os_log_error_impl(void* /*image*/, os_log_t log, std::uint8_t type, const char* format,
                         std::uint8_t* buffer, std::uint32_t size) {
-    keep(LoggedMessage::Level::error, log, format, buffer, size);
+    keep(LoggedMessage::Level::error, log, type, format, buffer, size);
 }
 
 } // extern "C"
