@@ -51,8 +51,10 @@ pid_t forkOrStop() {
     return process;
 }
 
+// Of a test that could not stop telling, the end.
 void printContents(int file) {
-    lseek(file, 0, SEEK_SET);
+    constexpr off_t Longest = 16384;
+    lseek(file, std::max(off_t{0}, lseek(file, 0, SEEK_END) - Longest), SEEK_SET);
     std::array<char, 4096> buffer{};
     for (ssize_t count = 0; (count = read(file, buffer.data(), buffer.size())) > 0;) {
         std::fwrite(buffer.data(), 1, static_cast<std::size_t>(count), stdout);

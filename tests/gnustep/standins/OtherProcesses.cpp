@@ -1,6 +1,7 @@
 // Other processes, cut off: the distributed notification centre starts a daemon and waits for it, now and
-// then for ever, and the workspace starts a tool that writes into the user's home. Nothing of the
-// application's goes through them; this stands in for nothing of the Mac's.
+// then for ever; the workspace starts a tool that writes into the user's home; and the application offers its
+// services under its program's name, which at the end of one process may be another's by then and raises an
+// exception. Nothing of the application's goes through them; this stands in for nothing of the Mac's.
 #include "tests/gnustep/standins/OtherProcesses.h"
 
 #include "tests/gnustep/standins/Methods.h"
@@ -14,6 +15,7 @@ void addObserver(id, SEL, id, SEL, id, id, mac::Unsigned) {}
 void removeObserver(id, SEL, id, id, id) {}
 void postNotification(id, SEL, id, id, id, BOOL) {}
 id launchTask(id, SEL, id, id) { return nullptr; }
+void registerAsServiceProvider(id, SEL) {}
 
 } // namespace
 
@@ -23,6 +25,7 @@ void installOtherProcesses() {
     replaceMethod(center, "addObserver:selector:name:object:suspensionBehavior:", addObserver);
     replaceMethod(center, "removeObserver:name:object:", removeObserver);
     replaceMethod(center, "postNotificationName:object:userInfo:deliverImmediately:", postNotification);
+    replaceMethod(classNamed("GSServicesManager"), "registerAsServiceProvider", registerAsServiceProvider);
     replaceMethod(classOf(classNamed("NSTask")), "launchedTaskWithLaunchPath:arguments:", launchTask);
 }
 
