@@ -30,6 +30,7 @@ private:
 
 id stringFor(const UserDefaultsKey& key) {
     // Never destroyed, as the platform's objects may be used until the process has ended.
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
     static Keys& keys = *new Keys;
     return keys[key];
 }

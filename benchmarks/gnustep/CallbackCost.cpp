@@ -157,24 +157,26 @@ bool measure(GuardedSession& session, const Situation& situation, const Effort& 
     return agrees && !isAllocating && (!hasLimit || ratio <= LargestRatio);
 }
 
+bool measureAll(bool isQuick) {
+    const mac::Pool pool;
+    gnustep::installStandIns();
+    GuardedSession session;
+    bool isGood = true;
+    for (const Situation& situation : Situations) {
+        isGood = measure(session, situation, isQuick ? Quick : Full, !isQuick) && isGood;
+    }
+    return isGood;
+}
+
 } // namespace
 } // namespace kestrune::benchmarks
 
 int main(int count, char** arguments) {
-    using namespace kestrune;
     const bool isQuick = count == 2 && std::string_view(arguments[1]) == "--quick";
     if (count > 1 && !isQuick) {
         std::fputs("usage: kestrune-callback-cost [--quick]\n", stderr);
         return 2;
     }
-    gnustep::enterPrivateHome();
-    const mac::Pool pool;
-    gnustep::installStandIns();
-    benchmarks::GuardedSession session;
-    bool isGood = true;
-    for (const benchmarks::Situation& situation : benchmarks::Situations) {
-        const auto& effort = isQuick ? benchmarks::Quick : benchmarks::Full;
-        isGood = benchmarks::measure(session, situation, effort, !isQuick) && isGood;
-    }
-    return isGood ? 0 : 1;
+    kestrune::gnustep::enterPrivateHome();
+    return kestrune::benchmarks::measureAll(isQuick) ? 0 : 1;
 }

@@ -3,7 +3,8 @@
 // Source: dispatch/queue.h.
 #pragma once
 
-// NOLINTBEGIN(readability-identifier-naming): the names are the platform's.
+// NOLINTBEGIN(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables): the names
+// and the queue are the platform's.
 extern "C" {
 
 struct dispatch_queue_s;
@@ -14,4 +15,4 @@ extern struct dispatch_queue_s _dispatch_main_q;
 void dispatch_async_f(dispatch_queue_s* queue, void* context, void (*work)(void* context));
 
 } // extern "C"
-// NOLINTEND(readability-identifier-naming)
+// NOLINTEND(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)

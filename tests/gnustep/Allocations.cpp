@@ -2,12 +2,14 @@
 
 #include "tests/gnustep/Send.h"
 
-// Source: GNUstepBase, GSObjCRuntime and NSDebug.h.
+// NOLINTBEGIN(readability-identifier-naming): the names are GNUstep's.
+// Source: GNUstepBase, NSDebug.h.
 extern "C" {
 BOOL GSDebugAllocationActive(BOOL active);
 Class* GSDebugAllocationClassList();
 int GSDebugAllocationCount(Class type);
 }
+// NOLINTEND(readability-identifier-naming)
 
 namespace kestrune::gnustep {
 

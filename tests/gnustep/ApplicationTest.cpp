@@ -23,9 +23,12 @@
 #include <string>
 #include <vector>
 
+// NOLINTBEGIN(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables): the
+// platform's.
 extern "C" {
 extern id NSApp;
 }
+// NOLINTEND(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)
 
 namespace kestrune::gnustep {
 namespace {

@@ -73,12 +73,12 @@ extern "C" {
 
 dispatch_queue_s _dispatch_main_q;
 
-void dispatch_async_f(dispatch_queue_s* /*queue*/, void* context, void (*function)(void* context)) {
+void dispatch_async_f(dispatch_queue_s* /*queue*/, void* context, void (*work)(void* context)) {
     static const auto type =
         Subclass<DispatchedWork>("KestruneDispatchedWork").method("run:", runDispatchedWork);
-    const id work = type.make(context, function);
-    perform(work, "run:", nullptr);
-    send<void>(work, "release");
+    const id dispatched = type.make(context, work);
+    perform(dispatched, "run:", nullptr);
+    send<void>(dispatched, "release");
 }
 
 } // extern "C"
