@@ -1,6 +1,6 @@
 // Blocks made by hand from C++ functions.
 //
-// Source: clang.llvm.org, Block Implementation Specification.
+// Source: clang.llvm.org/docs/Block-ABI-Apple.html.
 #pragma once
 
 #include "mac/objc/Pool.h"

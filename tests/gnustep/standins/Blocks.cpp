@@ -4,7 +4,7 @@
 // sends messages to blocks, so here a block has a class with methods; it finds `_Block_copy` and
 // `_Block_release` in the program.
 //
-// Source: clang.llvm.org, Block Implementation Specification.
+// Source: clang.llvm.org/docs/Block-ABI-Apple.html.
 #include "tests/gnustep/standins/Blocks.h"
 
 #include "mac/objc/Block.h"
