@@ -201,16 +201,4 @@ void ShellSession::finish() {
     checkNothingIsLeft();
 }
 
-void ShellSession::require(bool holds, const char* rule) {
-    if (!holds) {
-        violate(rule);
-    }
-}
-
-void ShellSession::violate(std::string text) {
-    if (!violation_) {
-        violation_ = std::move(text);
-    }
-}
-
 } // namespace kestrune::simulate

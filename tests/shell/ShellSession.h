@@ -5,6 +5,7 @@
 #include "Kestrune/KestruneApp.h"
 #include "sim/Session.h"
 #include "tests/shell/ShellModel.h"
+#include "tests/simulate/Verdict.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -17,7 +18,7 @@
 
 namespace kestrune::simulate {
 
-class ShellSession {
+class ShellSession : public Verdict {
 public:
     explicit ShellSession(const ShellBeginning& beginning);
 
@@ -54,9 +55,6 @@ public:
     // The process is killed if it still runs; nothing may be left behind.
     void finish();
 
-    // The first rule that was broken.
-    const std::optional<std::string>& violation() const { return violation_; }
-
     const ShellModel& model() const { return model_; }
     const ShellCounts& counts() const { return model_.counts(); }
 
@@ -77,8 +75,6 @@ private:
     void checkLog();
     void buryProcess();
     void checkNothingIsLeft();
-    void require(bool holds, const char* rule);
-    void violate(std::string text);
 
     sim::Session session_;
     ShellModel model_;
@@ -88,7 +84,6 @@ private:
     std::uint64_t writes_ = 0; // of defaults entries, by anybody
     std::uint64_t writesWithTap_ = 0;
     std::size_t checkedRecords_ = 0;
-    std::optional<std::string> violation_;
 };
 
 } // namespace kestrune::simulate

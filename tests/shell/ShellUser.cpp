@@ -88,18 +88,7 @@ std::string ShellUser::act() {
     if (!session_->model().process() && random_.chance(0.4)) {
         return launch();
     }
-    double total = 0;
-    for (const Choice& choice : choices()) {
-        total += choice.weight;
-    }
-    double draw = random_.real(0, total);
-    for (const Choice& choice : choices()) {
-        draw -= choice.weight;
-        if (draw < 0) {
-            return (this->*choice.action)();
-        }
-    }
-    return wait();
+    return (this->*random_.weighted(choices()).action)();
 }
 
 std::vector<std::string> ShellUser::takeTrace() {
@@ -145,14 +134,7 @@ std::string ShellUser::activate() {
            (isRegular ? "regular" : "an accessory");
 }
 
-StoredSwitch ShellUser::enabled() {
-    const bool mostlyOn = random_.chance(0.5);
-    StoredSwitch value = random_.pick(remarkableSwitches());
-    while (mostlyOn && !value.reading) {
-        value = random_.pick(remarkableSwitches());
-    }
-    return value;
-}
+StoredSwitch ShellUser::enabled() { return randomSwitch(random_, 0.5); }
 
 std::string ShellUser::storeSwitch() {
     const StoredSwitch value = enabled();

@@ -1,9 +1,8 @@
 // What happens to the displays.
 #include "tests/shell/ShellUser.h"
 
-#include <algorithm>
 #include <array>
-#include <deque>
+#include <optional>
 #include <utility>
 
 namespace kestrune::simulate {
@@ -37,10 +36,8 @@ std::string ShellUser::unplug() {
     if (displays.empty()) {
         return plug();
     }
-    const auto gone = displays.begin() + static_cast<std::ptrdiff_t>(random_.index(displays.size()));
-    const std::string what = gone->localizedName + " is unplugged";
-    displays.erase(gone);
-    return changeDisplays(what, std::move(displays));
+    DisplayChange change = arrangement_.withoutOne(std::move(displays));
+    return changeDisplays(change.what, std::move(change.displays));
 }
 
 std::string ShellUser::unplugAll() { return changeDisplays("all displays are unplugged", {}); }
@@ -51,14 +48,8 @@ std::string ShellUser::renumber() {
 }
 
 std::string ShellUser::rearrange() {
-    std::vector<sim::Display> displays = session_->model().connected();
-    if (!displays.empty() && random_.chance(0.4)) {
-        const std::size_t first = random_.index(displays.size());
-        std::rotate(displays.begin(), displays.begin() + static_cast<std::ptrdiff_t>(first), displays.end());
-        return changeDisplays("another display becomes the primary one", std::move(displays));
-    }
-    return changeDisplays("the displays get other places and sizes",
-                          arrangement_.rearranged(std::move(displays)));
+    DisplayChange change = arrangement_.movedAround(session_->model().connected());
+    return changeDisplays(change.what, std::move(change.displays));
 }
 
 std::string ShellUser::rename() {
@@ -75,28 +66,16 @@ std::string ShellUser::rename() {
 }
 
 std::string ShellUser::readInPassing() {
-    std::deque<std::vector<sim::Display>> reads(1 + random_.index(8));
-    for (std::vector<sim::Display>& read : reads) {
-        const bool isEmpty = random_.chance(0.3);
-        for (const sim::Display& display : session_->model().connected()) {
-            if (!isEmpty && random_.chance(0.7)) {
-                read.push_back(display);
-            }
-        }
-    }
+    const auto reads = arrangement_.readingsInPassing(session_->model().connected());
     session_->scriptReads(reads);
     return "the next " + std::to_string(reads.size()) + " readings are empty or partial";
 }
 
 std::string ShellUser::changeMain() {
-    const std::size_t count = session_->model().connected().size();
-    if (count == 0 || random_.chance(0.25)) {
-        session_->setMain(std::nullopt);
-        return "no display is the main one";
-    }
-    const std::size_t index = random_.index(count + 1);
+    const std::optional<std::size_t> index = arrangement_.main(session_->model().connected().size(), 0.25);
     session_->setMain(index);
-    return "the display at place " + std::to_string(index) + " becomes the main one";
+    return index ? "the display at place " + std::to_string(*index) + " becomes the main one"
+                 : "no display is the main one";
 }
 
 std::string ShellUser::failUUIDStrings() {

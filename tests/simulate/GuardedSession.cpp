@@ -190,16 +190,4 @@ void GuardedSession::finish() {
     require(session_.taps().count() == 0, "the guard is gone and left a tap behind");
 }
 
-void GuardedSession::require(bool holds, const char* rule) {
-    if (!holds) {
-        violate(rule);
-    }
-}
-
-void GuardedSession::violate(std::string text) {
-    if (!violation_) {
-        violation_ = std::move(text);
-    }
-}
-
 } // namespace kestrune::simulate

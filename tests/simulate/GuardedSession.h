@@ -7,6 +7,7 @@
 #include "tests/simulate/Oracle.h"
 #include "tests/simulate/StoredValue.h"
 #include "tests/simulate/TapModel.h"
+#include "tests/simulate/Verdict.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -42,7 +43,7 @@ struct StoredEntries {
     StoredChoice choice = absentChoice();
 };
 
-class GuardedSession {
+class GuardedSession : public Verdict {
 public:
     GuardedSession(std::vector<sim::Display> displays, const StoredEntries& entries, sim::Duration dockDwell,
                    bool cursorFollowsEvents);
@@ -72,9 +73,6 @@ public:
     // Stops the guard and lets it go; nothing may be left behind.
     void finish();
 
-    // The first rule that was broken.
-    const std::optional<std::string>& violation() const { return violation_; }
-
     const Counts& counts() const { return counts_; }
     const std::vector<sim::Display>& displays() { return session_.displays().connected(); }
     Point pointer() const { return session_.pointer(); }
@@ -101,8 +99,6 @@ private:
     void checkLog();
     void checkEntries();
     void storeFromOutside(std::string_view key, const std::optional<sim::PropertyList>& value);
-    void require(bool holds, const char* rule);
-    void violate(std::string text);
 
     sim::Session session_;
     std::unique_ptr<DockGuardController> guard_;
@@ -112,7 +108,6 @@ private:
     std::uint64_t refusals_ = 0;
     std::uint64_t writes_ = 0; // of defaults entries, by anybody
     Counts counts_;
-    std::optional<std::string> violation_;
     bool tracing_ = false;
     std::vector<std::string> trace_;
 };

@@ -63,6 +63,23 @@ public:
         return choices[index(choices.size())];
     }
 
+    // One of the choices, each as likely as its `weight` is of the weight of all.
+    template <typename Choice>
+    const Choice& weighted(const std::vector<Choice>& choices) {
+        double total = 0;
+        for (const Choice& choice : choices) {
+            total += choice.weight;
+        }
+        double draw = real(0, total);
+        for (const Choice& choice : choices) {
+            draw -= choice.weight;
+            if (draw < 0) {
+                return choice;
+            }
+        }
+        return choices.back();
+    }
+
 private:
     // Neighbouring seeds give unrelated sequences only after the state has been stirred.
     static constexpr int MixingSteps = 32;

@@ -1,6 +1,9 @@
 #include "tests/simulate/RandomArrangement.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
+#include <utility>
 
 namespace kestrune::simulate {
 
@@ -110,6 +113,42 @@ std::vector<sim::Display> RandomArrangement::renumbered(std::vector<sim::Display
         display.screenNumber = std::int64_t{display.displayID};
     }
     return displays;
+}
+
+DisplayChange RandomArrangement::withoutOne(std::vector<sim::Display> displays) {
+    const auto gone = displays.begin() + static_cast<std::ptrdiff_t>(random_.index(displays.size()));
+    std::string what = gone->localizedName + " is unplugged";
+    displays.erase(gone);
+    return {std::move(what), std::move(displays)};
+}
+
+DisplayChange RandomArrangement::movedAround(std::vector<sim::Display> displays) {
+    if (!displays.empty() && random_.chance(0.4)) {
+        const std::size_t first = random_.index(displays.size());
+        std::rotate(displays.begin(), displays.begin() + static_cast<std::ptrdiff_t>(first), displays.end());
+        return {"another display becomes the primary one", std::move(displays)};
+    }
+    return {"the displays are rearranged", rearranged(std::move(displays))};
+}
+
+std::deque<std::vector<sim::Display>>
+RandomArrangement::readingsInPassing(const std::vector<sim::Display>& displays) {
+    std::deque<std::vector<sim::Display>> readings(1 + random_.index(8));
+    for (std::vector<sim::Display>& reading : readings) {
+        if (random_.chance(0.3)) {
+            continue;
+        }
+        std::copy_if(displays.begin(), displays.end(), std::back_inserter(reading),
+                     [this](const sim::Display& /*display*/) { return random_.chance(0.7); });
+    }
+    return readings;
+}
+
+std::optional<std::size_t> RandomArrangement::main(std::size_t count, double chanceOfNone) {
+    if (count == 0 || random_.chance(chanceOfNone)) {
+        return std::nullopt;
+    }
+    return random_.index(count + 1);
 }
 
 } // namespace kestrune::simulate

@@ -5,9 +5,19 @@
 #include "tests/simulate/Arrangement.h"
 #include "tests/simulate/Random.h"
 
+#include <cstddef>
+#include <deque>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace kestrune::simulate {
+
+// What happened to the displays, readable, and the displays after it.
+struct DisplayChange {
+    std::string what;
+    std::vector<sim::Display> displays;
+};
 
 class RandomArrangement {
 public:
@@ -25,6 +35,18 @@ public:
 
     // The same displays under other numbers.
     std::vector<sim::Display> renumbered(std::vector<sim::Display> displays);
+
+    // One display less; there must be one.
+    DisplayChange withoutOne(std::vector<sim::Display> displays);
+
+    // Another primary display, or other places and sizes.
+    DisplayChange movedAround(std::vector<sim::Display> displays);
+
+    // What the next readings of the list give while the system changes it: some of the displays or none.
+    std::deque<std::vector<sim::Display>> readingsInPassing(const std::vector<sim::Display>& displays);
+
+    // The place of the main display, perhaps behind the last of `count`; absent with that chance.
+    std::optional<std::size_t> main(std::size_t count, double chanceOfNone);
 
 private:
     Placement placement();

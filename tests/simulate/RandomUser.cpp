@@ -61,20 +61,7 @@ const std::vector<RandomUser::Choice>& RandomUser::choices() {
     return all;
 }
 
-std::string RandomUser::act() {
-    double total = 0;
-    for (const Choice& choice : choices()) {
-        total += choice.weight;
-    }
-    double draw = random_.real(0, total);
-    for (const Choice& choice : choices()) {
-        draw -= choice.weight;
-        if (draw < 0) {
-            return (this->*choice.action)();
-        }
-    }
-    return wait();
-}
+std::string RandomUser::act() { return (this->*random_.weighted(choices()).action)(); }
 
 std::string RandomUser::changeDisplays(std::string what, std::vector<sim::Display> displays) {
     putPrimaryAtOrigin(displays);
@@ -104,10 +91,8 @@ std::string RandomUser::unplug() {
     if (displays.empty()) {
         return plug();
     }
-    const auto gone = displays.begin() + static_cast<std::ptrdiff_t>(random_.index(displays.size()));
-    const std::string what = gone->localizedName + " is unplugged";
-    displays.erase(gone);
-    return changeDisplays(what, std::move(displays));
+    DisplayChange change = arrangement_.withoutOne(std::move(displays));
+    return changeDisplays(std::move(change.what), std::move(change.displays));
 }
 
 std::string RandomUser::unplugAll() { return changeDisplays("all displays are unplugged", {}); }
@@ -117,27 +102,12 @@ std::string RandomUser::renumber() {
 }
 
 std::string RandomUser::rearrange() {
-    std::vector<sim::Display> displays = session_->displays();
-    if (!displays.empty() && random_.chance(0.4)) {
-        const std::size_t first = random_.index(displays.size());
-        std::rotate(displays.begin(), displays.begin() + static_cast<std::ptrdiff_t>(first), displays.end());
-        return changeDisplays("another display becomes the primary one", std::move(displays));
-    }
-    return changeDisplays("the displays are rearranged", arrangement_.rearranged(std::move(displays)));
+    DisplayChange change = arrangement_.movedAround(session_->displays());
+    return changeDisplays(std::move(change.what), std::move(change.displays));
 }
 
 std::string RandomUser::readInPassing() {
-    std::deque<std::vector<sim::Display>> reads(1 + random_.index(8));
-    for (std::vector<sim::Display>& read : reads) {
-        if (random_.chance(0.3)) {
-            continue;
-        }
-        for (const sim::Display& display : session_->displays()) {
-            if (random_.chance(0.7)) {
-                read.push_back(display);
-            }
-        }
-    }
+    std::deque<std::vector<sim::Display>> reads = arrangement_.readingsInPassing(session_->displays());
     std::string what = "the next " + std::to_string(reads.size()) + " readings are empty or partial";
     session_->scriptReads(std::move(reads));
     if (random_.chance(0.8)) {
@@ -148,14 +118,10 @@ std::string RandomUser::readInPassing() {
 }
 
 std::string RandomUser::changeMain() {
-    const std::size_t count = session_->displays().size();
-    if (count == 0 || random_.chance(0.2)) {
-        session_->setMain(std::nullopt);
-        return "no display is the main one";
-    }
-    const std::size_t index = random_.index(count + 1);
+    const std::optional<std::size_t> index = arrangement_.main(session_->displays().size(), 0.2);
     session_->setMain(index);
-    return "the display at place " + std::to_string(index) + " becomes the main one";
+    return index ? "the display at place " + std::to_string(*index) + " becomes the main one"
+                 : "no display is the main one";
 }
 
 std::string RandomUser::failUUIDStrings() {
@@ -196,14 +162,7 @@ std::string RandomUser::storeMargin() {
     return "the margin is stored: " + textOf(value.stored ? &*value.stored : nullptr);
 }
 
-StoredSwitch RandomUser::enabled() {
-    const bool mostlyOn = random_.chance(0.6);
-    StoredSwitch value = random_.pick(remarkableSwitches());
-    while (mostlyOn && !value.reading) {
-        value = random_.pick(remarkableSwitches());
-    }
-    return value;
-}
+StoredSwitch RandomUser::enabled() { return randomSwitch(random_, 0.6); }
 
 std::string RandomUser::storeSwitch() {
     const StoredSwitch value = enabled();

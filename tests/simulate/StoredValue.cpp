@@ -140,4 +140,13 @@ std::string textOf(const PropertyList* value) {
     return result;
 }
 
+StoredSwitch randomSwitch(Random& random, double chanceOfOn) {
+    const bool isOn = random.chance(chanceOfOn);
+    StoredSwitch value = random.pick(remarkableSwitches());
+    while (isOn && !value.reading) {
+        value = random.pick(remarkableSwitches());
+    }
+    return value;
+}
+
 } // namespace kestrune::simulate

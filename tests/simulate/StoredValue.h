@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sim/PropertyList.h"
+#include "tests/simulate/Random.h"
 
 #include <optional>
 #include <string>
@@ -47,6 +48,9 @@ StoredChoice choiceOf(std::string identifier);
 // Absent, ordinary, extreme and of the wrong type.
 const std::vector<StoredMargin>& remarkableMargins();
 const std::vector<StoredSwitch>& remarkableSwitches();
+
+// One of these; only such as read as on with that chance, any of them otherwise.
+StoredSwitch randomSwitch(Random& random, double chanceOfOn);
 
 // Absent, of the wrong type, or naming no display that the arrangements here have.
 const std::vector<StoredChoice>& remarkableChoices();

@@ -1,12 +1,12 @@
-// Objects of the application's while the platform calls them.
+// Objects of the application's while the platform calls them, which may let go of them themselves.
 #include "tests/contract/MenuFixture.h"
 
 namespace kestrune::contract {
 namespace {
 
-class Receiver : public MenuFixture {};
+class ReceiverContract : public MenuFixture {};
 
-TEST_F(Receiver, OfAnActionIsKeptUntilItReturns) {
+TEST_F(ReceiverContract, OfAnActionIsKeptUntilItReturns) {
     const std::weak_ptr<RecordingTarget> watched = target_;
     bool isThere = false;
     target_->onAction([&] {
@@ -18,7 +18,7 @@ TEST_F(Receiver, OfAnActionIsKeptUntilItReturns) {
     EXPECT_TRUE(watched.expired());
 }
 
-TEST_F(Receiver, OfAMenusOpeningIsKeptUntilItReturns) {
+TEST_F(ReceiverContract, OfAMenusOpeningIsKeptUntilItReturns) {
     auto delegate = std::make_shared<RecordingMenuDelegate>();
     const std::weak_ptr<RecordingMenuDelegate> watched = delegate;
     Menu menu;
