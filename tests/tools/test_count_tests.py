@@ -14,9 +14,12 @@ NOT_BUILT = '<testcase name="e" status="notrun"><skipped message="Unable to find
 
 
 class CountTests(TreeTest):
-    def count(self, *paths):
+    def run_on(self, *paths):
         command = [sys.executable, str(REPOSITORY / "tools/count-tests"), *paths]
-        result = subprocess.run(command, cwd=self.root, capture_output=True, text=True)
+        return subprocess.run(command, cwd=self.root, capture_output=True, text=True)
+
+    def count(self, *paths):
+        result = self.run_on(*paths)
         return result.stdout, result.returncode
 
     def write_results(self, path, *cases):
@@ -33,6 +36,10 @@ class CountTests(TreeTest):
     def test_fails_with_a_failed_test(self):
         self.write_results("a.xml", PASSED, FAILED)
         self.assertEqual(self.count("a.xml"), ("1 passed, 1 failed\n", 1))
+
+    def test_names_what_failed(self):
+        self.write_results("a.xml", PASSED, FAILED)
+        self.assertEqual(self.run_on("a.xml").stderr, "a.xml: b failed\n")
 
     def test_counts_a_program_that_was_not_built_as_failed(self):
         self.write_results("a.xml", PASSED, NOT_BUILT)
