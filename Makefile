@@ -29,7 +29,7 @@ ctest --test-dir $(DIR) --no-tests=error --max-width 90 --output-on-failure --ou
 status=$$?; tools/count-tests $(DIR)/tests.xml && exit $$status
 endef
 
-.PHONY: help run test check bench simulate soak fuzz coverage clean
+.PHONY: help run test check bench simulate first-run soak fuzz coverage clean
 .NOTPARALLEL:
 .DEFAULT_GOAL := help
 
@@ -39,6 +39,7 @@ help:
 	@echo "make check               format, include rules, unbuilt files, strings, contract tests, clang-tidy"
 	@echo "make bench               the event path against its floor, and the simulation"
 	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
+	@echo "make first-run           the wizard's story on the simulated Mac and on GNUstep, step by step"
 	@echo "make soak                RUNS=$(RUNS) times all tests on GNUstep, four runs at a time"
 	@echo "make fuzz                every fuzzer for FUZZ_SECONDS=$(FUZZ_SECONDS) seconds"
 	@echo "make coverage            line and branch coverage of Kestrune/ and base/; fails under 100 %"
@@ -88,6 +89,10 @@ simulate:
 	$(call build,simulate,kestrune-simulate kestrune-simulate-shell)
 	@$(DIR)/tests/simulate/kestrune-simulate --seed $(SEED) --seeds $(SEEDS)
 	@$(DIR)/tests/shell/kestrune-simulate-shell --seed $(SEED) --seeds $(SEEDS)
+
+first-run:
+	$(call build,test,scenarios_sim scenarios_gnustep)
+	@tests/scenarios/first-run $(DIR)
 
 soak:
 	$(call build,test,gnustep-tests)

@@ -3,6 +3,7 @@
 #include "Kestrune/AccessibilityList.h"
 #include "Kestrune/ApplicationLog.h"
 #include "Kestrune/MainMenu.h"
+#include "Kestrune/RunningApplication.h"
 #include "base/Fatal.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/MainActor.h"
@@ -80,11 +81,7 @@ void KestruneApp::applicationWillTerminate() noexcept { dockGuard_->stop(); }
 
 void KestruneApp::installMainMenu() {
     const Menu mainMenu = buildMainMenu(weak_from_this(), MenuOpenSettings);
-    std::optional<Application> application = Application::nsApp();
-    if (!application) {
-        fatal("The application has launched without a shared application.");
-    }
-    application->setMainMenu(mainMenu);
+    runningApplication().setMainMenu(mainMenu);
 }
 
 std::shared_ptr<MenuBarController> KestruneApp::makeMenuBarController() {
@@ -105,8 +102,13 @@ void KestruneApp::menuOpenSettings() {
 // There is no Settings window yet.
 void KestruneApp::openSettingsWindow() {}
 
-// There is no wizard yet.
-void KestruneApp::showWelcomeWindow() {}
+void KestruneApp::showWelcomeWindow() {
+    if (!welcomeWindowController_) {
+        welcomeWindowController_ =
+            WelcomeWindowController::make(preferences_, whileAlive<&KestruneApp::welcomeFinished>());
+    }
+    welcomeWindowController_->show();
+}
 
 bool KestruneApp::isSetupComplete() const {
     return preferences_->defaults().boolForKey(Preferences::HasCompletedOnboardingKey) && isProcessTrusted();
@@ -158,6 +160,7 @@ void KestruneApp::accessibilityGranted() {
 }
 
 void KestruneApp::welcomeFinished() {
+    welcomeWindowController_.reset();
     startGuardIfAllowed();
     endAccessibilityWatcher();
     rebuildMenu();

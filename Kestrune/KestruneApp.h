@@ -4,6 +4,7 @@
 #include "Kestrune/DockGuardController.h"
 #include "Kestrune/MenuBarController.h"
 #include "Kestrune/Preferences.h"
+#include "Kestrune/WelcomeWindowController.h"
 #include "platform/Application.h"
 #include "platform/Timer.h"
 
@@ -54,6 +55,11 @@ public:
     const std::shared_ptr<Preferences>& preferences() const { return preferences_; }
     const std::shared_ptr<DockGuardController>& dockGuard() const { return dockGuard_; }
 
+    // Null unless the wizard is going on.
+    const std::shared_ptr<WelcomeWindowController>& welcomeWindowController() const {
+        return welcomeWindowController_;
+    }
+
     // Whether the permission is polled.
     bool isWatchingAccessibility() const { return accessibilityWatcher_.has_value(); }
 
@@ -81,6 +87,7 @@ private:
     std::shared_ptr<MenuBarController> menuBarController_;
     std::shared_ptr<Preferences> preferences_;
     std::shared_ptr<DockGuardController> dockGuard_;
+    std::shared_ptr<WelcomeWindowController> welcomeWindowController_; // null unless the wizard is going on
     std::optional<Timer> accessibilityWatcher_;
 };
 

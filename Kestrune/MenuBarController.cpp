@@ -1,10 +1,10 @@
 #include "Kestrune/MenuBarController.h"
 
+#include "Kestrune/AccessibilityPane.h"
 #include "Kestrune/Localized.h"
+#include "Kestrune/RunningApplication.h"
 #include "base/Fatal.h"
 #include "platform/AccessibilityTrust.h"
-#include "platform/Application.h"
-#include "platform/Workspace.h"
 
 #include <cstdint>
 #include <utility>
@@ -199,23 +199,13 @@ void MenuBarController::selectScreen(const MenuItem& sender) {
 
 void MenuBarController::openAccessibilitySettings() {
     isProcessTrustedWithOptions({.prompt = true});
-    const std::optional<URL> address = URL::withString(AccessibilityPaneAddress);
-    if (!address) {
-        fatal("The address of the Accessibility pane is no URL.");
-    }
-    Workspace::sharedWorkspace().openURL(*address);
+    openAccessibilityPane();
 }
 
 void MenuBarController::showSettings() { openSettings_(); }
 
 void MenuBarController::showWelcome() { openWelcome_(); }
 
-void MenuBarController::quit() {
-    std::optional<Application> application = Application::nsApp();
-    if (!application) {
-        fatal("There is no shared application to quit.");
-    }
-    application->terminate();
-}
+void MenuBarController::quit() { runningApplication().terminate(); }
 
 } // namespace kestrune

@@ -25,10 +25,6 @@ class MenuBarController : public MenuDelegate, public std::enable_shared_from_th
     struct Construction {};
 
 public:
-    // System Settings at Privacy & Security, Accessibility.
-    static constexpr std::string_view AccessibilityPaneAddress =
-        "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
-
     struct Openers {
         std::function<void()> openSettings;
         std::function<void()> openWelcome;

@@ -10,4 +10,9 @@ void fatal(std::string_view message) noexcept {
     std::abort();
 }
 
+void fatal(std::string_view message, std::string_view sourcePath) noexcept {
+    std::fprintf(stderr, "%.*s: ", static_cast<int>(sourcePath.size()), sourcePath.data());
+    fatal(message);
+}
+
 } // namespace kestrune

@@ -11,6 +11,18 @@ std::atomic<std::size_t>& counter() {
     return count;
 }
 
+std::atomic<std::size_t>& releases() {
+    static std::atomic<std::size_t> count{0};
+    return count;
+}
+
+void release(void* memory) {
+    if (memory != nullptr) {
+        releases().fetch_add(1, std::memory_order_relaxed);
+        std::free(memory);
+    }
+}
+
 // A program that measures has no use for an exception here.
 void* counted(void* memory) {
     counter().fetch_add(1, std::memory_order_relaxed);
@@ -26,6 +38,8 @@ namespace kestrune::benchmarks {
 
 std::size_t allocationCount() { return counter().load(std::memory_order_relaxed); }
 
+std::size_t liveAllocationCount() { return allocationCount() - releases().load(std::memory_order_relaxed); }
+
 } // namespace kestrune::benchmarks
 
 // The forms for arrays and the ones that do not throw call these.
@@ -36,10 +50,10 @@ void* operator new(std::size_t size, std::align_val_t alignment) {
     return counted(std::aligned_alloc(unit, (size / unit + 1) * unit));
 }
 
-void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory) noexcept { release(memory); }
 
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { release(memory); }
 
-void operator delete(void* memory, std::align_val_t) noexcept { std::free(memory); }
+void operator delete(void* memory, std::align_val_t) noexcept { release(memory); }
 
-void operator delete(void* memory, std::size_t, std::align_val_t) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t, std::align_val_t) noexcept { release(memory); }

@@ -2,9 +2,9 @@
 //
 // 8 hours at a thousand events a second, with the guard and the Dock. Prints one line and fails when the Dock
 // moved, when the day took too long, or when the motion is too tame to prove anything.
+#include "benchmarks/CountArgument.h"
 #include "benchmarks/GuardedDesk.h"
 
-#include <charconv>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
@@ -24,20 +24,6 @@ constexpr std::size_t DisplayCount = 3;
 
 // Long enough for the Dock to be pulled away many times.
 constexpr std::uint64_t EventsWithoutGuard = 20'000;
-
-std::optional<std::uint64_t> eventsFrom(std::span<char*> arguments) {
-    if (arguments.empty()) {
-        return EventsOfADay;
-    }
-    if (arguments.size() != 2 || std::string_view(arguments[0]) != "--events") {
-        return std::nullopt;
-    }
-    const std::string_view text = arguments[1];
-    std::uint64_t events = 0;
-    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), events);
-    const bool isWhole = parsed.ec == std::errc() && parsed.ptr == text.data() + text.size();
-    return isWhole && events > 0 ? std::optional(events) : std::nullopt;
-}
 
 std::uint64_t dockMovesWithoutGuard() {
     GuardedDesk desk(DisplayCount, Guard::off);
@@ -81,8 +67,8 @@ bool spend(std::uint64_t events) {
 } // namespace
 
 int main(int count, char** arguments) {
-    const std::optional<std::uint64_t> events =
-        eventsFrom(std::span(arguments, static_cast<std::size_t>(count)).subspan(1));
+    const std::optional<std::uint64_t> events = kestrune::benchmarks::countFrom(
+        std::span(arguments, static_cast<std::size_t>(count)).subspan(1), "--events", EventsOfADay);
     if (!events) {
         std::fputs("usage: kestrune-working-day [--events N], N above 0\n", stderr);
         return 2;

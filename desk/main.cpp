@@ -4,6 +4,7 @@
 #include "desk/headless/LaunchCommand.h"
 #include "desk/headless/ReplayCommand.h"
 #include "desk/live/Tour.h"
+#include "desk/live/WizardPictures.h"
 #include "desk/window/DeskWindow.h"
 
 #include <cstdio>
@@ -44,8 +45,9 @@ int run(const Options& options) {
         const auto* text = std::get_if<std::string>(&result);
         return text != nullptr ? print(*text) : refuse(std::get<InputError>(result));
     }
-    if (options.tour) {
-        const auto error = runTour(*options.tour, options);
+    if (options.tour || options.wizard) {
+        const auto error =
+            options.tour ? runTour(*options.tour, options) : writeWizardPictures(*options.wizard, options);
         return error ? refuse(*error) : 0;
     }
     return runDeskWindow(options);

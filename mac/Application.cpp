@@ -35,6 +35,11 @@ void Application::setMainMenu(const Menu& menu) {
     mac::ns_application::setMainMenu(NSApp, menu.state()->menu.get());
 }
 
+void Application::activateIgnoringOtherApps(bool ignoring) {
+    const mac::Pool pool;
+    mac::ns_application::activateIgnoringOtherApps(NSApp, mac::truth(ignoring));
+}
+
 void Application::run() { mac::ns_application::run(NSApp); }
 
 void Application::terminate() { mac::ns_application::terminate(NSApp, nullptr); }

@@ -1,10 +1,11 @@
-// What menus, images and status items are on the platform.
+// What menus, images, status items and windows are on the platform.
 #pragma once
 
 #include "mac/objc/Retained.h"
 #include "platform/Image.h"
 #include "platform/Menu.h"
 #include "platform/StatusBar.h"
+#include "platform/Window.h"
 
 namespace kestrune {
 
@@ -26,6 +27,10 @@ struct StatusBarButton::State {
 
 struct StatusItem::State {
     mac::Retained item;
+};
+
+struct Window::State {
+    mac::Retained window;
 };
 
 } // namespace kestrune

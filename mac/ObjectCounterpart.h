@@ -3,6 +3,7 @@
 
 #include "mac/objc/Retained.h"
 #include "platform/Object.h"
+#include "platform/WindowController.h"
 
 #include <memory>
 
@@ -12,6 +13,7 @@ namespace kestrune {
 // nothing, whoever still holds this one.
 struct Object::Counterpart {
     explicit Counterpart(const Object& represented);
+    Counterpart(const WindowController& represented, const Window& window);
     ~Counterpart();
 
     Counterpart(const Counterpart&) = delete;

@@ -18,6 +18,8 @@ inline const Message<id()> alloc{type, "alloc", MethodKind::ofClass};
 inline const Message<id()> init{type, "init"};
 inline const Message<id()> retain{type, "retain"};
 inline const Message<void()> release{type, "release"};
+inline const Message<void()> dealloc{type, "dealloc"};
+inline const Message<void(SEL, id, double)> performSelector{type, "performSelector:withObject:afterDelay:"};
 inline const Message<BOOL(Class)> isKindOfClass{type, "isKindOfClass:"};
 } // namespace ns_object
 
@@ -32,6 +34,7 @@ inline const Message<id(const void*, Unsigned, Unsigned)> initWithBytes{type,
                                                                         "initWithBytes:length:encoding:"};
 inline const Message<const char*()> utf8String{type, "UTF8String"};
 inline const Message<Unsigned(Unsigned)> lengthOfBytes{type, "lengthOfBytesUsingEncoding:"};
+inline const Message<id()> localizedUppercaseString{type, "localizedUppercaseString"};
 } // namespace ns_string
 
 namespace ns_number {
@@ -48,10 +51,20 @@ inline const Message<Unsigned()> count{type, "count"};
 inline const Message<id(Unsigned)> objectAtIndex{type, "objectAtIndex:"};
 } // namespace ns_array
 
+namespace ns_mutable_array {
+inline const ClassReference type{"NSMutableArray"};
+inline const Message<void(id)> addObject{type, "addObject:"};
+} // namespace ns_mutable_array
+
 namespace ns_dictionary {
 inline const ClassReference type{"NSDictionary"};
 inline const Message<id(id)> objectForKey{type, "objectForKey:"};
 } // namespace ns_dictionary
+
+namespace ns_mutable_dictionary {
+inline const ClassReference type{"NSMutableDictionary"};
+inline const Message<void(id, id)> setObject{type, "setObject:forKey:"};
+} // namespace ns_mutable_dictionary
 
 namespace ns_thread {
 inline const ClassReference type{"NSThread"};
@@ -96,6 +109,11 @@ inline const Message<id()> defaultCenter{type, "defaultCenter", MethodKind::ofCl
 inline const Message<id(id, id, id, id)> addObserver{type, "addObserverForName:object:queue:usingBlock:"};
 } // namespace ns_notification_center
 
+namespace ns_notification {
+inline const ClassReference type{"NSNotification"};
+inline const Message<id()> object{type, "object"};
+} // namespace ns_notification
+
 namespace ns_url {
 inline const ClassReference type{"NSURL"};
 inline const Message<id(id)> urlWithString{type, "URLWithString:", MethodKind::ofClass};
@@ -122,6 +140,7 @@ inline const Message<id()> sharedApplication{type, "sharedApplication", MethodKi
 inline const Message<void(id)> setDelegate{type, "setDelegate:"};
 inline const Message<BOOL(Integer)> setActivationPolicy{type, "setActivationPolicy:"};
 inline const Message<void(id)> setMainMenu{type, "setMainMenu:"};
+inline const Message<void(BOOL)> activateIgnoringOtherApps{type, "activateIgnoringOtherApps:"};
 inline const Message<void()> run{type, "run"};
 inline const Message<void(id)> terminate{type, "terminate:"};
 } // namespace ns_application
@@ -152,7 +171,22 @@ inline const ClassReference type{"NSImage"};
 inline const Message<id(id)> imageNamed{type, "imageNamed:", MethodKind::ofClass};
 inline const Message<void(BOOL)> setTemplate{type, "setTemplate:"};
 inline const Message<void(Size)> setSize{type, "setSize:"};
+inline const Message<Size()> size{type, "size"};
+inline const Message<id(Size)> initWithSize{type, "initWithSize:"};
+inline const Message<void()> lockFocus{type, "lockFocus"};
+inline const Message<void()> unlockFocus{type, "unlockFocus"};
+inline const Message<void(Rect, Rect, Unsigned, double, BOOL, id)> drawInRect{
+    type, "drawInRect:fromRect:operation:fraction:respectFlipped:hints:"};
+inline const Message<id(id, id)> imageWithSystemSymbolName{
+    type, "imageWithSystemSymbolName:accessibilityDescription:", MethodKind::ofClass};
+inline const Message<id(id)> imageWithSymbolConfiguration{type, "imageWithSymbolConfiguration:"};
 } // namespace ns_image
+
+namespace ns_image_symbol_configuration {
+inline const ClassReference type{"NSImageSymbolConfiguration"};
+inline const Message<id(double, double, Integer)> configurationWithPointSize{
+    type, "configurationWithPointSize:weight:scale:", MethodKind::ofClass};
+} // namespace ns_image_symbol_configuration
 
 namespace ns_status_bar {
 inline const ClassReference type{"NSStatusBar"};
@@ -171,7 +205,153 @@ inline const ClassReference type{"NSButton"};
 inline const Message<void(id)> setImage{type, "setImage:"};
 inline const Message<void(Unsigned)> setImageScaling{type, "setImageScaling:"};
 inline const Message<void(id)> setToolTip{type, "setToolTip:"};
+inline const Message<void(id)> setTitle{type, "setTitle:"};
+inline const Message<void(id)> setKeyEquivalent{type, "setKeyEquivalent:"};
+inline const Message<void(Unsigned)> setButtonType{type, "setButtonType:"};
+inline const Message<void(Unsigned)> setBezelStyle{type, "setBezelStyle:"};
+inline const Message<void(BOOL)> setBordered{type, "setBordered:"};
+inline const Message<void(BOOL)> setHasDestructiveAction{type, "setHasDestructiveAction:"};
 } // namespace ns_button
+
+namespace ns_cell {
+inline const ClassReference type{"NSCell"};
+inline const Message<BOOL()> isHighlighted{type, "isHighlighted"};
+inline const Message<void(BOOL)> setWraps{type, "setWraps:"};
+} // namespace ns_cell
+
+namespace ns_button_cell {
+inline const ClassReference type{"NSButtonCell"};
+} // namespace ns_button_cell
+
+namespace ns_view {
+inline const ClassReference type{"NSView"};
+inline const Message<id(Rect)> initWithFrame{type, "initWithFrame:"};
+inline const Message<id()> window{type, "window"};
+inline const Message<Rect()> bounds{type, "bounds"};
+inline const Message<void(Rect)> setFrame{type, "setFrame:"};
+inline const Message<void(BOOL)> setNeedsDisplay{type, "setNeedsDisplay:"};
+inline const Message<void(id)> setSubviews{type, "setSubviews:"};
+inline const Message<void(id)> setNextKeyView{type, "setNextKeyView:"};
+inline const Message<Size()> intrinsicContentSize{type, "intrinsicContentSize"};
+inline const Message<Rect(Rect)> frameForAlignmentRect{type, "frameForAlignmentRect:"};
+inline const Message<void(BOOL)> setAccessibilityElement{type, "setAccessibilityElement:"};
+inline const Message<void(id)> setAccessibilityLabel{type, "setAccessibilityLabel:"};
+} // namespace ns_view
+
+namespace ns_control {
+inline const ClassReference type{"NSControl"};
+inline const Message<id()> cell{type, "cell"};
+inline const Message<void(id)> setCell{type, "setCell:"};
+inline const Message<void(id)> setTarget{type, "setTarget:"};
+inline const Message<void(SEL)> setAction{type, "setAction:"};
+inline const Message<Integer()> tag{type, "tag"};
+inline const Message<void(Integer)> setTag{type, "setTag:"};
+inline const Message<void(BOOL)> setEnabled{type, "setEnabled:"};
+inline const Message<void(id)> setFont{type, "setFont:"};
+inline const Message<void(Unsigned)> setControlSize{type, "setControlSize:"};
+inline const Message<void(id)> setAttributedStringValue{type, "setAttributedStringValue:"};
+} // namespace ns_control
+
+namespace ns_text_field {
+inline const ClassReference type{"NSTextField"};
+inline const Message<void(BOOL)> setEditable{type, "setEditable:"};
+inline const Message<void(BOOL)> setSelectable{type, "setSelectable:"};
+inline const Message<void(BOOL)> setBezeled{type, "setBezeled:"};
+inline const Message<void(BOOL)> setDrawsBackground{type, "setDrawsBackground:"};
+} // namespace ns_text_field
+
+namespace ns_image_view {
+inline const ClassReference type{"NSImageView"};
+inline const Message<void(id)> setImage{type, "setImage:"};
+inline const Message<void(Unsigned)> setImageScaling{type, "setImageScaling:"};
+inline const Message<void(id)> setContentTintColor{type, "setContentTintColor:"};
+} // namespace ns_image_view
+
+namespace ns_switch {
+inline const ClassReference type{"NSSwitch"};
+inline const Message<Integer()> state{type, "state"};
+inline const Message<void(Integer)> setState{type, "setState:"};
+} // namespace ns_switch
+
+namespace ns_view_controller {
+inline const ClassReference type{"NSViewController"};
+inline const Message<id(id, id)> initWithNibName{type, "initWithNibName:bundle:"};
+inline const Message<void(id)> setView{type, "setView:"};
+} // namespace ns_view_controller
+
+namespace ns_window {
+inline const ClassReference type{"NSWindow"};
+inline const Message<id(Rect, Unsigned, Unsigned, BOOL)> initWithContentRect{
+    type, "initWithContentRect:styleMask:backing:defer:"};
+inline const Message<void(id)> setTitle{type, "setTitle:"};
+inline const Message<void(BOOL)> setReleasedWhenClosed{type, "setReleasedWhenClosed:"};
+inline const Message<void(Integer)> setLevel{type, "setLevel:"};
+inline const Message<void(BOOL)> setHidesOnDeactivate{type, "setHidesOnDeactivate:"};
+inline const Message<void(Unsigned)> setCollectionBehavior{type, "setCollectionBehavior:"};
+inline const Message<void()> center{type, "center"};
+inline const Message<void(id)> setContentViewController{type, "setContentViewController:"};
+inline const Message<void(id)> setDelegate{type, "setDelegate:"};
+inline const Message<void(id)> makeKeyAndOrderFront{type, "makeKeyAndOrderFront:"};
+inline const Message<void(id)> orderOut{type, "orderOut:"};
+inline const Message<void(id)> setInitialFirstResponder{type, "setInitialFirstResponder:"};
+inline const Message<Rect()> frame{type, "frame"};
+inline const Message<void(Rect, BOOL)> setFrame{type, "setFrame:display:"};
+inline const Message<Rect(Rect)> frameRectForContentRect{type, "frameRectForContentRect:"};
+} // namespace ns_window
+
+namespace ns_window_controller {
+inline const ClassReference type{"NSWindowController"};
+inline const Message<id(id)> initWithWindow{type, "initWithWindow:"};
+} // namespace ns_window_controller
+
+namespace ns_font {
+inline const ClassReference type{"NSFont"};
+inline const Message<id(double)> systemFontOfSize{type, "systemFontOfSize:", MethodKind::ofClass};
+inline const Message<id(double, double)> systemFontOfSizeWeight{
+    type, "systemFontOfSize:weight:", MethodKind::ofClass};
+inline const Message<double(Unsigned)> systemFontSizeForControlSize{
+    type, "systemFontSizeForControlSize:", MethodKind::ofClass};
+} // namespace ns_font
+
+namespace ns_color {
+inline const ClassReference type{"NSColor"};
+inline const Message<id()> labelColor{type, "labelColor", MethodKind::ofClass};
+inline const Message<id()> secondaryLabelColor{type, "secondaryLabelColor", MethodKind::ofClass};
+inline const Message<id()> tertiaryLabelColor{type, "tertiaryLabelColor", MethodKind::ofClass};
+inline const Message<id()> quaternaryLabelColor{type, "quaternaryLabelColor", MethodKind::ofClass};
+inline const Message<id()> controlAccentColor{type, "controlAccentColor", MethodKind::ofClass};
+inline const Message<id()> systemGreenColor{type, "systemGreenColor", MethodKind::ofClass};
+inline const Message<id()> whiteColor{type, "whiteColor", MethodKind::ofClass};
+inline const Message<id()> linkColor{type, "linkColor", MethodKind::ofClass};
+inline const Message<id()> separatorColor{type, "separatorColor", MethodKind::ofClass};
+inline const Message<double()> alphaComponent{type, "alphaComponent"};
+inline const Message<id(double)> colorWithAlphaComponent{type, "colorWithAlphaComponent:"};
+inline const Message<void()> set{type, "set"};
+} // namespace ns_color
+
+namespace ns_bezier_path {
+inline const ClassReference type{"NSBezierPath"};
+inline const Message<id(Rect, double, double)> bezierPathWithRoundedRect{
+    type, "bezierPathWithRoundedRect:xRadius:yRadius:", MethodKind::ofClass};
+inline const Message<void()> fill{type, "fill"};
+} // namespace ns_bezier_path
+
+namespace ns_mutable_paragraph_style {
+inline const ClassReference type{"NSMutableParagraphStyle"};
+inline const Message<void(Integer)> setAlignment{type, "setAlignment:"};
+} // namespace ns_mutable_paragraph_style
+
+namespace ns_attributed_string {
+inline const ClassReference type{"NSAttributedString"};
+inline const Message<id(id, id)> initWithString{type, "initWithString:attributes:"};
+inline const Message<Rect(Size, Integer)> boundingRectWithSize{type, "boundingRectWithSize:options:"};
+inline const Message<void(Rect, Integer)> drawWithRect{type, "drawWithRect:options:"};
+} // namespace ns_attributed_string
+
+namespace ns_mutable_attributed_string {
+inline const ClassReference type{"NSMutableAttributedString"};
+inline const Message<void(id)> appendAttributedString{type, "appendAttributedString:"};
+} // namespace ns_mutable_attributed_string
 
 // NOLINTEND(readability-identifier-naming)
 

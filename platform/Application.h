@@ -48,6 +48,10 @@ public:
     // while the application is active.
     void setMainMenu(const Menu& menu);
 
+    // activateIgnoringOtherApps:. The application's windows come to the front and one of them receives the
+    // keys, some time later or, when the system refuses, never.
+    void activateIgnoringOtherApps(bool ignoring);
+
     // run. Launches the application and handles its events. It ends with the process on a Mac; another
     // implementation may return, and deliver the events by other means.
     void run();

@@ -3,6 +3,7 @@
 // Source: AppKit, NSMenu.h, NSMenuItem.h, NSEvent.h, NSCell.h.
 #pragma once
 
+#include "base/OptionSet.h"
 #include "platform/Object.h"
 
 #include <cstdint>
@@ -28,10 +29,8 @@ enum class EventModifierFlags : std::uintptr_t {
     command = 0x100000,
 };
 
-constexpr EventModifierFlags operator|(EventModifierFlags one, EventModifierFlags other) {
-    return static_cast<EventModifierFlags>(static_cast<std::uintptr_t>(one) |
-                                           static_cast<std::uintptr_t>(other));
-}
+template <>
+inline constexpr bool IsOptionSet<EventModifierFlags> = true;
 
 // What a menu item stands for: an NSString or an NSNumber.
 using RepresentedObject = std::variant<std::string, std::int64_t>;

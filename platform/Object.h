@@ -57,6 +57,8 @@ protected:
     void init();
 
 private:
+    friend class WindowController; // which has a counterpart of another kind
+
     std::unique_ptr<Counterpart> counterpart_;
 };
 

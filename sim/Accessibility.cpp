@@ -3,7 +3,7 @@
 namespace kestrune::sim {
 
 bool Accessibility::readsAsTrusted() const {
-    return permission_ == Permission::granted || permission_ == Permission::rowDeleted;
+    return !isTrustDelayed_ && (permission_ == Permission::granted || permission_ == Permission::rowDeleted);
 }
 
 void Accessibility::listApplication() {
@@ -15,11 +15,33 @@ void Accessibility::listApplication() {
 void Accessibility::askUser() {
     listApplication();
     isDialogShown_ = true;
+    tell(true);
 }
 
 void Accessibility::openSettingsFromDialog() {
     isDialogShown_ = false;
     showPane();
+}
+
+void Accessibility::denyInDialog() {
+    isDialogShown_ = false;
+    tell(isPaneShown_);
+}
+
+void Accessibility::showPane() {
+    isPaneShown_ = true;
+    tell(true);
+}
+
+void Accessibility::closePane() {
+    isPaneShown_ = false;
+    tell(isDialogShown_);
+}
+
+void Accessibility::tell(bool isInFront) const {
+    if (systemInFront_) {
+        systemInFront_(isInFront);
+    }
 }
 
 bool Accessibility::isListed() const {

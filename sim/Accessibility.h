@@ -3,7 +3,9 @@
 // Source: docs/MAC_FACTS.md, "Accessibility trust".
 #pragma once
 
+#include <functional>
 #include <string_view>
+#include <utility>
 
 namespace kestrune::sim {
 
@@ -21,10 +23,16 @@ public:
     static constexpr std::string_view PaneAddress =
         "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
 
-    explicit Accessibility(Permission permission) : permission_(permission) {}
+    // `systemInFront` is called when the system's dialog or its settings have come to the front (true), and
+    // when the user has put them away (false).
+    explicit Accessibility(Permission permission, std::function<void(bool isInFront)> systemInFront = {})
+        : permission_(permission), systemInFront_(std::move(systemInFront)) {}
 
     Permission permission() const { return permission_; }
     void setPermission(Permission permission) { permission_ = permission; }
+
+    // Fault: a grant is in force, but the process does not read as trusted yet.
+    void delayTrust(bool delay) { isTrustDelayed_ = delay; }
 
     // What AXIsProcessTrusted answers.
     bool readsAsTrusted() const;
@@ -41,12 +49,12 @@ public:
     // The system's dialog: one button leads to the pane, the other only closes the dialog.
     bool isDialogShown() const { return isDialogShown_; }
     void openSettingsFromDialog();
-    void denyInDialog() { isDialogShown_ = false; }
+    void denyInDialog();
 
     // System Settings with the pane. The row, while there is one, has a switch, and can be removed.
     bool isPaneShown() const { return isPaneShown_; }
-    void showPane() { isPaneShown_ = true; }
-    void closePane() { isPaneShown_ = false; }
+    void showPane();
+    void closePane();
     bool isListed() const;
     bool isSwitchedOn() const;
 
@@ -58,7 +66,11 @@ public:
     void processEnded();
 
 private:
+    void tell(bool isInFront) const;
+
     Permission permission_;
+    std::function<void(bool isInFront)> systemInFront_;
+    bool isTrustDelayed_ = false;
     bool isDialogShown_ = false;
     bool isPaneShown_ = false;
 };

@@ -54,6 +54,17 @@ void Application::setMainMenu(const Menu& menu) {
     session.application().mainMenu = menu;
 }
 
+// The system takes its time.
+void Application::activateIgnoringOtherApps(bool ignoring) {
+    sim::Session& session = sim::Session::current();
+    session.journal().record("-[NSApplication activateIgnoringOtherApps:] ", ignoring);
+    session.enqueueOnMainQueue([&session] {
+        if (!session.refusesActivation()) {
+            session.windows().setActive(true);
+        }
+    });
+}
+
 // Returns after the launch: whoever drives the session is the loop that delivers the events.
 void Application::run() {
     sim::Session& session = sim::Session::current();

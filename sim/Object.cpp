@@ -1,13 +1,9 @@
 #include "platform/Object.h"
 
-#include "sim/LiveObject.h"
+#include "sim/ObjectCounterpart.h"
 #include "sim/Session.h"
 
 namespace kestrune {
-
-struct Object::Counterpart {
-    sim::LiveObject object{"object", sim::LiveObject::Release::unrecorded};
-};
 
 Object::Object() = default;
 

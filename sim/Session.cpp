@@ -19,11 +19,12 @@ std::uint64_t nextSessionNumber = 1; // NOLINT(cppcoreguidelines-avoid-non-const
 Session::Session(SessionOptions options)
     : number_(nextSessionNumber++),
       journal_(options.recordJournal),
-      accessibility_(options.permission),
+      accessibility_(options.permission, [this](bool isInFront) { systemCameForward(isInFront); }),
       displays_(std::move(options.displays)),
       dock_(displays_, options.dockDwell),
       defaults_(std::move(options.defaults)),
       bundle_(std::move(options.bundle)),
+      measurer_(options.measurer),
       cursorFollowsEvents_(options.cursorFollowsEvents) {
     if (current_ != nullptr) {
         fatal("A simulated session exists already.");
@@ -131,6 +132,7 @@ void Session::endApplication() {
     menus_.close();
     observers_.clear();
     statusItems_.clear();
+    windows_.clear();
     taps_.clear();
     sources_.clear();
     accessibility_.processEnded();
@@ -150,6 +152,15 @@ void Session::openURL(const std::string& text) {
     openedURLs_.push_back(text);
     if (text == Accessibility::PaneAddress) {
         accessibility_.showPane();
+    }
+}
+
+// Whoever puts away what was in front comes back to the application, if it has something to show.
+void Session::systemCameForward(bool isInFront) {
+    if (isInFront) {
+        windows_.setActive(false);
+    } else if (application_.policy == ActivationPolicy::regular && !windows_.shown().empty()) {
+        windows_.setActive(true);
     }
 }
 

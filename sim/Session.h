@@ -8,6 +8,7 @@
 #include "sim/DefaultsDomain.h"
 #include "sim/Displays.h"
 #include "sim/Dock.h"
+#include "sim/FixedAdvanceMeasurer.h"
 #include "sim/Journal.h"
 #include "sim/MenuTracking.h"
 #include "sim/Observers.h"
@@ -16,6 +17,7 @@
 #include "sim/TapChain.h"
 #include "sim/Timers.h"
 #include "sim/VirtualClock.h"
+#include "sim/Windows.h"
 
 #include <cstdint>
 #include <functional>
@@ -36,6 +38,9 @@ struct SessionOptions {
     bool cursorFollowsEvents = true;
 
     Duration dockDwell = Dock::DefaultDwell;
+
+    // How large texts and controls are; must outlive the session. Null: every character is equally wide.
+    const ui::Measurer* measurer = nullptr;
 };
 
 enum class LogLevel { debug, error };
@@ -96,6 +101,8 @@ public:
     Observers& observers() { return observers_; }
     StatusItems& statusItems() { return statusItems_; }
     MenuTracking& menus() { return menus_; }
+    Windows& windows() { return windows_; }
+    const ui::Measurer& measurer() const { return measurer_ != nullptr ? *measurer_ : fixedAdvance_; }
 
     // In global display coordinates, like every location below.
     Point pointer() const { return pointer_; }
@@ -122,6 +129,10 @@ public:
     // The process ends, by itself or by force: its taps, timers, observers, status items and tasks go, and
     // what is left of its objects has no effect any more. Another process may start.
     void endApplication();
+
+    // Fault: the system does not let the application activate itself.
+    void refuseActivation(bool refuse) { refusesActivation_ = refuse; }
+    bool refusesActivation() const { return refusesActivation_; }
 
     // Runs on the main thread when time passes next, if the process is still the same then.
     void enqueueOnMainQueue(std::function<void()> task);
@@ -166,6 +177,7 @@ private:
     Delivery deliver(EventType type, Point location, double deltaY);
     void waitForTaps(EventType type);
     void hold(Duration duration);
+    void systemCameForward(bool isInFront);
     void announceScreenParameters();
     void runPendingNotices();
     [[noreturn]] static void stopWithoutSession();
@@ -189,12 +201,16 @@ private:
     Observers observers_;
     StatusItems statusItems_;
     MenuTracking menus_{*this};
+    Windows windows_{*this};
+    const ui::Measurer* measurer_;
+    FixedAdvanceMeasurer fixedAdvance_;
     std::uint64_t processNumber_ = 0;
     std::vector<std::string> openedURLs_;
     bool refusesURLs_ = false;
     bool isOnMainThread_ = true;
     bool cursorFollowsEvents_;
     bool refusesTapCreation_ = false;
+    bool refusesActivation_ = false;
     Point pointer_;
     Duration mainThreadFreeAt_{0};
     Duration longestHold_{0};

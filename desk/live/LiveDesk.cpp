@@ -2,6 +2,7 @@
 
 #include "desk/live/PinnedDisplay.h"
 #include "sim/DefaultsFile.h"
+#include "sim/WindowState.h"
 
 #include <algorithm>
 #include <cmath>
@@ -59,6 +60,7 @@ void LiveDesk::movePointerTowards(Point target, EventType type) {
     judged.guardOn = judged.guardOn && answered;
     report_.add(judged, delivery);
     noteDelivery(delivery, answered);
+    parts_.followPointer();
     if (dockBefore && session_.dock().display() != dockBefore) {
         noteDockMove(*dockBefore);
     }
@@ -163,7 +165,9 @@ void LiveDesk::tell(const std::function<PartsOutcome()>& action) {
     } else if (outcome.wasMarked && after.pinned) {
         news_ = newsOfPin(*after.pinned, after.pinnedHasDock);
     } else if (outcome.chosenRow) {
-        news_ = newsOfChoiceWithoutEffect(*outcome.chosenRow);
+        news_ = newsOfChoiceWithoutEffect(*outcome.chosenRow, after);
+    } else if (outcome.pressedControl) {
+        news_ = newsOfControl(*outcome.pressedControl);
     }
 }
 
@@ -181,6 +185,9 @@ Standing LiveDesk::standing() {
     }
     const sim::PropertyList* choice = session_.defaults().find("pinnedScreenUUID");
     result.choice = choice != nullptr ? choice->asString() : std::nullopt;
+    for (const auto& window : session_.windows().shown()) {
+        result.windows.push_back(window->title);
+    }
     return result;
 }
 

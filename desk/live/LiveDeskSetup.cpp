@@ -1,5 +1,6 @@
 #include "desk/live/LiveDeskSetup.h"
 
+#include "desk/paint/PangoMeasurer.h"
 #include "desk/replay/SimulatedDesk.h"
 #include "sim/DefaultsFile.h"
 #include "sim/ResourceFolder.h"
@@ -7,6 +8,15 @@
 #include <utility>
 
 namespace kestrune::desk {
+
+namespace {
+
+const ui::Measurer& measurer() {
+    static const PangoMeasurer shared;
+    return shared;
+}
+
+} // namespace
 
 std::variant<LiveDeskSetup, InputError> setupOf(const Options& options) {
     LiveDeskSetup setup;
@@ -37,6 +47,7 @@ sim::SessionOptions sessionOptionsOf(const LiveDeskSetup& setup) {
     options.recordJournal = false;
     options.permission = setup.permission;
     options.bundle = setup.bundle;
+    options.measurer = &measurer();
     options.defaults = setup.defaults;
     if (setup.guardOn) {
         options.defaults.insert_or_assign("isEnabled", sim::PropertyList{*setup.guardOn});

@@ -2,6 +2,7 @@
 
 #include "sim/PropertyList.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -100,6 +101,29 @@ News newsOfPermission(const Standing& standing) {
 
 } // namespace
 
+namespace {
+
+// A title of the first that the second does not have.
+std::optional<std::string> missingIn(const std::vector<std::string>& second,
+                                     const std::vector<std::string>& first) {
+    const auto missing = std::find_if(first.begin(), first.end(), [&second](const std::string& title) {
+        return std::find(second.begin(), second.end(), title) == second.end();
+    });
+    return missing != first.end() ? std::optional(*missing) : std::nullopt;
+}
+
+std::optional<News> newsOfWindows(const Standing& before, const Standing& after) {
+    if (const auto opened = missingIn(before.windows, after.windows)) {
+        return News{"Kestrune opened its window “" + *opened + "”", Occurrence::neutral};
+    }
+    if (const auto closed = missingIn(after.windows, before.windows)) {
+        return News{"Kestrune's window “" + *closed + "” is closed", Occurrence::neutral};
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
 std::optional<News> newsOfChange(const Standing& before, const Standing& after) {
     if (before.applicationRuns && !after.applicationRuns) {
         return newsOfQuit();
@@ -113,10 +137,17 @@ std::optional<News> newsOfChange(const Standing& before, const Standing& after) 
     if (before.isEnabled != after.isEnabled || before.guardRuns != after.guardRuns) {
         return newsOfGuard(after);
     }
-    return std::nullopt;
+    return newsOfWindows(before, after);
 }
 
-News newsOfChoiceWithoutEffect(const std::string& row) {
+News newsOfControl(const std::string& title) {
+    return {"“" + title + "” was pressed in Kestrune's window", Occurrence::neutral};
+}
+
+News newsOfChoiceWithoutEffect(const std::string& row, const Standing& standing) {
+    if (!standing.windows.empty()) {
+        return {"“" + row + "” brings “" + standing.windows.front() + "” to the front", Occurrence::neutral};
+    }
     return {"“" + row + "” leads to a window that Kestrune does not have yet", Occurrence::neutral};
 }
 

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kestrune::desk {
 
@@ -32,6 +33,7 @@ struct Standing {
     std::optional<std::string> pinned; // the display that keeps the Dock
     bool pinnedHasDock = false;
     std::optional<std::string> choice; // the stored identifier
+    std::vector<std::string> windows;  // by their titles, the frontmost first
 };
 
 News newsOfHeldPointer(const sim::Delivery& delivery, const std::string& display);
@@ -51,8 +53,11 @@ News newsOfGuard(const Standing& standing);
 // What a press of a button or a key has changed; absent when that is nothing.
 std::optional<News> newsOfChange(const Standing& before, const Standing& after);
 
-// A row of a menu was chosen, and nothing has changed.
-News newsOfChoiceWithoutEffect(const std::string& row);
+// A row of a menu was chosen, and nothing has changed but perhaps the order of the windows.
+News newsOfChoiceWithoutEffect(const std::string& row, const Standing& standing);
+
+// A button or switch of a window was pressed, and nothing else is worth telling.
+News newsOfControl(const std::string& title);
 
 // The menu could not be used for what was asked.
 News newsOfClosedMenu(const Standing& standing);

@@ -72,6 +72,8 @@ PartsOutcome ScreenParts::press(const std::optional<DeskTarget>& target) {
     if (menu) {
         openMenu(menu->first, menu->second);
         isOpenedByThisPress_ = true;
+    } else if (!isPartOfMenu(target)) {
+        windows_.press(target);
     }
     return {};
 }
@@ -89,10 +91,12 @@ PartsOutcome ScreenParts::release(const std::optional<DeskTarget>& target) {
         }
         return {};
     }
+    PartsOutcome outcome;
+    outcome.pressedControl = windows_.release(target);
     if (pressed && pressed == target) {
         act(*target);
     }
-    return {};
+    return outcome;
 }
 
 void ScreenParts::act(const DeskTarget& target) {
@@ -123,6 +127,7 @@ void ScreenParts::hover(const std::optional<DeskTarget>& target) {
         hovered_ = target;
         hoveredSince_ = session_.clock().now();
     }
+    windows_.hover(target);
     if (!isMenuOpen()) {
         return;
     }
@@ -162,6 +167,7 @@ void ScreenParts::noteClosedMenu() {
 
 void ScreenParts::displaysChanged() {
     closeMenu();
+    windows_.letGo();
     pressed_.reset();
     hovered_.reset();
 }
@@ -179,16 +185,27 @@ PartsOutcome ScreenParts::choose(std::size_t row) {
     return outcome;
 }
 
-bool ScreenParts::takesKeys() const { return isMenuOpen() || session_.accessibility().isDialogShown(); }
+bool ScreenParts::takesKeys() const {
+    return isMenuOpen() || windows_.takesKeys() || session_.accessibility().isDialogShown();
+}
 
 PartsOutcome ScreenParts::press(NavigationKey key) {
-    if (!isMenuOpen()) {
-        // The dialog's default button is the one that denies.
-        if (key == NavigationKey::enter || key == NavigationKey::escape) {
-            session_.accessibility().denyInDialog();
-        }
-        return {};
+    if (isMenuOpen()) {
+        return pressInMenu(key);
     }
+    PartsOutcome outcome;
+    if (windows_.takesKeys()) {
+        outcome.pressedControl = windows_.press(key);
+        return outcome;
+    }
+    // The dialog's default button is the one that denies.
+    if (key == NavigationKey::enter || key == NavigationKey::space || key == NavigationKey::escape) {
+        session_.accessibility().denyInDialog();
+    }
+    return outcome;
+}
+
+PartsOutcome ScreenParts::pressInMenu(NavigationKey key) {
     switch (key) {
     case NavigationKey::up:
         moveHighlight(-1);
@@ -203,6 +220,7 @@ PartsOutcome ScreenParts::press(NavigationKey key) {
         moveToMenuBeside(+1);
         break;
     case NavigationKey::enter:
+    case NavigationKey::space:
         if (highlightedRow_) {
             return choose(*highlightedRow_);
         }
@@ -210,6 +228,9 @@ PartsOutcome ScreenParts::press(NavigationKey key) {
         break;
     case NavigationKey::escape:
         closeMenu();
+        break;
+    case NavigationKey::tab:
+    case NavigationKey::backTab:
         break;
     }
     return {};
@@ -276,6 +297,7 @@ void ScreenParts::addTo(DeskPicture& picture, const std::string& iconPath) {
                 {ApplicationName, iconPath, accessibility.isSwitchedOn(), isRowSelected_});
         }
     }
+    windows_.addTo(picture);
     picture.pressed = pressed_;
 }
 

@@ -1,6 +1,9 @@
-// The user's hand at the parts of the Mac's screen: menus, the permission dialog, the Accessibility pane.
+// The user's hand at the parts of the Mac's screen: menus, the permission dialog, the Accessibility pane and
+// the application's windows.
 #pragma once
 
+#include "desk/live/NavigationKey.h"
+#include "desk/live/WindowParts.h"
 #include "desk/paint/DeskPicture.h"
 #include "desk/paint/DeskTarget.h"
 #include "sim/Session.h"
@@ -11,8 +14,6 @@
 
 namespace kestrune::desk {
 
-enum class NavigationKey { up, down, left, right, enter, escape };
-
 // What came of a press, release or key.
 struct PartsOutcome {
     // A row of a menu was chosen, by its title.
@@ -20,6 +21,9 @@ struct PartsOutcome {
 
     // Whether that row had a check mark already.
     bool wasMarked = false;
+
+    // A button or switch of one of the application's windows was pressed, by its title.
+    std::optional<std::string> pressedControl = std::nullopt;
 };
 
 // Works like macOS: a menu opens with the press, a row is chosen by a release over it, after a click as well
@@ -28,7 +32,7 @@ struct PartsOutcome {
 class ScreenParts {
 public:
     // `session` must outlive the parts.
-    explicit ScreenParts(sim::Session& session) : session_(session) {}
+    explicit ScreenParts(sim::Session& session) : session_(session), windows_(session) {}
 
     // With the button that clicks, at what is under the pointer; absent for the bare desk.
     PartsOutcome press(const std::optional<DeskTarget>& target);
@@ -37,7 +41,10 @@ public:
     // The pointer is there now.
     void hover(const std::optional<DeskTarget>& target);
 
-    // Whether a key goes to a menu or the dialog, before anybody else.
+    // The pointer has moved in the session.
+    void followPointer() { windows_.followPointer(); }
+
+    // Whether a key goes to a menu, the dialog or a window, before anybody else.
     bool takesKeys() const;
     PartsOutcome press(NavigationKey key);
 
@@ -57,6 +64,7 @@ public:
     void addTo(DeskPicture& picture, const std::string& iconPath);
 
 private:
+    PartsOutcome pressInMenu(NavigationKey key);
     void openMenu(const sim::MenuPlace& place, std::size_t display);
     void closeMenu();
     void noteClosedMenu();
@@ -68,6 +76,7 @@ private:
     void addToolTip(DeskPicture& picture);
 
     sim::Session& session_;
+    WindowParts windows_;
     std::size_t menuDisplay_ = 0;
     std::optional<std::size_t> highlightedRow_;
     std::optional<DeskTarget> pressed_;

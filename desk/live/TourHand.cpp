@@ -108,4 +108,28 @@ void TourHand::clickRow(std::string_view title) {
     }
 }
 
+std::optional<DeskTarget> TourHand::controlWith(std::string_view title) {
+    const DeskPicture picture = pictureOf(desk_);
+    for (const WindowPicture& window : picture.windows) {
+        for (std::size_t element = 0; element < window.scene.elements.size(); ++element) {
+            if (titleOfControl(window.scene.elements[element]) == title) {
+                return WindowControlTarget{window.number, element};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+void TourHand::pointAtControl(std::string_view title) {
+    if (const auto control = controlWith(title)) {
+        pointAt(*control);
+    }
+}
+
+void TourHand::clickControl(std::string_view title) {
+    if (const auto control = controlWith(title)) {
+        click(*control);
+    }
+}
+
 } // namespace kestrune::desk

@@ -38,8 +38,14 @@ public:
     void pointAtRow(std::string_view title);
     void clickRow(std::string_view title);
 
+    // Moves over the button or switch of one of the application's windows that has that title; the second
+    // also clicks there.
+    void pointAtControl(std::string_view title);
+    void clickControl(std::string_view title);
+
 private:
     std::optional<DeskTarget> rowWith(std::string_view title);
+    std::optional<DeskTarget> controlWith(std::string_view title);
 
     LiveDesk& desk_;
     DeskHitTest hitTest_;

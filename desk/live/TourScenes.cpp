@@ -35,11 +35,12 @@ const std::vector<TourScenes::Scene>& TourScenes::all() {
         {"menu-before-setup", &TourScenes::openMenuBeforeSetup},
         {"permission-asked-for", &TourScenes::askForPermission},
         {"permission-granted", &TourScenes::grantPermission},
+        {"wizard-finished", &TourScenes::finishWizard},
         {"the-dock-comes-home", &TourScenes::bringDockHome},
         {"held", &TourScenes::hold},
         {"held-while-dragging", &TourScenes::holdDrag},
         {"tool-tip", &TourScenes::restToSeeTheToolTip},
-        {"menu-after-setup", &TourScenes::launchAgain},
+        {"menu-after-setup", &TourScenes::openMenuAfterSetup},
         {"choosing-a-display", &TourScenes::chooseOther},
         {"another-choice", &TourScenes::pushWhereChosen},
         {"switched-off", &TourScenes::switchOff},
@@ -59,7 +60,7 @@ const std::vector<TourScenes::Scene>& TourScenes::all() {
 
 std::string TourScenes::firstLaunch() {
     hand_.glideTo(hand_.onDisplay(first_, 0.62, 0.55));
-    return "Kestrune runs for the first time. Its icon is in every menu bar; nothing keeps the Dock yet.";
+    return "Kestrune runs for the first time. Its wizard is open; nothing keeps the Dock yet.";
 }
 
 std::string TourScenes::letDockLeave() {
@@ -75,10 +76,10 @@ std::string TourScenes::openMenuBeforeSetup() {
 
 std::string TourScenes::askForPermission() {
     hand_.clickRow("Complete setup");
-    desk_.askForPermission();
+    hand_.clickControl("Request permission");
     hand_.pointAt(DialogButtonTarget{DialogButton::openSystemSettings});
     desk_.pressButton(DialogButtonTarget{DialogButton::openSystemSettings});
-    return "Moving events needs the Accessibility permission, and the system asks for it.";
+    return "Moving events needs the Accessibility permission. The wizard lets the system ask for it.";
 }
 
 std::string TourScenes::grantPermission() {
@@ -88,8 +89,14 @@ std::string TourScenes::grantPermission() {
     return "Switched on in System Settings, and within a second the guard runs by itself.";
 }
 
-std::string TourScenes::bringDockHome() {
+std::string TourScenes::finishWizard() {
     hand_.click(PaneCloseTarget{});
+    hand_.pointAtControl("Finish");
+    return "The wizard has noticed, too: one more click, and the first run is done.";
+}
+
+std::string TourScenes::bringDockHome() {
+    hand_.clickControl("Finish");
     hand_.push(first_);
     return "The guard is on. One push brings the Dock home to " + nameOf(first_) + ".";
 }
@@ -112,15 +119,10 @@ std::string TourScenes::restToSeeTheToolTip() {
     return "The pointer rests on the icon.";
 }
 
-std::string TourScenes::launchAgain() {
-    desk_.quitOrLaunch();
-    desk_.quitOrLaunch();
-    // The menu that opens first is the one that was built at launch.
-    hand_.openMenu(first_);
-    hand_.openMenu(first_);
+std::string TourScenes::openMenuAfterSetup() {
     hand_.openMenu(first_);
     hand_.pointAtRow(nameOf(first_));
-    return "Launched again with the permission, the setup is complete and the menu is all there.";
+    return "The setup is complete, and the menu is all there.";
 }
 
 std::string TourScenes::chooseOther() {

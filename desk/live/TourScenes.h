@@ -32,11 +32,12 @@ private:
     std::string openMenuBeforeSetup();
     std::string askForPermission();
     std::string grantPermission();
+    std::string finishWizard();
     std::string bringDockHome();
     std::string hold();
     std::string holdDrag();
     std::string restToSeeTheToolTip();
-    std::string launchAgain();
+    std::string openMenuAfterSetup();
     std::string chooseOther();
     std::string pushWhereChosen();
     std::string switchOff();

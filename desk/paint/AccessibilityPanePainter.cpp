@@ -18,7 +18,7 @@ void paintHairline(const Canvas& canvas, double left, double right, double y) {
 
 void paintTitleBar(const Canvas& canvas, const AccessibilityPaneLayout& layout, bool isClosePressed) {
     constexpr double TitleGap = 18; // after the buttons
-    paintWindowButtons(canvas, layout.closeButton, isClosePressed);
+    paintWindowButtons(canvas, layout.closeButton, {.isClosePressed = isClosePressed});
     canvas.text.paint(
         "Accessibility",
         {layout.closeButton.minX() + 40 + WindowButtonSide + TitleGap, middleOf(layout.titleBar)},
@@ -43,7 +43,7 @@ void paintRow(const Canvas& canvas, ImageStore& images, const PaneRowPlace& plac
                       {.size = 13,
                        .color = colors.text,
                        .maximumWidth = std::max(0.0, place.toggle.minX() - NameGap - nameLeft)});
-    paintSwitch(canvas, place.toggle, row.isOn, isSwitchPressed);
+    paintSwitch(canvas, place.toggle, {.isOn = row.isOn, .isPressed = isSwitchPressed});
 }
 
 void paintList(const Canvas& canvas, ImageStore& images, const AccessibilityPaneLayout& layout,

@@ -24,52 +24,102 @@ TextStyle pushButtonStyle() {
     return {.size = 13, .weight = FontWeight::medium, .alignment = TextAlignment::center};
 }
 
-void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state) {
-    constexpr double Radius = 6;
+PushButtonLook pushButtonLook(ui::ControlSize size) {
+    PushButtonLook look;
+    const auto set = [&look](double height, double padding, double cornerRadius, double textSize) {
+        look.height = height;
+        look.padding = padding;
+        look.cornerRadius = cornerRadius;
+        look.label.size = textSize;
+    };
+    switch (size) {
+    case ui::ControlSize::mini:
+        set(16, 7, 4, 9);
+        break;
+    case ui::ControlSize::small:
+        set(19, 9, 4.5, 11);
+        break;
+    case ui::ControlSize::regular:
+        set(22, 12, 5.5, 13);
+        break;
+    case ui::ControlSize::large:
+        set(28, 14, 6.5, 13);
+        break;
+    }
+    return look;
+}
+
+void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state,
+                     const PushButtonLook& look) {
+    const double radius = look.cornerRadius;
     const SystemColors& colors = canvas.palette.system;
     const Rect shadow{area.minX(), area.minY() + 0.75, area.width(), area.height()};
     paintSoftShadow(canvas.context, shadow, 2, rgb(0x000000, 0.16),
-                    [&](cairo_t* mask) { addRoundedRectangle(mask, shadow, Radius); });
-    const Color face = state.isDefault ? canvas.palette.accent : colors.buttonFace;
-    addRoundedRectangle(canvas.context, area, Radius);
+                    [&](cairo_t* mask) { addRoundedRectangle(mask, shadow, radius); });
+    const Color face = state.isDefault ? colors.accent : colors.buttonFace;
+    addRoundedRectangle(canvas.context, area, radius);
     fillWithVerticalGradient(canvas.context, area.minY(), area.maxY(),
                              {mix(face, rgb(0xFFFFFF), 0.08), face});
-    strokeRoundedRectangle(canvas.context, area, Radius, 0.5, colors.buttonEdge);
+    strokeRoundedRectangle(canvas.context, area, radius, 0.5, colors.buttonEdge);
     if (state.isPressed) {
         const Color shade = state.isDefault ? rgb(0x000000, 0.18) : colors.pressedShade;
-        fillRoundedRectangle(canvas.context, area, Radius, shade);
+        fillRoundedRectangle(canvas.context, area, radius, shade);
     }
-    TextStyle style = pushButtonStyle();
+    TextStyle style = look.label;
     style.color = state.isDefault ? rgb(0xFFFFFF) : colors.text;
     canvas.text.paint(label, centerOf(area), style);
 }
 
-void paintSwitch(const Canvas& canvas, const Rect& area, bool isOn, bool isPressed) {
+Size switchSize(ui::ControlSize size) {
+    switch (size) {
+    case ui::ControlSize::mini:
+        return {26, 15};
+    case ui::ControlSize::small:
+        return {32, 18};
+    case ui::ControlSize::regular:
+    case ui::ControlSize::large:
+        break;
+    }
+    return {38, 22};
+}
+
+void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state) {
     const SystemColors& colors = canvas.palette.system;
     const double radius = area.height() / 2;
-    fillRoundedRectangle(canvas.context, area, radius, isOn ? canvas.palette.accent : colors.switchTrack);
+    const Color onTrack = state.isInKeyWindow ? colors.accent : colors.inactiveTrack;
+    fillRoundedRectangle(canvas.context, area, radius, state.isOn ? onTrack : colors.switchTrack);
     strokeRoundedRectangle(canvas.context, area, radius, 0.5, colors.buttonEdge);
-    if (isPressed) {
+    if (state.isPressed) {
         fillRoundedRectangle(canvas.context, area, radius, colors.pressedShade);
     }
-    constexpr double Gap = 1.25;
-    const double knobRadius = radius - Gap;
-    const Point knob{isOn ? area.maxX() - radius : area.minX() + radius, area.minY() + radius};
+    const double gap = area.height() * 0.078;
+    const double knobRadius = radius - gap;
+    const Point knob{state.isOn ? area.maxX() - radius : area.minX() + radius, area.minY() + radius};
     const Rect shadow{knob.x - knobRadius, knob.y - knobRadius + 0.75, 2 * knobRadius, 2 * knobRadius};
     paintSoftShadow(canvas.context, shadow, 2, rgb(0x000000, 0.30),
                     [&](cairo_t* mask) { addRoundedRectangle(mask, shadow, knobRadius); });
     fillCircle(canvas.context, knob, knobRadius, rgb(0xFFFFFF));
 }
 
-void paintWindowButtons(const Canvas& canvas, const Rect& close, bool isPressed) {
+void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowButtons& buttons) {
     constexpr double Distance = 20; // from centre to centre
-    const SystemColors& colors = canvas.palette.system;
     const double radius = WindowButtonSide / 2;
     const Point center = centerOf(close);
-    const Color red = rgb(0xFF5F57);
-    fillCircle(canvas.context, center, radius, isPressed ? mix(red, rgb(0x000000), 0.25) : red);
-    strokeRoundedRectangle(canvas.context, close, radius, 0.5, rgb(0x000000, 0.16));
-    if (isPressed) {
+    const auto paintButton = [&](double steps, bool isEnabled, bool isPressed, const Color& color) {
+        const Point middle{center.x + steps * Distance, center.y};
+        if (!isEnabled || !buttons.isActive) {
+            fillCircle(canvas.context, middle, radius, canvas.palette.system.windowButton);
+            return;
+        }
+        fillCircle(canvas.context, middle, radius, isPressed ? mix(color, rgb(0x000000), 0.25) : color);
+        strokeRoundedRectangle(canvas.context,
+                               {middle.x - radius, middle.y - radius, WindowButtonSide, WindowButtonSide},
+                               radius, 0.5, rgb(0x000000, 0.16));
+    };
+    paintButton(0, buttons.isClosable, buttons.isClosePressed, rgb(0xFF5F57));
+    paintButton(1, buttons.isMiniaturizable, false, rgb(0xFEBC2E));
+    paintButton(2, buttons.isZoomable, false, rgb(0x28C840));
+    if (buttons.isClosable && buttons.isClosePressed) {
         constexpr double Arm = 2.4;
         const Color cross = rgb(0x000000, 0.6);
         strokeLine(canvas.context, {center.x - Arm, center.y - Arm}, {center.x + Arm, center.y + Arm}, 1.2,
@@ -77,9 +127,14 @@ void paintWindowButtons(const Canvas& canvas, const Rect& close, bool isPressed)
         strokeLine(canvas.context, {center.x - Arm, center.y + Arm}, {center.x + Arm, center.y - Arm}, 1.2,
                    cross);
     }
-    for (const double steps : {1.0, 2.0}) {
-        fillCircle(canvas.context, {center.x + steps * Distance, center.y}, radius, colors.windowButton);
-    }
+}
+
+void paintFocusRing(const Canvas& canvas, const Rect& control, double cornerRadius) {
+    constexpr double Width = 3.5;
+    const Rect outside{control.minX() - Width, control.minY() - Width, control.width() + 2 * Width,
+                       control.height() + 2 * Width};
+    strokeRoundedRectangle(canvas.context, outside, cornerRadius + Width, Width,
+                           canvas.palette.system.focusRing);
 }
 
 void paintListButton(const Canvas& canvas, const Rect& area, ListButton button, bool isEnabled,

@@ -3,6 +3,7 @@
 
 #include "base/Geometry.h"
 #include "desk/paint/Canvas.h"
+#include "ui/Style.h"
 
 #include <string_view>
 
@@ -14,20 +15,48 @@ inline constexpr double ButtonPadding = 15; // on either side of the label
 // The label's; the colour is left to the painter.
 TextStyle pushButtonStyle();
 
+// Of the push buttons in applications' windows.
+struct PushButtonLook {
+    double height = PushButtonHeight;
+    double padding = ButtonPadding;
+    double cornerRadius = 6;
+    TextStyle label = pushButtonStyle();
+};
+PushButtonLook pushButtonLook(ui::ControlSize size);
+
 struct PushButtonState {
     bool isDefault = false;
     bool isPressed = false;
 };
-void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state);
+void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state,
+                     const PushButtonLook& look = {});
 
+// In the system's own windows, and in those of applications.
 inline constexpr Size SwitchSize{28, 16};
+Size switchSize(ui::ControlSize size);
 
-void paintSwitch(const Canvas& canvas, const Rect& area, bool isOn, bool isPressed);
+struct SwitchState {
+    bool isOn = false;
+    bool isPressed = false;
+    bool isInKeyWindow = true; // only there the accent colour shows
+};
+void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state);
 
-// Close, minimise and zoom at the leading end of a title bar; only closing is enabled. `close` is the area of
-// the first.
+// Close, minimise and zoom at the leading end of a title bar.
+struct WindowButtons {
+    bool isClosable = true;
+    bool isMiniaturizable = false;
+    bool isZoomable = false;
+    bool isActive = true; // without it the buttons are grey
+    bool isClosePressed = false;
+};
 inline constexpr double WindowButtonSide = 12;
-void paintWindowButtons(const Canvas& canvas, const Rect& close, bool isPressed);
+
+// `close` is the area of the first.
+void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowButtons& buttons);
+
+// Around a control that the keyboard works on.
+void paintFocusRing(const Canvas& canvas, const Rect& control, double cornerRadius);
 
 // The signs of buttons that add to a list and remove from it.
 enum class ListButton { add, remove };

@@ -5,6 +5,9 @@
 #include "desk/paint/DeskLayout.h"
 #include "desk/paint/MenuBarLayout.h"
 #include "desk/paint/MenuLayout.h"
+#include "desk/paint/WindowLayout.h"
+
+#include <algorithm>
 
 namespace kestrune::desk {
 namespace {
@@ -62,6 +65,38 @@ std::optional<DeskTarget> targetInPane(const AccessibilityPaneLayout& layout,
         }
     }
     return PaneTarget{};
+}
+
+std::optional<DeskTarget> targetInWindow(const WindowLayout& layout, const WindowPicture& shown,
+                                         Point place) {
+    if (!layout.frame.contains(place)) {
+        return std::nullopt;
+    }
+    if (shown.isTitled && shown.isClosable && isCloseTo(layout.closeButton, place)) {
+        return WindowCloseTarget{shown.number};
+    }
+    if (layout.titleBar.contains(place)) {
+        return WindowTitleTarget{shown.number};
+    }
+    for (std::size_t element = shown.scene.elements.size(); element-- > 0;) {
+        if (controlArea(layout, shown, element).contains(place)) {
+            return WindowControlTarget{shown.number, element};
+        }
+    }
+    return WindowTarget{shown.number};
+}
+
+// In the frontmost of the windows of one depth that is at the place.
+std::optional<DeskTarget> targetInWindows(const DeskLayout& layout, const DeskPicture& picture, Size window,
+                                          WindowDepth depth, Point place) {
+    for (const WindowPicture& shown : picture.windows) {
+        if (shown.depth == depth) {
+            if (auto target = targetInWindow(windowLayout(layout, shown, window), shown, place)) {
+                return target;
+            }
+        }
+    }
+    return std::nullopt;
 }
 
 std::optional<DeskTarget> targetInMenuBar(const MenuBarLayout& bar, std::size_t display, Point place) {
@@ -139,10 +174,38 @@ struct AreaOfTarget {
                                                              : std::nullopt;
     }
 
+    std::optional<Rect> operator()(const WindowCloseTarget& target) const {
+        const WindowPicture* const shown = windowWith(target.window);
+        return shown != nullptr && shown->isTitled && shown->isClosable
+                   ? std::optional(windowLayout(layout, *shown, window).closeButton)
+                   : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const WindowControlTarget& target) const {
+        const WindowPicture* const shown = windowWith(target.window);
+        return shown != nullptr
+                   ? std::optional(controlArea(windowLayout(layout, *shown, window), *shown, target.element))
+                   : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const WindowTitleTarget& target) const {
+        const WindowPicture* const shown = windowWith(target.window);
+        return shown != nullptr && shown->isTitled
+                   ? std::optional(windowLayout(layout, *shown, window).titleBar)
+                   : std::nullopt;
+    }
+
     // Everything that lies around other parts.
     template <typename Surrounding>
     std::optional<Rect> operator()(const Surrounding&) const {
         return std::nullopt;
+    }
+
+    const WindowPicture* windowWith(std::size_t number) const {
+        const auto found =
+            std::find_if(picture.windows.begin(), picture.windows.end(),
+                         [number](const WindowPicture& shown) { return shown.number == number; });
+        return found != picture.windows.end() ? &*found : nullptr;
     }
 
     std::optional<MenuBarLayout> menuBar(std::size_t display) const {
@@ -157,15 +220,21 @@ struct AreaOfTarget {
 std::optional<DeskTarget> DeskHitTest::targetAt(const DeskPicture& picture, Size window, Point place) {
     const DeskLayout layout = DeskLayout::of(picture, window);
     std::optional<DeskTarget> target;
+    const auto lookInWindows = [&](WindowDepth depth) {
+        target = target ? target : targetInWindows(layout, picture, window, depth, place);
+    };
     if (const auto menu = menuLayout(measure_, layout, picture, window)) {
         target = targetInMenu(*menu, place);
     }
+    lookInWindows(WindowDepth::beforeDialog);
     if (const auto alert = target ? std::nullopt : alertLayout(measure_, layout, picture, window)) {
         target = targetInAlert(*alert, place);
     }
+    lookInWindows(WindowDepth::beforePane);
     if (const auto pane = target ? std::nullopt : accessibilityPaneLayout(layout, picture, window)) {
         target = targetInPane(*pane, *picture.accessibilityPane, place);
     }
+    lookInWindows(WindowDepth::behindSystemWindows);
     for (std::size_t display = 0; !target && display < picture.displays.size(); ++display) {
         const DisplayPlace* const displayPlace = layout.place(display);
         // Only a bar under the place is worth measuring its texts.

@@ -119,13 +119,17 @@ bool DeskLayout::isEmpty() const {
     return std::none_of(places_.begin(), places_.end(), [](const auto& place) { return place.has_value(); });
 }
 
+const DisplayPlace* DeskLayout::placeContaining(Point global) const {
+    const auto found = std::find_if(places_.begin(), places_.end(), [global](const auto& place) {
+        return place && place->bounds.contains(global);
+    });
+    return found != places_.end() ? &**found : nullptr;
+}
+
 Point DeskLayout::toWindow(Point global) const {
-    for (const auto& place : places_) {
-        if (place && place->bounds.contains(global)) {
-            return mapBetween(place->bounds, place->screen, global);
-        }
-    }
-    return {global.x * scale_ + offset_.x, global.y * scale_ + offset_.y};
+    const DisplayPlace* const place = placeContaining(global);
+    return place ? mapBetween(place->bounds, place->screen, global)
+                 : Point{global.x * scale_ + offset_.x, global.y * scale_ + offset_.y};
 }
 
 Point DeskLayout::toGlobal(Point window) const {

@@ -50,6 +50,9 @@ public:
     const DisplayPlace* place(std::size_t display) const;
     bool isEmpty() const;
 
+    // The first display that contains a point in global display coordinates; null where there is none.
+    const DisplayPlace* placeContaining(Point global) const;
+
     // A point on a display is mapped into that display's screen, any other to scale. Where displays overlap,
     // the first that contains the point decides.
     Point toWindow(Point global) const;

@@ -100,6 +100,7 @@ DeskPicture withoutWhatMoves(DeskPicture picture) {
     picture.toolTip = nothing.toolTip;
     picture.permissionDialog = nothing.permissionDialog;
     picture.accessibilityPane = nothing.accessibilityPane;
+    picture.windows.clear();
     picture.pressed = nothing.pressed;
     return picture;
 }

@@ -88,7 +88,9 @@ struct DeskPicture {
     std::optional<ToolTipPicture> toolTip;
     std::optional<PermissionDialogPicture> permissionDialog;
     std::optional<AccessibilityPanePicture> accessibilityPane;
-    // The button, switch or close button that is held down.
+    // The application's own, from front to back, deeper ones after less deep ones.
+    std::vector<WindowPicture> windows;
+    // The button, switch or close button of the system's windows that is held down.
     std::optional<DeskTarget> pressed;
 
     // A sentence above the displays that tells what the picture is about; may be empty.

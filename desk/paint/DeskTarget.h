@@ -6,7 +6,8 @@
 
 namespace kestrune::desk {
 
-// Displays, items, titles and rows are indices into the picture that was asked about.
+// Displays, items, titles and rows are indices into the picture that was asked about; an application's window
+// has a number.
 
 struct StatusItemTarget {
     std::size_t display = 0;
@@ -74,8 +75,37 @@ struct PaneTarget {
     friend bool operator==(const PaneTarget&, const PaneTarget&) = default;
 };
 
-using DeskTarget = std::variant<StatusItemTarget, MainMenuTitleTarget, MenuRowTarget, MenuPanelTarget,
-                                DialogButtonTarget, DialogTarget, PaneSwitchTarget, PaneRowTarget,
-                                PaneCloseTarget, PaneRemoveTarget, PaneTarget>;
+struct WindowCloseTarget {
+    std::size_t window = 0;
+
+    friend bool operator==(const WindowCloseTarget&, const WindowCloseTarget&) = default;
+};
+
+// A button or switch of the scene that an application shows in its window.
+struct WindowControlTarget {
+    std::size_t window = 0;
+    std::size_t element = 0; // of the scene
+
+    friend bool operator==(const WindowControlTarget&, const WindowControlTarget&) = default;
+};
+
+// The title bar beside its buttons, by which a window is dragged.
+struct WindowTitleTarget {
+    std::size_t window = 0;
+
+    friend bool operator==(const WindowTitleTarget&, const WindowTitleTarget&) = default;
+};
+
+// An application's window where nothing can be pressed.
+struct WindowTarget {
+    std::size_t window = 0;
+
+    friend bool operator==(const WindowTarget&, const WindowTarget&) = default;
+};
+
+using DeskTarget =
+    std::variant<StatusItemTarget, MainMenuTitleTarget, MenuRowTarget, MenuPanelTarget, DialogButtonTarget,
+                 DialogTarget, PaneSwitchTarget, PaneRowTarget, PaneCloseTarget, PaneRemoveTarget, PaneTarget,
+                 WindowCloseTarget, WindowControlTarget, WindowTitleTarget, WindowTarget>;
 
 } // namespace kestrune::desk

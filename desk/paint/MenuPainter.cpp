@@ -47,7 +47,7 @@ void paintItem(const Canvas& canvas, const MenuLayout& layout, const Rect& area,
         fillRoundedRectangle(canvas.context,
                              {area.minX() + MenuSelectionInset, area.minY(),
                               area.width() - 2 * MenuSelectionInset, area.height()},
-                             4.5, canvas.palette.accent);
+                             4.5, canvas.palette.system.accent);
     }
     const auto colored = [&](const Color& usual) {
         return isSelected ? rgb(0xFFFFFF) : row.enabled ? usual : colors.disabledText;

@@ -30,6 +30,7 @@ Color mix(const Color& first, const Color& second, double fraction);
 
 // Of menus, tool tips, windows and their controls.
 struct SystemColors {
+    Color accent;           // the user's choice
     Color menuBarHighlight; // behind the title or status item of an open menu
 
     Color menuPanel;
@@ -50,9 +51,29 @@ struct SystemColors {
 
     Color buttonFace;
     Color buttonEdge;
-    Color pressedShade; // laid over a control that is held down
-    Color switchTrack;  // while it is off
+    Color pressedShade;  // laid over a control that is held down
+    Color switchTrack;   // while it is off
+    Color inactiveTrack; // while it is on, in a window that is not the key window
+    Color focusRing;
     Color windowButton; // one that is disabled
+};
+
+// Of what an application shows in a window of its own.
+struct SceneColors {
+    Color primary;
+    Color secondary;
+    Color tertiary;
+    Color green;
+    Color white;
+    Color link;
+    Color sectionFill;
+    Color sectionBorder;
+    Color separator;
+
+    Color window;
+    Color titleBar; // laid over the window
+    Color title;
+    Color inactiveTitle;
 };
 
 struct Palette {
@@ -81,13 +102,14 @@ struct Palette {
     Color dockBorder;
     Color dockShadow;
 
-    Color accent; // pinned, and a Dock that moved
+    Color accent; // of the desk itself: pinned, and a Dock that moved
     Color band;   // guarded, and a pointer that was held
     Color positive;
     Color caution;
     Color inactive;
 
     SystemColors system;
+    SceneColors scene;
 };
 
 const Palette& paletteFor(bool dark);

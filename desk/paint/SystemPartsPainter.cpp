@@ -4,7 +4,9 @@
 #include "desk/paint/AlertPainter.h"
 #include "desk/paint/MenuPainter.h"
 #include "desk/paint/ToolTipPainter.h"
+#include "desk/paint/WindowPainter.h"
 
+#include <algorithm>
 #include <utility>
 #include <variant>
 
@@ -45,10 +47,35 @@ void SystemPartsPainter::Part<Picture, Layout>::forget() {
 
 void SystemPartsPainter::paint(const Canvas& canvas, TextMeasure& measure, ImageStore& images,
                                const DeskLayout& layout, const DeskPicture& picture, Size window) {
+    forgetClosedWindows(picture);
+    paintWindows(canvas, layout, picture, window, WindowDepth::behindSystemWindows);
     paintPane(canvas, images, layout, picture, window);
+    paintWindows(canvas, layout, picture, window, WindowDepth::beforePane);
     paintDialog(canvas, measure, images, layout, picture, window);
+    paintWindows(canvas, layout, picture, window, WindowDepth::beforeDialog);
     paintTip(canvas, measure, layout, picture, window);
     paintOpenMenu(canvas, measure, layout, picture, window);
+}
+
+void SystemPartsPainter::forgetClosedWindows(const DeskPicture& picture) {
+    std::erase_if(windows_, [&picture](const auto& painted) {
+        return std::none_of(picture.windows.begin(), picture.windows.end(),
+                            [&painted](const WindowPicture& shown) { return shown.number == painted.first; });
+    });
+}
+
+void SystemPartsPainter::paintWindows(const Canvas& canvas, const DeskLayout& layout,
+                                      const DeskPicture& picture, Size window, WindowDepth depth) {
+    for (auto shown = picture.windows.rbegin(); shown != picture.windows.rend(); ++shown) {
+        if (shown->depth != depth) {
+            continue;
+        }
+        const WindowLayout place = windowLayout(layout, *shown, window);
+        windows_[shown->number].paint(
+            canvas, {place.frame, applicationWindowStyle(canvas.palette, shown->isKey), picture.dark},
+            {*shown, place, std::nullopt, picture.dark},
+            [&](const Canvas& own) { paintWindow(own, place, *shown); });
+    }
 }
 
 void SystemPartsPainter::paintPane(const Canvas& canvas, ImageStore& images, const DeskLayout& layout,

@@ -1,4 +1,5 @@
-// Menu, tool tip, permission dialog and Accessibility pane, in front of the displays.
+// Menu, tool tip, permission dialog, Accessibility pane and the application's windows, in front of the
+// displays.
 #pragma once
 
 #include "base/Geometry.h"
@@ -12,8 +13,11 @@
 #include "desk/paint/MenuLayout.h"
 #include "desk/paint/PanelPainter.h"
 #include "desk/paint/TextMeasure.h"
+#include "desk/paint/WindowLayout.h"
 
+#include <cstddef>
 #include <functional>
+#include <map>
 #include <optional>
 
 namespace kestrune::desk {
@@ -56,6 +60,9 @@ private:
         void forget();
     };
 
+    void paintWindows(const Canvas& canvas, const DeskLayout& layout, const DeskPicture& picture, Size window,
+                      WindowDepth depth);
+    void forgetClosedWindows(const DeskPicture& picture);
     void paintPane(const Canvas& canvas, ImageStore& images, const DeskLayout& layout,
                    const DeskPicture& picture, Size window);
     void paintDialog(const Canvas& canvas, TextMeasure& measure, ImageStore& images, const DeskLayout& layout,
@@ -69,6 +76,7 @@ private:
     Part<PermissionDialogPicture, AlertLayout> dialog_;
     Part<ToolTipPicture, Rect> toolTip_;
     Part<MenuPicture, MenuLayout> menu_;
+    std::map<std::size_t, Part<WindowPicture, WindowLayout>> windows_; // by number
 };
 
 } // namespace kestrune::desk

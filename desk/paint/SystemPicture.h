@@ -1,8 +1,9 @@
 // The parts of a Mac's screen that an application of the menu bar lives in, as plain data: status items,
-// menus, tool tips, the dialog that asks for a permission, and the pane that grants it.
+// menus, tool tips, its windows, the dialog that asks for a permission, and the pane that grants it.
 #pragma once
 
 #include "base/Geometry.h"
+#include "ui/Scene.h"
 
 #include <cstddef>
 #include <optional>
@@ -93,6 +94,29 @@ struct AccessibilityPanePicture {
     std::vector<PaneRowPicture> rows = {};
 
     friend bool operator==(const AccessibilityPanePicture&, const AccessibilityPanePicture&) = default;
+};
+
+// How far in front an application's window lies.
+enum class WindowDepth { behindSystemWindows, beforePane, beforeDialog };
+
+struct WindowPicture {
+    std::size_t number = 0; // stays with the window while others come and go
+    Rect frame = {};        // with the title bar, in global display coordinates
+    std::string title = {};
+    bool isTitled = true;
+    bool isClosable = true;
+    bool isMiniaturizable = false;
+    bool isResizable = false;
+    bool isKey = false;
+    WindowDepth depth = WindowDepth::beforePane;
+    ui::Scene scene = {};
+
+    // Indices into the scene's elements.
+    std::optional<std::size_t> pressedElement = std::nullopt;
+    std::optional<std::size_t> focusedElement = std::nullopt;
+    bool isCloseButtonPressed = false;
+
+    friend bool operator==(const WindowPicture&, const WindowPicture&) = default;
 };
 
 } // namespace kestrune::desk

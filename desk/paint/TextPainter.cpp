@@ -1,9 +1,7 @@
 #include "desk/paint/TextPainter.h"
 
+#include "desk/paint/PangoText.h"
 #include "desk/paint/Shapes.h"
-
-#include <algorithm>
-#include <cmath>
 
 namespace kestrune::desk {
 namespace {
@@ -19,46 +17,23 @@ PangoWeight pangoWeight(FontWeight weight) {
         return PANGO_WEIGHT_MEDIUM;
     case FontWeight::semibold:
         return PANGO_WEIGHT_SEMIBOLD;
+    case FontWeight::bold:
+        return PANGO_WEIGHT_BOLD;
     }
     return PANGO_WEIGHT_NORMAL;
 }
 
 FontDescriptionHandle fontDescription(const TextStyle& style) {
     FontDescriptionHandle font{pango_font_description_new()};
-    pango_font_description_set_family_static(font.get(), "Inter, sans-serif");
+    pango_font_description_set_family_static(font.get(), TextFamily);
     pango_font_description_set_weight(font.get(), pangoWeight(style.weight));
     pango_font_description_set_absolute_size(font.get(), style.size * PANGO_SCALE);
     return font;
 }
 
-// Larger text is set tighter.
-int letterSpacing(double size) {
-    const double tightening = std::clamp((size - 11) * 0.0018, 0.0, 0.02);
-    return -static_cast<int>(std::lround(tightening * size * PANGO_SCALE));
-}
-
-double fromPango(int units) { return static_cast<double>(units) / PANGO_SCALE; }
-
-int toPango(double units) {
-    constexpr double Unlimited = 100000;
-    return std::isfinite(units) && units < Unlimited ? std::max(0, static_cast<int>(units * PANGO_SCALE))
-                                                     : -1;
-}
-
 } // namespace
 
-TextPainter::TextPainter(cairo_t* context) : context_(context), layout_(pango_cairo_create_layout(context)) {
-    // Unhinted outlines at fractional positions keep the spacing that the typeface was drawn with at every
-    // scale.
-    const FontOptionsHandle options{cairo_font_options_create()};
-    cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_NONE);
-    cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_OFF);
-    cairo_font_options_set_antialias(options.get(), CAIRO_ANTIALIAS_GRAY);
-    PangoContext* const pangoContext = pango_layout_get_context(layout_.get());
-    pango_cairo_context_set_font_options(pangoContext, options.get());
-    pango_context_set_round_glyph_positions(pangoContext, FALSE);
-    pango_layout_context_changed(layout_.get());
-}
+TextPainter::TextPainter(cairo_t* context) : context_(context), layout_(makeTextLayout(context)) {}
 
 double TextPainter::width(std::string_view text, const TextStyle& style) {
     prepare(text, style);
@@ -142,11 +117,7 @@ void TextPainter::prepareWrapped(std::string_view text, double width, int maximu
     pango_layout_set_wrap(layout_.get(), PANGO_WRAP_WORD_CHAR);
 }
 
-void TextPainter::fillPrepared() {
-    // Cached glyph images would be placed on whole pixels, which makes small text uneven.
-    pango_cairo_layout_path(context_, layout_.get());
-    cairo_fill(context_);
-}
+void TextPainter::fillPrepared() { fillTextLayout(context_, layout_.get()); }
 
 double TextPainter::preparedWidth() const {
     int width = 0;

@@ -11,7 +11,7 @@
 
 namespace kestrune::desk {
 
-enum class FontWeight { regular, medium, semibold };
+enum class FontWeight { regular, medium, semibold, bold };
 
 enum class TextAlignment { leading, center, trailing };
 

@@ -59,9 +59,9 @@ char deskKey(SDL_Keycode key) {
     }
 }
 
-// The keys of menus and dialogs.
-std::optional<NavigationKey> navigationKey(SDL_Keycode key) {
-    switch (key) {
+// The keys of menus, dialogs and windows.
+std::optional<NavigationKey> navigationKey(SDL_Keysym pressed) {
+    switch (pressed.sym) {
     case SDLK_UP:
         return NavigationKey::up;
     case SDLK_DOWN:
@@ -72,8 +72,11 @@ std::optional<NavigationKey> navigationKey(SDL_Keycode key) {
         return NavigationKey::right;
     case SDLK_RETURN:
     case SDLK_KP_ENTER:
-    case SDLK_SPACE:
         return NavigationKey::enter;
+    case SDLK_SPACE:
+        return NavigationKey::space;
+    case SDLK_TAB:
+        return (pressed.mod & KMOD_SHIFT) != 0 ? NavigationKey::backTab : NavigationKey::tab;
     case SDLK_ESCAPE:
         return NavigationKey::escape;
     default:
@@ -179,7 +182,7 @@ private:
 
     void press(const SDL_KeyboardEvent& event) {
         const SDL_Keycode key = event.keysym.sym;
-        const auto navigation = navigationKey(key);
+        const auto navigation = navigationKey(event.keysym);
         if (navigation && desk_.navigate(*navigation)) {
             return;
         }

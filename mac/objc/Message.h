@@ -108,6 +108,14 @@ public:
                                                                            arguments...);
 #endif
     }
+
+    // As `type` implements it, whatever the receiver's own class does: what `super` is to a subclass.
+    Result asImplementedBy(Class type, id receiver, std::type_identity_t<Arguments>... arguments) const {
+        static_assert(!std::is_class_v<Result>, "a structure may be returned in another way");
+        using Function = Result (*)(id, SEL, Arguments...);
+        return asFunction<Function>(class_getMethodImplementation(type, selector()))(receiver, selector(),
+                                                                                     arguments...);
+    }
 };
 
 } // namespace kestrune::mac

@@ -11,7 +11,7 @@ namespace kestrune::mac {
 
 namespace {
 
-constexpr const char* TargetVariable = "target";
+constexpr const char* TargetVariable = "kestruneTarget";
 constexpr std::uint8_t AlignmentOfPointers = 3; // as a power of two
 
 void** targetVariable(id instance) {
@@ -21,8 +21,10 @@ void** targetVariable(id instance) {
 
 } // namespace
 
-RuntimeClass::RuntimeClass(const char* name)
-    : class_(objc_allocateClassPair(ns_object::type.find(), name, 0)) {
+RuntimeClass::RuntimeClass(const char* name) : RuntimeClass(name, ns_object::type.find()) {}
+
+RuntimeClass::RuntimeClass(const char* name, Class superclass)
+    : class_(objc_allocateClassPair(superclass, name, 0)) {
     if (class_ == nullptr) {
         fatal(std::string("There is a class named ") + name + " already.");
     }

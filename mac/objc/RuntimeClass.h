@@ -6,11 +6,12 @@
 
 namespace kestrune::mac {
 
-// Builds a subclass of NSObject. The runtime keeps classes for ever.
+// Builds a subclass of one of the platform's classes. The runtime keeps classes for ever.
 class RuntimeClass {
 public:
-    // `name` must not be taken.
+    // Of NSObject. `name` must not be taken.
     explicit RuntimeClass(const char* name);
+    RuntimeClass(const char* name, Class superclass);
 
     // Adds a method that the platform calls. `noexcept`, as no C++ exception may cross into the platform.
     template <typename Result, typename... Arguments>
@@ -22,7 +23,7 @@ public:
     // From here on instances can be made and no method can be added.
     Class finish();
 
-    // What an instance points at.
+    // What an instance points at; null at first.
     static void* target(id instance);
     static void setTarget(id instance, void* target);
 

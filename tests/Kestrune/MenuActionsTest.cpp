@@ -1,3 +1,4 @@
+#include "Kestrune/AccessibilityPane.h"
 #include "sim/MenuState.h"
 #include "sim/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
@@ -152,7 +153,7 @@ TEST_F(MenuActions, OpenTheAccessibilityPaneInOrder) {
 
 TEST_F(MenuActions, OpenTheAccessibilityPaneWithThePermissionToo) {
     controller->openAccessibilitySettings();
-    EXPECT_THAT(session.openedURLs(), ElementsAre(std::string(MenuBarController::AccessibilityPaneAddress)));
+    EXPECT_THAT(session.openedURLs(), ElementsAre(std::string(AccessibilityPaneAddress)));
     EXPECT_FALSE(session.accessibility().isDialogShown());
 }
 
@@ -260,7 +261,7 @@ TEST_F(MenuOpening, LeavesTheShownMenuAsItWas) {
 using MenuActionsDeathTest = MenuActions;
 
 TEST_F(MenuActionsDeathTest, StopWithoutASharedApplicationToQuit) {
-    EXPECT_DEATH(controller->quit(), "Fatal error: There is no shared application to quit\\.");
+    EXPECT_DEATH(controller->quit(), "Fatal error: There is no shared application\\.");
 }
 
 TEST_F(MenuActionsDeathTest, StopWhenThePanesAddressIsNoURL) {

@@ -18,5 +18,10 @@ TEST(FatalDeathTest, WritesOnlyTheTextThatTheMessageSpans) {
     EXPECT_EXIT(fatal(text.substr(0, 10)), testing::KilledBySignal(SIGABRT), "^Fatal error: first part\n$");
 }
 
+TEST(FatalDeathTest, NamesThePlaceOfTheMistakeIfItIsGivenOne) {
+    EXPECT_EXIT(fatal("The moon is not made of cheese.", "sky/Moon"), testing::KilledBySignal(SIGABRT),
+                "^sky/Moon: Fatal error: The moon is not made of cheese\\.\n$");
+}
+
 } // namespace
 } // namespace kestrune

@@ -1,11 +1,13 @@
-// What a user sees of the application's menus and of its icon in the menu bar.
+// What a user sees of the application's menus, of its icon in the menu bar and of its windows.
 #pragma once
 
 #include "platform/Menu.h"
 #include "platform/StatusBar.h"
+#include "platform/Window.h"
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kestrune::contract {
 
@@ -29,6 +31,23 @@ struct ShownButton {
     std::optional<ShownImage> image;
     ImageScaling scaling = ImageScaling::proportionallyDown;
     std::string toolTip;
+};
+
+struct ShownWindow {
+    std::string title;
+    Rect content; // AppKit screen coordinates.
+    WindowLevel level = WindowLevel::normal;
+    bool isKey = false;
+    bool hasCloseButton = false;
+    bool isResizable = false;
+    bool joinsAllSpaces = false;
+
+    // Of the view that it hosts, from the first that is read out to the last.
+    std::vector<std::string> texts;
+    std::vector<std::string> buttons;
+
+    // On, off: of every switch.
+    std::vector<bool> switches;
 };
 
 } // namespace kestrune::contract

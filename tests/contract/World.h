@@ -138,8 +138,10 @@ public:
     // Does `work`, in which the application terminates. Only the end of the process is held back.
     void catchTermination(const std::function<void()>& work);
 
-    // The user makes it the active application.
+    // The user makes it the active application, or another one.
     void activateApplication();
+    void activateAnotherApplication();
+    bool isActive() const;
     ActivationPolicy activationPolicy() const;
 
     // The status items of the application in the menu bar, from the first to the latest.
@@ -163,6 +165,20 @@ public:
 
     // The user presses a character together with modifiers.
     void pressKey(std::string_view character, EventModifierFlags modifiers);
+
+    // The application's windows that are to be seen, the frontmost first.
+    std::vector<ShownWindow> shownWindows() const;
+
+    // The user works on one of them, by its place there: clicks into its title bar, on its close button, on a
+    // button of the view that it hosts, on a switch.
+    void clickTitleBar(std::size_t window = 0);
+    void clickCloseButton(std::size_t window = 0);
+    void clickButton(std::string_view title, std::size_t window = 0);
+    void clickSwitch(std::size_t index, std::size_t window = 0);
+
+    // The platform makes an object of the application's class from an archive, or from a bare window.
+    void constructFromArchive(std::string_view className);
+    void constructFromWindow(std::string_view className);
 
     // The texts of the URLs that the application opened, in order.
     std::vector<std::string> openedURLs() const;

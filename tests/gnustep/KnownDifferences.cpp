@@ -35,6 +35,8 @@ constexpr KnownDifference KnownDifferences[] = {
      TooLarge},
     {"Strings/UserDefaultsConversionContract.ReadsAsANumber/TooLargeAndNegative", "doubleForKey(Key)",
      "Which is: 0\n", TooLarge},
+    {"WindowContract.LiesAcrossTheMiddleOnceCentred", "content.minY() + content.height() / 2",
+     "actual: 489 vs 500", "center leaves more room below than above on the Mac; GNUstep halves it."},
 };
 
 const KnownDifference* knownDifference(const std::string& test) {

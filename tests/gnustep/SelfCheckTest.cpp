@@ -20,13 +20,30 @@ using testing::SizeIs;
 using testing::StartsWith;
 using testing::UnorderedElementsAreArray;
 
-// Methods that stand-ins alone have; the check tells nothing about their encodings.
+// Classes and methods that stand-ins alone have; the check tells nothing about their encodings.
+const std::vector<std::string> ClassesMissingInGNUstep = {"NSImageSymbolConfiguration"};
 const std::vector<std::string> MissingInGNUstep = {
+    "+[NSColor controlAccentColor]",
+    "+[NSColor linkColor]",
+    "+[NSColor separatorColor]",
+    "+[NSFont systemFontOfSize:weight:]",
+    "+[NSImage imageWithSystemSymbolName:accessibilityDescription:]",
+    "+[NSImageSymbolConfiguration configurationWithPointSize:weight:scale:]",
     "-[NSApplication setActivationPolicy:]",
+    "-[NSButton setHasDestructiveAction:]",
     "-[NSButton setImageScaling:]",
+    "-[NSControl setControlSize:]",
+    "-[NSImage imageWithSymbolConfiguration:]",
     "-[NSImage setTemplate:]",
+    "-[NSImageView setContentTintColor:]",
     "-[NSScreen localizedName]",
     "-[NSStatusItem button]",
+    "-[NSString localizedUppercaseString]",
+    "-[NSView frameForAlignmentRect:]",
+    "-[NSView intrinsicContentSize]",
+    "-[NSView setAccessibilityElement:]",
+    "-[NSView setAccessibilityLabel:]",
+    "-[NSWindow setContentViewController:]",
 };
 
 // Methods that GNUstep declares otherwise, and why the binding is right all the same.
@@ -35,10 +52,22 @@ struct ExplainedDifference {
     const char* explanation;
 };
 const ExplainedDifference Explained[] = {
+    {"-[NSAttributedString boundingRectWithSize:options:]",
+     "NSStringDrawingOptions is NSInteger in Apple's NSStringDrawing.h and an enumeration in GNUstep's."},
+    {"-[NSAttributedString drawWithRect:options:]",
+     "NSStringDrawingOptions is NSInteger in Apple's NSStringDrawing.h and an enumeration in GNUstep's."},
+    {"-[NSButton setBezelStyle:]",
+     "NSBezelStyle is NSUInteger in Apple's NSButtonCell.h and an enumeration in GNUstep's."},
+    {"-[NSButton setButtonType:]",
+     "NSButtonType is NSUInteger in Apple's NSButtonCell.h and an enumeration in GNUstep's."},
     {"-[NSString initWithBytes:length:encoding:]",
      "NSStringEncoding is NSUInteger in Apple's NSString.h and an enumeration in GNUstep's."},
     {"-[NSString lengthOfBytesUsingEncoding:]",
      "NSStringEncoding is NSUInteger in Apple's NSString.h and an enumeration in GNUstep's."},
+    {"-[NSSwitch setState:]",
+     "NSControlStateValue is NSInteger in Apple's NSCell.h; GNUstep's switch takes an unsigned number."},
+    {"-[NSSwitch state]",
+     "NSControlStateValue is NSInteger in Apple's NSCell.h; GNUstep's switch gives an unsigned number."},
 };
 
 std::vector<std::string> explainedMethods() {
@@ -75,7 +104,7 @@ TEST(SelfCheck, FindsInGNUstepWhatIsNotListedAsMissing) {
     print(result);
     EXPECT_GT(result.classes, 0U);
     EXPECT_GT(result.messages, 0U);
-    EXPECT_THAT(result.missingClasses, IsEmpty());
+    EXPECT_THAT(result.missingClasses, UnorderedElementsAreArray(ClassesMissingInGNUstep));
     EXPECT_THAT(result.missingMethods, UnorderedElementsAreArray(MissingInGNUstep));
 }
 

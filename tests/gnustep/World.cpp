@@ -1,8 +1,9 @@
 // The contract tests' world on GNUstep: what GNUstep has is GNUstep's own, the rest is stood in for.
 //
 // Menus are GNUstep's objects and perform their items themselves, but nobody tracks them here: what opening,
-// choosing and pressing a key do beyond that is what we believe the Mac does, and no proof of it. So is who
-// is active, and that another process's change of the defaults is seen.
+// choosing and pressing a key do beyond that is what we believe the Mac does, and no proof of it. So is that
+// another process's change of the defaults is seen. Windows and what is in them get events and messages of
+// GNUstep's own; a real mouse presses them in the process's test.
 #include "tests/contract/World.h"
 
 #include "base/Fatal.h"
@@ -11,7 +12,9 @@
 #include "mac/objc/Text.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/PrivateHome.h"
+#include "tests/gnustep/ShownWindows.h"
 #include "tests/gnustep/standins/AccessibilityTrust.h"
+#include "tests/gnustep/standins/Activation.h"
 #include "tests/gnustep/standins/ActivationPolicy.h"
 #include "tests/gnustep/standins/DisplayUUIDs.h"
 #include "tests/gnustep/standins/EventTaps.h"
@@ -121,7 +124,6 @@ struct World::State {
     id mode() const { return openMenu ? NSEventTrackingRunLoopMode : NSDefaultRunLoopMode; }
 
     mac::Retained openMenu;
-    bool isActive = false;
 };
 
 World::World(const BundleFiles& bundle) : state_(new State) {
@@ -188,7 +190,11 @@ void World::launch(const std::function<void()>& work) { runUntilLaunched(work); 
 
 void World::catchTermination(const std::function<void()>& work) { runWork(work); }
 
-void World::activateApplication() { state_->isActive = true; }
+void World::activateApplication() { setActive(true); }
+
+void World::activateAnotherApplication() { setActive(false); }
+
+bool World::isActive() const { return gnustep::isActive(); }
 
 ActivationPolicy World::activationPolicy() const { return gnustep::activationPolicy(); }
 
@@ -243,7 +249,7 @@ bool World::openStatusMenu(const std::function<void()>& whileOpen, std::size_t s
 bool World::openMainMenu(std::size_t item, const std::function<void()>& whileOpen) {
     const mac::Pool pool;
     const id menu = send(NSApp, "mainMenu");
-    if (!state_->isActive || activationPolicy() != ActivationPolicy::regular ||
+    if (!isActive() || activationPolicy() != ActivationPolicy::regular ||
         static_cast<mac::Integer>(item) >= send<mac::Integer>(menu, "numberOfItems")) {
         return false;
     }
@@ -271,10 +277,49 @@ void World::chooseRow(std::size_t row) {
 // Without a pool: when the process is to end, GNUstep has drained it already.
 void World::pressKey(std::string_view character, EventModifierFlags modifiers) {
     const id menu =
-        state_->openMenu ? state_->openMenu.get() : (state_->isActive ? send(NSApp, "mainMenu") : nullptr);
+        state_->openMenu ? state_->openMenu.get() : (isActive() ? send(NSApp, "mainMenu") : nullptr);
     if (const id item = itemForKey(menu, character, modifiers)) {
         state_->choose(item);
+    } else if (!state_->openMenu) {
+        pressKeyInWindow(character, modifiers);
     }
+}
+
+std::vector<ShownWindow> World::shownWindows() const {
+    const mac::Pool pool;
+    std::vector<ShownWindow> shown;
+    for (const id window : visibleWindows()) {
+        shown.push_back(describeWindow(window));
+    }
+    return shown;
+}
+
+void World::clickTitleBar(std::size_t window) {
+    const mac::Pool pool;
+    gnustep::clickTitleBar(visibleWindows().at(window));
+}
+
+void World::clickCloseButton(std::size_t window) {
+    const mac::Pool pool;
+    send<void>(visibleWindows().at(window), "performClose:", id{});
+}
+
+void World::clickButton(std::string_view title, std::size_t window) {
+    const mac::Pool pool;
+    send<void>(buttonNamed(visibleWindows().at(window), title), "performClick:", id{});
+}
+
+void World::clickSwitch(std::size_t index, std::size_t window) {
+    const mac::Pool pool;
+    click(viewsIn(visibleWindows().at(window), "NSSwitch").at(index));
+}
+
+void World::constructFromArchive(std::string_view className) {
+    send(send(classObject(std::string(className).c_str()), "alloc"), "initWithCoder:", id{});
+}
+
+void World::constructFromWindow(std::string_view className) {
+    send(send(classObject(std::string(className).c_str()), "alloc"), "initWithWindow:", id{});
 }
 
 std::vector<std::string> World::openedURLs() const { return gnustep::openedURLs(); }

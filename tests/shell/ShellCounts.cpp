@@ -47,6 +47,15 @@ constexpr std::array<const char*, static_cast<std::size_t>(Happening::total)> Na
     "welcome decisions with permission",
     "without permission",
     "without the delegate",
+    "wizards shown",
+    "of them past the introduction",
+    "wizard buttons pressed",
+    "permissions requested",
+    "windows become key",
+    "wizard ticks in time",
+    "late",
+    "with something new",
+    "wizards closed",
     "wizards finished",
 };
 

@@ -48,6 +48,15 @@ enum class Happening : std::size_t {
     decisionsWithPermission,
     decisionsWithoutPermission,
     decisionsWithoutTheDelegate,
+    wizardsShown,
+    introductionsSkipped,
+    wizardButtonsPressed,
+    permissionsRequested,
+    windowsBecomeKey,
+    wizardTicks,
+    lateWizardTicks,
+    wizardTicksThatFindSomethingNew,
+    wizardsClosed,
     wizardsFinished,
     total
 };

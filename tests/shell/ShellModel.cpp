@@ -82,19 +82,15 @@ void ShellModel::endProcess() {
 void ShellModel::letGoOfDelegate(bool controllerStays) {
     counts_.add(Happening::delegatesLetGo);
     process_->hasDelegate = false;
+    process_->wizard.reset();
     process_->hasController = controllerStays;
 }
 
-void ShellModel::finishWelcome() {
-    counts_.add(Happening::wizardsFinished);
-    startIfAllowed();
-    endWatcher(Happening::watchersEndedByTheWizard);
-    rebuild();
-}
-
-void ShellModel::setActive(bool isActive, bool isRegular) {
-    process_->isActive = isActive;
-    process_->isRegular = isRegular;
+// There is no Settings window yet.
+void ShellModel::openSettings() {
+    if (!isSetUp()) {
+        showWelcome();
+    }
 }
 
 void ShellModel::refresh() {
@@ -174,15 +170,19 @@ void ShellModel::tick() {
         return;
     }
     if (!isTrusted()) {
-        watcher.missed = false;
-        while (watcher.due <= now_) {
-            watcher.due += WatcherInterval;
-        }
+        reschedule(watcher);
         return;
     }
     endWatcher(Happening::watchersEndedByATick);
     startIfAllowed();
     rebuild();
+}
+
+void ShellModel::reschedule(WatcherModel& watcher) const {
+    watcher.missed = false;
+    while (watcher.due <= now_) {
+        watcher.due += WatcherInterval;
+    }
 }
 
 void ShellModel::decideOnWelcome() {
@@ -193,6 +193,7 @@ void ShellModel::decideOnWelcome() {
     }
     if (!isTrusted()) {
         counts_.add(Happening::decisionsWithoutPermission);
+        showWelcome();
         return;
     }
     counts_.add(Happening::decisionsWithPermission);
@@ -200,21 +201,42 @@ void ShellModel::decideOnWelcome() {
     log_.push_back(skippedWizard());
 }
 
-// Nothing that happens on the way changes what comes after it but the watcher's own end.
 void ShellModel::advance(sim::Duration duration) {
     const sim::Duration end = now_ + duration;
-    if (process_ && process_->decisionPending) {
-        decideOnWelcome();
-    }
-    while (process_ && process_->watcher && !process_->watcher->missed && process_->watcher->due <= end) {
-        now_ = process_->watcher->due;
+    runMainQueue();
+    runTimersUntil(end);
+    showPage();
+    now_ = end;
+}
+
+// Of the two timers neither changes what the other one does.
+void ShellModel::runTimersUntil(sim::Duration end) {
+    for (WatcherModel* next = nextDue(); next != nullptr && next->due <= end; next = nextDue()) {
+        now_ = next->due;
         if (process_->open) {
-            process_->watcher->missed = true;
-        } else {
+            next->missed = true;
+        } else if (process_->watcher && next == &*process_->watcher) {
             tick();
+        } else {
+            tickOfWizard();
         }
     }
-    now_ = end;
+}
+
+// Null when no timer waits for its time.
+WatcherModel* ShellModel::nextDue() {
+    if (!process_) {
+        return nullptr;
+    }
+    WatcherModel* next = nullptr;
+    if (process_->watcher && !process_->watcher->missed) {
+        next = &*process_->watcher;
+    }
+    if (process_->wizard && !process_->wizard->watcher.missed &&
+        (next == nullptr || process_->wizard->watcher.due < next->due)) {
+        next = &process_->wizard->watcher;
+    }
+    return next;
 }
 
 void ShellModel::changeDisplays(std::vector<sim::Display> displays, bool announced) {
@@ -270,6 +292,9 @@ std::int64_t ShellModel::liveObjects() const {
     }
     if (process_->watcher) {
         count += 1;
+    }
+    if (process_->wizard) {
+        count += 1 + 1 + 1 + 1; // its controller, the window, what the window hosts, and the timer
     }
     if (process_->guardRuns) {
         count += 2; // the tap and its source

@@ -5,6 +5,7 @@
 #include "sim/Session.h"
 #include "tests/shell/MenuModel.h"
 #include "tests/shell/ShellCounts.h"
+#include "tests/shell/WizardModel.h"
 #include "tests/simulate/Oracle.h"
 #include "tests/simulate/StoredValue.h"
 
@@ -37,12 +38,6 @@ struct ShellBeginning {
     Translations translations;
 };
 
-// The polling for the permission.
-struct WatcherModel {
-    sim::Duration due;
-    bool missed = false; // fell due while a menu was open
-};
-
 struct OpenMenuModel {
     sim::MenuPlace place;
     std::vector<MenuLine> statusLines; // as they were installed before the menu was opened
@@ -59,8 +54,18 @@ struct ProcessModel {
     std::optional<WatcherModel> watcher = std::nullopt;
     std::vector<MenuLine> statusMenu = {};
     std::optional<OpenMenuModel> open = std::nullopt;
+    std::optional<WizardModel> wizard = std::nullopt;
+    bool activationPending = false;
     bool isActive = false;
     bool isRegular = false;
+};
+
+// What the system shows the user, which outlives the application.
+struct DesktopModel {
+    bool isDialogShown = false;
+    bool isPaneShown = false;
+    std::size_t openedURLs = 0;
+    bool refusesActivation = false;
 };
 
 class ShellModel {
@@ -72,14 +77,24 @@ public:
     void terminate();
     void kill();
     void letGoOfDelegate(bool controllerStays);
-    void finishWelcome();
-    void setActive(bool isActive, bool isRegular);
+    void openSettings();
+    void setActive(bool isActive);
 
     // The user at the menus. Each answers what the session must answer.
     bool openMenu(const sim::MenuPlace& place);
     bool choose(std::size_t row);
     bool press(std::string_view key, EventModifierFlags modifiers);
     void closeMenu();
+
+    // The user at the wizard and at what the system shows. The first two answer what the session must answer.
+    bool pressWizardButton(std::size_t index);
+    bool pressReturn();
+    void clickWizard();
+    void closeWizard();
+    void openSettingsFromDialog();
+    void denyInDialog();
+    void closePane();
+    void refuseActivation(bool refuse) { desktop_.refusesActivation = refuse; }
 
     // Everything around the application. Displays change with or, for a moment, without the announcement.
     void changeDisplays(std::vector<sim::Display> displays, bool announced);
@@ -98,6 +113,7 @@ public:
 
     const std::vector<sim::Display>& connected() const { return displays_.connected(); }
     const ShellEntries& entries() const { return entries_; }
+    const DesktopModel& desktop() const { return desktop_; }
     sim::Permission permission() const { return permission_; }
     bool isSetUp() const { return isTrusted() && entries_.onboarding.reading; }
 
@@ -132,7 +148,23 @@ private:
     void stop();
     void rebuild();
     void countMark(const StatusMenuFacts& facts);
+    void runMainQueue();
+    void runTimersUntil(sim::Duration end);
+    WatcherModel* nextDue();
     void tick();
+    void reschedule(WatcherModel& watcher) const;
+    bool hasKeys() const;
+    bool isWizardVisible() const;
+    void tellNewKeyWindow(bool hadKeys);
+    void publishTrust();
+    void systemCameForward(bool isInFront);
+    void showWelcome();
+    void askUser();
+    void pressTitled(const std::string& title);
+    void finishWelcome();
+    void tickOfWizard();
+    void showPage();
+    void showPane();
     void endWatcher(Happening how);
     void decideOnWelcome();
     void toggle();
@@ -149,6 +181,7 @@ private:
     bool refusesTaps_ = false;
     sim::Duration now_{0};
     std::optional<ProcessModel> process_;
+    DesktopModel desktop_;
     std::uint64_t writes_ = 0;
     std::uint64_t writesWithTap_ = 0;
     bool guardRanAtTheEnd_ = false;

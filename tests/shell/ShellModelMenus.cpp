@@ -65,6 +65,9 @@ void ShellModel::leaveTracking() {
     if (process_->watcher && process_->watcher->missed) {
         tick();
     }
+    if (process_->wizard && process_->wizard->watcher.missed) {
+        tickOfWizard();
+    }
 }
 
 bool ShellModel::choose(std::size_t row) {
@@ -108,6 +111,8 @@ bool ShellModel::act(const MenuLine& line, bool inMainMenu) {
         if (line.action == "terminate:") {
             counts_.add(Happening::quitsFromTheMainMenu);
             quit();
+        } else if (line.action == "menuOpenSettings") {
+            openSettings();
         }
         return true;
     }
@@ -124,6 +129,8 @@ bool ShellModel::act(const MenuLine& line, bool inMainMenu) {
         toggle();
     } else if (line.action == "selectScreen:") {
         select(*line.identifier);
+    } else if (line.action == "showWelcome" && process_->hasDelegate) {
+        showWelcome();
     }
     return true;
 }

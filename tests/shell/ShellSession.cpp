@@ -78,28 +78,20 @@ void ShellSession::letGoOfDelegate(bool controllerStays) {
     check();
 }
 
-void ShellSession::finishWelcome() {
-    if (app_) {
-        app_->welcomeFinished();
-        model_.finishWelcome();
-        check();
-    }
-}
-
 void ShellSession::openSettingsByAction() {
     if (app_) {
         app_->menuOpenSettings();
+        model_.openSettings();
         check();
     }
 }
 
-void ShellSession::setActive(bool isActive, bool isRegular) {
+void ShellSession::setActive(bool isActive) {
     if (!isRunning()) {
         return;
     }
-    session_.application().isActive = isActive;
-    session_.application().policy = isRegular ? ActivationPolicy::regular : ActivationPolicy::accessory;
-    model_.setActive(isActive, isRegular);
+    session_.windows().setActive(isActive);
+    model_.setActive(isActive);
     check();
 }
 

@@ -26,9 +26,8 @@ public:
     void launch();
     void terminate();
     void kill();
-    void finishWelcome();
     void openSettingsByAction();
-    void setActive(bool isActive, bool isRegular);
+    void setActive(bool isActive);
 
     // The delegate goes while the process lives; the menu bar controller may be held by somebody else.
     void letGoOfDelegate(bool controllerStays);
@@ -38,6 +37,16 @@ public:
     void choose(std::size_t row);
     void press(std::string_view key, EventModifierFlags modifiers);
     void closeMenu();
+
+    // The user at the wizard and at what the system shows.
+    void pressWizardButton(std::size_t index);
+    void pressReturn();
+    void clickWizard();
+    void closeWizard();
+    void openSettingsFromDialog();
+    void denyInDialog();
+    void closePane();
+    void refuseActivation(bool refuse);
 
     // Everything around the application.
     void changeDisplays(const std::vector<sim::Display>& displays, bool announced);
@@ -71,6 +80,13 @@ private:
     void checkWatcher(const ProcessModel& process);
     void checkStatusItem(const ProcessModel& process);
     void checkOpenMenu();
+    void checkDesktop();
+    void checkWizard(const ProcessModel& process);
+    void checkWizardsModel(const WizardModel& expected, const WelcomeWindowController& controller);
+    void checkWizardsWindow(const WizardModel& expected, const Window::State& window);
+    void observePublications();
+    std::shared_ptr<Window::State> shownWindow();
+    bool pressButtonOfWindow(std::size_t index);
     void checkEntries();
     void checkLog();
     void buryProcess();
@@ -84,6 +100,9 @@ private:
     std::uint64_t writes_ = 0; // of defaults entries, by anybody
     std::uint64_t writesWithTap_ = 0;
     std::size_t checkedRecords_ = 0;
+    std::weak_ptr<WelcomeViewModel> observedModel_;
+    ui::Observation observation_;
+    std::uint64_t publications_ = 0;
 };
 
 } // namespace kestrune::simulate

@@ -77,8 +77,7 @@ void ShellSession::check() {
     checkLog();
     require(session_.accessibility().permission() == model_.permission(),
             "the application is not listed as its attempts at taps make it");
-    require(!session_.accessibility().isDialogShown() && session_.openedURLs().empty(),
-            "the user was asked for the permission or led to System Settings");
+    checkDesktop();
 }
 
 void ShellSession::checkProcess(const ProcessModel& process) {
@@ -86,12 +85,13 @@ void ShellSession::checkProcess(const ProcessModel& process) {
     checkWatcher(process);
     checkStatusItem(process);
     checkOpenMenu();
+    checkWizard(process);
     require(session_.observers().count() == 1, "not exactly one observer while the process runs");
     require(session_.menus().mainMenuTitles() == model_.mainMenuTitles(),
             "the menu bar does not show the main menu's titles");
     require(session_.application().policy ==
                 (process.isRegular ? ActivationPolicy::regular : ActivationPolicy::accessory),
-            "the application changed its activation policy by itself, or did not begin as an accessory");
+            "the application is not in the Dock exactly while the wizard is shown");
     require(session_.liveObjects() == model_.liveObjects(),
             "the number of retained platform objects is wrong");
     if (app_) {
@@ -112,8 +112,8 @@ void ShellSession::checkGuard(const ProcessModel& process) {
 }
 
 void ShellSession::checkWatcher(const ProcessModel& process) {
-    require(session_.timers().count() == (process.watcher ? 1U : 0U),
-            process.watcher ? "the permission is not polled" : "a timer is left although nothing is polled");
+    require(session_.timers().count() == (process.watcher ? 1U : 0U) + (process.wizard ? 1U : 0U),
+            "not exactly one timer for the watcher and one for the wizard");
     if (app_) {
         require(app_->isWatchingAccessibility() == process.watcher.has_value(),
                 "accessibilityWatcher does not hold the timer exactly while it runs");
@@ -187,6 +187,7 @@ void ShellSession::checkNothingIsLeft() {
     require(session_.observers().count() == 0, "the process is gone and left an observer behind");
     require(session_.statusItems().shown().empty(), "the process is gone and left a status item behind");
     require(!session_.menus().place(), "the process is gone and left a menu open");
+    require(session_.windows().shown().empty(), "the process is gone and left a window behind");
     require(session_.liveObjects() == 0, "the process is gone and left platform objects behind");
 }
 

@@ -55,7 +55,6 @@ const std::vector<ShellUser::Choice>& ShellUser::choices() {
         {0.7, &ShellUser::terminate},
         {0.7, &ShellUser::kill},
         {0.4, &ShellUser::letGoOfDelegate},
-        {1, &ShellUser::finishWelcome},
         {0.5, &ShellUser::openSettingsByAction},
         {2, &ShellUser::activate},
         {9, &ShellUser::openMenu},
@@ -64,6 +63,13 @@ const std::vector<ShellUser::Choice>& ShellUser::choices() {
         {9, &ShellUser::openAndChoose},
         {3, &ShellUser::closeMenu},
         {2, &ShellUser::press},
+        {6, &ShellUser::pressWizardButton},
+        {3, &ShellUser::pressReturn},
+        {2, &ShellUser::clickWizard},
+        {1, &ShellUser::closeWizard},
+        {2, &ShellUser::answerDialog},
+        {1.5, &ShellUser::closePane},
+        {0.5, &ShellUser::refuseActivation},
         {2, &ShellUser::plug},
         {1.7, &ShellUser::unplug},
         {0.3, &ShellUser::unplugAll},
@@ -116,11 +122,6 @@ std::string ShellUser::letGoOfDelegate() {
     return controllerStays ? "the delegate goes, the menu bar controller stays" : "the delegate goes";
 }
 
-std::string ShellUser::finishWelcome() {
-    session_->finishWelcome();
-    return "the wizard ends";
-}
-
 std::string ShellUser::openSettingsByAction() {
     session_->openSettingsByAction();
     return "the main menu's Settings are asked for";
@@ -128,10 +129,8 @@ std::string ShellUser::openSettingsByAction() {
 
 std::string ShellUser::activate() {
     const bool isActive = random_.chance(0.7);
-    const bool isRegular = random_.chance(0.7);
-    session_->setActive(isActive, isRegular);
-    return std::string("the application is ") + (isActive ? "active" : "inactive") + " and " +
-           (isRegular ? "regular" : "an accessory");
+    session_->setActive(isActive);
+    return std::string("the application is ") + (isActive ? "active" : "inactive");
 }
 
 StoredSwitch ShellUser::enabled() { return randomSwitch(random_, 0.5); }

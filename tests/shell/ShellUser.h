@@ -41,7 +41,6 @@ private:
     std::string terminate();
     std::string kill();
     std::string letGoOfDelegate();
-    std::string finishWelcome();
     std::string openSettingsByAction();
     std::string activate();
 
@@ -52,6 +51,15 @@ private:
     std::string openAndChoose();
     std::string closeMenu();
     std::string press();
+
+    // The wizard, and what the system shows.
+    std::string pressWizardButton();
+    std::string pressReturn();
+    std::string clickWizard();
+    std::string closeWizard();
+    std::string answerDialog();
+    std::string closePane();
+    std::string refuseActivation();
 
     // The displays.
     std::string plug();

@@ -125,5 +125,14 @@ TEST(AccessibilityPane, HelpsARowOfAnOlderBuildByItsRemovalAlone) {
     EXPECT_EQ(accessibility.permission(), Permission::granted);
 }
 
+TEST(Accessibility, MayReadAsUntrustedForAWhileAfterAGrant) {
+    Accessibility accessibility(Permission::granted);
+    accessibility.delayTrust(true);
+    EXPECT_FALSE(accessibility.readsAsTrusted());
+    EXPECT_TRUE(accessibility.allowsActiveTaps());
+    accessibility.delayTrust(false);
+    EXPECT_TRUE(accessibility.readsAsTrusted());
+}
+
 } // namespace
 } // namespace kestrune::sim

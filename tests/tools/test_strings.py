@@ -69,6 +69,15 @@ class Strings(TreeTest):
         result = self.run_check(strings, {EN: ENGLISH, MENU: code, "sim/Bundle.cpp": 'localized("Not ours")'})
         self.assertEqual((result.findings, result.examined), ([], "1 tables, 3 calls"))
 
+    def test_take_what_views_show_for_texts_too(self):
+        code = """
+            Text("Quit"); Button("Quit", quit); Label("Quit", "power"); Toggle("Quit", on, set);
+            Text(key); VerbatimText("2 of 2");
+        """
+        result = self.run_check(strings, {EN: ENGLISH, MENU: code})
+        self.assertEqual((result.findings, result.examined), ([], "1 tables, 4 calls"))
+        self.assert_found(strings, {EN: ENGLISH, MENU: 'ui::Text("Hello");'}, f'{MENU}:1: "Hello"')
+
     def test_read_texts_as_the_compiler_does(self):
         english = '"Settings…" = "Settings…";\n"Line\\nend" = "Line\\nend";\n'
         code = r"""

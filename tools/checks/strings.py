@@ -20,10 +20,10 @@ ENTRY = re.compile(
     re.VERBOSE | re.DOTALL,
 )
 SPECIFIER = re.compile(r"%(?:\d+\$)?[-+ #0]*\d*(?:\.\d+)?(?:hh|h|ll|l|q|z|t|j)?[@%dDuUxXoOfeEgGcCsSpaAF]")
-# A text that the application shows: the first argument of a call, perhaps in adjacent pieces.
+# A text that the application shows: the first argument of a call or of a view, perhaps in adjacent pieces.
 CALL = re.compile(
     r"""
-    \b(?:localized|localizedString) \s* \( \s*
+    \b(?:localized|localizedString|Text|Button|Label|Toggle) \s* \( \s*
     (?P<argument> (?P<prefix>(?:u8|[uUL])?R?) (?P<pieces>"(?:\\.|[^"\\\n])*"(?:\s*"(?:\\.|[^"\\\n])*")*) )
     \s* (?P<next>[,)]?)
     """,

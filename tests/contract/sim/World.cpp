@@ -2,7 +2,9 @@
 
 #include "sim/Session.h"
 #include "sim/StatusItemState.h"
+#include "sim/WindowState.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -70,6 +72,27 @@ LoggedMessage messageOf(const sim::LogRecord& record) {
 
 ShownRow rowOf(const sim::MenuRow& row) {
     return {row.title, row.state, row.isEnabled, row.isSeparator, row.keyEquivalent, row.modifiers};
+}
+
+ShownWindow shownWindow(const Window::State& window, bool isKey) {
+    ShownWindow shown;
+    shown.title = window.title;
+    shown.content = window.contentRect();
+    shown.level = window.level;
+    shown.isKey = isKey;
+    shown.hasCloseButton = window.has(WindowStyleMask::closable);
+    shown.isResizable = window.has(WindowStyleMask::resizable);
+    shown.joinsAllSpaces = window.has(WindowCollectionBehavior::canJoinAllSpaces);
+    for (const ui::Element& element : sim::Windows::sceneOf(window).elements) {
+        if (const auto* const text = std::get_if<ui::TextElement>(&element)) {
+            shown.texts.push_back(text->text.string());
+        } else if (const auto* const button = std::get_if<ui::ButtonElement>(&element)) {
+            shown.buttons.push_back(button->title);
+        } else if (const auto* const toggle = std::get_if<ui::ToggleElement>(&element)) {
+            shown.switches.push_back(toggle->isOn);
+        }
+    }
+    return shown;
 }
 
 struct AsPropertyList {
@@ -153,7 +176,11 @@ void World::launch(const std::function<void()>& work) { work(); }
 
 void World::catchTermination(const std::function<void()>& work) { work(); }
 
-void World::activateApplication() { state_->session.application().isActive = true; }
+void World::activateApplication() { state_->session.windows().setActive(true); }
+
+void World::activateAnotherApplication() { state_->session.windows().setActive(false); }
+
+bool World::isActive() const { return state_->session.application().isActive; }
 
 ActivationPolicy World::activationPolicy() const { return state_->session.application().policy; }
 
@@ -197,7 +224,58 @@ std::vector<ShownRow> World::openMenuRows() const {
 void World::chooseRow(std::size_t row) { state_->session.menus().choose(row); }
 
 void World::pressKey(std::string_view character, EventModifierFlags modifiers) {
-    state_->session.menus().press(character, modifiers);
+    if (!state_->session.menus().press(character, modifiers) && character == "\r") {
+        state_->session.windows().press(ui::KeyboardShortcut::defaultAction);
+    }
+}
+
+std::vector<ShownWindow> World::shownWindows() const {
+    const auto key = state_->session.windows().keyWindow();
+    std::vector<ShownWindow> windows;
+    for (const auto& window : state_->session.windows().shown()) {
+        windows.push_back(shownWindow(*window, window == key));
+    }
+    return windows;
+}
+
+void World::clickTitleBar(std::size_t window) {
+    sim::Windows& windows = state_->session.windows();
+    windows.click(windows.shown().at(window));
+}
+
+void World::clickCloseButton(std::size_t window) {
+    sim::Windows& windows = state_->session.windows();
+    windows.closeByUser(windows.shown().at(window));
+}
+
+void World::clickButton(std::string_view title, std::size_t window) {
+    sim::Windows& windows = state_->session.windows();
+    const auto clicked = windows.shown().at(window);
+    const auto& elements = sim::Windows::sceneOf(*clicked).elements;
+    const auto button = std::find_if(elements.begin(), elements.end(), [title](const ui::Element& element) {
+        const auto* const candidate = std::get_if<ui::ButtonElement>(&element);
+        return candidate != nullptr && candidate->title == title;
+    });
+    windows.pressButton(clicked, static_cast<std::size_t>(button - elements.begin()));
+}
+
+void World::clickSwitch(std::size_t index, std::size_t window) {
+    sim::Windows& windows = state_->session.windows();
+    const auto clicked = windows.shown().at(window);
+    const auto& elements = sim::Windows::sceneOf(*clicked).elements;
+    std::size_t left = index;
+    const auto toggle = std::find_if(elements.begin(), elements.end(), [&left](const ui::Element& element) {
+        return std::holds_alternative<ui::ToggleElement>(element) && left-- == 0;
+    });
+    windows.flipSwitch(clicked, static_cast<std::size_t>(toggle - elements.begin()));
+}
+
+void World::constructFromArchive(std::string_view className) {
+    state_->session.windows().constructFromArchive(className);
+}
+
+void World::constructFromWindow(std::string_view className) {
+    state_->session.windows().constructFromWindow(className);
 }
 
 std::vector<std::string> World::openedURLs() const { return state_->session.openedURLs(); }

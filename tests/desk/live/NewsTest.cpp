@@ -118,8 +118,12 @@ TEST(News, TellThatARowWasRemovedThatWasOffAlready) {
 }
 
 TEST(News, TellWhyARowHadNoEffect) {
-    EXPECT_EQ(newsOfChoiceWithoutEffect("Settings…").text,
+    EXPECT_EQ(newsOfChoiceWithoutEffect("Settings…", {}).text,
               "“Settings…” leads to a window that Kestrune does not have yet");
+    Standing withWindow;
+    withWindow.windows = {"Welcome to Kestrune"};
+    EXPECT_EQ(newsOfChoiceWithoutEffect("Complete setup…", withWindow).text,
+              "“Complete setup…” brings “Welcome to Kestrune” to the front");
 }
 
 TEST(News, TellWhyTheMenuCannotBeUsed) {
@@ -128,6 +132,25 @@ TEST(News, TellWhyTheMenuCannotBeUsed) {
     EXPECT_EQ(newsOfClosedMenu(running()).kind, Occurrence::warning);
     EXPECT_EQ(newsOfClosedMenu({}).text, "Kestrune does not run");
     EXPECT_EQ(newsOfClosedMenu({}).kind, Occurrence::neutral);
+}
+
+TEST(News, TellsWhichWindowHasOpenedOrClosed) {
+    Standing without;
+    without.applicationRuns = true;
+    Standing with = without;
+    with.windows = {"Welcome to Kestrune"};
+    EXPECT_EQ(newsOfChange(without, with)->text, "Kestrune opened its window “Welcome to Kestrune”");
+    EXPECT_EQ(newsOfChange(with, without)->text, "Kestrune's window “Welcome to Kestrune” is closed");
+    Standing other = with;
+    other.windows = {"Settings", "Welcome to Kestrune"};
+    EXPECT_EQ(newsOfChange(with, other)->text, "Kestrune opened its window “Settings”");
+    std::swap(other.windows[0], other.windows[1]);
+    EXPECT_FALSE(newsOfChange(other, other));
+}
+
+TEST(News, TellsWhichControlWasPressed) {
+    EXPECT_EQ(newsOfControl("Get started").text, "“Get started” was pressed in Kestrune's window");
+    EXPECT_EQ(newsOfControl("Get started").kind, Occurrence::neutral);
 }
 
 } // namespace

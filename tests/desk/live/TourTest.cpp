@@ -63,9 +63,9 @@ TEST(Tour, WritesAPictureForEachSceneAndTellsThemAll) {
     ASSERT_FALSE(error) << error->message;
 
     const auto pictures = picturesIn(folder);
-    ASSERT_EQ(pictures.size(), 23U);
+    ASSERT_EQ(pictures.size(), 24U);
     EXPECT_EQ(pictures.front().filename(), "01-first-launch.png");
-    EXPECT_EQ(pictures.back().filename(), "23-quit.png");
+    EXPECT_EQ(pictures.back().filename(), "24-quit.png");
     const std::string report = textOf(folder / "report.txt");
     for (const auto& picture : pictures) {
         EXPECT_EQ(sizeOfPng(picture).width, 2880U) << picture;

@@ -12,7 +12,7 @@ std::optional<MenuLayout> menuOf(const DeskPicture& picture, Size window = TestW
 }
 
 bool isAccentColored(Pixel pixel) {
-    const Color accent = paletteFor(false).accent;
+    const Color accent = paletteFor(false).system.accent;
     return isNear(pixel, static_cast<int>(accent.red * 255), static_cast<int>(accent.green * 255),
                   static_cast<int>(accent.blue * 255), 4);
 }

@@ -6,9 +6,12 @@
 #include "desk/command/OptionsReader.h"
 #include "desk/live/LiveDesk.h"
 #include "desk/live/LivePicture.h"
+#include "desk/live/WindowParts.h"
 #include "desk/paint/DeskHitTest.h"
 #include "desk/paint/MenuLayout.h"
 
+#include <chrono>
+#include <cstddef>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -70,6 +73,23 @@ void printParts(LiveDesk& desk) {
     printTarget(desk, "remove", PaneRemoveTarget{});
 }
 
+// The first-run wizard, if it is shown: its title bar, its close button and its buttons by their titles.
+void printWizard(LiveDesk& desk) {
+    desk.advance(std::chrono::seconds(1));
+    const DeskPicture picture = pictureOf(desk);
+    if (picture.windows.empty()) {
+        return;
+    }
+    const WindowPicture& wizard = picture.windows.front();
+    printTarget(desk, "wizard title", WindowTitleTarget{wizard.number});
+    printTarget(desk, "wizard close", WindowCloseTarget{wizard.number});
+    for (std::size_t element = 0; element < wizard.scene.elements.size(); ++element) {
+        if (const auto title = titleOfControl(wizard.scene.elements[element])) {
+            printTarget(desk, "wizard: " + *title, WindowControlTarget{wizard.number, element});
+        }
+    }
+}
+
 int refuse(const InputError& error) {
     std::fprintf(stderr, "places: %s\n", error.message.c_str());
     return BadInput;
@@ -85,8 +105,12 @@ int run(const std::vector<std::string_view>& words) {
         return refuse(*error);
     }
     std::get<LiveDeskSetup>(setup).defaultsFile.reset();
+    {
+        LiveDesk desk(std::get<LiveDeskSetup>(setup));
+        printParts(desk);
+    }
     LiveDesk desk(std::get<LiveDeskSetup>(setup));
-    printParts(desk);
+    printWizard(desk);
     return 0;
 }
 

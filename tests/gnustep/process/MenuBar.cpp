@@ -14,12 +14,11 @@
 #include "platform/Menu.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/process/Session.h"
+#include "tests/gnustep/process/Teller.h"
 #include "tests/gnustep/standins/Methods.h"
 #include "tests/gnustep/standins/StatusItems.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstdio>
 #include <string>
 
 namespace kestrune::gnustep {
@@ -28,27 +27,6 @@ namespace {
 
 constexpr double BarHeight = 24; // points, which are pixels here
 constexpr double ButtonWidth = 32;
-
-Size screenSize() { return send<Rect>(send(classObject("NSScreen"), "mainScreen"), "frame").size; }
-
-// The X window of the view and the area on its screen.
-std::string placeOf(id view, const Rect& area) {
-    const id window = send(view, "window");
-    const Rect inWindow = send<Rect>(view, "convertRect:toView:", area, id{});
-    const Point corner = send<Point>(window, "convertBaseToScreen:", inWindow.origin);
-    const double top = screenSize().height - (corner.y + inWindow.size.height);
-    const auto number = reinterpret_cast<std::uintptr_t>(send<void*>(window, "windowRef"));
-    std::string place = std::to_string(number);
-    for (const double part : {corner.x, top, inWindow.size.width, inWindow.size.height}) {
-        place += "\t" + std::to_string(part);
-    }
-    return place;
-}
-
-void tell(const std::string& line) {
-    std::puts(line.c_str());
-    std::fflush(stdout);
-}
 
 // GNUstep's separators have dashes for a title, which nobody sees.
 std::string describe(id item) {
@@ -86,8 +64,17 @@ void writeDefaults() {
                "synchronize");
 }
 
-// Comes back when the menu is closed again and what was chosen is done.
-void mouseDown(id button, SEL, id event) {
+using MouseDown = Method<void, id>;
+
+MouseDown mouseDownOfGNUstep = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+// Comes back when the menu is closed again and what was chosen is done. GNUstep's own would wait for the
+// release, which ends in the menu.
+void mouseDown(id button, SEL selector, id event) {
+    if (button != buttonOfStatusItem(0)) {
+        mouseDownOfGNUstep(button, selector, event);
+        return;
+    }
     const mac::Pool pool;
     const mac::Retained menu = mac::Retained::retaining(menuOfStatusItem(0));
     send<void>(send(menu.get(), "delegate"), "menuWillOpen:", menu.get());
@@ -135,8 +122,7 @@ void showMenuBar() {
     const id button = buttonOfStatusItem(0);
     send<void>(button, "setFrame:", Rect{screen.width - ButtonWidth, 0, ButtonWidth, BarHeight});
     send<void>(button, "setBordered:", mac::truth(false));
-    // The only button of the process. GNUstep's own would wait for the release, which ends in the menu.
-    replaceMethod(classNamed("NSButton"), "mouseDown:", mouseDown);
+    mouseDownOfGNUstep = replaceMethod(classNamed("NSButton"), "mouseDown:", mouseDown);
     setHighlightedItemIndexOfGNUstep =
         replaceMethod(classNamed("NSMenuView"), "setHighlightedItemIndex:", setHighlightedItemIndex);
     send<void>(send(window, "contentView"), "addSubview:", button);

@@ -48,6 +48,8 @@ void beginSession(const std::filesystem::path& home, bool isPermitted) {
     accessibilityRow().trust = isPermitted ? contract::Trust::granted : contract::Trust::notListed;
 }
 
+void grantPermission() { accessibilityRow().trust = contract::Trust::granted; }
+
 std::string guardedDisplays() {
     std::string names;
     for (const contract::ConnectedDisplay& display : displays()) {

@@ -10,6 +10,9 @@ namespace kestrune::gnustep {
 // the display Left, which is the X screen, and Right beside it.
 void beginSession(const std::filesystem::path& home, bool isPermitted);
 
+// The user switches the application on under Accessibility in the system's settings.
+void grantPermission();
+
 // The names of the displays of which a pointer at the bottom edge is held off, with spaces between.
 std::string guardedDisplays();
 

@@ -1,6 +1,6 @@
 // The application's process on GNUstep: the entry point that is shipped, in a session that is made before it.
 // Its defaults are in the home that the environment names; with KESTRUNE_PERMITTED in the environment it has
-// the Accessibility permission.
+// the Accessibility permission, and after the signal SIGUSR1 as well.
 #include "base/Fatal.h"
 #include "platform/MainActor.h"
 #include "platform/NotificationCenter.h"
@@ -8,7 +8,9 @@
 #include "tests/gnustep/TimeLimit.h"
 #include "tests/gnustep/process/MenuBar.h"
 #include "tests/gnustep/process/Session.h"
+#include "tests/gnustep/process/WindowWatch.h"
 
+#include <csignal>
 #include <cstdlib>
 
 namespace kestrune::gnustep {
@@ -17,6 +19,16 @@ namespace {
 
 constexpr unsigned SecondsForASession = 100;
 constexpr double HeartbeatInSeconds = 0.02;
+
+// The user has switched the application on in the system's settings.
+volatile std::sig_atomic_t isGranted = 0; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+void beat(Timer& /*timer*/) {
+    if (isGranted != 0) {
+        grantPermission();
+    }
+    watchWindows();
+}
 
 } // namespace
 
@@ -32,13 +44,15 @@ extern "C" int processMain() {
         fatal("The environment names no home for the session.");
     }
     beginSession(home, std::getenv("KESTRUNE_PERMITTED") != nullptr);
+    watchPresses();
+    std::signal(SIGUSR1, [](int) { isGranted = 1; });
     // The delegate hears of the launch as well, before or after; the task comes after both.
     NotificationCenter::defaultCenter().addObserver(
         NotificationName("NSApplicationDidFinishLaunchingNotification"), OperationQueue::mainQueue(),
         [] { MainActor::startTask(showMenuBar); });
     // GNUstep's loop sleeps until the X server sends something, even when an event that Xlib has read already
     // waits to be handled. Without this a press of the button was now and then noticed with the next one.
-    Timer::scheduledTimer(HeartbeatInSeconds, true, [](Timer&) {});
+    Timer::scheduledTimer(HeartbeatInSeconds, true, beat);
     return applicationsMain();
 }
 

@@ -3,88 +3,27 @@
 
 process_test.py PROGRAM HOME_LIBRARY
 
-With KESTRUNE_MENU_PICTURE in the environment a picture of the open menu is kept under that name.
+With KESTRUNE_MENU_PICTURE in the environment a picture of the open menu is kept under that name, with
+KESTRUNE_WIZARD_PICTURES pictures of the wizard's states in that folder.
 """
 
-import collections
-import dataclasses
 import os
 import pathlib
 import shutil
-import subprocess
+import signal
 import sys
 import tempfile
 import unittest
 
-from live_window import PATIENCE, SKIPPED, Area, VirtualScreen, contrast, run, wait_for
+from application_process import Application, Home, row_with
+from live_window import SKIPPED, VirtualScreen, contrast, run, wait_for
 
 PROGRAMS = ["Xvfb", "xdotool", "xwininfo", "import", "convert", "defaults"]
-
-# Without an icon of the application's own, with borders left to a window manager, and with menus that stay
-# open when the button of the mouse is released.
-SETTINGS = """{
-    GSSuppressAppIcon = YES;
-    GSX11HandlesWindowDecorations = NO;
-    NSMenuInterfaceStyle = NSWindows95InterfaceStyle;
-}
-"""
 
 ICON = pathlib.Path(__file__).resolve().parents[3] / "Kestrune" / "Resources" / "MenuBarIcon.png"
 ICON_SIZE = 20  # points, which are pixels here
 
 RIGHT_UUID = "37D8832A-2D66-02CA-B9F7-8F3000000002"
-
-
-@dataclasses.dataclass(frozen=True)
-class Place:
-    """An area of the screen and the X window that shows it."""
-
-    window: str
-    area: Area
-
-    @staticmethod
-    def of(window, *numbers):
-        return Place(window, Area(*map(float, numbers)))
-
-
-class Row:
-    """A row of an open menu, and the parts of it that GNUstep draws."""
-
-    def __init__(self, window, left, top, width, height, title, *flags):
-        self.place = Place.of(window, left, top, width, height)
-        self.title = title
-        self.is_separator = "separator" in flags
-        self.is_marked = "marked" in flags
-        self.is_enabled = "disabled" not in flags
-
-    def __str__(self):
-        if self.is_separator:
-            return "---"
-        return ("✓" if self.is_marked else "") + self.title + ("" if self.is_enabled else " (disabled)")
-
-    @property
-    def mark_area(self):
-        return self.part(3, 14)
-
-    @property
-    def title_area(self):
-        return self.part(16, 60)
-
-    @property
-    def key_area(self):
-        return self.part(self.place.area.width - 26, 22)
-
-    def part(self, left, width):
-        """Without the row's border."""
-        area = self.place.area
-        return Area(area.left + left, area.top + 3, width, area.height - 6)
-
-
-def row_with(text, rows):
-    found = [row for row in rows if text in row.title]
-    if len(found) != 1:
-        raise AssertionError(f"{text!r} is not in one of {list(map(str, rows))}")
-    return found[0]
 
 
 def darkest(picture, area):
@@ -96,128 +35,6 @@ def darkest(picture, area):
 
 def has_drawing(picture, area):
     return contrast(picture, area) > 0.05
-
-
-class Home:
-    """A home directory that outlives a process, and the environment in which GNUstep uses it."""
-
-    def __init__(self, folder, screen):
-        self.folder = folder
-        settings = folder / "GNUstep" / "Defaults" / "NSGlobalDomain.plist"
-        settings.parent.mkdir(parents=True)
-        settings.write_text(SETTINGS)
-        self.environment = screen.environment | {
-            "HOME": str(folder),
-            "TMPDIR": str(folder),
-            "LC_ALL": "C.UTF-8",
-            "LANGUAGES": "English",
-            "GNUSTEP_STRING_ENCODING": "NSUTF8StringEncoding",
-            # Otherwise each process looks into all of ImageMagick's hundred formats.
-            "MAGICK_CODER_MODULE_PATH": str(folder),
-        }
-
-
-class Application:
-    """A running process and the hand at its mouse."""
-
-    def __init__(self, program, home, is_permitted):
-        self.output = home.folder / "output"
-        self.errors = home.folder / "errors"
-        environment = home.environment | ({"KESTRUNE_PERMITTED": "yes"} if is_permitted else {})
-        with self.output.open("wb") as output, self.errors.open("wb") as errors:
-            self.process = subprocess.Popen([program], stdout=output, stderr=errors, env=environment)
-        self.environment = environment
-        self.button = Place.of(*self.wait_for_line("button", 1))
-
-    def told(self):
-        """What the process has told so far: by a line's first word, the other words of each such line."""
-        lines = collections.defaultdict(list)
-        for line in self.output.read_text(encoding="utf-8").split("\n")[:-1]:
-            kind, *words = line.split("\t")
-            lines[kind].append(words)
-        return lines
-
-    def wait_for_line(self, kind, count):
-        """The words of the line that makes it so many of the kind."""
-
-        def lines_so_far():
-            if self.process.poll() is not None:
-                status = self.process.returncode
-                raise AssertionError(f"the process ended with {status}: {self.errors.read_text()}")
-            lines = self.told()[kind]
-            return lines if len(lines) >= count else None
-
-        return wait_for(lines_so_far, f"line {count} that begins with {kind!r}")[count - 1]
-
-    def wait_until_shown(self, place):
-        """What is done with the mouse before goes to the screen behind the window."""
-
-        def is_shown():
-            return "IsViewable" in run("xwininfo", "-id", place.window, env=self.environment)
-
-        wait_for(is_shown, "a window on the screen")
-
-    def hand(self, *steps):
-        run("xdotool", *map(str, steps), env=self.environment)
-
-    def move_to(self, area):
-        self.hand("mousemove", *area.middle)
-
-    def click(self):
-        self.hand("mousedown", 1, "mouseup", 1)
-
-    def open_menu(self):
-        """Clicks the status item. Gives the rows of the menu that is open then."""
-        before = self.told()
-        self.wait_until_shown(self.button)
-        self.move_to(self.button.area)
-        self.hand("mousedown", 1)
-        self.wait_for_line("open", len(before["open"]) + 1)
-        self.hand("mouseup", 1)
-        rows = [Row(*words) for words in self.told()["row"][len(before["row"]) :]]
-        self.wait_until_shown(rows[0].place)
-        return rows
-
-    def click_row(self, row):
-        """In the open menu. What GNUstep chooses at the click is the row that it has highlighted before."""
-        count = len(self.told()["highlighted"])
-        self.move_to(row.place.area)
-        self.wait_for_line("highlighted", count + 1)
-        latest = self.told()["highlighted"][-1]
-        if latest != [row.title]:
-            raise AssertionError(f"the mouse is on {row.title!r}, and {latest} is highlighted")
-        self.click()
-
-    def click_beside_menu(self):
-        left, middle = self.button.area.at(-20, 0.5)
-        self.hand("mousemove", left, middle)
-        self.click()
-
-    def guarded_after(self, click, *arguments):
-        """The displays that are guarded when the click has closed the menu."""
-        count = len(self.told()["guarded"])
-        click(*arguments)
-        return self.wait_for_line("guarded", count + 1)[0].split()
-
-    def choose(self, text):
-        """Opens the menu and clicks the row with the text. Gives the displays that are guarded then."""
-        return self.guarded_after(self.click_row, row_with(text, self.open_menu()))
-
-    def look(self):
-        """Opens the menu and closes it again. Gives the texts of its rows."""
-        rows = self.open_menu()
-        self.guarded_after(self.click_beside_menu)
-        return list(map(str, rows))
-
-    def quit(self):
-        """From the menu. Gives the status with which the process ends."""
-        self.click_row(row_with("Quit", self.open_menu()))
-        return self.process.wait(PATIENCE)
-
-    def stop(self):
-        if self.process.poll() is None:
-            self.process.kill()
-        self.process.wait(PATIENCE)
 
 
 class ProcessTest(unittest.TestCase):
@@ -244,6 +61,12 @@ class ProcessTest(unittest.TestCase):
         application = self.start()
         self.assertEqual(application.look()[0], "Complete setup…")
         return application
+
+    def take_picture(self):
+        """Of the screen; in the place of the one before."""
+        picture = self.folder / "screen.png"
+        run("import", "-window", "root", str(picture), env=self.screen.environment)
+        return picture
 
     def saved(self, key):
         """The application's default as GNUstep's own tool reads it; None when there is none."""
@@ -328,17 +151,81 @@ class WithoutPermission(ProcessTest):
         self.assert_quits(application)
 
 
+class FirstRun(ProcessTest):
+    def keep(self, window, name):
+        folder = os.environ.get("KESTRUNE_WIZARD_PICTURES")
+        if folder:
+            area = window.place.area
+            picture = self.take_picture()
+            crop = f"{round(area.width)}x{round(area.height) + 24}+{round(area.left)}+{round(area.top) - 24}"
+            run("convert", str(picture), "-crop", crop, "+repage", str(pathlib.Path(folder) / f"{name}.png"))
+
+    def wait_until_drawn(self, window, control):
+        def is_drawn():
+            return has_drawing(self.take_picture(), window.controls[control].area)
+
+        wait_for(is_drawn, f"a picture of {control!r}")
+
+    def test_a_new_user_goes_through_the_wizard(self):
+        application = self.start(is_permitted=False)
+        application.guarded_after(application.click_row, row_with("Complete setup", application.open_menu()))
+
+        wizard = application.wait_for_control("Request permission")
+        self.assertEqual(wizard.title, "Welcome to Kestrune")
+        self.assertEqual(wizard.texts[0], "STEP 2 OF 2")
+        self.assertEqual(wizard.texts[-1], "Waiting for permission…")
+        self.assertEqual(list(wizard.controls), ["Request permission"])
+        self.wait_until_drawn(wizard, "Request permission")
+        self.keep(wizard, "1-before-the-request")
+
+        application.press(wizard, "Request permission")
+        self.keep(wizard, "2-pressed")
+        application.hand("mouseup", 1)
+        wizard = application.wait_for_control("Open System Settings")
+        self.assertEqual(list(wizard.controls), ["Open System Settings", "Request permission"])
+        self.wait_until_drawn(wizard, "Open System Settings")
+        self.keep(wizard, "3-after-the-request")
+
+        application.process.send_signal(signal.SIGUSR1)
+        wizard = application.wait_for_control("Finish")
+        self.assertEqual(wizard.texts[-1], "Permission granted")
+        self.assertEqual(list(wizard.controls), ["Finish"])
+        self.wait_until_drawn(wizard, "Finish")
+        self.keep(wizard, "4-granted")
+
+        application.hand("key", "Return")
+        wait_for(lambda: not application.windows(), "the end of the wizard")
+        application.open_menu()
+        self.assertEqual(application.guarded_after(application.click_beside_menu), ["Right"])
+        self.assertEqual(self.saved("hasCompletedOnboarding"), "1")
+        self.assert_quits(application)
+
+
+    def test_a_user_with_the_permission_begins_with_the_introduction(self):
+        application = self.start()
+        application.guarded_after(application.click_row, row_with("Complete setup", application.open_menu()))
+        wizard = application.wait_for_control("Get started")
+        self.assertEqual(wizard.texts[0], "Welcome to Kestrune")
+        self.wait_until_drawn(wizard, "Get started")
+        self.keep(wizard, "0-introduction")
+
+        application.hand("key", "Return")
+        wizard = application.wait_for_control("Finish")
+        application.press(wizard, "Finish")
+        application.hand("mouseup", 1)
+        wait_for(lambda: not application.windows(), "the end of the wizard")
+        self.assert_quits(application)
+
+
 class Drawing(ProcessTest):
     def photograph_menu(self, application, rows):
         """The screen, once there is something in every row."""
-        picture = self.folder / "screen.png"
 
-        def is_drawn():
-            run("import", "-window", "root", str(picture), env=self.screen.environment)
-            return all(has_drawing(picture, row.title_area) for row in rows)
+        def picture_of_titles():
+            picture = self.take_picture()
+            return picture if all(has_drawing(picture, row.title_area) for row in rows) else None
 
-        wait_for(is_drawn, "the titles of the menu")
-        return picture
+        return wait_for(picture_of_titles, "the titles of the menu")
 
     def keep(self, picture, rows):
         name = os.environ.get("KESTRUNE_MENU_PICTURE")

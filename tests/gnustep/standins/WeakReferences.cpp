@@ -66,6 +66,7 @@ void installWeakReferences() {
     WeakProperty<0>::install("NSMenuItem", "setTarget:");
     WeakProperty<1>::install("NSMenu", "setDelegate:");
     WeakProperty<2>::install("NSApplication", "setDelegate:");
+    WeakProperty<3>::install("NSWindow", "setDelegate:");
 }
 
 } // namespace kestrune::gnustep

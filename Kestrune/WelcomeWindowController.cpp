@@ -1,0 +1,152 @@
+#include "Kestrune/WelcomeWindowController.h"
+
+#include "Kestrune/AccessibilityList.h"
+#include "Kestrune/AccessibilityPane.h"
+#include "Kestrune/Localized.h"
+#include "Kestrune/RunningApplication.h"
+#include "Kestrune/WelcomeView.h"
+#include "platform/AccessibilityTrust.h"
+#include "platform/Hosting.h"
+
+#include <utility>
+
+namespace kestrune {
+
+namespace {
+
+using Step = WelcomeViewModel::Step;
+
+constexpr double PollingInterval = 1.0; // seconds
+constexpr double ContentWidth = 460;    // points
+constexpr double InitialHeight = 200;   // until the view has said how high it is
+
+Window makeWindow() {
+    Window window(Rect(0, 0, ContentWidth, InitialHeight),
+                  WindowStyleMask::titled | WindowStyleMask::closable, BackingStoreType::buffered, false);
+    window.setTitle(localized("Welcome to Kestrune"));
+    window.setReleasedWhenClosed(false);
+    window.setLevel(WindowLevel::floating);
+    window.setHidesOnDeactivate(false);
+    window.setCollectionBehavior(WindowCollectionBehavior::canJoinAllSpaces |
+                                 WindowCollectionBehavior::fullScreenAuxiliary);
+    window.center();
+    return window;
+}
+
+} // namespace
+
+std::shared_ptr<WelcomeWindowController>
+WelcomeWindowController::make(std::shared_ptr<Preferences> preferences, std::function<void()> onFinished) {
+    auto controller = std::make_shared<WelcomeWindowController>(Construction(), std::move(preferences),
+                                                                std::move(onFinished));
+    controller->installActions();
+    controller->hostView();
+    controller->startAccessibilityWatcher();
+    return controller;
+}
+
+WelcomeWindowController::WelcomeWindowController(Construction, std::shared_ptr<Preferences> preferences,
+                                                 std::function<void()> onFinished)
+    : model_(std::make_shared<WelcomeViewModel>(Step::intro, isProcessTrusted())),
+      preferences_(std::move(preferences)),
+      onFinished_(std::move(onFinished)) {
+    initWithWindow(makeWindow());
+}
+
+WelcomeWindowController::~WelcomeWindowController() { endAccessibilityWatcher(); }
+
+void WelcomeWindowController::installActions() {
+    const auto whileAlive = [this](void (WelcomeWindowController::*operation)()) -> std::function<void()> {
+        return [weakThis = weak_from_this(), operation] {
+            if (const auto self = weakThis.lock()) {
+                (self.get()->*operation)();
+            }
+        };
+    };
+    model_->advanceFromIntro = whileAlive(&WelcomeWindowController::advanceFromIntro);
+    model_->requestPermissions = whileAlive(&WelcomeWindowController::requestPermissions);
+    model_->openAccessibilitySettings = whileAlive(&WelcomeWindowController::openAccessibilitySettings);
+    model_->finish = whileAlive(&WelcomeWindowController::finish);
+}
+
+void WelcomeWindowController::hostView() {
+    HostingController hosting({[view = WelcomeView{model_, ContentWidth}] { return view.body(); }, model_});
+    hosting.setSizingOptions(HostingSizingOptions::preferredContentSize);
+    window().setContentViewController(hosting);
+    window().setDelegate(weak_from_this());
+}
+
+void WelcomeWindowController::startAccessibilityWatcher() {
+    endAccessibilityWatcher();
+    accessibilityWatcher_ =
+        Timer::scheduledTimer(PollingInterval, true, [weakThis = weak_from_this()](Timer&) {
+            if (const auto self = weakThis.lock()) {
+                self->checkAccessibility();
+            }
+        });
+}
+
+void WelcomeWindowController::endAccessibilityWatcher() {
+    if (accessibilityWatcher_) {
+        accessibilityWatcher_->invalidate();
+    }
+    accessibilityWatcher_.reset();
+}
+
+// Writes only what is new, so that the view is not laid out again every second.
+void WelcomeWindowController::checkAccessibility() {
+    const bool isTrusted = isProcessTrusted();
+    if (isTrusted != model_->isAccessibilityTrusted) {
+        model_->isAccessibilityTrusted = isTrusted;
+    }
+}
+
+void WelcomeWindowController::advanceFromIntro() {
+    model_->currentStep = Step::accessibility;
+    applyWindowLevel();
+}
+
+// The system answers through a dialog of its own, some time later: the timer sees what came of it.
+void WelcomeWindowController::requestPermissions() {
+    model_->hasRequestedPermission = true;
+    isProcessTrustedWithOptions({.prompt = true});
+}
+
+void WelcomeWindowController::openAccessibilitySettings() { openAccessibilityPane(); }
+
+void WelcomeWindowController::applyWindowLevel() {
+    window().setLevel(model_->currentStep < Step::accessibility ? WindowLevel::floating
+                                                                : WindowLevel::normal);
+}
+
+void WelcomeWindowController::show() {
+    model_->isAccessibilityTrusted = isProcessTrusted();
+    if (model_->currentStep == Step::intro && !model_->isAccessibilityTrusted) {
+        model_->currentStep = Step::accessibility;
+    }
+    if (!isProcessTrusted()) {
+        registerForAccessibilityList();
+    }
+    applyWindowLevel();
+    runningApplication().setActivationPolicy(ActivationPolicy::regular);
+    window().makeKeyAndOrderFront();
+    runningApplication().activateIgnoringOtherApps(true);
+}
+
+void WelcomeWindowController::finish() {
+    preferences_->defaults().setBool(true, Preferences::HasCompletedOnboardingKey);
+    endAccessibilityWatcher();
+    window().orderOut();
+    runningApplication().setActivationPolicy(ActivationPolicy::accessory);
+    onFinished_();
+}
+
+void WelcomeWindowController::windowDidBecomeKey() noexcept {
+    model_->isAccessibilityTrusted = isProcessTrusted();
+}
+
+void WelcomeWindowController::windowWillClose() noexcept {
+    runningApplication().setActivationPolicy(ActivationPolicy::accessory);
+}
+
+} // namespace kestrune

@@ -1,0 +1,63 @@
+#include "desk/paint/WindowPainter.h"
+
+#include "desk/paint/ControlPainter.h"
+#include "desk/paint/ScenePainter.h"
+#include "desk/paint/Shapes.h"
+
+#include <algorithm>
+
+namespace kestrune::desk {
+namespace {
+
+void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
+    constexpr double ButtonsWidth = 72; // with the room after them
+    const SceneColors& colors = canvas.palette.scene;
+    const Rect& bar = layout.titleBar;
+    if (shown.isKey) {
+        cairo_rectangle(canvas.context, bar.minX(), bar.minY(), bar.width(), bar.height());
+        setColor(canvas.context, colors.titleBar);
+        cairo_fill(canvas.context);
+    }
+    fillRoundedRectangle(canvas.context, {bar.minX(), bar.maxY() - 0.5, bar.width(), 0.5}, 0,
+                         colors.separator);
+    paintWindowButtons(canvas, layout.closeButton,
+                       {.isClosable = shown.isClosable,
+                        .isMiniaturizable = shown.isMiniaturizable,
+                        .isZoomable = shown.isResizable,
+                        .isActive = shown.isKey,
+                        .isClosePressed = shown.isCloseButtonPressed});
+    canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, bar.minY() + bar.height() / 2},
+                      {.size = 13,
+                       .weight = FontWeight::bold,
+                       .color = shown.isKey ? colors.title : colors.inactiveTitle,
+                       .alignment = TextAlignment::center,
+                       .maximumWidth = std::max(0.0, bar.width() - 2 * ButtonsWidth)});
+}
+
+} // namespace
+
+PanelStyle applicationWindowStyle(const Palette& palette, bool isKey) {
+    PanelStyle style = windowPanelStyle(palette);
+    style.color = palette.scene.window;
+    if (!isKey) {
+        style.shadowBlur = 24;
+        style.shadowDrop = 8;
+    }
+    return style;
+}
+
+void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
+    const SavedState saved{canvas.context};
+    addRoundedRectangle(canvas.context, layout.frame,
+                        applicationWindowStyle(canvas.palette, shown.isKey).cornerRadius);
+    cairo_clip(canvas.context);
+    if (shown.isTitled) {
+        paintTitleBar(canvas, layout, shown);
+    }
+    paintScene(canvas, shown.scene, layout.content.origin,
+               {.pressedElement = shown.pressedElement,
+                .focusedElement = shown.focusedElement,
+                .isInKeyWindow = shown.isKey});
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,17 @@
+// The windows of applications.
+#pragma once
+
+#include "desk/paint/Canvas.h"
+#include "desk/paint/PanelPainter.h"
+#include "desk/paint/SystemPicture.h"
+#include "desk/paint/WindowLayout.h"
+
+namespace kestrune::desk {
+
+// The key window throws a deeper shadow.
+PanelStyle applicationWindowStyle(const Palette& palette, bool isKey);
+
+// Title bar and scene; the panel is not painted with them.
+void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown);
+
+} // namespace kestrune::desk

@@ -1,0 +1,136 @@
+#include "mac/ObjectClass.h"
+
+#include "base/Fatal.h"
+#include "mac/Handles.h"
+#include "mac/ObjectCounterpart.h"
+#include "mac/Vocabulary.h"
+#include "mac/objc/Lifetime.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/RuntimeClass.h"
+#include "platform/Application.h"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace kestrune::mac {
+
+namespace {
+
+// Held until the method returns, whatever it lets go of; null when the object is gone.
+std::shared_ptr<Object> objectOf(id instance) {
+    const auto* const counterpart = static_cast<Object::Counterpart*>(RuntimeClass::target(instance));
+    return counterpart != nullptr ? counterpart->object.lock() : nullptr;
+}
+
+void performAction(id instance, SEL selector, id sender) noexcept {
+    const Pool pool;
+    const std::shared_ptr<Object> object = objectOf(instance);
+    if (!object) {
+        return;
+    }
+    const auto methods = object->actionMethods();
+    const std::string_view name = sel_getName(selector);
+    const auto method = std::find_if(methods.begin(), methods.end(), [name](const ActionMethod& candidate) {
+        return candidate.selector.name() == name;
+    });
+    if (method != methods.end()) {
+        method->perform(*object, MenuItem(std::make_shared<MenuItem::State>(
+                                     MenuItem::State{Retained::retaining(sender)})));
+    }
+}
+
+// The sender is in no register that the method may look at.
+void performActionWithoutSender(id instance, SEL selector) noexcept {
+    performAction(instance, selector, nullptr);
+}
+
+void menuWillOpen(id instance, SEL, id menu) noexcept {
+    const Pool pool;
+    if (const auto delegate = std::dynamic_pointer_cast<MenuDelegate>(objectOf(instance))) {
+        delegate->menuWillOpen(Menu(std::make_shared<Menu::State>(Menu::State{Retained::retaining(menu)})));
+    }
+}
+
+// A method of a delegate that takes a notification and does not look at it.
+template <typename Delegate, void (Delegate::*method)()>
+void hearOf(id instance, SEL, id /*notification*/) noexcept {
+    const Pool pool;
+    if (const auto delegate = std::dynamic_pointer_cast<Delegate>(objectOf(instance))) {
+        (delegate.get()->*method)();
+    }
+}
+
+// The delegate may let go of the window, which is still closing.
+void windowWillClose(id instance, SEL selector, id notification) noexcept {
+    const Pool pool;
+    keepForThisTurn(ns_notification::object(notification));
+    hearOf<WindowDelegate, &WindowDelegate::windowWillClose>(instance, selector, notification);
+}
+
+// Where each class of window controllers is defined.
+std::unordered_map<Class, std::string_view>& sourcePaths() {
+    static auto& paths = *new std::unordered_map<Class, std::string_view>;
+    return paths;
+}
+
+id refuseConstruction(id instance, SEL, id /*archiveOrWindow*/) noexcept {
+    fatal("init(coder:) is not supported", sourcePaths().at(object_getClass(instance)));
+}
+
+void addActions(RuntimeClass& made, const Object& object) {
+    for (const ActionMethod& method : object.actionMethods()) {
+        const std::string selector(method.selector.name());
+        if (selector.ends_with(':')) {
+            made.addMethod(selector.c_str(), performAction);
+        } else {
+            made.addMethod(selector.c_str(), performActionWithoutSender);
+        }
+    }
+}
+
+void addDelegateMethods(RuntimeClass& made, const Object& object) {
+    if (dynamic_cast<const MenuDelegate*>(&object) != nullptr) {
+        made.addMethod("menuWillOpen:", menuWillOpen);
+    }
+    if (dynamic_cast<const ApplicationDelegate*>(&object) != nullptr) {
+        made.addMethod("applicationDidFinishLaunching:",
+                       hearOf<ApplicationDelegate, &ApplicationDelegate::applicationDidFinishLaunching>);
+        made.addMethod("applicationWillTerminate:",
+                       hearOf<ApplicationDelegate, &ApplicationDelegate::applicationWillTerminate>);
+    }
+    if (dynamic_cast<const WindowDelegate*>(&object) != nullptr) {
+        made.addMethod("windowDidBecomeKey:", hearOf<WindowDelegate, &WindowDelegate::windowDidBecomeKey>);
+        made.addMethod("windowWillClose:", windowWillClose);
+    }
+}
+
+Class makeClass(const std::string& name, const Object& object) {
+    const auto* const controller = dynamic_cast<const WindowController*>(&object);
+    RuntimeClass made(name.c_str(),
+                      controller != nullptr ? ns_window_controller::type.find() : ns_object::type.find());
+    addActions(made, object);
+    addDelegateMethods(made, object);
+    if (controller == nullptr) {
+        return made.finish();
+    }
+    made.addMethod("initWithCoder:", refuseConstruction);
+    made.addMethod("initWithWindow:", refuseConstruction);
+    const Class finished = made.finish();
+    sourcePaths().emplace(finished, controller->sourcePath());
+    return finished;
+}
+
+} // namespace
+
+// Of its own list, because a framework may have a class of the same name.
+Class classOf(const Object& object) {
+    static std::unordered_map<std::string, Class> made;
+    const std::string name(object.className());
+    const auto known = made.find(name);
+    return known != made.end() ? known->second : made.emplace(name, makeClass(name, object)).first->second;
+}
+
+} // namespace kestrune::mac

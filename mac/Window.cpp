@@ -1,0 +1,68 @@
+#include "platform/Window.h"
+
+#include "mac/Handles.h"
+#include "mac/ObjectCounterpart.h"
+#include "mac/Vocabulary.h"
+#include "mac/hosting/HostingState.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
+
+namespace kestrune {
+
+Window::Window(const Rect& contentRect, WindowStyleMask styleMask, BackingStoreType backing, bool defer) {
+    const mac::Pool pool;
+    const id window = mac::ns_window::initWithContentRect(
+        mac::ns_object::alloc(mac::ns_window::type.object()), contentRect,
+        static_cast<mac::Unsigned>(styleMask), static_cast<mac::Unsigned>(backing), mac::truth(defer));
+    state_ = std::make_shared<State>(State{mac::Retained::adopting(window)});
+}
+
+void Window::setTitle(std::string_view title) {
+    const mac::Pool pool;
+    mac::ns_window::setTitle(state_->window.get(), mac::nsString(title).get());
+}
+
+void Window::setReleasedWhenClosed(bool released) {
+    mac::ns_window::setReleasedWhenClosed(state_->window.get(), mac::truth(released));
+}
+
+void Window::setLevel(WindowLevel level) {
+    const mac::Pool pool;
+    mac::ns_window::setLevel(state_->window.get(), static_cast<mac::Integer>(level));
+}
+
+void Window::setHidesOnDeactivate(bool hides) {
+    mac::ns_window::setHidesOnDeactivate(state_->window.get(), mac::truth(hides));
+}
+
+void Window::setCollectionBehavior(WindowCollectionBehavior behavior) {
+    mac::ns_window::setCollectionBehavior(state_->window.get(), static_cast<mac::Unsigned>(behavior));
+}
+
+void Window::center() {
+    const mac::Pool pool;
+    mac::ns_window::center(state_->window.get());
+}
+
+void Window::setContentViewController(const HostingController& controller) {
+    const mac::Pool pool;
+    mac::ns_window::setContentViewController(state_->window.get(), controller.state()->controller.get());
+    controller.state()->hostedView().enterWindow();
+}
+
+void Window::setDelegate(const std::weak_ptr<WindowDelegate>& delegate) {
+    const mac::Pool pool;
+    mac::ns_window::setDelegate(state_->window.get(), Object::Counterpart::of(delegate));
+}
+
+void Window::makeKeyAndOrderFront() {
+    const mac::Pool pool;
+    mac::ns_window::makeKeyAndOrderFront(state_->window.get(), nullptr);
+}
+
+void Window::orderOut() {
+    const mac::Pool pool;
+    mac::ns_window::orderOut(state_->window.get(), nullptr);
+}
+
+} // namespace kestrune

@@ -1,0 +1,61 @@
+#include "mac/hosting/AttributedText.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/c/TextAttributes.h"
+#include "mac/hosting/Colors.h"
+#include "mac/hosting/Fonts.h"
+#include "mac/objc/Text.h"
+
+namespace kestrune::mac {
+
+namespace {
+
+// NSTextAlignment, which is not the same on both processors.
+#if defined(__APPLE__) && defined(__aarch64__)
+constexpr Integer Center = 1;
+constexpr Integer Right = 2;
+#else
+constexpr Integer Center = 2;
+constexpr Integer Right = 1;
+#endif
+constexpr Integer Left = 0;
+
+Integer platformAlignment(ui::TextAlignment alignment) {
+    switch (alignment) {
+    case ui::TextAlignment::center:
+        return Center;
+    case ui::TextAlignment::trailing:
+        return Right;
+    case ui::TextAlignment::leading:
+        break;
+    }
+    return Left;
+}
+
+Retained newObject(const ClassReference& type) {
+    return Retained::adopting(ns_object::init(ns_object::alloc(type.object())));
+}
+
+} // namespace
+
+Retained attributedText(const ui::StyledText& text) {
+    const Retained style = newObject(ns_mutable_paragraph_style::type);
+    ns_mutable_paragraph_style::setAlignment(style.get(), platformAlignment(text.alignment));
+    Retained result = newObject(ns_mutable_attributed_string::type);
+    for (const ui::TextRun& run : text.runs) {
+        const Retained attributes = newObject(ns_mutable_dictionary::type);
+        const auto set = [&attributes](id key, id value) {
+            ns_mutable_dictionary::setObject(attributes.get(), value, key);
+        };
+        set(NSFontAttributeName, platformFont(text.font, run.weight));
+        set(NSForegroundColorAttributeName, platformColor(text.color));
+        set(NSParagraphStyleAttributeName, style.get());
+        const Retained part = Retained::adopting(
+            ns_attributed_string::initWithString(ns_object::alloc(ns_attributed_string::type.object()),
+                                                 nsString(run.text).get(), attributes.get()));
+        ns_mutable_attributed_string::appendAttributedString(result.get(), part.get());
+    }
+    return result;
+}
+
+} // namespace kestrune::mac

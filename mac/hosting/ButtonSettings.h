@@ -1,0 +1,30 @@
+// What buttons and switches have in common.
+#pragma once
+
+#include "mac/objc/Runtime.h"
+#include "ui/Style.h"
+
+#include <cstddef>
+#include <string_view>
+
+namespace kestrune::mac {
+
+// As NSControlSize.
+Unsigned platformSize(ui::ControlSize size);
+
+// The button's font goes with it.
+void setButtonSize(id button, ui::ControlSize size);
+
+// The key that presses the button, also when another control has the focus.
+void setShortcut(id button, ui::KeyboardShortcut shortcut);
+
+void setTitle(id button, std::string_view title);
+
+// What is read out.
+void setAccessibilityLabel(id control, std::string_view label);
+
+// Which of the scene's actions the control stands for.
+void setAction(id control, std::size_t action);
+std::size_t actionOf(id control);
+
+} // namespace kestrune::mac

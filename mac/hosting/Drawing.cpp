@@ -1,0 +1,51 @@
+#include "mac/hosting/Drawing.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/hosting/AttributedText.h"
+#include "mac/hosting/Colors.h"
+#include "mac/hosting/Symbols.h"
+
+namespace kestrune::mac {
+
+namespace {
+
+Rect movedBy(const Rect& frame, Point origin) {
+    return {frame.origin.x - origin.x, frame.origin.y - origin.y, frame.size.width, frame.size.height};
+}
+
+struct Painter {
+    Point origin;
+
+    void operator()(const ui::TextElement& element) const {
+        ns_attributed_string::drawWithRect(attributedText(element.text).get(), movedBy(element.frame, origin),
+                                           TextLayoutOptions);
+    }
+
+    void operator()(const ui::SymbolElement& element) const {
+        drawSymbol(element.symbol, movedBy(element.frame, origin));
+    }
+
+    void operator()(const ui::ShapeElement& element) const {
+        ns_color::set(colorWithOpacity(element.fill, element.opacity));
+        fillMask(element, origin);
+    }
+};
+
+} // namespace
+
+void draw(const std::vector<ui::Drawing>& drawings, Point origin) {
+    for (const ui::Drawing& drawing : drawings) {
+        std::visit(Painter{origin}, drawing);
+    }
+}
+
+// A path has no continuous corners. At the radii of controls they are the circular ones within a fraction of
+// a pixel.
+void fillMask(const ui::ShapeElement& shape, Point origin) {
+    ns_bezier_path::fill(ns_bezier_path::bezierPathWithRoundedRect(
+        ns_bezier_path::type.object(), movedBy(shape.frame, origin), shape.cornerRadius, shape.cornerRadius));
+}
+
+BOOL alwaysFlipped(id, SEL) noexcept { return truth(true); }
+
+} // namespace kestrune::mac

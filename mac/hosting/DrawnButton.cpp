@@ -1,0 +1,120 @@
+// Buttons whose look comes with the scene: custom ones and links. The platform tracks the mouse and the keys,
+// highlights the cell while the button is pressed, and draws the ring around the one that has the focus.
+#include "mac/Vocabulary.h"
+#include "mac/hosting/ButtonSettings.h"
+#include "mac/hosting/Drawing.h"
+#include "mac/hosting/ElementViews.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/RuntimeClass.h"
+
+#include <algorithm>
+
+namespace kestrune::mac {
+
+namespace {
+
+constexpr Unsigned MomentaryPushIn = 7; // NSButtonTypeMomentaryPushIn
+
+class DrawnButton : public ViewOf<ui::ButtonElement> {
+public:
+    explicit DrawnButton(id target)
+        : ViewOf(Retained::adopting(
+              ns_view::initWithFrame(ns_object::alloc(reinterpret_cast<id>(buttonClass())), Rect()))) {
+        const Retained cell =
+            Retained::adopting(ns_object::init(ns_object::alloc(reinterpret_cast<id>(cellClass()))));
+        ns_control::setCell(view(), cell.get());
+        ns_button::setButtonType(view(), MomentaryPushIn);
+        ns_button::setBordered(view(), truth(false));
+        ns_control::setTarget(view(), target);
+        ns_control::setAction(view(), sel_registerName("pressButton:"));
+        RuntimeClass::setTarget(view(), this);
+    }
+    ~DrawnButton() override { RuntimeClass::setTarget(view(), nullptr); }
+
+    bool isControl() const override { return true; }
+
+private:
+    bool isSame(const ui::ButtonElement& before, const ui::ButtonElement& next) const override {
+        return before.kind == next.kind && before.title == next.title;
+    }
+
+    void update(const ui::ButtonElement& next) override {
+        if (differs(next, &ui::ButtonElement::title)) {
+            setTitle(view(), next.title);
+            setAccessibilityLabel(view(), next.title);
+        }
+        if (differs(next, &ui::ButtonElement::shortcut)) {
+            setShortcut(view(), next.shortcut);
+        }
+        if (differs(next, &ui::ButtonElement::frame)) {
+            ns_view::setFrame(view(), next.frame);
+        }
+        if (differs(next, &ui::ButtonElement::body) || differs(next, &ui::ButtonElement::pressedBody)) {
+            ns_view::setNeedsDisplay(view(), truth(true));
+        }
+        mac::setAction(view(), next.action);
+    }
+
+    // Null when the view has outlived it.
+    static const DrawnButton* of(id view) {
+        const auto* const self = static_cast<DrawnButton*>(RuntimeClass::target(view));
+        return self != nullptr && self->shown() ? self : nullptr;
+    }
+
+    static void drawCell(id cell, SEL, Rect /*frame*/, id view) noexcept {
+        const Pool pool;
+        if (const DrawnButton* const self = of(view)) {
+            const bool isPressed = ns_cell::isHighlighted(cell) != 0;
+            draw(isPressed ? self->shown()->pressedBody : self->shown()->body, self->shown()->frame.origin);
+        }
+    }
+
+    static Rect focusRingMaskBounds(id view, SEL) noexcept { return ns_view::bounds(view); }
+
+    // Around the shape behind the label, or around all of it.
+    static void drawFocusRingMask(id view, SEL) noexcept {
+        const Pool pool;
+        const DrawnButton* const self = of(view);
+        if (self == nullptr) {
+            return;
+        }
+        const auto& body = self->shown()->body;
+        const auto shape = std::find_if(body.begin(), body.end(), [](const ui::Drawing& drawing) {
+            return std::holds_alternative<ui::ShapeElement>(drawing);
+        });
+        ui::ShapeElement whole;
+        whole.frame = self->shown()->frame;
+        fillMask(shape != body.end() ? std::get<ui::ShapeElement>(*shape) : whole,
+                 self->shown()->frame.origin);
+    }
+
+    // NSButton would let a layer show the picture of a cell of its own.
+    static BOOL wantsUpdateLayer(id, SEL) noexcept { return truth(false); }
+
+    static Class buttonClass() {
+        static const Class made = [] {
+            RuntimeClass type("KestruneDrawnButton", ns_button::type.find());
+            type.addMethod("isFlipped", alwaysFlipped);
+            type.addMethod("wantsUpdateLayer", wantsUpdateLayer);
+            type.addMethod("focusRingMaskBounds", focusRingMaskBounds);
+            type.addMethod("drawFocusRingMask", drawFocusRingMask);
+            return type.finish();
+        }();
+        return made;
+    }
+
+    static Class cellClass() {
+        static const Class made = [] {
+            RuntimeClass type("KestruneDrawnButtonCell", ns_button_cell::type.find());
+            type.addMethod("drawWithFrame:inView:", drawCell);
+            return type.finish();
+        }();
+        return made;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ElementView> makeDrawnButton(id target) { return std::make_unique<DrawnButton>(target); }
+
+} // namespace kestrune::mac

@@ -1,0 +1,45 @@
+#include "mac/hosting/PlatformMeasurer.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/hosting/AttributedText.h"
+#include "mac/hosting/ButtonSettings.h"
+#include "mac/hosting/Symbols.h"
+#include "mac/hosting/SystemControls.h"
+#include "mac/objc/Pool.h"
+
+namespace kestrune::mac {
+
+namespace {
+
+constexpr double Unbounded = 1e6; // points; more than any text has
+
+} // namespace
+
+Size PlatformMeasurer::measureText(const ui::StyledText& text, std::optional<double> width) const {
+    const Pool pool;
+    return ns_attributed_string::boundingRectWithSize(
+               attributedText(text).get(), {width.value_or(Unbounded), Unbounded}, TextLayoutOptions)
+        .size;
+}
+
+Size PlatformMeasurer::measureSymbol(const ui::StyledSymbol& symbol) const {
+    const Pool pool;
+    return ns_image::size(symbolImage(symbol).get());
+}
+
+Size PlatformMeasurer::measurePushButton(std::string_view title, ui::ControlSize size) const {
+    const Pool pool;
+    const Retained button = newPushButton();
+    setTitle(button.get(), title);
+    setButtonSize(button.get(), size);
+    return ns_view::intrinsicContentSize(button.get());
+}
+
+Size PlatformMeasurer::measureSwitch(ui::ControlSize size) const {
+    const Pool pool;
+    const Retained control = newSwitch();
+    ns_control::setControlSize(control.get(), platformSize(size));
+    return ns_view::intrinsicContentSize(control.get());
+}
+
+} // namespace kestrune::mac

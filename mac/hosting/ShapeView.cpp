@@ -1,0 +1,53 @@
+// Filled shapes, as views that draw themselves.
+#include "mac/Vocabulary.h"
+#include "mac/hosting/Drawing.h"
+#include "mac/hosting/ElementViews.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/RuntimeClass.h"
+
+namespace kestrune::mac {
+
+namespace {
+
+class ShapeView : public ViewOf<ui::ShapeElement> {
+public:
+    ShapeView()
+        : ViewOf(Retained::adopting(
+              ns_view::initWithFrame(ns_object::alloc(reinterpret_cast<id>(shapeViewClass())), Rect()))) {
+        RuntimeClass::setTarget(view(), this);
+    }
+    ~ShapeView() override { RuntimeClass::setTarget(view(), nullptr); }
+
+private:
+    void update(const ui::ShapeElement& next) override {
+        if (shown() == next) {
+            return;
+        }
+        ns_view::setFrame(view(), next.frame);
+        ns_view::setNeedsDisplay(view(), truth(true));
+    }
+
+    static void drawRect(id instance, SEL, Rect /*dirty*/) noexcept {
+        const Pool pool;
+        const auto* const self = static_cast<ShapeView*>(RuntimeClass::target(instance));
+        if (self != nullptr && self->shown()) {
+            draw({*self->shown()}, self->shown()->frame.origin);
+        }
+    }
+
+    static Class shapeViewClass() {
+        static const Class made = [] {
+            RuntimeClass type("KestruneShapeView", ns_view::type.find());
+            type.addMethod("isFlipped", alwaysFlipped);
+            type.addMethod("drawRect:", drawRect);
+            return type.finish();
+        }();
+        return made;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ElementView> makeShapeView() { return std::make_unique<ShapeView>(); }
+
+} // namespace kestrune::mac

@@ -1,0 +1,48 @@
+// Toggles, as the platform's switches.
+#include "mac/Vocabulary.h"
+#include "mac/hosting/ButtonSettings.h"
+#include "mac/hosting/ElementViews.h"
+#include "mac/hosting/SystemControls.h"
+
+namespace kestrune::mac {
+
+namespace {
+
+class SwitchView : public ViewOf<ui::ToggleElement> {
+public:
+    explicit SwitchView(id target) : ViewOf(newSwitch()) {
+        ns_control::setTarget(view(), target);
+        ns_control::setAction(view(), sel_registerName("flipSwitch:"));
+        ns_control::setEnabled(view(), truth(true));
+    }
+
+    bool isControl() const override { return true; }
+
+private:
+    bool isSame(const ui::ToggleElement& before, const ui::ToggleElement& next) const override {
+        return before.title == next.title;
+    }
+
+    void update(const ui::ToggleElement& next) override {
+        if (differs(next, &ui::ToggleElement::title)) {
+            setAccessibilityLabel(view(), next.title);
+        }
+        if (differs(next, &ui::ToggleElement::size)) {
+            ns_control::setControlSize(view(), platformSize(next.size));
+        }
+        if (differs(next, &ui::ToggleElement::frame)) {
+            ns_view::setFrame(view(), ns_view::frameForAlignmentRect(view(), next.frame));
+        }
+        // The user has flipped it perhaps, and the model did not follow.
+        if ((ns_switch::state(view()) != 0) != next.isOn) {
+            ns_switch::setState(view(), next.isOn ? 1 : 0);
+        }
+        mac::setAction(view(), next.action);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ElementView> makeSwitchView(id target) { return std::make_unique<SwitchView>(target); }
+
+} // namespace kestrune::mac

@@ -1,0 +1,38 @@
+// Symbols, as image views. They accompany a text that says the same, so VoiceOver passes them over.
+#include "mac/Vocabulary.h"
+#include "mac/hosting/Colors.h"
+#include "mac/hosting/ElementViews.h"
+#include "mac/hosting/Symbols.h"
+
+namespace kestrune::mac {
+
+namespace {
+
+constexpr Unsigned ScaleNone = 2; // NSImageScaleNone: the symbol has its size already
+
+class SymbolView : public ViewOf<ui::SymbolElement> {
+public:
+    SymbolView()
+        : ViewOf(Retained::adopting(
+              ns_view::initWithFrame(ns_object::alloc(ns_image_view::type.object()), Rect()))) {
+        ns_image_view::setImageScaling(view(), ScaleNone);
+        ns_view::setAccessibilityElement(view(), truth(false));
+    }
+
+private:
+    void update(const ui::SymbolElement& next) override {
+        if (differs(next, &ui::SymbolElement::frame)) {
+            ns_view::setFrame(view(), next.frame);
+        }
+        if (differs(next, &ui::SymbolElement::symbol)) {
+            ns_image_view::setImage(view(), symbolImage(next.symbol).get());
+            ns_image_view::setContentTintColor(view(), platformColor(next.symbol.color));
+        }
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ElementView> makeSymbolView() { return std::make_unique<SymbolView>(); }
+
+} // namespace kestrune::mac

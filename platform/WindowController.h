@@ -1,0 +1,35 @@
+// Controllers of windows.
+//
+// Source: AppKit, NSWindowController.h.
+#pragma once
+
+#include "platform/Object.h"
+#include "platform/Window.h"
+
+#include <optional>
+#include <string_view>
+
+namespace kestrune {
+
+// NSWindowController, as the superclass of the application's own. It retains its window. A subclass can only
+// be made by its own constructor: when the platform makes one from an archive (`initWithCoder:`) or from a
+// bare window (`initWithWindow:`), the process stops with the message
+// "<sourcePath>: Fatal error: init(coder:) is not supported".
+class WindowController : public virtual Object {
+public:
+    // Where the subclass is defined, such as "Kestrune/AWindowController"; static storage.
+    virtual std::string_view sourcePath() const = 0;
+
+protected:
+    // -[NSWindowController initWithWindow:], in place of `Object::init`. Once, in the constructor of the most
+    // derived class, before anything but its fields is set.
+    void initWithWindow(const Window& window);
+
+    // window. Only after `initWithWindow`.
+    Window& window() { return *window_; }
+
+private:
+    std::optional<Window> window_;
+};
+
+} // namespace kestrune

@@ -1,0 +1,85 @@
+// The application's windows on the screen, and the user who works with them.
+//
+// Source: docs/MAC_FACTS.md, "Windows".
+#pragma once
+
+#include "platform/Window.h"
+#include "ui/Scene.h"
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrune::sim {
+
+class Session;
+
+class Windows {
+public:
+    using WindowState = std::shared_ptr<Window::State>;
+
+    // `session` must outlive this.
+    explicit Windows(Session& session) : session_(session) {}
+
+    // The windows that are to be seen, the frontmost first: by level, and within a level the one first that
+    // was ordered front last.
+    std::vector<WindowState> shown() const;
+
+    // Which receives the keys; null while the application is not active or shows no window.
+    WindowState keyWindow() const;
+
+    // What the hosted view of a window shows; nothing when it hosts none.
+    static const ui::Scene& sceneOf(const Window::State& window);
+
+    // In the middle of the main display: halfway across its room, and with twice as much room below as above.
+    void center(Window::State& window) const;
+
+    void makeKeyAndOrderFront(const WindowState& window);
+    void orderOut(const WindowState& window);
+
+    // The user clicks into a window: the application becomes active and the window key.
+    void click(const WindowState& window);
+
+    // The user presses the close button, if there is one.
+    void closeByUser(const WindowState& window);
+
+    // The user drags the window; the top left corner in global display coordinates.
+    void moveTo(const WindowState& window, Point topLeft) const;
+
+    // The user presses a button of the hosted view, or flips a switch; elements count from 0 and are those of
+    // the scene. Nothing happens to any other element.
+    void pressButton(const WindowState& window, std::size_t element);
+    void flipSwitch(const WindowState& window, std::size_t element);
+
+    // The same with the keyboard: the button of the key window whose shortcut the key is, Return or Escape.
+    // True when there is one.
+    bool press(ui::KeyboardShortcut shortcut);
+
+    // The application becomes the active one, or ceases to be.
+    void setActive(bool isActive);
+
+    // The platform makes an object of the class from an archive, or from a bare window.
+    void registerController(std::string_view className, std::string_view sourcePath);
+    void constructFromArchive(std::string_view className) const;
+    void constructFromWindow(std::string_view className) const;
+
+    // The application's process has ended.
+    void clear();
+
+private:
+    void orderFront(const WindowState& window);
+    void takeOut(const Window::State& window);
+    void tellNewKeyWindow(const WindowState& before) const;
+    static void requireUnreleased(const Window::State& window);
+    [[noreturn]] void refuseConstruction(std::string_view className) const;
+
+    Session& session_;
+    std::vector<std::weak_ptr<Window::State>> ordered_; // the front one first, whatever its level
+    std::weak_ptr<Window::State> wantedKey_;            // the one that was made key last
+    std::map<std::string, std::string, std::less<>> sourcePaths_;
+};
+
+} // namespace kestrune::sim

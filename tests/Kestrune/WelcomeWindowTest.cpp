@@ -1,0 +1,297 @@
+// The wizard's window: its procedures, call by call, and what its user sees and does.
+#include "tests/Kestrune/WelcomeFixture.h"
+
+namespace kestrune {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::IsEmpty;
+using namespace std::chrono_literals;
+
+using Step = WelcomeViewModel::Step;
+using WelcomeWindow = WelcomeFixture;
+using WelcomeWindowWithoutPermission = WelcomeWithoutPermission;
+
+const Calls Probing = {
+    "CGEventTapCreate(kCGSessionEventTap, kCGHeadInsertEventTap, kCGEventTapOptionDefault, 0x00000020)"};
+
+const Calls ComingForward = {
+    "NSApp", "-[NSApplication setActivationPolicy:] NSApplicationActivationPolicyRegular",
+    "-[NSWindow makeKeyAndOrderFront:]", "NSApp", "-[NSApplication activateIgnoringOtherApps:] true"};
+
+const std::string Floating = "-[NSWindow setLevel:] NSFloatingWindowLevel";
+const std::string Normal = "-[NSWindow setLevel:] NSNormalWindowLevel";
+const std::string BecomingAccessory =
+    "-[NSApplication setActivationPolicy:] NSApplicationActivationPolicyAccessory";
+
+TEST_F(WelcomeWindow, IsMadeInOrder) {
+    make();
+    EXPECT_THAT(
+        calls(),
+        ElementsAreArray(inOrder(
+            {{Trusted,
+              "-[NSWindow initWithContentRect:styleMask:backing:defer:] (0, 0) 460 x 200, 3, 2, false"},
+             localizing("Welcome to Kestrune"),
+             {"-[NSWindow setTitle:] Welcome to Kestrune", "-[NSWindow setReleasedWhenClosed:] false",
+              Floating, "-[NSWindow setHidesOnDeactivate:] false", "-[NSWindow setCollectionBehavior:] 257",
+              "-[NSWindow center]", "-[WelcomeWindowController initWithWindow:]",
+              "-[NSHostingController initWithRootView:]",
+              "-[NSHostingController setSizingOptions:] preferredContentSize",
+              "-[NSWindow setContentViewController:]", "-[NSWindow setDelegate:] WelcomeWindowController",
+              "+[NSTimer scheduledTimerWithTimeInterval:repeats:block:] 1, true"}})));
+    EXPECT_EQ(controller->model()->currentStep, Step::intro);
+    EXPECT_TRUE(controller->model()->isAccessibilityTrusted);
+    EXPECT_THAT(session.windows().shown(), IsEmpty());
+}
+
+TEST_F(WelcomeWindow, IsShownInOrderWithThePermission) {
+    make();
+    calls();
+    controller->show();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({{Trusted, Trusted, Floating}, ComingForward})));
+    EXPECT_EQ(controller->model()->currentStep, Step::intro);
+}
+
+TEST_F(WelcomeWindowWithoutPermission, IsShownInOrder) {
+    make();
+    calls();
+    controller->show();
+    EXPECT_THAT(calls(),
+                ElementsAreArray(inOrder({{NotTrusted, NotTrusted}, Probing, {Normal}, ComingForward})));
+    EXPECT_EQ(controller->model()->currentStep, Step::accessibility);
+    EXPECT_TRUE(session.accessibility().isListed());
+}
+
+TEST_F(WelcomeWindowWithoutPermission, ThrowsTheProbesTapAwayWhenThereIsOne) {
+    session.accessibility().delayTrust(true);
+    setPermission(sim::Permission::granted);
+    make();
+    calls();
+    controller->show();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({{NotTrusted, NotTrusted},
+                                                   Probing,
+                                                   {"CGEventTapEnable(tap, false)", "CFRelease(tap)", Normal},
+                                                   ComingForward})));
+    EXPECT_EQ(session.taps().count(), 0U);
+}
+
+TEST_F(WelcomeWindow, BecomesKeyAfterTheApplicationIsActive) {
+    make();
+    controller->show();
+    calls();
+    settle();
+    EXPECT_THAT(calls(), ElementsAre("-[WelcomeWindowController windowDidBecomeKey:]", Trusted));
+    EXPECT_EQ(session.windows().keyWindow(), onlyWindow(session));
+}
+
+TEST_F(WelcomeWindow, IsThereAlthoughTheSystemDoesNotActivateTheApplication) {
+    session.refuseActivation(true);
+    makeAndShow();
+    EXPECT_NE(onlyWindow(session), nullptr);
+    EXPECT_EQ(session.windows().keyWindow(), nullptr);
+    session.windows().click(onlyWindow(session));
+    EXPECT_EQ(session.windows().keyWindow(), onlyWindow(session));
+}
+
+TEST_F(WelcomeWindow, HasItsTitleStyleAndBehaviour) {
+    makeAndShow();
+    const auto window = onlyWindow(session);
+    EXPECT_EQ(window->title, "Welcome to Kestrune");
+    EXPECT_TRUE(window->has(WindowStyleMask::closable));
+    EXPECT_FALSE(window->has(WindowStyleMask::miniaturizable));
+    EXPECT_FALSE(window->has(WindowStyleMask::resizable));
+    EXPECT_TRUE(window->has(WindowCollectionBehavior::canJoinAllSpaces));
+    EXPECT_TRUE(window->has(WindowCollectionBehavior::fullScreenAuxiliary));
+    EXPECT_FALSE(window->isReleasedWhenClosed);
+    EXPECT_EQ(window->contentRect().width(), 460);
+    EXPECT_EQ(window->contentRect().height(), sim::Windows::sceneOf(*window).size.height);
+}
+
+class WelcomeWindowInFrench : public WelcomeFixture {
+protected:
+    WelcomeWindowInFrench() : WelcomeFixture(sim::Permission::granted, french()) {}
+
+private:
+    static sim::BundleContents french() {
+        sim::BundleContents bundle;
+        bundle.localizedStrings = {{"Welcome to Kestrune", "Bienvenue dans Kestrune"}};
+        return bundle;
+    }
+};
+
+TEST_F(WelcomeWindowInFrench, HasItsTitleInTheUsersLanguage) {
+    makeAndShow();
+    EXPECT_EQ(onlyWindow(session)->title, "Bienvenue dans Kestrune");
+}
+
+TEST_F(WelcomeWindow, PublishesNothingAtATickThatFindsNothingNew) {
+    makeAndShow();
+    int changes = 0;
+    const auto observation = controller->model()->observe([&] { ++changes; });
+    session.advance(10s);
+    EXPECT_EQ(changes, 0);
+    EXPECT_THAT(calls(), ElementsAreArray(Calls(10, Trusted)));
+    setPermission(sim::Permission::switchedOff);
+    session.advance(10s);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(WelcomeWindow, PublishesAtEveryShowAndWheneverItBecomesKey) {
+    makeAndShow();
+    int changes = 0;
+    const auto observation = controller->model()->observe([&] { ++changes; });
+    controller->show();
+    EXPECT_EQ(changes, 1);
+    session.windows().setActive(false);
+    session.windows().setActive(true);
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(WelcomeWindow, FinishesInOrder) {
+    makeAndShow();
+    press("Get started");
+    calls();
+    controller->finish();
+    EXPECT_THAT(calls(),
+                ElementsAre("-[NSUserDefaults setBool:forKey:] hasCompletedOnboarding = true",
+                            "-[NSTimer invalidate]", "-[NSWindow orderOut:]", "NSApp", BecomingAccessory));
+    EXPECT_EQ(finishedCalls, 1);
+    EXPECT_FALSE(controller->isWatchingAccessibility());
+    EXPECT_EQ(session.timers().count(), 0U);
+    EXPECT_THAT(session.windows().shown(), IsEmpty());
+}
+
+TEST_F(WelcomeWindow, HasDoneEverythingBeforeItTellsThatItHasFinished) {
+    bool isRecorded = false;
+    ActivationPolicy policy = ActivationPolicy::prohibited;
+    controller = WelcomeWindowController::make(preferences, [&] {
+        isRecorded = preferences->defaults().boolForKey(Preferences::HasCompletedOnboardingKey);
+        policy = session.application().policy;
+        controller.reset();
+    });
+    controller->show();
+    settle();
+    press("Get started");
+    press("Finish");
+    EXPECT_TRUE(isRecorded);
+    EXPECT_EQ(policy, ActivationPolicy::accessory);
+    EXPECT_EQ(controller, nullptr);
+    EXPECT_THAT(session.windows().shown(), IsEmpty());
+}
+
+TEST_F(WelcomeWindow, ClosedEarlyIsNotFinished) {
+    makeAndShow();
+    session.windows().closeByUser(onlyWindow(session));
+    EXPECT_THAT(calls(),
+                ElementsAre("-[WelcomeWindowController windowWillClose:]", "NSApp", BecomingAccessory));
+    EXPECT_EQ(session.defaults().find("hasCompletedOnboarding"), nullptr);
+    EXPECT_EQ(finishedCalls, 0);
+    EXPECT_TRUE(controller->isWatchingAccessibility());
+    EXPECT_EQ(session.timers().count(), 1U);
+}
+
+TEST_F(WelcomeWindow, CanBeShownAgainAfterItWasClosed) {
+    makeAndShow();
+    press("Get started");
+    session.windows().closeByUser(onlyWindow(session));
+    controller->show();
+    settle();
+    EXPECT_THAT(buttons(), ElementsAre("Finish")); // where it was left
+    EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
+}
+
+TEST_F(WelcomeWindow, ShownTwiceIsOneWindow) {
+    makeAndShow();
+    const auto window = onlyWindow(session);
+    controller->show();
+    settle();
+    EXPECT_EQ(onlyWindow(session), window);
+}
+
+TEST_F(WelcomeWindow, LeavesTheIntroductionWhenItIsShownAgainWithoutThePermission) {
+    makeAndShow();
+    setPermission(sim::Permission::switchedOff);
+    controller->show();
+    settle();
+    EXPECT_EQ(controller->model()->currentStep, Step::accessibility);
+    EXPECT_EQ(onlyWindow(session)->level, WindowLevel::normal);
+}
+
+TEST_F(WelcomeWindow, DoesNotGoBackToTheIntroduction) {
+    makeAndShow();
+    press("Get started");
+    controller->show();
+    settle();
+    EXPECT_EQ(controller->model()->currentStep, Step::accessibility);
+    EXPECT_EQ(onlyWindow(session)->level, WindowLevel::normal);
+}
+
+TEST_F(WelcomeWindow, StopsPollingWhenItGoes) {
+    makeAndShow();
+    calls();
+    controller.reset();
+    EXPECT_THAT(calls(), ElementsAre("-[NSTimer invalidate]"));
+    EXPECT_EQ(session.timers().count(), 0U);
+    EXPECT_THAT(session.windows().shown(), IsEmpty());
+}
+
+TEST_F(WelcomeWindow, LeavesActionsBehindThatDoNothing) {
+    makeAndShow();
+    const auto model = controller->model();
+    controller.reset();
+    calls();
+    model->advanceFromIntro();
+    model->requestPermissions();
+    model->openAccessibilitySettings();
+    model->finish();
+    EXPECT_THAT(calls(), IsEmpty());
+    EXPECT_EQ(finishedCalls, 0);
+    EXPECT_EQ(model->currentStep, Step::intro);
+}
+
+TEST_F(WelcomeWindow, TicksForNobodyDoNothing) {
+    make();
+    const std::weak_ptr<WelcomeWindowController> watched = controller;
+    session.advance(500ms);
+    controller.reset();
+    EXPECT_TRUE(watched.expired());
+    calls();
+    session.advance(10s);
+    EXPECT_THAT(calls(), IsEmpty());
+}
+
+TEST_F(WelcomeWindow, PausesItsPollingWhileAMenuIsOpen) {
+    makeAndShow();
+    setPermission(sim::Permission::switchedOff);
+    session.timers().leaveDefaultMode();
+    session.advance(5s);
+    EXPECT_TRUE(controller->model()->isAccessibilityTrusted);
+    session.timers().enterDefaultMode();
+    session.advance(1s);
+    EXPECT_FALSE(controller->model()->isAccessibilityTrusted);
+}
+
+using WelcomeWindowDeathTest = WelcomeWindow;
+
+TEST_F(WelcomeWindowDeathTest, CannotBeMadeFromAnArchive) {
+    make();
+    EXPECT_DEATH(session.windows().constructFromArchive("WelcomeWindowController"),
+                 "Kestrune/WelcomeWindowController: Fatal error: init\\(coder:\\) is not supported");
+}
+
+TEST_F(WelcomeWindowDeathTest, CannotBeMadeFromABareWindow) {
+    make();
+    EXPECT_DEATH(session.windows().constructFromWindow("WelcomeWindowController"),
+                 "Kestrune/WelcomeWindowController: Fatal error: init\\(coder:\\) is not supported");
+}
+
+TEST_F(WelcomeWindowDeathTest, StopsTheProcessWhenThePanesAddressIsNoURL) {
+    makeAndShow();
+    session.refuseURLs(true);
+    EXPECT_DEATH(controller->model()->openAccessibilitySettings(),
+                 "Fatal error: The address of the Accessibility pane is no URL\\.");
+}
+
+} // namespace
+} // namespace kestrune

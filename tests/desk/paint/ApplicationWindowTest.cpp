@@ -1,0 +1,218 @@
+#include "desk/paint/DeskHitTest.h"
+#include "desk/paint/WindowLayout.h"
+#include "tests/desk/paint/WindowPictures.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace kestrune::desk {
+namespace {
+
+WindowLayout layoutOf(const DeskPicture& picture, std::size_t index = 0, Size window = TestWindow) {
+    return windowLayout(DeskLayout::of(picture, window), picture.windows[index], window);
+}
+
+std::optional<DeskTarget> targetAt(const DeskPicture& picture, Point place) {
+    DeskHitTest hitTest;
+    return hitTest.targetAt(picture, TestWindow, place);
+}
+
+TEST(ApplicationWindow, KeepsItsSizeWithItsAnchorWhereItIsOnItsDisplay) {
+    DeskPicture picture = withWindow();
+    const DeskLayout desk = DeskLayout::of(picture, TestWindow);
+    for (const Point corner : {Point{600, 400}, Point{400, 500}, Point{2400, 400}}) {
+        picture.windows[0].frame.origin = corner;
+        const WindowLayout layout = layoutOf(picture);
+        EXPECT_EQ(layout.frame.size, (Size{300, 228}));
+        const double down = 228 * WindowAnchorHeight;
+        const Point anchor = desk.toWindow({corner.x + 150, corner.y + down});
+        EXPECT_NEAR(centerOf(layout.frame).x, anchor.x, 0.5);
+        EXPECT_NEAR(layout.frame.minY() + down, anchor.y, 0.5);
+        EXPECT_EQ(layout.content.size, (Size{300, 200}));
+        EXPECT_EQ(layout.content.minY(), layout.titleBar.maxY());
+        EXPECT_TRUE(encloses(layout.titleBar, layout.closeButton));
+    }
+}
+
+TEST(ApplicationWindow, StaysBelowTheMenuBarAndInsideTheDesk) {
+    DeskPicture picture = withWindow();
+    picture.windows[0].frame.origin = {600, 30};
+    const DeskLayout desk = DeskLayout::of(picture, TestWindow);
+    EXPECT_GE(layoutOf(picture).frame.minY(), menuBarArea(*desk.place(0), desk.scale()).maxY());
+    for (const Point corner : {Point{-4000, 300}, Point{9000, 300}, Point{600, -5000}, Point{600, 9000}}) {
+        picture.windows[0].frame.origin = corner;
+        EXPECT_TRUE(encloses({0, 0, TestWindow.width, TestWindow.height}, layoutOf(picture).frame));
+    }
+    picture.displays.clear();
+    EXPECT_TRUE(encloses({0, 0, TestWindow.width, TestWindow.height}, layoutOf(picture).frame));
+}
+
+TEST(ApplicationWindow, WithoutTitleBarIsAllContent) {
+    DeskPicture picture = withWindow();
+    picture.windows[0].isTitled = false;
+    picture.windows[0].frame.size.height = 200;
+    const WindowLayout layout = layoutOf(picture);
+    EXPECT_EQ(layout.content, layout.frame);
+    EXPECT_EQ(targetAt(picture, centerOf(layout.closeButton)), DeskTarget{WindowTarget{7}});
+    DeskHitTest hitTest;
+    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowTitleTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowCloseTarget{7}));
+}
+
+TEST(ApplicationWindow, TellsItsPartsApart) {
+    const DeskPicture picture = withWindow();
+    DeskHitTest hitTest;
+    const std::vector<DeskTarget> parts{WindowCloseTarget{7},           WindowTitleTarget{7},
+                                        WindowControlTarget{7, Link},   WindowControlTarget{7, Main},
+                                        WindowControlTarget{7, Switch}, WindowControlTarget{7, Push}};
+    for (std::size_t index = 0; index < parts.size(); ++index) {
+        const auto area = hitTest.areaOf(picture, TestWindow, parts[index]);
+        ASSERT_TRUE(area) << index;
+        EXPECT_EQ(hitTest.targetAt(picture, TestWindow, centerOf(*area)), parts[index]) << index;
+        EXPECT_TRUE(encloses(layoutOf(picture).frame, *area)) << index;
+    }
+    const Point inSentence{layoutOf(picture).content.minX() + 30, layoutOf(picture).content.minY() + 26};
+    EXPECT_EQ(hitTest.targetAt(picture, TestWindow, inSentence), DeskTarget{WindowTarget{7}});
+    const Rect frame = layoutOf(picture).frame;
+    EXPECT_FALSE(hitTest.targetAt(picture, TestWindow, {frame.minX() - 2, centerOf(frame).y}));
+    EXPECT_FALSE(hitTest.targetAt(picture, TestWindow, {frame.maxX() + 1, centerOf(frame).y}));
+}
+
+TEST(ApplicationWindow, HasNoPlaceForPartsThatItDoesNotHave) {
+    DeskPicture picture = withWindow();
+    DeskHitTest hitTest;
+    for (const DeskTarget& target :
+         {DeskTarget{WindowControlTarget{7, Sentence}}, DeskTarget{WindowControlTarget{7, 99}},
+          DeskTarget{WindowControlTarget{8, Main}}, DeskTarget{WindowTarget{7}},
+          DeskTarget{WindowTitleTarget{8}}, DeskTarget{WindowCloseTarget{8}}}) {
+        EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, target)) << target.index();
+    }
+    picture.windows[0].isClosable = false;
+    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowCloseTarget{7}));
+    EXPECT_EQ(targetAt(picture, centerOf(layoutOf(picture).closeButton)), DeskTarget{WindowTitleTarget{7}});
+}
+
+TEST(ApplicationWindow, LiesAsFarInFrontAsItsDepthSays) {
+    DeskHitTest hitTest;
+    // The window lies over all of what the other picture has on the same display.
+    const auto isCovered = [&](DeskPicture picture, const DeskTarget& other, WindowDepth depth) {
+        picture.windows = {windowWithControls()};
+        picture.windows[0].frame = {450, 250, 612, 600};
+        picture.windows[0].depth = depth;
+        const Rect area = *hitTest.areaOf(picture, TestWindow, other);
+        return hitTest.targetAt(picture, TestWindow, centerOf(area)) != other;
+    };
+    const DeskTarget inPane = PaneSwitchTarget{1};
+    EXPECT_FALSE(isCovered(withPane(), inPane, WindowDepth::behindSystemWindows));
+    EXPECT_TRUE(isCovered(withPane(), inPane, WindowDepth::beforePane));
+    EXPECT_TRUE(isCovered(withPane(), inPane, WindowDepth::beforeDialog));
+    DeskPicture dialog = withDialog();
+    dialog.permissionDialog->display = 0;
+    const DeskTarget inDialog = DialogButtonTarget{DialogButton::deny};
+    EXPECT_FALSE(isCovered(dialog, inDialog, WindowDepth::behindSystemWindows));
+    EXPECT_FALSE(isCovered(dialog, inDialog, WindowDepth::beforePane));
+    EXPECT_TRUE(isCovered(dialog, inDialog, WindowDepth::beforeDialog));
+}
+
+TEST(ApplicationWindow, IsPaintedInTheOrderInWhichItIsHit) {
+    DeskPicture picture = withWindow();
+    picture.accessibilityPane = withPane().accessibilityPane;
+    picture.windows[0].frame = {450, 250, 612, 600};
+    picture.windows[0].scene = {};
+    DeskHitTest hitTest;
+    const Rect toggle = *hitTest.areaOf(picture, TestWindow, PaneSwitchTarget{0});
+    const Point onTrack{toggle.minX() + 7, centerOf(toggle).y};
+    const auto isBlue = [](Pixel pixel) { return pixel.blue > pixel.red + 100; };
+    picture.windows[0].depth = WindowDepth::behindSystemWindows;
+    EXPECT_TRUE(isBlue(PaintedPicture{picture}.at(onTrack)));
+    picture.windows[0].depth = WindowDepth::beforePane;
+    EXPECT_TRUE(isNear(PaintedPicture{picture}.at(onTrack), 0xEC, 0xEC, 0xEC, 2));
+}
+
+TEST(ApplicationWindow, HasTheFirstOfSeveralInFront) {
+    DeskPicture picture = withWindow();
+    WindowPicture second = windowWithControls();
+    second.number = 8;
+    second.frame.origin = {700, 500};
+    second.isKey = false;
+    picture.windows.push_back(second);
+    const Point shared = centerOf(layoutOf(picture, 1).closeButton);
+    ASSERT_TRUE(layoutOf(picture, 0).frame.contains(shared));
+    EXPECT_EQ(targetAt(picture, shared), DeskTarget{WindowTarget{7}});
+    const Pixel front = PaintedPicture{picture}.at(shared);
+    picture.windows.pop_back();
+    EXPECT_EQ(PaintedPicture{picture}.at(shared), front);
+    picture.windows = {second};
+    EXPECT_FALSE(PaintedPicture{picture}.at(shared) == front);
+}
+
+TEST(ApplicationWindow, HasARedCloseButtonWhileItIsKeyAndGreyOnesForWhatItCannotDo) {
+    DeskPicture picture = withWindow();
+    const Point close = centerOf(layoutOf(picture).closeButton);
+    const auto buttons = [&] {
+        const PaintedPicture painted{picture};
+        return std::vector{painted.at(close), painted.at({close.x + 20, close.y}),
+                           painted.at({close.x + 40, close.y})};
+    };
+    const auto isGrey = [](Pixel pixel) {
+        return std::abs(pixel.red - pixel.green) < 6 && std::abs(pixel.green - pixel.blue) < 6;
+    };
+    EXPECT_TRUE(isNear(buttons()[0], 0xFF, 0x5F, 0x57, 3));
+    EXPECT_TRUE(isGrey(buttons()[1]));
+    EXPECT_TRUE(isGrey(buttons()[2]));
+    picture.windows[0].isMiniaturizable = true;
+    picture.windows[0].isResizable = true;
+    EXPECT_GT(buttons()[1].red, buttons()[1].blue + 100);
+    EXPECT_GT(buttons()[2].green, buttons()[2].red + 100);
+    picture.windows[0].isCloseButtonPressed = true;
+    EXPECT_LT(buttons()[0].red, 200);
+    picture.windows[0].isKey = false;
+    for (const Pixel pixel : buttons()) {
+        EXPECT_TRUE(isGrey(pixel));
+    }
+}
+
+TEST(ApplicationWindow, ShowsItsTitleInTheMiddleAndPalerInTheBackground) {
+    DeskPicture picture = withWindow();
+    const Rect bar = layoutOf(picture).titleBar;
+    const auto darkest = [&](const Rect& area) {
+        int value = 255;
+        PaintedPicture{picture}.count(area, [&](Pixel pixel) {
+            value = std::min(value, pixel.red);
+            return false;
+        });
+        return value;
+    };
+    const Rect middle{centerOf(bar).x - 30, bar.minY() + 6, 60, 16};
+    const int inFront = darkest(middle);
+    EXPECT_LT(inFront, 110);
+    EXPECT_GT(darkest({bar.minX() + 70, bar.minY() + 6, 30, 16}), 220);
+    picture.windows[0].isKey = false;
+    EXPECT_GT(darkest(middle), inFront + 50);
+    // However long the title is, it leaves the buttons alone.
+    picture.windows[0].title = std::string(300, 'W');
+    EXPECT_GT(darkest({bar.minX() + 62, bar.minY() + 6, 8, 16}), 220);
+}
+
+TEST(ApplicationWindow, IsPaintedAnewOnlyWhenItHasChanged) {
+    DeskPainter painter;
+    DeskPicture picture = withWindow();
+    const PaintedPicture first{painter, picture, TestWindow};
+    picture.pointer = {900, 480};
+    const PaintedPicture moved{painter, picture, TestWindow};
+    EXPECT_FALSE(differenceOf(moved, PaintedPicture{picture}));
+    picture.windows[0].pressedElement = Main;
+    const PaintedPicture pressed{painter, picture, TestWindow};
+    EXPECT_FALSE(differenceOf(pressed, PaintedPicture{picture}));
+    const auto changed = differenceOf(pressed, moved);
+    ASSERT_TRUE(changed);
+    DeskHitTest hitTest;
+    EXPECT_TRUE(encloses(*hitTest.areaOf(picture, TestWindow, WindowControlTarget{7, Main}), *changed, 1));
+    picture.windows.clear();
+    const PaintedPicture closed{painter, picture, TestWindow};
+    EXPECT_FALSE(differenceOf(closed, PaintedPicture{picture}));
+}
+
+} // namespace
+} // namespace kestrune::desk

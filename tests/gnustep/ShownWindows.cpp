@@ -1,0 +1,132 @@
+#include "tests/gnustep/ShownWindows.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/objc/Text.h"
+#include "platform/Window.h"
+#include "tests/gnustep/Objects.h"
+#include "tests/gnustep/standins/Accessibility.h"
+
+#include <algorithm>
+
+// NOLINTNEXTLINE(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)
+extern "C" id NSApp;
+
+namespace kestrune::gnustep {
+
+namespace {
+
+constexpr mac::Unsigned LeftMouseDown = 1;
+constexpr mac::Unsigned LeftMouseUp = 2;
+constexpr mac::Unsigned KeyDown = 10;
+
+constexpr double BelowTheTop = 8; // points; in a title bar
+
+bool isKindOf(id object, const char* className) {
+    return mac::ns_object::isKindOfClass(object, classNamed(className)) != 0;
+}
+
+bool hasStyle(id window, WindowStyleMask part) {
+    return (send<mac::Unsigned>(window, "styleMask") & static_cast<mac::Unsigned>(part)) != 0;
+}
+
+std::vector<id> viewsIn(id window) {
+    const id list = send(send(window, "contentView"), "subviews");
+    std::vector<id> views;
+    for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
+        views.push_back(mac::ns_array::objectAtIndex(list, index));
+    }
+    return views;
+}
+
+id mouseEvent(mac::Unsigned type, id window, Point location) {
+    return send(classObject("NSEvent"),
+                "mouseEventWithType:location:modifierFlags:timestamp:windowNumber:context:eventNumber:"
+                "clickCount:pressure:",
+                type, location, mac::Unsigned{0}, 0.0, send<mac::Integer>(window, "windowNumber"), id{},
+                mac::Integer{0}, mac::Integer{1}, 1.0F);
+}
+
+// Whoever tracks the press finds the release waiting.
+void click(id window, Point location) {
+    send<void>(NSApp, "postEvent:atStart:", mouseEvent(LeftMouseUp, window, location), mac::truth(true));
+    send<void>(NSApp, "sendEvent:", mouseEvent(LeftMouseDown, window, location));
+}
+
+} // namespace
+
+std::vector<id> visibleWindows() {
+    const id list = send(NSApp, "orderedWindows");
+    std::vector<id> windows;
+    for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
+        const id window = mac::ns_array::objectAtIndex(list, index);
+        if (send<BOOL>(window, "isVisible") != 0 && !isKindOf(window, "NSPanel")) {
+            windows.push_back(window);
+        }
+    }
+    return windows;
+}
+
+contract::ShownWindow describeWindow(id window) {
+    constexpr auto CanJoinAllSpaces = static_cast<mac::Unsigned>(WindowCollectionBehavior::canJoinAllSpaces);
+    contract::ShownWindow shown;
+    shown.title = mac::textOf(send(window, "title"));
+    shown.content = send<Rect>(window, "contentRectForFrameRect:", send<Rect>(window, "frame"));
+    shown.level = static_cast<WindowLevel>(send<mac::Integer>(window, "level"));
+    shown.isKey = send<BOOL>(window, "isKeyWindow") != 0;
+    shown.hasCloseButton = hasStyle(window, WindowStyleMask::closable);
+    shown.isResizable = hasStyle(window, WindowStyleMask::resizable);
+    shown.joinsAllSpaces = (send<mac::Unsigned>(window, "collectionBehavior") & CanJoinAllSpaces) != 0;
+    for (const id view : viewsIn(window)) {
+        if (isKindOf(view, "NSTextField")) {
+            shown.texts.push_back(mac::textOf(send(view, "stringValue")));
+        } else if (isKindOf(view, "NSSwitch")) {
+            shown.switches.push_back(send<mac::Integer>(view, "state") != 0);
+        } else if (isKindOf(view, "NSButton")) {
+            shown.buttons.push_back(accessibilityLabel(view));
+        }
+    }
+    return shown;
+}
+
+std::vector<id> viewsIn(id window, const char* className) {
+    std::vector<id> views = viewsIn(window);
+    views.erase(std::remove_if(views.begin(), views.end(),
+                               [className](id view) { return !isKindOf(view, className); }),
+                views.end());
+    return views;
+}
+
+id buttonNamed(id window, std::string_view title) {
+    const std::vector<id> buttons = viewsIn(window, "NSButton");
+    const auto found = std::find_if(buttons.begin(), buttons.end(),
+                                    [title](id button) { return accessibilityLabel(button) == title; });
+    return found != buttons.end() ? *found : nullptr;
+}
+
+void clickTitleBar(id window) {
+    const Size size = send<Rect>(window, "frame").size;
+    click(window, {size.width / 2, size.height - BelowTheTop});
+}
+
+void click(id view) {
+    const Size size = send<Rect>(view, "bounds").size;
+    click(send(view, "window"),
+          send<Point>(view, "convertPoint:toView:", Point{size.width / 2, size.height / 2}, id{}));
+}
+
+void pressKeyInWindow(std::string_view character, EventModifierFlags modifiers) {
+    const id window = send(NSApp, "keyWindow");
+    if (window == nullptr) {
+        return;
+    }
+    const id characters = objectFor(std::string(character));
+    const id event = send(classObject("NSEvent"),
+                          "keyEventWithType:location:modifierFlags:timestamp:windowNumber:context:characters:"
+                          "charactersIgnoringModifiers:isARepeat:keyCode:",
+                          KeyDown, Point{}, static_cast<mac::Unsigned>(modifiers), 0.0,
+                          send<mac::Integer>(window, "windowNumber"), id{}, characters, characters,
+                          mac::truth(false), static_cast<unsigned short>(0));
+    send<void>(NSApp, "sendEvent:", event);
+}
+
+} // namespace kestrune::gnustep

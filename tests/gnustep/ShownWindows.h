@@ -1,0 +1,32 @@
+// The application's windows as GNUstep has them, and a user's hand at them.
+#pragma once
+
+#include "mac/objc/Runtime.h"
+#include "platform/Menu.h"
+#include "tests/contract/Shown.h"
+
+#include <string_view>
+#include <vector>
+
+namespace kestrune::gnustep {
+
+// Those that are on the screen, the frontmost first; without menus and GNUstep's own panels.
+std::vector<id> visibleWindows();
+
+// Read from the native window and the views in it.
+contract::ShownWindow describeWindow(id window);
+
+// Of a class or its subclasses, inside the window's content, in their order.
+std::vector<id> viewsIn(id window, const char* className);
+
+// By what is read out for it; nil when there is none.
+id buttonNamed(id window, std::string_view title);
+
+// Presses and releases the mouse there.
+void clickTitleBar(id window);
+void click(id view);
+
+// An event of the keyboard, for the key window.
+void pressKeyInWindow(std::string_view character, EventModifierFlags modifiers);
+
+} // namespace kestrune::gnustep

@@ -1,0 +1,296 @@
+// Hosted views as GNUstep's own views: what stays and what goes when the scene changes, and what is heard,
+// focused and drawn. That they show and do what they should is for the contract tests.
+#include "mac/Handles.h"
+#include "mac/hosting/PlatformMeasurer.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
+#include "tests/contract/WindowFixture.h"
+#include "tests/gnustep/Allocations.h"
+#include "tests/gnustep/Objects.h"
+#include "tests/gnustep/ShownWindows.h"
+#include "tests/gnustep/standins/Accessibility.h"
+#include "tests/gnustep/standins/Deallocation.h"
+#include "ui/View.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+// NOLINTBEGIN(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables): the
+// platform's.
+extern "C" {
+extern id NSApp;
+extern const id NSDefaultRunLoopMode;
+extern const id NSEventTrackingRunLoopMode;
+}
+// NOLINTEND(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)
+
+namespace kestrune::gnustep {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct Counter : ui::ObservableObject {
+    ui::Published<int> value{*this, 0};
+};
+
+struct FilledStyle : ui::ButtonStyle {
+    ui::View makeBody(const Configuration& configuration) const override {
+        return configuration.label.padding(8).background(ui::RoundedRectangle(
+            {.cornerRadius = 6, .fill = ui::Color::accent, .opacity = configuration.isPressed ? 0.75 : 1}));
+    }
+};
+
+ui::View filledButton(
+    std::string_view title, std::function<void()> action = [] {}) {
+    return ui::Button(title, std::move(action)).buttonStyle(std::make_shared<FilledStyle>());
+}
+
+ui::View linkButton(std::string_view title) {
+    return ui::Button(title, [] {}).buttonStyle(ui::ButtonStyle::link());
+}
+
+class HostedViewOnGNUstep : public contract::WindowFixture {
+protected:
+    void host(std::function<ui::View()> body) {
+        HostingController controller({std::move(body), model_});
+        controller.setSizingOptions(HostingSizingOptions::preferredContentSize);
+        window_->setContentViewController(controller);
+        show(*window_);
+    }
+
+    void setModel(int value) {
+        model_->value = value;
+        world_.runMainQueue();
+    }
+
+    // What the X server tells of windows, which nobody else takes here.
+    static void forgetEvents() {
+        constexpr auto AnyEvent = ~mac::Unsigned{0};
+        const id past = send(classObject("NSDate"), "distantPast");
+        while (send(NSApp, "nextEventMatchingMask:untilDate:inMode:dequeue:", AnyEvent, past,
+                    NSDefaultRunLoopMode, mac::truth(true)) != nullptr) {
+        }
+    }
+
+    id window() const { return window_->state()->window.get(); }
+    id button(std::string_view title) const { return buttonNamed(window(), title); }
+    std::vector<id> views(const char* className) const { return viewsIn(window(), className); }
+
+    mac::Pool pool_;
+    std::shared_ptr<Counter> model_ = std::make_shared<Counter>();
+    std::optional<Window> window_ = makeWindow("one");
+};
+
+TEST_F(HostedViewOnGNUstep, KeepsTheViewsOfWhatStaysWhenSomethingComesBeforeThem) {
+    host([this] {
+        std::vector<ui::View> row = {filledButton("Request")};
+        if (model_->value != 0) {
+            row.insert(row.begin(), linkButton("Open"));
+        }
+        return ui::VStack({},
+                          {ui::VerbatimText(model_->value == 0 ? "before" : "after"), ui::HStack({}, row)});
+    });
+    const id request = button("Request");
+    const id text = views("NSTextField").at(0);
+    setModel(1);
+    EXPECT_EQ(button("Request"), request);
+    EXPECT_EQ(views("NSTextField").at(0), text);
+    EXPECT_EQ(mac::textOf(send(text, "stringValue")), "after");
+    EXPECT_EQ(views("NSView"), (std::vector<id>{text, button("Open"), request}));
+}
+
+TEST_F(HostedViewOnGNUstep, DoesNotTurnAButtonIntoAnotherOne) {
+    host([this] { return filledButton(model_->value == 0 ? "Request" : "Finish"); });
+    const mac::Retained request = mac::Retained::retaining(button("Request"));
+    setModel(1);
+    EXPECT_NE(button("Finish"), request.get());
+    EXPECT_EQ(send(request.get(), "superview"), id{});
+}
+
+TEST_F(HostedViewOnGNUstep, LeavesTheFocusWhereItIs) {
+    host([this] {
+        return ui::VStack({}, {ui::VerbatimText("value " + std::to_string(model_->value)),
+                               filledButton("one"), filledButton("two")});
+    });
+    send<BOOL>(window(), "makeFirstResponder:", button("two"));
+    setModel(1);
+    EXPECT_EQ(send(window(), "firstResponder"), button("two"));
+}
+
+TEST_F(HostedViewOnGNUstep, LeadsTheKeyboardThroughTheControlsInTheirOrder) {
+    host([this] {
+        std::vector<ui::View> row = {ui::Toggle("switch", false, [](bool) {}), filledButton("second")};
+        if (model_->value != 0) {
+            row.insert(row.begin(), linkButton("first"));
+        }
+        return ui::VStack({}, row);
+    });
+    setModel(1);
+    const id content = send(window(), "contentView");
+    const std::vector<id> controls = {button("first"), views("NSSwitch").at(0), button("second"), content};
+    id latest = content;
+    for (const id control : controls) {
+        EXPECT_EQ(send(latest, "nextKeyView"), control);
+        latest = control;
+    }
+}
+
+// On the Mac the main queue is served while a button is tracked.
+TEST_F(HostedViewOnGNUstep, KeepsAButtonThatGoesWhileItIsPressed) {
+    bool isGone = false;
+    bool wasThereAfterItWentOut = false;
+    host([&, this] {
+        return model_->value != 0 ? ui::VerbatimText("nothing") : filledButton("Request", [&, this] {
+            const id pressed = button("Request");
+            whenDeallocated(pressed, this, [&isGone] { isGone = true; });
+            model_->value = 1;
+            send<BOOL>(send(classObject("NSRunLoop"), "currentRunLoop"),
+                       "runMode:beforeDate:", NSEventTrackingRunLoopMode,
+                       send(classObject("NSDate"), "date"));
+            wasThereAfterItWentOut = button("Request") == nullptr && !isGone;
+        });
+    });
+    world_.clickButton("Request");
+    EXPECT_TRUE(wasThereAfterItWentOut);
+    world_.letTimePass(0.1);
+    EXPECT_TRUE(isGone);
+}
+
+TEST_F(HostedViewOnGNUstep, LetsGoOfTheWindowAfterItsOwnButtonDid) {
+    bool isGone = false;
+    bool wasThereAfterTheAction = false;
+    host([&, this] {
+        return filledButton("Finish", [&, this] {
+            whenDeallocated(window(), this, [&isGone] { isGone = true; });
+            window_->orderOut();
+            window_.reset();
+            wasThereAfterTheAction = !isGone;
+        });
+    });
+    world_.clickButton("Finish");
+    world_.letTimePass(0.1);
+    EXPECT_TRUE(wasThereAfterTheAction);
+    EXPECT_TRUE(isGone);
+}
+
+TEST_F(HostedViewOnGNUstep, TurnsASwitchBackThatTheModelDoesNotFollow) {
+    host([] { return ui::Toggle("switch", false, [](bool) {}); });
+    world_.clickSwitch(0);
+    EXPECT_THAT(world_.shownWindows().at(0).switches, ElementsAre(true));
+    world_.runMainQueue();
+    EXPECT_THAT(world_.shownWindows().at(0).switches, ElementsAre(false));
+}
+
+TEST_F(HostedViewOnGNUstep, ReadsButtonsAndSwitchesOutAndPassesSymbolsOver) {
+    host([] {
+        return ui::VStack({}, {ui::SystemImage("checkmark.circle.fill"), filledButton("filled"),
+                               ui::Button("bordered", [] {}), ui::Toggle("switch", true, [](bool) {})});
+    });
+    std::vector<std::string> readOut;
+    for (const id view : views("NSView")) {
+        if (isAccessibilityElement(view)) {
+            readOut.push_back(accessibilityLabel(view));
+        }
+    }
+    EXPECT_THAT(readOut, ElementsAre("filled", "bordered", "", "switch")); // a text field reads its text out
+}
+
+TEST_F(HostedViewOnGNUstep, ShowsNothingForASymbolThatThePlatformDoesNotHave) {
+    host([] { return ui::HStack({}, {ui::SystemImage("no.such.symbol"), ui::VerbatimText("text")}); });
+    for (const id view : views("NSImageView")) {
+        EXPECT_EQ(send(view, "image"), id{});
+    }
+    EXPECT_EQ(mac::PlatformMeasurer().measureSymbol({"no.such.symbol", {}}), Size());
+}
+
+TEST_F(HostedViewOnGNUstep, SetsASymbolInTheSizeOfItsFontAndScale) {
+    const mac::PlatformMeasurer measurer;
+    const ui::StyledSymbol plain{"circle.dashed", ui::Font::system(13)};
+    const double height = measurer.measureSymbol(plain).height;
+    EXPECT_GT(height, 0);
+    EXPECT_GT(measurer.measureSymbol({"circle.dashed", ui::Font::system(13), ui::ImageScale::large}).height,
+              height);
+    EXPECT_GT(measurer.measureSymbol({"circle.dashed", ui::Font::system(44)}).height, 3 * height);
+}
+
+TEST_F(HostedViewOnGNUstep, WrapsAndCutsNoText) {
+    const std::string words = "Kestrune needs to observe window events from other apps so it can keep the "
+                              "Dock pinned where you want it. **Grün** gypsy jumping.";
+    host([&words, this] {
+        return ui::VStack({.alignment = ui::HorizontalAlignment::leading},
+                          {ui::VerbatimText("Short").font(ui::Font::preferred(ui::TextStyle::title)),
+                           ui::Text(words), ui::Text(words).font(ui::Font::preferred(ui::TextStyle::callout)),
+                           ui::Text(words).fontWeight(ui::FontWeight::semibold)})
+            .frame({.width = 180.0 + model_->value});
+    });
+    constexpr double Insets = 4; // points; of a label, left and right
+    constexpr mac::Integer FromTheTop = 1 | 2;
+    for (int widening = 0; widening < 60; ++widening) {
+        setModel(widening);
+        for (const id label : views("NSTextField")) {
+            const Size size = send<Rect>(label, "frame").size;
+            const Size needed =
+                send<Rect>(send(label, "attributedStringValue"),
+                           "boundingRectWithSize:options:", Size{size.width - Insets, 1e6}, FromTheTop)
+                    .size;
+            EXPECT_LE(needed.width, size.width - Insets);
+            EXPECT_LE(needed.height, size.height);
+        }
+    }
+}
+
+TEST_F(HostedViewOnGNUstep, RendersAThousandTimesWithoutKeepingAnObject) {
+    host([this] {
+        std::vector<ui::View> row = {filledButton("Request"), ui::SystemImage("circle.dashed")};
+        if (model_->value % 2 != 0) {
+            row.insert(row.begin(), linkButton("Open"));
+        }
+        return ui::VStack({},
+                          {ui::VerbatimText("value " + std::to_string(model_->value)), ui::HStack({}, row),
+                           ui::Toggle("switch", model_->value % 2 != 0, [](bool) {})})
+            .frame({.width = 300, .height = 200});
+    });
+    const auto render = [this](int times) {
+        for (int time = 0; time < times; ++time) {
+            const mac::Pool pool;
+            setModel(model_->value + 1);
+        }
+        // What was kept for a turn goes with the next.
+        world_.letTimePass(0.1);
+    };
+    countAllocations();
+    // GNUstep keeps the layouts of its latest texts.
+    render(200);
+    const AllocatedObjects before = allocatedObjects();
+    EXPECT_GT(before.count("KestruneDrawnButton"), 0U);
+    render(1000);
+    EXPECT_THAT(growth(before, allocatedObjects()), IsEmpty());
+}
+
+TEST_F(HostedViewOnGNUstep, LeavesNothingOfAWindowBehind) {
+    const auto showAndForget = [this](int times) {
+        for (int time = 0; time < times; ++time) {
+            const mac::Pool pool;
+            window_ = makeWindow("one");
+            host([] {
+                return ui::VStack({}, {ui::VerbatimText("text"), ui::SystemImage("circle.dashed"),
+                                       filledButton("Request"), ui::Toggle("switch", true, [](bool) {})});
+            });
+            window_->orderOut();
+            window_.reset();
+            world_.letTimePass(0.1);
+            forgetEvents();
+        }
+    };
+    countAllocations();
+    showAndForget(5);
+    const AllocatedObjects before = allocatedObjects();
+    EXPECT_GT(before.count("KestruneHostingController"), 0U);
+    showAndForget(50);
+    EXPECT_THAT(growth(before, allocatedObjects()), IsEmpty());
+}
+
+} // namespace
+} // namespace kestrune::gnustep

@@ -1,0 +1,18 @@
+// The application's windows, told to a hand at the mouse and the keyboard.
+#pragma once
+
+namespace kestrune::gnustep {
+
+// From now on the standard output tells when a control is highlighted:
+//   pressed TITLE
+void watchPresses();
+
+// Tells what is on the screen if it is not what was told last:
+//   window PLACE TITLE          of its content, the frontmost window first
+//   text TEXT                   in the window
+//   control PLACE TITLE         a button in the window
+//   windows COUNT               all windows are told
+// A PLACE is as in MenuBar.h.
+void watchWindows();
+
+} // namespace kestrune::gnustep

@@ -1,0 +1,8 @@
+// Upper case in the user's language.
+#pragma once
+
+namespace kestrune::gnustep {
+
+void installLocalizedCase();
+
+} // namespace kestrune::gnustep

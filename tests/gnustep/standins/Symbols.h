@@ -1,0 +1,8 @@
+// SF Symbols.
+#pragma once
+
+namespace kestrune::gnustep {
+
+void installSymbols();
+
+} // namespace kestrune::gnustep

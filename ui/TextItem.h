@@ -1,0 +1,25 @@
+// A text on its way to the scene.
+#pragma once
+
+#include "ui/LayoutItem.h"
+#include "ui/MeasuredText.h"
+
+#include <memory>
+#include <optional>
+
+namespace kestrune::ui {
+
+class TextItem final : public LeafItem {
+public:
+    TextItem(StyledText text, MeasuredTexts& texts);
+
+private:
+    // A text is never cut: it takes the height of its lines, whatever height it is offered.
+    Size measure(const ProposedSize& proposal) override;
+    void show(const Rect& frame, Rendering& rendering) override;
+
+    StyledText text_;
+    std::shared_ptr<MeasuredText> measured_;
+};
+
+} // namespace kestrune::ui
