@@ -22,10 +22,11 @@ $(call configure,$(PRESET))
 @cmake --build build/$(PRESET) --target $(2)
 endef
 
-# $(call run-tests): ctest, and the plain counts as the last line whether it passed or failed.
+# $(call run-tests,CHOICE): ctest, and the plain counts as the last line whether it passed or failed.
 define run-tests
 @rm -f $(DIR)/tests.xml; \
-ctest --test-dir $(DIR) --no-tests=error --max-width 90 --output-on-failure --output-junit $(DIR)/tests.xml; \
+ctest --test-dir $(DIR) $(1) --no-tests=error --max-width 90 --output-on-failure \
+    --output-junit $(DIR)/tests.xml; \
 status=$$?; tools/count-tests $(DIR)/tests.xml && exit $$status
 endef
 
@@ -42,7 +43,7 @@ help:
 	@echo "make first-run           the wizard's story on the simulated Mac and on GNUstep, step by step"
 	@echo "make soak                RUNS=$(RUNS) times all tests on GNUstep, four runs at a time"
 	@echo "make fuzz                every fuzzer for FUZZ_SECONDS=$(FUZZ_SECONDS) seconds"
-	@echo "make coverage            line and branch coverage of Kestrune/ and base/; fails under 100 %"
+	@echo "make coverage            line and branch coverage of Kestrune/, base/ and ui/; fails under 100 %"
 	@echo "make clean               remove everything that was built"
 	@echo
 	@echo "PRESET=gcc, clang or sanitize chooses the build. Every target installs what it needs."
@@ -70,7 +71,7 @@ test:
 else
 test:
 	$(call build,test,all)
-	$(run-tests)
+	$(call run-tests)
 endif
 
 # clang-tidy understands the flags of clang++ only. What both implementations define is seen where they are
@@ -105,9 +106,9 @@ fuzz:
 
 coverage: override PRESET = coverage
 coverage:
-	$(call build,coverage,all)
+	$(call build,coverage,unit-tests)
 	@find $(DIR) -name '*.gcda' -delete
-	$(run-tests)
+	$(call run-tests,--label-regex unit)
 	@tools/coverage $(DIR)
 
 clean:

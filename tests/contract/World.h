@@ -108,6 +108,9 @@ public:
     Trust trust() const;
     bool isTrustDialogShown() const;
 
+    // The user follows that dialog to System Settings.
+    void followTrustDialog();
+
     // Another process stores a value in the application's defaults.
     void store(std::string_view key, const StoredValue& value);
 

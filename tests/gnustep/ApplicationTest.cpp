@@ -11,7 +11,7 @@
 #include "tests/gnustep/Allocations.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/SavedDefaults.h"
-#include "tests/gnustep/ShippedBundle.h"
+#include "tests/scenarios/ShippedBundle.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -64,7 +64,7 @@ std::string textOf(const ShownRow& row) {
 
 class ApplicationOnGNUstep : public testing::Test {
 protected:
-    explicit ApplicationOnGNUstep(Trust trust = Trust::granted) : world_(shippedBundle()) {
+    explicit ApplicationOnGNUstep(Trust trust = Trust::granted) : world_(scenarios::shippedBundle()) {
         world_.connect({left(), right()});
         world_.setTrust(trust);
     }

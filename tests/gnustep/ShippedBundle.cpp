@@ -1,4 +1,4 @@
-#include "tests/gnustep/ShippedBundle.h"
+#include "tests/scenarios/ShippedBundle.h"
 
 #include "base/Fatal.h"
 #include "mac/Vocabulary.h"
@@ -9,9 +9,13 @@
 #include <map>
 #include <string>
 
-namespace kestrune::gnustep {
+namespace kestrune::scenarios {
 
 namespace {
+
+using gnustep::classObject;
+using gnustep::objectFor;
+using gnustep::send;
 
 const std::string Resources = KESTRUNE_RESOURCES;
 
@@ -45,4 +49,4 @@ contract::BundleFiles shippedBundle() {
     return files;
 }
 
-} // namespace kestrune::gnustep
+} // namespace kestrune::scenarios

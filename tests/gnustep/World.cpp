@@ -158,6 +158,11 @@ Trust World::trust() const { return accessibilityRow().trust; }
 
 bool World::isTrustDialogShown() const { return accessibilityRow().isDialogShown; }
 
+void World::followTrustDialog() {
+    accessibilityRow().isDialogShown = false;
+    activateAnotherApplication();
+}
+
 // GNUstep hears of what other processes store only now and then, so this process does it.
 void World::store(std::string_view key, const StoredValue& value) {
     const mac::Pool pool;

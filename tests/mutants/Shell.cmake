@@ -76,8 +76,8 @@ kestrune_mutant(WizardDoesNotEndTheWatcher ${DELEGATE}
     FROM "    endAccessibilityWatcher();
     rebuildMenu();" TO "    rebuildMenu();")
 kestrune_mutant(WizardDoesNotStart ${DELEGATE}
-    FROM "void KestruneApp::welcomeFinished() {
-    startGuardIfAllowed();" TO "void KestruneApp::welcomeFinished() {")
+    FROM "    welcomeWindowController_.reset();
+    startGuardIfAllowed();" TO "    welcomeWindowController_.reset();")
 kestrune_mutant(WizardDoesNotRebuild ${DELEGATE}
     FROM "    endAccessibilityWatcher();
     rebuildMenu();" TO "    endAccessibilityWatcher();")
@@ -211,8 +211,7 @@ kestrune_mutant(ChoiceRestartsTheTap ${MENU}
     rebuildMenu();")
 
 kestrune_mutant(QuitDoesNotQuit ${MENU}
-    FROM "    application->terminate();
-" TO "")
+    FROM "runningApplication().terminate();" TO "")
 
 set(MAIN_MENU FILE Kestrune/MainMenu.cpp DRIVER kestrune_shell_driver SEEDS 400)
 

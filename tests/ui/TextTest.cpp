@@ -62,7 +62,7 @@ TEST_F(ATextInLettersOfBrokenSizes, IsRoundedUpToWholePoints) {
 }
 
 TEST_F(ATextInLettersOfBrokenSizes, WrapsWhenItIsOfferedAPartOfItsLastPoint) {
-    EXPECT_EQ(sizeOfView(Text("The Dock"), {.width = 61.9}), (Size{31, 36}));
+    EXPECT_EQ(sizeOfView(Text("The Dock"), {.width = 61.9}), (Size{61, 36}));
     EXPECT_EQ(sizeOfView(Text("The Dock"), {.width = 62}), (Size{62, 18}));
 }
 

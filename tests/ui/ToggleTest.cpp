@@ -38,9 +38,9 @@ TEST_F(AToggle, IsAsLargeAsItsControlSizeSays) {
 
 TEST_F(AToggle, WrapsItsLabelBesideTheSwitch) {
     EXPECT_EQ(describeView(Toggle("The Dock stays", true, [](bool) {}), {.width = 106}),
-              "scene 102x32\n"
-              "  text 0,0 56x32 \"The Dock stays\" body\n"
-              "  toggle 64,5 38x22 \"The Dock stays\" on switch 0\n");
+              "scene 106x32\n"
+              "  text 0,0 60x32 \"The Dock stays\" body\n"
+              "  toggle 68,5 38x22 \"The Dock stays\" on switch 0\n");
 }
 
 TEST_F(AToggle, IsReadOutInTheUsersLanguageWithoutMarkdown) {

@@ -143,6 +143,8 @@ void World::setTrust(Trust trust) { state_->session.accessibility().setPermissio
 
 Trust World::trust() const { return trustOf(state_->session.accessibility().permission()); }
 
+void World::followTrustDialog() { state_->session.accessibility().openSettingsFromDialog(); }
+
 bool World::isTrustDialogShown() const { return state_->session.accessibility().isDialogShown(); }
 
 void World::store(std::string_view key, const StoredValue& value) {

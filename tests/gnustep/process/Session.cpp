@@ -4,12 +4,12 @@
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
 #include "tests/gnustep/Send.h"
-#include "tests/gnustep/ShippedBundle.h"
 #include "tests/gnustep/standins/AccessibilityTrust.h"
 #include "tests/gnustep/standins/EventTaps.h"
 #include "tests/gnustep/standins/MainBundle.h"
 #include "tests/gnustep/standins/Screens.h"
 #include "tests/gnustep/standins/StandIns.h"
+#include "tests/scenarios/ShippedBundle.h"
 
 #include <cstdint>
 #include <vector>
@@ -42,7 +42,7 @@ void copyPictures() {
 void beginSession(const std::filesystem::path& home, bool isPermitted) {
     const mac::Pool pool;
     installStandIns();
-    setMainBundle(shippedBundle(), home.string());
+    setMainBundle(scenarios::shippedBundle(), home.string());
     copyPictures();
     connectDisplays(displays());
     accessibilityRow().trust = isPermitted ? contract::Trust::granted : contract::Trust::notListed;
