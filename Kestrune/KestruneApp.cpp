@@ -4,6 +4,7 @@
 #include "Kestrune/ApplicationLog.h"
 #include "Kestrune/MainMenu.h"
 #include "Kestrune/RunningApplication.h"
+#include "Kestrune/WhileAlive.h"
 #include "base/Fatal.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/MainActor.h"
@@ -53,13 +54,8 @@ KestruneApp::KestruneApp(Construction)
 
 std::span<const ActionMethod> KestruneApp::actionMethods() const { return Actions; }
 
-template <void (KestruneApp::*operation)()>
-std::function<void()> KestruneApp::whileAlive() {
-    return [weakThis = weak_from_this()] {
-        if (const auto self = weakThis.lock()) {
-            (self.get()->*operation)();
-        }
-    };
+std::function<void()> KestruneApp::ifAlive(void (KestruneApp::*operation)()) {
+    return whileAlive(weak_from_this(), operation);
 }
 
 void KestruneApp::applicationDidFinishLaunching() noexcept {
@@ -68,7 +64,7 @@ void KestruneApp::applicationDidFinishLaunching() noexcept {
     dockGuard_->setPreferences(preferences_);
     startGuardIfAllowed();
     rebuildMenu();
-    menuBarController_->setOnAccessibilityGranted(whileAlive<&KestruneApp::accessibilityGranted>());
+    menuBarController_->setOnAccessibilityGranted(ifAlive(&KestruneApp::accessibilityGranted));
     if (!isProcessTrusted()) {
         registerForAccessibilityList();
         startAccessibilityWatcher();
@@ -86,8 +82,8 @@ void KestruneApp::installMainMenu() {
 
 std::shared_ptr<MenuBarController> KestruneApp::makeMenuBarController() {
     MenuBarController::Openers openers;
-    openers.openSettings = whileAlive<&KestruneApp::openSettingsWindow>();
-    openers.openWelcome = whileAlive<&KestruneApp::showWelcomeWindow>();
+    openers.openSettings = ifAlive(&KestruneApp::openSettingsWindow);
+    openers.openWelcome = ifAlive(&KestruneApp::showWelcomeWindow);
     return MenuBarController::make(preferences_, dockGuard_, std::move(openers));
 }
 
@@ -105,7 +101,7 @@ void KestruneApp::openSettingsWindow() {}
 void KestruneApp::showWelcomeWindow() {
     if (!welcomeWindowController_) {
         welcomeWindowController_ =
-            WelcomeWindowController::make(preferences_, whileAlive<&KestruneApp::welcomeFinished>());
+            WelcomeWindowController::make(preferences_, ifAlive(&KestruneApp::welcomeFinished));
     }
     welcomeWindowController_->show();
 }
@@ -123,9 +119,7 @@ void KestruneApp::startGuardIfAllowed() {
 }
 
 void KestruneApp::startAccessibilityWatcher() {
-    if (accessibilityWatcher_) {
-        accessibilityWatcher_->invalidate();
-    }
+    endAccessibilityWatcher();
     accessibilityWatcher_ =
         Timer::scheduledTimer(WatcherInterval, true, [weakThis = weak_from_this()](Timer& watcher) {
             requireMainActor("The Accessibility watcher has left the main thread.");
@@ -166,9 +160,7 @@ void KestruneApp::welcomeFinished() {
     rebuildMenu();
 }
 
-void KestruneApp::scheduleWelcomeDecision() {
-    MainActor::startTask(whileAlive<&KestruneApp::decideOnWelcome>());
-}
+void KestruneApp::scheduleWelcomeDecision() { MainActor::startTask(ifAlive(&KestruneApp::decideOnWelcome)); }
 
 // Whoever holds the permission already has no use for the wizard; whoever lost it sees the wizard again at
 // every launch, whatever was completed before.
@@ -185,7 +177,7 @@ void KestruneApp::observeScreenParameters() {
     // The token is dropped: the displays are followed as long as the process lives.
     NotificationCenter::defaultCenter().addObserver(
         ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(),
-        [follow = whileAlive<&KestruneApp::screenParametersChanged>()] {
+        [follow = ifAlive(&KestruneApp::screenParametersChanged)] {
             requireMainActor("A change of displays was announced outside the main thread.");
             follow();
         });

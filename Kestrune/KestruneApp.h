@@ -71,8 +71,7 @@ private:
     std::shared_ptr<MenuBarController> makeMenuBarController();
 
     // Calls the operation, or does nothing once this object is gone.
-    template <void (KestruneApp::*operation)()>
-    std::function<void()> whileAlive();
+    std::function<void()> ifAlive(void (KestruneApp::*operation)());
 
     void startGuardIfAllowed();
     void startAccessibilityWatcher();
@@ -87,8 +86,8 @@ private:
     std::shared_ptr<MenuBarController> menuBarController_;
     std::shared_ptr<Preferences> preferences_;
     std::shared_ptr<DockGuardController> dockGuard_;
-    std::shared_ptr<WelcomeWindowController> welcomeWindowController_; // null unless the wizard is going on
     std::optional<Timer> accessibilityWatcher_;
+    std::shared_ptr<WelcomeWindowController> welcomeWindowController_; // null unless the wizard is going on
 };
 
 // The process's main function: launches the application and runs it. The result keeps the delegate alive,

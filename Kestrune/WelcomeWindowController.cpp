@@ -5,6 +5,7 @@
 #include "Kestrune/Localized.h"
 #include "Kestrune/RunningApplication.h"
 #include "Kestrune/WelcomeView.h"
+#include "Kestrune/WhileAlive.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/Hosting.h"
 
@@ -56,17 +57,12 @@ WelcomeWindowController::WelcomeWindowController(Construction, std::shared_ptr<P
 WelcomeWindowController::~WelcomeWindowController() { endAccessibilityWatcher(); }
 
 void WelcomeWindowController::installActions() {
-    const auto whileAlive = [this](void (WelcomeWindowController::*operation)()) -> std::function<void()> {
-        return [weakThis = weak_from_this(), operation] {
-            if (const auto self = weakThis.lock()) {
-                (self.get()->*operation)();
-            }
-        };
-    };
-    model_->advanceFromIntro = whileAlive(&WelcomeWindowController::advanceFromIntro);
-    model_->requestPermissions = whileAlive(&WelcomeWindowController::requestPermissions);
-    model_->openAccessibilitySettings = whileAlive(&WelcomeWindowController::openAccessibilitySettings);
-    model_->finish = whileAlive(&WelcomeWindowController::finish);
+    const auto weakThis = weak_from_this();
+    model_->advanceFromIntro = whileAlive(weakThis, &WelcomeWindowController::advanceFromIntro);
+    model_->requestPermissions = whileAlive(weakThis, &WelcomeWindowController::requestPermissions);
+    model_->openAccessibilitySettings =
+        whileAlive(weakThis, &WelcomeWindowController::openAccessibilitySettings);
+    model_->finish = whileAlive(weakThis, &WelcomeWindowController::finish);
 }
 
 void WelcomeWindowController::hostView() {

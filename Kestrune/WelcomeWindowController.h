@@ -23,8 +23,8 @@ class WelcomeWindowController : public WindowController,
     struct Construction {};
 
 public:
-    // Makes the window, which `show` brings on screen, and starts polling. `onFinished` is called at the end
-    // of `finish`; it may let go of the controller.
+    // Makes the window, which `show` brings on screen, and starts polling. `onFinished` is called when the
+    // wizard has been put away; it may let go of the controller.
     static std::shared_ptr<WelcomeWindowController> make(std::shared_ptr<Preferences> preferences,
                                                          std::function<void()> onFinished);
 
@@ -35,9 +35,6 @@ public:
     // Brings the wizard on screen and the application to the front, with the introduction only for whoever
     // has granted the permission already.
     void show();
-
-    // Records that the first run is done, and puts the wizard away.
-    void finish();
 
     // The user may come back from System Settings: the permission is looked at without waiting for the timer.
     void windowDidBecomeKey() noexcept override;
@@ -64,6 +61,9 @@ private:
     void advanceFromIntro();
     void requestPermissions();
     void openAccessibilitySettings();
+
+    // Records that the first run is done, and puts the wizard away. Whoever calls it holds the controller.
+    void finish();
 
     // The system's dialog and System Settings must be able to come in front of the page that sends the user
     // there; the introduction stays in front of everything.

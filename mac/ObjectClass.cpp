@@ -76,8 +76,19 @@ std::unordered_map<Class, std::string_view>& sourcePaths() {
     return paths;
 }
 
+// An instance may be of a subclass that the platform has made of its class, as an observed one is.
+std::string_view sourcePathOf(id instance) {
+    for (Class type = object_getClass(instance); type != nullptr; type = class_getSuperclass(type)) {
+        const auto found = sourcePaths().find(type);
+        if (found != sourcePaths().end()) {
+            return found->second;
+        }
+    }
+    return {};
+}
+
 id refuseConstruction(id instance, SEL, id /*archiveOrWindow*/) noexcept {
-    fatal("init(coder:) is not supported", sourcePaths().at(object_getClass(instance)));
+    fatal("init(coder:) is not supported", sourcePathOf(instance));
 }
 
 void addActions(RuntimeClass& made, const Object& object) {

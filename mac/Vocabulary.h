@@ -289,6 +289,7 @@ inline const Message<void(Integer)> setLevel{type, "setLevel:"};
 inline const Message<void(BOOL)> setHidesOnDeactivate{type, "setHidesOnDeactivate:"};
 inline const Message<void(Unsigned)> setCollectionBehavior{type, "setCollectionBehavior:"};
 inline const Message<void()> center{type, "center"};
+inline const Message<void(id)> setContentView{type, "setContentView:"};
 inline const Message<void(id)> setContentViewController{type, "setContentViewController:"};
 inline const Message<void(id)> setDelegate{type, "setDelegate:"};
 inline const Message<void(id)> makeKeyAndOrderFront{type, "makeKeyAndOrderFront:"};

@@ -3,6 +3,7 @@
 #include "mac/Handles.h"
 #include "mac/ObjectCounterpart.h"
 #include "mac/Vocabulary.h"
+#include "mac/hosting/HostedView.h"
 #include "mac/hosting/HostingState.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
@@ -47,7 +48,14 @@ void Window::center() {
 void Window::setContentViewController(const HostingController& controller) {
     const mac::Pool pool;
     mac::ns_window::setContentViewController(state_->window.get(), controller.state()->controller.get());
-    controller.state()->hostedView().enterWindow();
+}
+
+void Window::setContentView(const HostingView& view) {
+    const mac::Pool pool;
+    const id hosted = view.state()->view.get();
+    mac::ns_window::setContentView(state_->window.get(), hosted);
+    // Which gives the view the window's size, where a hosting view gives the window its own.
+    mac::HostedView::of(hosted).fitWindow();
 }
 
 void Window::setDelegate(const std::weak_ptr<WindowDelegate>& delegate) {

@@ -82,6 +82,10 @@ public:
     // setContentViewController:. Retained. The window's content takes the size of its view.
     void setContentViewController(const HostingController& controller);
 
+    // setContentView:. Retained. The window's content takes the view's ideal size and follows it, as the
+    // view's sizing options have it unless set.
+    void setContentView(const HostingView& view);
+
     // setDelegate:. Held weakly.
     void setDelegate(const std::weak_ptr<WindowDelegate>& delegate);
 

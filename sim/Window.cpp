@@ -1,6 +1,6 @@
 #include "platform/Window.h"
 
-#include "sim/HostingState.h"
+#include "sim/HostedView.h"
 #include "sim/Session.h"
 #include "sim/WindowState.h"
 
@@ -71,9 +71,14 @@ void Window::center() {
 
 void Window::setContentViewController(const HostingController& controller) {
     record("-[NSWindow setContentViewController:]");
-    state_->content = controller;
-    controller.state()->window = state_;
-    state_->setContentSize(controller.state()->host.scene().size);
+    state_->content = controller.state()->view;
+    state_->content->enter(state_);
+}
+
+void Window::setContentView(const HostingView& view) {
+    record("-[NSWindow setContentView:]");
+    state_->content = view.state()->view;
+    state_->content->enter(state_);
 }
 
 void Window::setDelegate(const std::weak_ptr<WindowDelegate>& delegate) {

@@ -1,15 +1,17 @@
 // A window of the simulated session.
 #pragma once
 
-#include "platform/Hosting.h"
 #include "platform/Window.h"
 #include "sim/LiveObject.h"
 
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace kestrune {
+
+namespace sim {
+class HostedView;
+}
 
 struct Window::State {
     static constexpr double TitleBarHeight = 28;
@@ -32,8 +34,8 @@ struct Window::State {
     bool isReleasedWhenClosed = true;
     bool hidesOnDeactivate = false;
     bool isVisible = false;
-    bool isReleased = false; // by its closing
-    std::optional<HostingController> content;
+    bool isReleased = false;                  // by its closing
+    std::shared_ptr<sim::HostedView> content; // null until there is one
     std::weak_ptr<WindowDelegate> delegate;
     sim::LiveObject object{"window", sim::LiveObject::Release::unrecorded};
 };

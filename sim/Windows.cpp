@@ -1,7 +1,7 @@
 #include "sim/Windows.h"
 
 #include "base/Fatal.h"
-#include "sim/HostingState.h"
+#include "sim/HostedView.h"
 #include "sim/Session.h"
 #include "sim/WindowState.h"
 
@@ -17,13 +17,13 @@ void withElement(const Windows::WindowState& window, std::size_t element, Action
     if (!window->content) {
         return;
     }
-    const auto controller = window->content->state();
-    const auto& elements = controller->host.scene().elements;
+    const auto view = window->content;
+    const auto& elements = view->host().scene().elements;
     if (element >= elements.size()) {
         return;
     }
     if (const auto* const wanted = std::get_if<Wanted>(&elements[element])) {
-        action(controller->host, *wanted);
+        action(view->host(), *wanted);
     }
 }
 
@@ -55,7 +55,7 @@ Windows::WindowState Windows::keyWindow() const {
 
 const ui::Scene& Windows::sceneOf(const Window::State& window) {
     static const ui::Scene nothing;
-    return window.content ? window.content->state()->host.scene() : nothing;
+    return window.content ? window.content->host().scene() : nothing;
 }
 
 void Windows::center(Window::State& window) const {
@@ -145,22 +145,24 @@ void Windows::flipSwitch(const WindowState& window, std::size_t element) {
     });
 }
 
-bool Windows::press(ui::KeyboardShortcut shortcut) {
-    const WindowState key = keyWindow();
-    if (!key) {
-        return false;
-    }
-    const auto& elements = sceneOf(*key).elements;
+std::optional<std::size_t> Windows::elementFor(const Window::State& window, ui::KeyboardShortcut shortcut) {
+    const auto& elements = sceneOf(window).elements;
     const auto button =
         std::find_if(elements.begin(), elements.end(), [shortcut](const ui::Element& element) {
             const auto* const candidate = std::get_if<ui::ButtonElement>(&element);
             return candidate != nullptr && candidate->shortcut == shortcut;
         });
-    if (button == elements.end()) {
-        return false;
+    return button != elements.end() ? std::optional(static_cast<std::size_t>(button - elements.begin()))
+                                    : std::nullopt;
+}
+
+bool Windows::press(ui::KeyboardShortcut shortcut) {
+    const WindowState key = keyWindow();
+    const auto element = key ? elementFor(*key, shortcut) : std::nullopt;
+    if (element) {
+        pressButton(key, *element);
     }
-    pressButton(key, static_cast<std::size_t>(button - elements.begin()));
-    return true;
+    return element.has_value();
 }
 
 void Windows::setActive(bool isActive) {
@@ -191,8 +193,15 @@ void Windows::requireUnreleased(const Window::State& window) {
     }
 }
 
+// What is left of them has no effect any more.
 void Windows::clear() {
+    for (const auto& reference : ordered_) {
+        if (const auto window = reference.lock()) {
+            window->isVisible = false;
+        }
+    }
     ordered_.clear();
+    wantedKey_.reset();
     sourcePaths_.clear();
 }
 

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,9 @@ public:
 
     // Which receives the keys; null while the application is not active or shows no window.
     WindowState keyWindow() const;
+
+    // Whose title bar looks active: here always the window with the keys, as nothing has panels.
+    WindowState mainWindow() const { return keyWindow(); }
 
     // What the hosted view of a window shows; nothing when it hosts none.
     static const ui::Scene& sceneOf(const Window::State& window);
@@ -53,6 +57,9 @@ public:
     // the scene. Nothing happens to any other element.
     void pressButton(const WindowState& window, std::size_t element);
     void flipSwitch(const WindowState& window, std::size_t element);
+
+    // The button of the hosted view that the key stands for; absent when there is none.
+    static std::optional<std::size_t> elementFor(const Window::State& window, ui::KeyboardShortcut shortcut);
 
     // The same with the keyboard: the button of the key window whose shortcut the key is, Return or Escape.
     // True when there is one.

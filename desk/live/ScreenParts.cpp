@@ -2,6 +2,7 @@
 
 #include "sim/MenuState.h"
 #include "sim/StatusItemState.h"
+#include "sim/WindowState.h"
 
 #include <utility>
 #include <variant>
@@ -168,6 +169,7 @@ void ScreenParts::noteClosedMenu() {
 void ScreenParts::displaysChanged() {
     closeMenu();
     windows_.letGo();
+    windows_.hover(std::nullopt);
     pressed_.reset();
     hovered_.reset();
 }
@@ -287,7 +289,8 @@ void ScreenParts::addTo(DeskPicture& picture, const std::string& iconPath) {
     addToolTip(picture);
     const sim::Accessibility& accessibility = session_.accessibility();
     if (accessibility.isDialogShown()) {
-        picture.permissionDialog = PermissionDialogPicture{0, ApplicationName, iconPath};
+        picture.permissionDialog =
+            PermissionDialogPicture{0, ApplicationName, iconPath, Window::State::TitleBarHeight};
     }
     if (accessibility.isPaneShown()) {
         picture.accessibilityPane =

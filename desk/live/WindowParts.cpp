@@ -1,5 +1,6 @@
 #include "desk/live/WindowParts.h"
 
+#include "desk/paint/MenuBarLayout.h"
 #include "sim/WindowState.h"
 
 #include <algorithm>
@@ -9,8 +10,6 @@
 namespace kestrune::desk {
 
 namespace {
-
-constexpr double MenuBarHeight = 24;
 
 // The number of the window that a target belongs to.
 struct WindowNumber {
@@ -77,6 +76,7 @@ std::optional<std::string> WindowParts::release(const std::optional<DeskTarget>&
 }
 
 void WindowParts::hover(const std::optional<DeskTarget>& target) {
+    hovered_ = target;
     isOverPressed_ = pressed_ && pressed_ == target;
 }
 
@@ -134,17 +134,10 @@ std::optional<std::string> WindowParts::press(NavigationKey key) {
 }
 
 std::optional<std::string> WindowParts::pressShortcut(ui::KeyboardShortcut shortcut) {
-    const auto& elements = sim::Windows::sceneOf(*session_.windows().keyWindow()).elements;
-    const auto found = std::find_if(elements.begin(), elements.end(), [shortcut](const ui::Element& element) {
-        const auto* const button = std::get_if<ui::ButtonElement>(&element);
-        return button != nullptr && button->shortcut == shortcut;
-    });
-    if (found == elements.end()) {
-        return std::nullopt;
-    }
-    const std::string title = *titleOfControl(*found);
-    session_.windows().press(shortcut);
-    return title;
+    const WindowState key = session_.windows().keyWindow();
+    const auto element = sim::Windows::elementFor(*key, shortcut);
+    const auto control = element ? controlIn(key, *element) : std::nullopt;
+    return control ? std::optional(act(*control)) : std::nullopt;
 }
 
 void WindowParts::moveFocus(bool forwards) {
@@ -181,8 +174,12 @@ bool WindowParts::isStillThere(const std::optional<Control>& control, const Wind
 std::optional<std::string> WindowParts::act(const Control& control) {
     const WindowState window = control.window.lock();
     std::string title = control.title; // The action may end with the control.
-    session_.windows().pressButton(window, control.element);
-    session_.windows().flipSwitch(window, control.element);
+    if (std::holds_alternative<ui::ButtonElement>(
+            sim::Windows::sceneOf(*window).elements.at(control.element))) {
+        session_.windows().pressButton(window, control.element);
+    } else {
+        session_.windows().flipSwitch(window, control.element);
+    }
     return title;
 }
 
@@ -218,11 +215,12 @@ WindowPicture WindowParts::pictureOf(const WindowState& window) {
     picture.number = numberOf(window);
     picture.frame = globalFrame(*window);
     picture.title = window->title;
-    picture.isTitled = window->has(WindowStyleMask::titled);
+    picture.titleBarHeight = window->titleBarHeight();
     picture.isClosable = window->has(WindowStyleMask::closable);
     picture.isMiniaturizable = window->has(WindowStyleMask::miniaturizable);
     picture.isResizable = window->has(WindowStyleMask::resizable);
     picture.isKey = session_.windows().keyWindow() == window;
+    picture.isMain = session_.windows().mainWindow() == window;
     picture.depth = depthOf(*window);
     picture.scene = sim::Windows::sceneOf(*window);
     if (isStillThere(focused_, window)) {
@@ -231,8 +229,9 @@ WindowPicture WindowParts::pictureOf(const WindowState& window) {
     if (isOverPressed_ && isStillThere(pressedControl_, window)) {
         picture.pressedElement = pressedControl_->element;
     }
-    picture.isCloseButtonPressed =
-        isOverPressed_ && pressed_ == DeskTarget{WindowCloseTarget{picture.number}};
+    const DeskTarget close = WindowCloseTarget{picture.number};
+    picture.isCloseButtonPressed = isOverPressed_ && pressed_ == close;
+    picture.isCloseButtonHovered = hovered_ == close && (!pressed_ || pressed_ == close);
     return picture;
 }
 

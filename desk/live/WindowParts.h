@@ -77,6 +77,7 @@ private:
     std::vector<std::weak_ptr<Window::State>> numbered_; // a window's number is its place
     std::optional<DeskTarget> pressed_;
     std::optional<Control> pressedControl_;
+    std::optional<DeskTarget> hovered_;
     bool isOverPressed_ = false;
     std::optional<Drag> drag_;
     std::optional<Control> focused_;

@@ -42,11 +42,14 @@ constexpr std::array Looks{
     NamedLook{WizardLook::inBackground, "-background", "in the background"},
 };
 
+// How much longer than an English text its translation is assumed to be. There is no translation yet; German
+// and Finnish interface texts run about a third to a half longer than English ones.
+constexpr double AssumedLengthening = 1.4;
+
 // A longer text of the same kind: its words go on from the first, without the marks of bold text, and break
 // off where it is long enough.
 std::string lengthened(const std::string& text) {
-    constexpr double LongestTranslation = 1.4; // of an English text
-    const auto wanted = static_cast<std::size_t>(LongestTranslation * static_cast<double>(text.size()));
+    const auto wanted = static_cast<std::size_t>(AssumedLengthening * static_cast<double>(text.size()));
     std::string words = text;
     words.erase(std::remove(words.begin(), words.end(), '*'), words.end());
     std::string result = text;

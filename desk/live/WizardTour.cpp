@@ -1,5 +1,6 @@
 #include "desk/live/WizardTour.h"
 
+#include "Kestrune/Preferences.h"
 #include "desk/live/LivePicture.h"
 
 #include <chrono>
@@ -12,7 +13,6 @@ namespace {
 
 constexpr sim::Duration UntilTheWizardShows = std::chrono::seconds(1);
 constexpr sim::Duration UntilThePermissionIsSeen = std::chrono::milliseconds(1100);
-constexpr const char* SetupIsComplete = "hasCompletedOnboarding";
 
 class WizardVisitor {
 public:
@@ -22,7 +22,8 @@ public:
 
     // The introduction is for whoever has granted the permission before the wizard opens.
     void openFromMenu() {
-        desk_.session().defaults().set(SetupIsComplete, sim::PropertyList{false});
+        desk_.session().defaults().set(Preferences::HasCompletedOnboardingKey.name(),
+                                       sim::PropertyList{false});
         // The menu that opens first is the one that was built before.
         desk_.openStatusMenu();
         desk_.navigate(NavigationKey::escape);

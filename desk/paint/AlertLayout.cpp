@@ -10,7 +10,6 @@ namespace kestrune::desk {
 namespace {
 
 constexpr double Width = 452;
-constexpr double TitleBarHeight = 28;
 constexpr double Padding = 20;
 constexpr double IconSide = 64;
 constexpr double IconGap = 18;
@@ -39,7 +38,8 @@ std::optional<AlertLayout> alertLayout(TextMeasure& measure, const DeskLayout& l
     const double informationHeight = std::ceil(
         measure.wrappedHeight(AlertInformation, textWidth, AlertLongestText, alertInformationStyle()));
     const double textsHeight = messageHeight + TextGap + informationHeight;
-    const double contentTop = TitleBarHeight + ContentTop;
+    const double titleBarHeight = picture.permissionDialog->titleBarHeight;
+    const double contentTop = titleBarHeight + ContentTop;
     const double buttonTop = contentTop + std::max(IconSide, textsHeight) + ButtonsGap;
     const double height = buttonTop + PushButtonHeight + Padding;
 
@@ -50,7 +50,7 @@ std::optional<AlertLayout> alertLayout(TextMeasure& measure, const DeskLayout& l
                                Width, height},
                               window);
     const Point corner = result.frame.origin;
-    result.titleBar = {corner.x, corner.y, Width, TitleBarHeight};
+    result.titleBar = {corner.x, corner.y, Width, titleBarHeight};
     result.icon = {corner.x + Padding, corner.y + contentTop, IconSide, IconSide};
     result.message = {corner.x + textLeft, corner.y + contentTop, textWidth, messageHeight};
     result.information = {corner.x + textLeft, result.message.maxY() + TextGap, textWidth, informationHeight};

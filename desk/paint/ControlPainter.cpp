@@ -105,9 +105,10 @@ void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowBut
     constexpr double Distance = 20; // from centre to centre
     const double radius = WindowButtonSide / 2;
     const Point center = centerOf(close);
+    const bool isInUse = buttons.isClosable && (buttons.isClosePressed || buttons.isCloseHovered);
     const auto paintButton = [&](double steps, bool isEnabled, bool isPressed, const Color& color) {
         const Point middle{center.x + steps * Distance, center.y};
-        if (!isEnabled || !buttons.isActive) {
+        if (!isEnabled || !(buttons.isActive || isInUse)) {
             fillCircle(canvas.context, middle, radius, canvas.palette.system.windowButton);
             return;
         }
@@ -119,7 +120,7 @@ void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowBut
     paintButton(0, buttons.isClosable, buttons.isClosePressed, rgb(0xFF5F57));
     paintButton(1, buttons.isMiniaturizable, false, rgb(0xFEBC2E));
     paintButton(2, buttons.isZoomable, false, rgb(0x28C840));
-    if (buttons.isClosable && buttons.isClosePressed) {
+    if (isInUse) {
         constexpr double Arm = 2.4;
         const Color cross = rgb(0x000000, 0.6);
         strokeLine(canvas.context, {center.x - Arm, center.y - Arm}, {center.x + Arm, center.y + Arm}, 1.2,

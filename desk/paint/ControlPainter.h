@@ -47,8 +47,9 @@ struct WindowButtons {
     bool isClosable = true;
     bool isMiniaturizable = false;
     bool isZoomable = false;
-    bool isActive = true; // without it the buttons are grey
+    bool isActive = true; // without it the buttons are grey while the pointer is elsewhere
     bool isClosePressed = false;
+    bool isCloseHovered = false;
 };
 inline constexpr double WindowButtonSide = 12;
 

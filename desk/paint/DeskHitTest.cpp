@@ -72,7 +72,7 @@ std::optional<DeskTarget> targetInWindow(const WindowLayout& layout, const Windo
     if (!layout.frame.contains(place)) {
         return std::nullopt;
     }
-    if (shown.isTitled && shown.isClosable && isCloseTo(layout.closeButton, place)) {
+    if (shown.isTitled() && shown.isClosable && isCloseTo(layout.closeButton, place)) {
         return WindowCloseTarget{shown.number};
     }
     if (layout.titleBar.contains(place)) {
@@ -176,7 +176,7 @@ struct AreaOfTarget {
 
     std::optional<Rect> operator()(const WindowCloseTarget& target) const {
         const WindowPicture* const shown = windowWith(target.window);
-        return shown != nullptr && shown->isTitled && shown->isClosable
+        return shown != nullptr && shown->isTitled() && shown->isClosable
                    ? std::optional(windowLayout(layout, *shown, window).closeButton)
                    : std::nullopt;
     }
@@ -190,7 +190,7 @@ struct AreaOfTarget {
 
     std::optional<Rect> operator()(const WindowTitleTarget& target) const {
         const WindowPicture* const shown = windowWith(target.window);
-        return shown != nullptr && shown->isTitled
+        return shown != nullptr && shown->isTitled()
                    ? std::optional(windowLayout(layout, *shown, window).titleBar)
                    : std::nullopt;
     }

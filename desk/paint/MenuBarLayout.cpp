@@ -6,7 +6,6 @@
 namespace kestrune::desk {
 namespace {
 
-constexpr double PlatformHeight = 24; // in points
 constexpr double SmallestHeight = 20;
 constexpr double SmallestLegibleHeight = 11;
 
@@ -31,7 +30,7 @@ Size usableImageSize(Size size) {
 // Whole logical pixels, so that the image's edges stay sharp at every whole resolution.
 Size drawnImageSize(Size size, double barHeight) {
     const Size points = usableImageSize(size);
-    const double scale = std::min(barHeight / PlatformHeight, TallestImage * barHeight / points.height);
+    const double scale = std::min(barHeight / MenuBarHeight, TallestImage * barHeight / points.height);
     return {std::max(1.0, std::round(points.width * scale)),
             std::max(1.0, std::round(points.height * scale))};
 }
@@ -68,7 +67,7 @@ double leadingEdgeOf(const std::vector<StatusItemPlace>& items, double otherwise
 
 Rect menuBarArea(const DisplayPlace& place, double scale) {
     const double height = std::round(std::min(
-        std::clamp(PlatformHeight * scale, SmallestHeight, PlatformHeight), place.screen.height() * 0.12));
+        std::clamp(MenuBarHeight * scale, SmallestHeight, MenuBarHeight), place.screen.height() * 0.12));
     return {place.screen.minX(), place.screen.minY(), place.screen.width(), height};
 }
 

@@ -12,6 +12,9 @@
 
 namespace kestrune::desk {
 
+// On a display, in points.
+inline constexpr double MenuBarHeight = 24;
+
 // At the top of the screen. To scale where that is large enough to be read.
 Rect menuBarArea(const DisplayPlace& place, double scale);
 

@@ -17,7 +17,7 @@ namespace kestrune::desk {
 struct StatusItemPicture {
     // A PNG file. The item keeps its place in the menu bar without one, and with one that cannot be read.
     std::optional<std::string> imagePath = std::nullopt;
-    Size imageSize{18, 18}; // in points; a menu bar is 24 points high
+    Size imageSize{18, 18}; // in points, as the height of a menu bar is
     // Whether only the image's opacity counts, and it takes the colour of the menu bar's text.
     bool isTemplate = true;
     // For whoever fills in the tool tip; the item itself does not show it.
@@ -75,6 +75,7 @@ struct PermissionDialogPicture {
     std::size_t display = 0;
     std::string applicationName = {};
     std::optional<std::string> iconPath = std::nullopt; // a PNG file; otherwise a general icon is shown
+    double titleBarHeight = 0;
 
     friend bool operator==(const PermissionDialogPicture&, const PermissionDialogPicture&) = default;
 };
@@ -103,11 +104,12 @@ struct WindowPicture {
     std::size_t number = 0; // stays with the window while others come and go
     Rect frame = {};        // with the title bar, in global display coordinates
     std::string title = {};
-    bool isTitled = true;
+    double titleBarHeight = 0; // not positive: the window has no title bar
     bool isClosable = true;
     bool isMiniaturizable = false;
     bool isResizable = false;
-    bool isKey = false;
+    bool isKey = false;  // receives the keys
+    bool isMain = false; // is the one that the user works on, whatever receives the keys
     WindowDepth depth = WindowDepth::beforePane;
     ui::Scene scene = {};
 
@@ -115,6 +117,10 @@ struct WindowPicture {
     std::optional<std::size_t> pressedElement = std::nullopt;
     std::optional<std::size_t> focusedElement = std::nullopt;
     bool isCloseButtonPressed = false;
+    bool isCloseButtonHovered = false;
+
+    bool isActive() const { return isKey || isMain; }
+    bool isTitled() const { return titleBarHeight > 0; }
 
     friend bool operator==(const WindowPicture&, const WindowPicture&) = default;
 };

@@ -12,7 +12,7 @@ namespace kestrune::desk {
 
 WindowLayout windowLayoutAt(Point topLeft, const WindowPicture& shown) {
     constexpr double ButtonInset = 8;
-    const double titleHeight = shown.isTitled ? WindowTitleBarHeight : 0;
+    const double titleHeight = shown.titleBarHeight;
     const Size size{shown.frame.width(), shown.frame.height()};
     WindowLayout result;
     result.frame = {topLeft.x, topLeft.y, size.width, size.height};

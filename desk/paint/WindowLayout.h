@@ -23,7 +23,6 @@ struct WindowLayout {
     friend bool operator==(const WindowLayout&, const WindowLayout&) = default;
 };
 
-inline constexpr double WindowTitleBarHeight = 28;
 inline constexpr double WindowAnchorHeight = 0.35; // of the window's height, from its top
 
 // Kept inside the desk's window.

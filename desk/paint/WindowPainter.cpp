@@ -13,7 +13,7 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
     constexpr double ButtonsWidth = 72; // with the room after them
     const SceneColors& colors = canvas.palette.scene;
     const Rect& bar = layout.titleBar;
-    if (shown.isKey) {
+    if (shown.isActive()) {
         cairo_rectangle(canvas.context, bar.minX(), bar.minY(), bar.width(), bar.height());
         setColor(canvas.context, colors.titleBar);
         cairo_fill(canvas.context);
@@ -24,22 +24,23 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
                        {.isClosable = shown.isClosable,
                         .isMiniaturizable = shown.isMiniaturizable,
                         .isZoomable = shown.isResizable,
-                        .isActive = shown.isKey,
-                        .isClosePressed = shown.isCloseButtonPressed});
+                        .isActive = shown.isActive(),
+                        .isClosePressed = shown.isCloseButtonPressed,
+                        .isCloseHovered = shown.isCloseButtonHovered});
     canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, bar.minY() + bar.height() / 2},
                       {.size = 13,
                        .weight = FontWeight::bold,
-                       .color = shown.isKey ? colors.title : colors.inactiveTitle,
+                       .color = shown.isActive() ? colors.title : colors.inactiveTitle,
                        .alignment = TextAlignment::center,
                        .maximumWidth = std::max(0.0, bar.width() - 2 * ButtonsWidth)});
 }
 
 } // namespace
 
-PanelStyle applicationWindowStyle(const Palette& palette, bool isKey) {
+PanelStyle applicationWindowStyle(const Palette& palette, bool isActive) {
     PanelStyle style = windowPanelStyle(palette);
     style.color = palette.scene.window;
-    if (!isKey) {
+    if (!isActive) {
         style.shadowBlur = 24;
         style.shadowDrop = 8;
     }
@@ -49,9 +50,9 @@ PanelStyle applicationWindowStyle(const Palette& palette, bool isKey) {
 void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
     const SavedState saved{canvas.context};
     addRoundedRectangle(canvas.context, layout.frame,
-                        applicationWindowStyle(canvas.palette, shown.isKey).cornerRadius);
+                        applicationWindowStyle(canvas.palette, shown.isActive()).cornerRadius);
     cairo_clip(canvas.context);
-    if (shown.isTitled) {
+    if (shown.isTitled()) {
         paintTitleBar(canvas, layout, shown);
     }
     paintScene(canvas, shown.scene, layout.content.origin,

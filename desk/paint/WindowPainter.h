@@ -8,8 +8,8 @@
 
 namespace kestrune::desk {
 
-// The key window throws a deeper shadow.
-PanelStyle applicationWindowStyle(const Palette& palette, bool isKey);
+// An active window throws a deeper shadow.
+PanelStyle applicationWindowStyle(const Palette& palette, bool isActive);
 
 // Title bar and scene; the panel is not painted with them.
 void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown);

@@ -38,7 +38,7 @@ Retained newObject(const ClassReference& type) {
 
 } // namespace
 
-Retained attributedText(const ui::StyledText& text) {
+Retained attributedText(const ui::StyledText& text, double opacity) {
     const Retained style = newObject(ns_mutable_paragraph_style::type);
     ns_mutable_paragraph_style::setAlignment(style.get(), platformAlignment(text.alignment));
     Retained result = newObject(ns_mutable_attributed_string::type);
@@ -48,7 +48,7 @@ Retained attributedText(const ui::StyledText& text) {
             ns_mutable_dictionary::setObject(attributes.get(), value, key);
         };
         set(NSFontAttributeName, platformFont(text.font, run.weight));
-        set(NSForegroundColorAttributeName, platformColor(text.color));
+        set(NSForegroundColorAttributeName, colorWithOpacity(text.color, opacity));
         set(NSParagraphStyleAttributeName, style.get());
         const Retained part = Retained::adopting(
             ns_attributed_string::initWithString(ns_object::alloc(ns_attributed_string::type.object()),

@@ -10,6 +10,7 @@ namespace kestrune::mac {
 // has them.
 inline constexpr Integer TextLayoutOptions = 1 | 2;
 
-Retained attributedText(const ui::StyledText& text);
+// `opacity` is from 0 for invisible to 1.
+Retained attributedText(const ui::StyledText& text, double opacity = 1);
 
 } // namespace kestrune::mac

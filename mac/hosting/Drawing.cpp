@@ -15,27 +15,28 @@ Rect movedBy(const Rect& frame, Point origin) {
 
 struct Painter {
     Point origin;
+    double opacity;
 
     void operator()(const ui::TextElement& element) const {
-        ns_attributed_string::drawWithRect(attributedText(element.text).get(), movedBy(element.frame, origin),
-                                           TextLayoutOptions);
+        ns_attributed_string::drawWithRect(attributedText(element.text, opacity).get(),
+                                           movedBy(element.frame, origin), TextLayoutOptions);
     }
 
     void operator()(const ui::SymbolElement& element) const {
-        drawSymbol(element.symbol, movedBy(element.frame, origin));
+        drawSymbol(element.symbol, movedBy(element.frame, origin), opacity);
     }
 
     void operator()(const ui::ShapeElement& element) const {
-        ns_color::set(colorWithOpacity(element.fill, element.opacity));
+        ns_color::set(colorWithOpacity(element.fill, element.opacity * opacity));
         fillMask(element, origin);
     }
 };
 
 } // namespace
 
-void draw(const std::vector<ui::Drawing>& drawings, Point origin) {
+void draw(const std::vector<ui::Drawing>& drawings, Point origin, double opacity) {
     for (const ui::Drawing& drawing : drawings) {
-        std::visit(Painter{origin}, drawing);
+        std::visit(Painter{origin, opacity}, drawing);
     }
 }
 

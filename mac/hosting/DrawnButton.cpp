@@ -14,6 +14,7 @@ namespace kestrune::mac {
 namespace {
 
 constexpr Unsigned MomentaryPushIn = 7; // NSButtonTypeMomentaryPushIn
+constexpr double PressedLinkOpacity = 0.55;
 
 class DrawnButton : public ViewOf<ui::ButtonElement> {
 public:
@@ -64,8 +65,16 @@ private:
     static void drawCell(id cell, SEL, Rect /*frame*/, id view) noexcept {
         const Pool pool;
         if (const DrawnButton* const self = of(view)) {
-            const bool isPressed = ns_cell::isHighlighted(cell) != 0;
-            draw(isPressed ? self->shown()->pressedBody : self->shown()->body, self->shown()->frame.origin);
+            drawElement(*self->shown(), ns_cell::isHighlighted(cell) != 0);
+        }
+    }
+
+    // A link has no picture of its own for when it is pressed.
+    static void drawElement(const ui::ButtonElement& element, bool isPressed) {
+        if (element.kind == ui::ButtonElement::Kind::link) {
+            draw(element.body, element.frame.origin, isPressed ? PressedLinkOpacity : 1);
+        } else {
+            draw(isPressed ? element.pressedBody : element.body, element.frame.origin);
         }
     }
 

@@ -10,6 +10,9 @@
 #include "platform/Bundle.h"
 #include "platform/MainActor.h"
 
+#include <memory>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace kestrune::mac {
@@ -23,30 +26,34 @@ std::string uppercase(std::string_view text) {
     return textOf(ns_string::localizedUppercaseString(nsString(text).get()));
 }
 
-// Held until the control's action is done; null when the view has outlived it. What the action lets go of,
-// the window among it, stays until AppKit has finished with the event.
-std::shared_ptr<HostedView> hostOf(id view, id control) {
-    auto* const host = static_cast<HostedView*>(RuntimeClass::target(view));
-    if (host == nullptr) {
-        return nullptr;
-    }
+// What the action lets go of, the window among it, stays until AppKit has finished with the event.
+HostedView& hostOf(id view, id control) {
     keepForThisTurn(control);
     keepForThisTurn(ns_view::window(view));
-    return host->shared_from_this();
+    return HostedView::of(view);
 }
 
 void pressButton(id view, SEL, id button) noexcept {
     const Pool pool;
-    if (const auto host = hostOf(view, button)) {
-        host->press(actionOf(button));
-    }
+    hostOf(view, button).press(actionOf(button));
 }
 
 void flipSwitch(id view, SEL, id control) noexcept {
     const Pool pool;
-    if (const auto host = hostOf(view, control)) {
-        host->flip(actionOf(control), ns_switch::state(control) != 0);
-    }
+    hostOf(view, control).flip(actionOf(control), ns_switch::state(control) != 0);
+}
+
+// Otherwise the window would order the controls by their places.
+void viewDidMoveToWindow(id view, SEL) noexcept {
+    const Pool pool;
+    ns_window::setInitialFirstResponder(ns_view::window(view), view);
+}
+
+void dealloc(id view, SEL) noexcept {
+    const Pool pool;
+    std::unique_ptr<HostedView> host(static_cast<HostedView*>(RuntimeClass::target(view)));
+    host.reset();
+    ns_object::dealloc.asImplementedBy(ns_view::type.find(), view);
 }
 
 Class viewClass() {
@@ -55,6 +62,8 @@ Class viewClass() {
         type.addMethod("isFlipped", alwaysFlipped);
         type.addMethod("pressButton:", pressButton);
         type.addMethod("flipSwitch:", flipSwitch);
+        type.addMethod("viewDidMoveToWindow", viewDidMoveToWindow);
+        type.addMethod("dealloc", dealloc);
         return type.finish();
     }();
     return made;
@@ -67,50 +76,47 @@ Retained newView() {
 
 } // namespace
 
-std::shared_ptr<HostedView> HostedView::make(ui::RootView root) {
-    return std::shared_ptr<HostedView>(new HostedView(std::move(root)));
+Retained HostedView::make(ui::RootView root) {
+    Retained view = newView();
+    std::unique_ptr<HostedView> made(new HostedView(view.get(), std::move(root)));
+    RuntimeClass::setTarget(view.get(), made.release());
+    return view;
 }
 
-HostedView::HostedView(ui::RootView root)
-    : shown_(newView()),
-      host_(std::move(root), {measurer_, localize, uppercase}, [this] { scheduleRendering(); }) {
-    RuntimeClass::setTarget(view(), this);
-    shown_.show(host_.scene());
+HostedView& HostedView::of(id view) { return *static_cast<HostedView*>(RuntimeClass::target(view)); }
+
+HostedView::HostedView(id view, ui::RootView root)
+    : shown_(view),
+      host_(std::move(root), {measurer_, localize, uppercase}, [this] { startTask(&HostedView::render); }) {
+    showScene();
     fitWindow();
 }
 
-HostedView::~HostedView() { RuntimeClass::setTarget(view(), nullptr); }
-
 void HostedView::setSizing(HostingSizingOptions sizing) {
     sizing_ = sizing;
-    if (sizing == HostingSizingOptions::preferredContentSize) {
+    if (contains(sizing, HostingSizingOptions::preferredContentSize)) {
         fitWindow();
     }
 }
 
-void HostedView::enterWindow() {
-    // Otherwise the window would order the controls by their places.
-    ns_window::setInitialFirstResponder(ns_view::window(view()), view());
-    fitWindow();
+void HostedView::press(std::size_t action) {
+    const Retained kept = Retained::retaining(view());
+    host_.press(action);
 }
 
-void HostedView::press(std::size_t action) { host_.press(action); }
-
 void HostedView::flip(std::size_t action, bool isOn) {
+    const Retained kept = Retained::retaining(view());
     host_.flip(action, isOn);
     // After the rendering, if there is one: the switch shows what the model has become, also when that is
     // what it was.
-    MainActor::startTask([weakThis = weak_from_this()] {
-        if (const auto self = weakThis.lock()) {
-            self->shown_.show(self->host_.scene());
-        }
-    });
+    startTask(&HostedView::showScene);
 }
 
-void HostedView::scheduleRendering() {
-    MainActor::startTask([weakThis = weak_from_this()] {
-        if (const auto self = weakThis.lock()) {
-            self->render();
+void HostedView::startTask(void (HostedView::*task)()) {
+    MainActor::startTask([weakSelf = std::weak_ptr(self_), task] {
+        if (const auto self = weakSelf.lock()) {
+            const Retained kept = Retained::retaining((*self)->view());
+            ((*self)->*task)();
         }
     });
 }
@@ -119,13 +125,14 @@ void HostedView::render() {
     if (!host_.render()) {
         return;
     }
-    shown_.show(host_.scene());
-    if (sizing_ == HostingSizingOptions::preferredContentSize) {
+    showScene();
+    if (contains(sizing_, HostingSizingOptions::preferredContentSize)) {
         fitWindow();
     }
 }
 
-// The top left corner of the window stays where it is.
+void HostedView::showScene() { shown_.show(host_.scene()); }
+
 void HostedView::fitWindow() const {
     const Size size = host_.scene().size;
     const id window = ns_view::window(view());

@@ -3,6 +3,7 @@
 
 #include "mac/hosting/PlatformMeasurer.h"
 #include "mac/hosting/SceneView.h"
+#include "mac/objc/Retained.h"
 #include "platform/Hosting.h"
 #include "ui/ViewHost.h"
 
@@ -11,33 +12,40 @@
 
 namespace kestrune::mac {
 
-class HostedView : public std::enable_shared_from_this<HostedView> {
+// Belongs to its native view and ends with it, so that it lives in its window when nobody else has it.
+class HostedView {
 public:
-    static std::shared_ptr<HostedView> make(ui::RootView root);
-    ~HostedView();
+    // The native view, as large as the view wants to be.
+    static Retained make(ui::RootView root);
+
+    // Of a view that was made here.
+    static HostedView& of(id view);
 
     HostedView(const HostedView&) = delete;
     HostedView& operator=(const HostedView&) = delete;
-
-    // As large as the view wants to be.
-    id view() const { return shown_.view(); }
+    ~HostedView() = default;
 
     void setSizing(HostingSizingOptions sizing);
 
-    // The view is the content of its window from now on, whose content takes the view's size.
-    void enterWindow();
+    // Gives the content of the view's window the size of the view; the top left corner of the window stays
+    // where it is. Outside a window the view itself takes that size.
+    void fitWindow() const;
 
     void press(std::size_t action);
     void flip(std::size_t action, bool isOn);
 
 private:
-    explicit HostedView(ui::RootView root);
+    HostedView(id view, ui::RootView root);
+
+    id view() const { return shown_.view(); }
 
     // In a later turn of the main run loop; never when this is gone by then.
-    void scheduleRendering();
+    void startTask(void (HostedView::*task)());
     void render();
-    void fitWindow() const;
+    void showScene();
 
+    // By which tasks find it. There before the host, whose first scene may start one.
+    std::shared_ptr<HostedView*> self_ = std::make_shared<HostedView*>(this);
     PlatformMeasurer measurer_;
     SceneView shown_;
     ui::ViewHost host_;

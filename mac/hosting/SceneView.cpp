@@ -16,7 +16,7 @@ void SceneView::show(const ui::Scene& scene) {
         if (view) {
             view->show(element);
         } else {
-            view = makeElementView(element, view_.get());
+            view = makeElementView(element, view_);
             isArranged = false;
         }
         next.push_back(std::move(view));
@@ -63,18 +63,18 @@ void SceneView::arrangeSubviews() const {
     for (const auto& view : views_) {
         ns_mutable_array::addObject(list.get(), view->view());
     }
-    ns_view::setSubviews(view_.get(), list.get());
+    ns_view::setSubviews(view_, list.get());
 }
 
 void SceneView::connectKeyViews() const {
-    id latest = view_.get();
+    id latest = view_;
     for (const auto& view : views_) {
         if (view->isControl()) {
             ns_view::setNextKeyView(latest, view->view());
             latest = view->view();
         }
     }
-    ns_view::setNextKeyView(latest, view_.get());
+    ns_view::setNextKeyView(latest, view_);
 }
 
 } // namespace kestrune::mac

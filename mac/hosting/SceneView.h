@@ -12,11 +12,11 @@ namespace kestrune::mac {
 
 class SceneView {
 public:
-    // Shows nothing yet. `view` has its origin at its top left corner, and is what the controls send their
-    // actions to.
-    explicit SceneView(Retained view) : view_(std::move(view)) {}
+    // Shows nothing yet. `view` is borrowed and outlives it. It has its origin at its top left corner, and is
+    // what the controls send their actions to.
+    explicit SceneView(id view) : view_(view) {}
 
-    id view() const { return view_.get(); }
+    id view() const { return view_; }
 
     // Views go on as the elements that follow theirs as far as they can, and are left alone where nothing
     // differs: a control that is pressed or has the focus stays what it is.
@@ -30,7 +30,7 @@ private:
     void arrangeSubviews() const;
     void connectKeyViews() const;
 
-    Retained view_;
+    id view_;
     Views views_;
 };
 

@@ -26,8 +26,8 @@ Integer platformScale(ui::ImageScale scale) {
     return 2;
 }
 
-void drawImage(id image, const Rect& frame) {
-    ns_image::drawInRect(image, frame, Rect(), SourceOver, 1, truth(true), nullptr);
+void drawImage(id image, const Rect& frame, double opacity) {
+    ns_image::drawInRect(image, frame, Rect(), SourceOver, opacity, truth(true), nullptr);
 }
 
 // A template image takes a tint from an image view, and from nobody else.
@@ -37,7 +37,7 @@ Retained tinted(id image, id color) {
     Retained result =
         Retained::adopting(ns_image::initWithSize(ns_object::alloc(ns_image::type.object()), size));
     ns_image::lockFocus(result.get());
-    drawImage(image, all);
+    drawImage(image, all, 1);
     ns_color::set(color);
     NSRectFillUsingOperation(all, SourceAtop);
     ns_image::unlockFocus(result.get());
@@ -55,7 +55,7 @@ Retained symbolImage(const ui::StyledSymbol& symbol) {
     return Retained::retaining(ns_image::imageWithSymbolConfiguration(image, configuration));
 }
 
-void drawSymbol(const ui::StyledSymbol& symbol, const Rect& frame) {
+void drawSymbol(const ui::StyledSymbol& symbol, const Rect& frame, double opacity) {
     const Retained image = symbolImage(symbol);
     if (!image) {
         return;
@@ -63,7 +63,8 @@ void drawSymbol(const ui::StyledSymbol& symbol, const Rect& frame) {
     const Size size = ns_image::size(image.get());
     drawImage(tinted(image.get(), platformColor(symbol.color)).get(),
               {frame.origin.x + (frame.size.width - size.width) / 2,
-               frame.origin.y + (frame.size.height - size.height) / 2, size.width, size.height});
+               frame.origin.y + (frame.size.height - size.height) / 2, size.width, size.height},
+              opacity);
 }
 
 } // namespace kestrune::mac

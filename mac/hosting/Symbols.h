@@ -10,7 +10,8 @@ namespace kestrune::mac {
 // name.
 Retained symbolImage(const ui::StyledSymbol& symbol);
 
-// Into the view that is being drawn, in the middle of the frame and in the symbol's colour.
-void drawSymbol(const ui::StyledSymbol& symbol, const Rect& frame);
+// Into the view that is being drawn, in the middle of the frame and in the symbol's colour. `opacity` is from
+// 0 for invisible to 1.
+void drawSymbol(const ui::StyledSymbol& symbol, const Rect& frame, double opacity);
 
 } // namespace kestrune::mac

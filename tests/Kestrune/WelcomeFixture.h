@@ -5,37 +5,14 @@
 #include "platform/Application.h"
 #include "sim/WindowState.h"
 #include "tests/Kestrune/ShellCalls.h"
-#include "ui/SceneText.h"
+#include "tests/ui/SceneParts.h"
 
-#include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace kestrune {
-
-// The titles of the buttons of a window, in order.
-inline std::vector<std::string> buttonTitles(const Window::State& window) {
-    std::vector<std::string> titles;
-    for (const ui::Element& element : sim::Windows::sceneOf(window).elements) {
-        if (const auto* const button = std::get_if<ui::ButtonElement>(&element)) {
-            titles.push_back(button->title);
-        }
-    }
-    return titles;
-}
-
-// The texts outside of buttons, in order.
-inline std::vector<std::string> shownTexts(const Window::State& window) {
-    std::vector<std::string> texts;
-    for (const ui::Element& element : sim::Windows::sceneOf(window).elements) {
-        if (const auto* const text = std::get_if<ui::TextElement>(&element)) {
-            texts.push_back(text->text.string());
-        }
-    }
-    return texts;
-}
 
 // The only window that the application shows; null unless there is exactly one.
 inline std::shared_ptr<Window::State> onlyWindow(sim::Session& session) {
@@ -49,16 +26,14 @@ inline bool pressButton(sim::Session& session, std::string_view title) {
     if (!window) {
         return false;
     }
-    const auto& elements = sim::Windows::sceneOf(*window).elements;
-    const auto found = std::find_if(elements.begin(), elements.end(), [title](const ui::Element& element) {
-        const auto* const button = std::get_if<ui::ButtonElement>(&element);
-        return button != nullptr && button->title == title;
-    });
-    if (found == elements.end()) {
-        return false;
+    const ui::Scene scene = sim::Windows::sceneOf(*window);
+    for (const std::size_t place : ui::placesOf<ui::ButtonElement>(scene)) {
+        if (std::get<ui::ButtonElement>(scene.elements[place]).title == title) {
+            session.windows().pressButton(window, place);
+            return true;
+        }
     }
-    session.windows().pressButton(window, static_cast<std::size_t>(found - elements.begin()));
-    return true;
+    return false;
 }
 
 class WelcomeFixture : public ::testing::Test {
@@ -94,8 +69,9 @@ protected:
         return isPressed;
     }
 
-    std::vector<std::string> buttons() { return buttonTitles(*onlyWindow(session)); }
-    std::vector<std::string> texts() { return shownTexts(*onlyWindow(session)); }
+    const ui::Scene& scene() { return sim::Windows::sceneOf(*onlyWindow(session)); }
+    std::vector<std::string> buttons() { return ui::buttonTitles(scene()); }
+    std::vector<std::string> texts() { return ui::shownTexts(scene()); }
     Calls calls() { return session.journal().take(); }
 
     sim::Session session;

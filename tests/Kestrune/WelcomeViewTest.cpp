@@ -3,6 +3,7 @@
 
 #include "Kestrune/AccentProminentButtonStyle.h"
 #include "sim/FixedAdvanceMeasurer.h"
+#include "tests/ui/SceneParts.h"
 #include "ui/Layout.h"
 #include "ui/SceneText.h"
 
@@ -67,16 +68,6 @@ std::shared_ptr<WelcomeViewModel> modelFor(const PageState& state) {
 
 ui::Scene sceneOf(const PageState& state, double width = 460, double lengthened = 1) {
     return layOut(WelcomeView{modelFor(state), width}.body(), lengthened).scene;
-}
-
-std::vector<ui::ButtonElement> buttonsOf(const ui::Scene& scene) {
-    std::vector<ui::ButtonElement> buttons;
-    for (const ui::Element& element : scene.elements) {
-        if (const auto* const button = std::get_if<ui::ButtonElement>(&element)) {
-            buttons.push_back(*button);
-        }
-    }
-    return buttons;
 }
 
 Rect frameOf(const ui::Element& element) {
@@ -214,7 +205,9 @@ TEST(WelcomeView, CallsTheActionsOfItsModel) {
 }
 
 TEST(WelcomeView, GivesReturnToGetStartedAndFinishAlone) {
-    const auto shortcut = [](const PageState& state) { return buttonsOf(sceneOf(state)).back().shortcut; };
+    const auto shortcut = [](const PageState& state) {
+        return ui::elementsOf<ui::ButtonElement>(sceneOf(state)).back().shortcut;
+    };
     EXPECT_EQ(shortcut(pageStates()[0]), ui::KeyboardShortcut::defaultAction);
     EXPECT_EQ(shortcut(pageStates()[1]), ui::KeyboardShortcut::none);
     EXPECT_EQ(shortcut(pageStates()[2]), ui::KeyboardShortcut::none);
@@ -226,7 +219,7 @@ const ui::ShapeElement& fillOf(const std::vector<ui::Drawing>& body) {
 }
 
 TEST(AccentProminentButtonStyle, DimsNothingButItsFillWhileItIsPressed) {
-    const ui::ButtonElement button = buttonsOf(sceneOf(pageStates()[0])).at(0);
+    const ui::ButtonElement button = ui::elementsOf<ui::ButtonElement>(sceneOf(pageStates()[0])).at(0);
     ASSERT_EQ(button.body.size(), 2U);
     ASSERT_EQ(button.pressedBody.size(), 2U);
     EXPECT_EQ(fillOf(button.body).opacity, 1);
@@ -235,7 +228,7 @@ TEST(AccentProminentButtonStyle, DimsNothingButItsFillWhileItIsPressed) {
 }
 
 TEST(AccentProminentButtonStyle, FillsItsButtonBehindTheLabel) {
-    const ui::ButtonElement button = buttonsOf(sceneOf(pageStates()[0])).at(0);
+    const ui::ButtonElement button = ui::elementsOf<ui::ButtonElement>(sceneOf(pageStates()[0])).at(0);
     const ui::ShapeElement& fill = fillOf(button.body);
     EXPECT_EQ(fill.frame, button.frame);
     EXPECT_EQ(fill.cornerRadius, 6);

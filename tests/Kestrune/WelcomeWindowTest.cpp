@@ -36,8 +36,7 @@ TEST_F(WelcomeWindow, IsMadeInOrder) {
              {"-[NSWindow setTitle:] Welcome to Kestrune", "-[NSWindow setReleasedWhenClosed:] false",
               Floating, "-[NSWindow setHidesOnDeactivate:] false", "-[NSWindow setCollectionBehavior:] 257",
               "-[NSWindow center]", "-[WelcomeWindowController initWithWindow:]",
-              "-[NSHostingController initWithRootView:]",
-              "-[NSHostingController setSizingOptions:] preferredContentSize",
+              "-[NSHostingController initWithRootView:]", "-[NSHostingController setSizingOptions:] 8",
               "-[NSWindow setContentViewController:]", "-[NSWindow setDelegate:] WelcomeWindowController",
               "+[NSTimer scheduledTimerWithTimeInterval:repeats:block:] 1, true"}})));
     EXPECT_EQ(controller->model()->currentStep, Step::intro);
@@ -152,7 +151,7 @@ TEST_F(WelcomeWindow, FinishesInOrder) {
     makeAndShow();
     press("Get started");
     calls();
-    controller->finish();
+    controller->model()->finish();
     EXPECT_THAT(calls(),
                 ElementsAre("-[NSUserDefaults setBool:forKey:] hasCompletedOnboarding = true",
                             "-[NSTimer invalidate]", "-[NSWindow orderOut:]", "NSApp", BecomingAccessory));

@@ -1,4 +1,5 @@
 // Declarative views in windows: what they show, what their controls do, and when they are laid out again.
+#include "tests/contract/HostedViews.h"
 #include "tests/contract/WindowFixture.h"
 #include "ui/View.h"
 
@@ -12,10 +13,6 @@ using testing::IsEmpty;
 ui::View block(double width, double height) {
     return ui::RoundedRectangle({}).frame({.width = width, .height = height});
 }
-
-struct Counter : ui::ObservableObject {
-    ui::Published<int> value{*this, 0};
-};
 
 BundleFiles withStrings() {
     BundleFiles files;
@@ -146,13 +143,6 @@ TEST_F(HostingContract, RunsTheActionThatTheViewHasNow) {
     EXPECT_THAT(pressed, ElementsAre(0, 5));
 }
 
-struct FilledStyle : ui::ButtonStyle {
-    ui::View makeBody(const Configuration& configuration) const override {
-        return configuration.label.padding(8).background(
-            ui::RoundedRectangle({.cornerRadius = 6, .fill = ui::Color::accent}));
-    }
-};
-
 TEST_F(HostingContract, PressesButtonsOfEveryStyle) {
     int pressed = 0;
     host([&pressed] {
@@ -238,6 +228,32 @@ TEST_F(HostingContract, SurvivesAChangeOfTheModelByItsOwnButton) {
     world_.clickButton("D'accord");
     world_.runMainQueue();
     EXPECT_EQ(model_->value, 2);
+}
+
+TEST_F(HostingContract, RendersAgainWhenItsFirstDescriptionChangesTheModel) {
+    host([this] {
+        if (model_->value < 2) {
+            model_->value = model_->value + 1;
+        }
+        return ui::VerbatimText("value " + std::to_string(model_->value));
+    });
+    world_.runMainQueue();
+    EXPECT_THAT(shown().texts, ElementsAre("value 2"));
+    model_->value = 5;
+    world_.runMainQueue();
+    EXPECT_THAT(shown().texts, ElementsAre("value 5"));
+}
+
+TEST_F(HostingContract, MayBeTheContentItselfWhichTheWindowFollows) {
+    const HostingView view({[this] { return block(240, model_->value == 0 ? 90 : 150); }, model_});
+    window_->setContentView(view);
+    show(*window_);
+    const Rect before = shown().content;
+    EXPECT_EQ(before.size, (Size{240, 90}));
+    model_->value = 1;
+    world_.runMainQueue();
+    EXPECT_EQ(shown().content.size, (Size{240, 150}));
+    EXPECT_EQ(shown().content.maxY(), before.maxY());
 }
 
 } // namespace

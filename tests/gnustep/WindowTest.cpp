@@ -4,6 +4,7 @@
 #include "mac/hosting/PlatformMeasurer.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "tests/contract/HostedViews.h"
 #include "tests/contract/WindowFixture.h"
 #include "tests/gnustep/Allocations.h"
 #include "tests/gnustep/Objects.h"
@@ -13,6 +14,7 @@
 #include "ui/View.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -31,16 +33,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-struct Counter : ui::ObservableObject {
-    ui::Published<int> value{*this, 0};
-};
-
-struct FilledStyle : ui::ButtonStyle {
-    ui::View makeBody(const Configuration& configuration) const override {
-        return configuration.label.padding(8).background(ui::RoundedRectangle(
-            {.cornerRadius = 6, .fill = ui::Color::accent, .opacity = configuration.isPressed ? 0.75 : 1}));
-    }
-};
+using contract::Counter;
+using contract::FilledStyle;
 
 ui::View filledButton(
     std::string_view title, std::function<void()> action = [] {}) {
@@ -72,6 +66,32 @@ protected:
         while (send(NSApp, "nextEventMatchingMask:untilDate:inMode:dequeue:", AnyEvent, past,
                     NSDefaultRunLoopMode, mac::truth(true)) != nullptr) {
         }
+    }
+
+    static void highlight(id button, bool isPressed) {
+        send<void>(send(button, "cell"), "setHighlighted:", mac::truth(isPressed));
+    }
+
+    // How much the picture of a view differs from what is behind it, whose color is at its corner.
+    static double inkOf(id view) {
+        send<void>(view, "display");
+        send<void>(view, "lockFocus");
+        const mac::Retained picture =
+            mac::Retained::adopting(send(send(classObject("NSBitmapImageRep"), "alloc"),
+                                         "initWithFocusedViewRect:", send<Rect>(view, "bounds")));
+        send<void>(view, "unlockFocus");
+        const auto* const bytes = send<const unsigned char*>(picture.get(), "bitmapData");
+        const auto width = send<mac::Integer>(picture.get(), "pixelsWide");
+        const auto height = send<mac::Integer>(picture.get(), "pixelsHigh");
+        const auto bytesPerRow = send<mac::Integer>(picture.get(), "bytesPerRow");
+        const auto bytesPerPixel = send<mac::Integer>(picture.get(), "bitsPerPixel") / 8;
+        double ink = 0;
+        for (mac::Integer y = 0; y < height; ++y) {
+            for (mac::Integer x = 0; x < width * bytesPerPixel; ++x) {
+                ink += std::abs(bytes[y * bytesPerRow + x] - bytes[x % bytesPerPixel]);
+            }
+        }
+        return ink;
     }
 
     id window() const { return window_->state()->window.get(); }
@@ -215,6 +235,40 @@ TEST_F(HostedViewOnGNUstep, SetsASymbolInTheSizeOfItsFontAndScale) {
     EXPECT_GT(measurer.measureSymbol({"circle.dashed", ui::Font::system(44)}).height, 3 * height);
 }
 
+TEST_F(HostedViewOnGNUstep, DimsALinkWhileItIsPressed) {
+    host([] { return linkButton("Open System Settings"); });
+    const id link = button("Open System Settings");
+    const double atRest = inkOf(link);
+    highlight(link, true);
+    const double pressed = inkOf(link);
+    highlight(link, false);
+    EXPECT_GT(pressed, 0.4 * atRest);
+    EXPECT_LT(pressed, 0.7 * atRest);
+    EXPECT_EQ(inkOf(link), atRest);
+}
+
+TEST_F(HostedViewOnGNUstep, DimsOnlyTheShapeOfAFilledButtonWhileItIsPressed) {
+    host([] { return filledButton(" "); });
+    const id filled = button(" ");
+    const double atRest = inkOf(filled);
+    highlight(filled, true);
+    EXPECT_NEAR(inkOf(filled) / atRest, 0.75, 0.02);
+}
+
+TEST_F(HostedViewOnGNUstep, LetsAWindowFollowAHostingView) {
+    const HostingView content(
+        {[this] { return ui::RoundedRectangle({}).frame({.width = 240, .height = 90.0 + model_->value}); },
+         model_});
+    window_->setContentView(content);
+    show(*window_);
+    EXPECT_EQ(send(window(), "contentView"), content.state()->view.get());
+    EXPECT_EQ(send(window(), "initialFirstResponder"), content.state()->view.get());
+    EXPECT_EQ(world_.shownWindows().at(0).content.size, (Size{240, 90}));
+    setModel(60);
+    EXPECT_EQ(world_.shownWindows().at(0).content.size, (Size{240, 150}));
+    EXPECT_EQ(send<Rect>(content.state()->view.get(), "frame"), Rect(0, 0, 240, 150));
+}
+
 TEST_F(HostedViewOnGNUstep, WrapsAndCutsNoText) {
     const std::string words = "Kestrune needs to observe window events from other apps so it can keep the "
                               "Dock pinned where you want it. **Grün** gypsy jumping.";
@@ -287,7 +341,7 @@ TEST_F(HostedViewOnGNUstep, LeavesNothingOfAWindowBehind) {
     countAllocations();
     showAndForget(5);
     const AllocatedObjects before = allocatedObjects();
-    EXPECT_GT(before.count("KestruneHostingController"), 0U);
+    EXPECT_GT(before.count("KestruneHostingView"), 0U);
     showAndForget(50);
     EXPECT_THAT(growth(before, allocatedObjects()), IsEmpty());
 }

@@ -106,8 +106,8 @@ kestrune_mutant(RequestTakesTheAnswer ${WIZARD}
 kestrune_mutant(SettingsAreNotOpened ${WIZARD}
     FROM "{ openAccessibilityPane(); }" TO "{}")
 kestrune_mutant(WizardIsRetainedByItsActions ${WIZARD}
-    FROM "weakThis = weak_from_this(), operation"
-    TO "strong = shared_from_this(), weakThis = weak_from_this(), operation")
+    FROM "model_->finish = whileAlive(weakThis, &WelcomeWindowController::finish);"
+    TO "model_->finish = [strong = shared_from_this()] { strong->finish(); };")
 kestrune_mutant(WindowDoesNotFollowItsPage ${WIZARD}
     FROM "HostingSizingOptions::preferredContentSize" TO "HostingSizingOptions::none")
 kestrune_mutant(WizardStaysWhenItHasFinished ${DELEGATE}

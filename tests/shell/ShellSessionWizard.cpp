@@ -1,6 +1,7 @@
 // The user at the wizard and at what the system shows beside it.
 #include "sim/WindowState.h"
 #include "tests/shell/ShellSession.h"
+#include "tests/ui/SceneParts.h"
 
 #include <algorithm>
 
@@ -8,30 +9,9 @@ namespace kestrune::simulate {
 
 namespace {
 
-// The places of the buttons among a scene's elements, in order.
-std::vector<std::size_t> buttonsOf(const ui::Scene& scene) {
-    std::vector<std::size_t> places;
-    for (std::size_t place = 0; place < scene.elements.size(); ++place) {
-        if (std::holds_alternative<ui::ButtonElement>(scene.elements[place])) {
-            places.push_back(place);
-        }
-    }
-    return places;
-}
-
-std::vector<std::string> titlesOf(const ui::Scene& scene) {
-    std::vector<std::string> titles;
-    for (const std::size_t place : buttonsOf(scene)) {
-        titles.push_back(std::get<ui::ButtonElement>(scene.elements[place]).title);
-    }
-    return titles;
-}
-
 bool shows(const ui::Scene& scene, const std::string& text) {
-    return std::any_of(scene.elements.begin(), scene.elements.end(), [&text](const ui::Element& element) {
-        const auto* const shown = std::get_if<ui::TextElement>(&element);
-        return shown != nullptr && shown->text.string() == text;
-    });
+    const std::vector<std::string> texts = ui::shownTexts(scene);
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
 } // namespace
@@ -50,7 +30,7 @@ void ShellSession::pressWizardButton(std::size_t index) {
 bool ShellSession::pressButtonOfWindow(std::size_t index) {
     const auto window = shownWindow();
     const std::vector<std::size_t> buttons =
-        window ? buttonsOf(sim::Windows::sceneOf(*window)) : std::vector<std::size_t>();
+        window ? ui::placesOf<ui::ButtonElement>(sim::Windows::sceneOf(*window)) : std::vector<std::size_t>();
     if (index >= buttons.size()) {
         return false;
     }
@@ -165,7 +145,7 @@ void ShellSession::checkWizardsWindow(const WizardModel& expected, const Window:
     require((window.level == WindowLevel::floating) == expected.isFloating,
             "the wizard is on the wrong level");
     const ui::Scene& scene = sim::Windows::sceneOf(window);
-    require(titlesOf(scene) == expected.shownPage.buttons(), "the wizard shows the wrong buttons");
+    require(ui::buttonTitles(scene) == expected.shownPage.buttons(), "the wizard shows the wrong buttons");
     const std::string status = expected.shownPage.status();
     require(status.empty() || shows(scene, status), "the wizard tells something else of the permission");
     require(shows(scene, "STEP 2 OF 2") == !expected.shownPage.isIntro, "the wizard shows the wrong page");

@@ -1,6 +1,5 @@
 // What only the simulation can be asked: the faults, the hands on a window, and the system beside it.
 #include "platform/Application.h"
-#include "sim/HostingState.h"
 #include "sim/Session.h"
 #include "sim/WindowState.h"
 #include "tests/contract/RecordingWindows.h"

@@ -1,10 +1,11 @@
 #include "tests/contract/World.h"
 
+#include "base/Fatal.h"
 #include "sim/Session.h"
 #include "sim/StatusItemState.h"
 #include "sim/WindowState.h"
+#include "tests/ui/SceneParts.h"
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -83,14 +84,11 @@ ShownWindow shownWindow(const Window::State& window, bool isKey) {
     shown.hasCloseButton = window.has(WindowStyleMask::closable);
     shown.isResizable = window.has(WindowStyleMask::resizable);
     shown.joinsAllSpaces = window.has(WindowCollectionBehavior::canJoinAllSpaces);
-    for (const ui::Element& element : sim::Windows::sceneOf(window).elements) {
-        if (const auto* const text = std::get_if<ui::TextElement>(&element)) {
-            shown.texts.push_back(text->text.string());
-        } else if (const auto* const button = std::get_if<ui::ButtonElement>(&element)) {
-            shown.buttons.push_back(button->title);
-        } else if (const auto* const toggle = std::get_if<ui::ToggleElement>(&element)) {
-            shown.switches.push_back(toggle->isOn);
-        }
+    const ui::Scene& scene = sim::Windows::sceneOf(window);
+    shown.texts = ui::shownTexts(scene);
+    shown.buttons = ui::buttonTitles(scene);
+    for (const ui::ToggleElement& toggle : ui::elementsOf<ui::ToggleElement>(scene)) {
+        shown.switches.push_back(toggle.isOn);
     }
     return shown;
 }
@@ -253,23 +251,20 @@ void World::clickCloseButton(std::size_t window) {
 void World::clickButton(std::string_view title, std::size_t window) {
     sim::Windows& windows = state_->session.windows();
     const auto clicked = windows.shown().at(window);
-    const auto& elements = sim::Windows::sceneOf(*clicked).elements;
-    const auto button = std::find_if(elements.begin(), elements.end(), [title](const ui::Element& element) {
-        const auto* const candidate = std::get_if<ui::ButtonElement>(&element);
-        return candidate != nullptr && candidate->title == title;
-    });
-    windows.pressButton(clicked, static_cast<std::size_t>(button - elements.begin()));
+    const ui::Scene scene = sim::Windows::sceneOf(*clicked);
+    for (const std::size_t place : ui::placesOf<ui::ButtonElement>(scene)) {
+        if (std::get<ui::ButtonElement>(scene.elements[place]).title == title) {
+            windows.pressButton(clicked, place);
+            return;
+        }
+    }
+    fatal("There is no button of that title.");
 }
 
 void World::clickSwitch(std::size_t index, std::size_t window) {
     sim::Windows& windows = state_->session.windows();
     const auto clicked = windows.shown().at(window);
-    const auto& elements = sim::Windows::sceneOf(*clicked).elements;
-    std::size_t left = index;
-    const auto toggle = std::find_if(elements.begin(), elements.end(), [&left](const ui::Element& element) {
-        return std::holds_alternative<ui::ToggleElement>(element) && left-- == 0;
-    });
-    windows.flipSwitch(clicked, static_cast<std::size_t>(toggle - elements.begin()));
+    windows.flipSwitch(clicked, ui::placesOf<ui::ToggleElement>(sim::Windows::sceneOf(*clicked)).at(index));
 }
 
 void World::constructFromArchive(std::string_view className) {

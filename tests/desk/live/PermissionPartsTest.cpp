@@ -22,7 +22,7 @@ protected:
 
 TEST_F(PermissionDialog, ShowsOnThePrimaryDisplay) {
     ASSERT_TRUE(picture().permissionDialog);
-    EXPECT_EQ(*picture().permissionDialog, (PermissionDialogPicture{0, "Kestrune", "icon.png"}));
+    EXPECT_EQ(*picture().permissionDialog, (PermissionDialogPicture{0, "Kestrune", "icon.png", 28}));
     EXPECT_FALSE(picture().accessibilityPane);
 }
 

@@ -76,7 +76,7 @@ protected:
 TEST_F(WindowPartsOnTheWizard, ShowTheWindowAsItIs) {
     const WindowPicture window = wizard();
     EXPECT_EQ(window.title, "Welcome to Kestrune");
-    EXPECT_TRUE(window.isTitled);
+    EXPECT_EQ(window.titleBarHeight, 28);
     EXPECT_TRUE(window.isClosable);
     EXPECT_FALSE(window.isMiniaturizable);
     EXPECT_FALSE(window.isResizable);

@@ -50,7 +50,7 @@ TEST(ApplicationWindow, StaysBelowTheMenuBarAndInsideTheDesk) {
 
 TEST(ApplicationWindow, WithoutTitleBarIsAllContent) {
     DeskPicture picture = withWindow();
-    picture.windows[0].isTitled = false;
+    picture.windows[0].titleBarHeight = 0;
     picture.windows[0].frame.size.height = 200;
     const WindowLayout layout = layoutOf(picture);
     EXPECT_EQ(layout.content, layout.frame);

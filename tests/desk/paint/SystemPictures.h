@@ -70,7 +70,7 @@ inline DeskPicture withMenu() {
 
 inline DeskPicture withDialog() {
     DeskPicture picture = withStatusItem();
-    picture.permissionDialog = PermissionDialogPicture{1, "Kestrune", std::nullopt};
+    picture.permissionDialog = PermissionDialogPicture{1, "Kestrune", std::nullopt, 28};
     return picture;
 }
 

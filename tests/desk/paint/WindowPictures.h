@@ -61,6 +61,7 @@ inline WindowPicture windowWithControls() {
     window.number = 7;
     window.frame = {600, 400, 300, 228};
     window.title = "Kestrune";
+    window.titleBarHeight = 28;
     window.isKey = true;
     window.scene = sceneWithControls();
     return window;
