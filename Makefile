@@ -38,7 +38,7 @@ help:
 	@echo "make run                 build Kestrune and start it on a simulated Mac (on Linux)"
 	@echo "make test                build everything and run every test"
 	@echo "make check               format, include rules, unbuilt files, strings, contract tests, clang-tidy"
-	@echo "make bench               the event path against its floor, and the simulation"
+	@echo "make bench               the event path against its floor, the simulation and the wizard"
 	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
 	@echo "make first-run           the wizard's story on the simulated Mac and on GNUstep, step by step"
 	@echo "make soak                RUNS=$(RUNS) times all tests on GNUstep, four runs at a time"

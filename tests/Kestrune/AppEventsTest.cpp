@@ -187,6 +187,24 @@ TEST_F(AppEvents, ARevokedPermissionLeavesTheGuardRunning) {
     EXPECT_FALSE(app->isWatchingAccessibility());
 }
 
+TEST_F(AppEvents, EachRunOfTheWizardHasAControllerOfItsOwn) {
+    launchAndSettle();
+    const auto play = [this] {
+        app->showWelcomeWindow();
+        session.advance(sim::Duration::zero());
+        const std::weak_ptr<WelcomeWindowController> wizard = app->welcomeWindowController();
+        app->showWelcomeWindow();
+        EXPECT_EQ(wizard.lock(), app->welcomeWindowController());
+        EXPECT_EQ(session.windows().shown().size(), 1U);
+        app->welcomeWindowController()->model()->finish();
+        EXPECT_TRUE(wizard.expired());
+        EXPECT_THAT(session.windows().shown(), IsEmpty());
+    };
+    play();
+    play();
+    EXPECT_EQ(app->welcomeWindowController(), nullptr);
+}
+
 TEST_F(AppEvents, TheWizardCanEndTwice) {
     launchAndSettle();
     app->welcomeFinished();

@@ -1,6 +1,8 @@
 // What the user does at the wizard, and what it shows.
 #include "tests/Kestrune/WelcomeFixture.h"
 
+#include <algorithm>
+
 namespace kestrune {
 namespace {
 
@@ -55,7 +57,7 @@ TEST_F(WelcomeStepsWithoutPermission, OffersTheRequestThenTheSettingsThenTheEnd)
     EXPECT_THAT(buttons(), ElementsAre("Finish"));
 }
 
-TEST_F(WelcomeStepsWithoutPermission, AsksTheSystemAfterItHasShownThat) {
+TEST_F(WelcomeStepsWithoutPermission, RemembersTheRequestBeforeItAsksTheSystem) {
     makeAndShow();
     bool hadAsked = true;
     const auto observation =
@@ -70,12 +72,13 @@ TEST_F(WelcomeStepsWithoutPermission, AsksTheSystemAfterItHasShownThat) {
 
 TEST_F(WelcomeStepsWithoutPermission, AsksTheSystemEachTime) {
     makeAndShow();
-    press("Request permission");
-    session.accessibility().denyInDialog();
-    settle();
-    press("Request permission");
+    controller->model()->requestPermissions();
+    controller->model()->requestPermissions();
     EXPECT_TRUE(controller->model()->hasRequestedPermission);
-    EXPECT_TRUE(session.accessibility().isDialogShown());
+    const Calls made = calls();
+    EXPECT_EQ(std::count(made.begin(), made.end(),
+                         "AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: true}) -> false"),
+              2);
 }
 
 TEST_F(WelcomeStepsWithoutPermission, DoesNotTakeTheAnswerOfTheRequest) {
@@ -125,6 +128,27 @@ TEST_F(WelcomeSteps, FallsBackWhenThePermissionIsRevoked) {
     session.advance(1s);
     EXPECT_THAT(buttons(), ElementsAre("Request permission"));
     EXPECT_THAT(texts(), Contains(Waiting));
+}
+
+TEST_F(WelcomeStepsWithoutPermission, FallBackToWhatWasThereBeforeTheGrant) {
+    makeAndShow();
+    press("Request permission");
+    const ui::Scene waiting = scene();
+    setPermission(sim::Permission::granted);
+    session.advance(1s);
+    EXPECT_THAT(buttons(), ElementsAre("Finish"));
+    setPermission(sim::Permission::switchedOff);
+    session.advance(1s);
+    EXPECT_THAT(buttons(), ElementsAre("Open System Settings", "Request permission"));
+    EXPECT_EQ(scene(), waiting);
+}
+
+TEST_F(WelcomeStepsWithoutPermission, GoOnLookingForThePermissionWhileTheWindowIsClosed) {
+    makeAndShow();
+    session.windows().closeByUser(onlyWindow(session));
+    setPermission(sim::Permission::granted);
+    session.advance(1s);
+    EXPECT_TRUE(controller->model()->isAccessibilityTrusted);
 }
 
 } // namespace

@@ -10,6 +10,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -165,8 +168,8 @@ TEST_P(WelcomePages, KeepEverythingBetweenTheirMarginsAtEveryWidth) {
 }
 
 TEST_P(WelcomePages, PutNothingOnTopOfAnythingElse) {
-    for (const double lengthened : {1.0, 1.4, 2.0}) {
-        const ui::Scene scene = sceneOf(GetParam(), 460, lengthened);
+    for (double width = 320; width <= 760; width += 40) {
+        const ui::Scene scene = sceneOf(GetParam(), width, width > 500 ? 1.4 : 2);
         for (std::size_t one = 0; one < scene.elements.size(); ++one) {
             for (std::size_t other = one + 1; other < scene.elements.size(); ++other) {
                 const Rect first = frameOf(scene.elements[one]);
@@ -183,6 +186,47 @@ TEST_P(WelcomePages, PutNothingOnTopOfAnythingElse) {
 TEST_P(WelcomePages, GrowDownwardsWithTheirTexts) {
     EXPECT_GT(sceneOf(GetParam(), 460, 2).size.height, sceneOf(GetParam()).size.height);
     EXPECT_GE(sceneOf(GetParam(), 360).size.height, sceneOf(GetParam(), 460).size.height);
+}
+
+TEST(WelcomeView, ShowsEveryTextInTheUsersLanguageButTheCaption) {
+    static const sim::FixedAdvanceMeasurer measurer;
+    const ui::LayoutContext marking{measurer,
+                                    [](std::string_view key) { return "[" + std::string(key) + "]"; },
+                                    [](std::string_view text) { return std::string(text); }};
+    for (const PageState& state : pageStates()) {
+        const ui::Scene scene = ui::layOut(WelcomeView{modelFor(state), 460}.body(), {}, marking).scene;
+        std::vector<std::string> texts = ui::shownTexts(scene);
+        if (state.step == Step::accessibility) {
+            ASSERT_EQ(texts.at(0), "Step 2 of 2");
+            texts.erase(texts.begin());
+        }
+        for (const std::string& title : ui::buttonTitles(scene)) {
+            texts.push_back(title);
+        }
+        EXPECT_THAT(texts,
+                    ::testing::Each(::testing::AllOf(::testing::StartsWith("["), ::testing::EndsWith("]"))));
+    }
+}
+
+// All of it as text, at several widths and in a language with longer texts. KESTRUNE_REWRITE=1 in the
+// environment writes the file anew.
+TEST(WelcomeView, IsLaidOutAsItWas) {
+    std::string layouts;
+    for (const PageState& state : pageStates()) {
+        for (const double width : {360.0, 460.0, 600.0}) {
+            for (const double lengthened : {1.0, 1.4}) {
+                layouts += state.name + ", " + std::to_string(static_cast<int>(width)) +
+                           " points wide, texts " + (lengthened == 1 ? "in English" : "1.4 times as long") +
+                           "\n" + ui::describe(sceneOf(state, width, lengthened)) + "\n";
+            }
+        }
+    }
+    if (std::getenv("KESTRUNE_REWRITE") != nullptr) {
+        std::ofstream(KESTRUNE_WELCOME_LAYOUTS) << layouts;
+    }
+    std::ifstream file(KESTRUNE_WELCOME_LAYOUTS);
+    const std::string known((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    EXPECT_EQ(layouts, known);
 }
 
 TEST(WelcomeView, CallsTheActionsOfItsModel) {

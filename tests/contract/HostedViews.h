@@ -1,6 +1,7 @@
 // A model and a style for the views that are hosted in tests.
 #pragma once
 
+#include "ui/ObservableObject.h"
 #include "ui/View.h"
 
 namespace kestrune::contract {

@@ -1,6 +1,7 @@
 // Hosted views as GNUstep's own views: what stays and what goes when the scene changes, and what is heard,
 // focused and drawn. That they show and do what they should is for the contract tests.
 #include "mac/Handles.h"
+#include "mac/hosting/HostingState.h"
 #include "mac/hosting/PlatformMeasurer.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
@@ -72,7 +73,7 @@ protected:
         send<void>(send(button, "cell"), "setHighlighted:", mac::truth(isPressed));
     }
 
-    // How much the picture of a view differs from what is behind it, whose color is at its corner.
+    // How much the picture of a view differs from what is behind it, whose colour is at its corner.
     static double inkOf(id view) {
         send<void>(view, "display");
         send<void>(view, "lockFocus");
@@ -266,7 +267,7 @@ TEST_F(HostedViewOnGNUstep, LetsAWindowFollowAHostingView) {
     EXPECT_EQ(world_.shownWindows().at(0).content.size, (Size{240, 90}));
     setModel(60);
     EXPECT_EQ(world_.shownWindows().at(0).content.size, (Size{240, 150}));
-    EXPECT_EQ(send<Rect>(content.state()->view.get(), "frame"), Rect(0, 0, 240, 150));
+    EXPECT_EQ(send<Rect>(content.state()->view.get(), "frame").size, (Size{240, 150}));
 }
 
 TEST_F(HostedViewOnGNUstep, WrapsAndCutsNoText) {
@@ -344,6 +345,18 @@ TEST_F(HostedViewOnGNUstep, LeavesNothingOfAWindowBehind) {
     EXPECT_GT(before.count("KestruneHostingView"), 0U);
     showAndForget(50);
     EXPECT_THAT(growth(before, allocatedObjects()), IsEmpty());
+}
+
+using WindowControllerOnGNUstepDeathTest = contract::WindowFixture;
+
+// As the platform makes one of whatever is observed.
+TEST_F(WindowControllerOnGNUstepDeathTest, SaysWhereItIsDefinedAsAnInstanceOfASubclassToo) {
+    const contract::RecordingWindowController known(makeWindow("one"));
+    const Class subclass =
+        objc_allocateClassPair(classNamed("RecordingWindowController"), "ObservedWindowController", 0);
+    objc_registerClassPair(subclass);
+    EXPECT_DEATH(send(send(reinterpret_cast<id>(subclass), "alloc"), "initWithCoder:", id{}),
+                 "contract/RecordingWindowController: Fatal error: init\\(coder:\\) is not supported");
 }
 
 } // namespace

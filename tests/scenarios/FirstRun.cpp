@@ -147,6 +147,21 @@ TEST_F(FirstRun, IsOverAtOnceForWhoeverHasThePermission) {
     EXPECT_EQ(firstRow(), "Pin Dock to:");
 }
 
+TEST_F(FirstRun, BeginsWithTheIntroductionForWhoeverHasThePermissionAlready) {
+    world_.setTrust(Trust::granted);
+    launch();
+    app_->showWelcomeWindow();
+    world_.runMainQueue();
+    EXPECT_EQ(world_.shownWindows().at(0).level, WindowLevel::floating);
+    EXPECT_THAT(world_.shownWindows().at(0).buttons, ElementsAre("Get started"));
+    world_.clickButton("Get started");
+    world_.runMainQueue();
+    EXPECT_EQ(world_.shownWindows().at(0).level, WindowLevel::normal);
+    world_.clickButton("Finish");
+    world_.runMainQueue();
+    EXPECT_EQ(whatIsSeen(), "accessory; the Dock is held");
+}
+
 TEST_F(FirstRun, CanBePutOffAndTakenUpAgain) {
     launch();
     world_.clickCloseButton();

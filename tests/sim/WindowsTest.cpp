@@ -97,6 +97,14 @@ TEST_F(WindowsTest, GoOutOfSightWithTheProcess) {
     EXPECT_THAT(session.windows().shown(), IsEmpty());
 }
 
+TEST_F(WindowsTest, OfAProcessThatHasEndedHaveNoEffectOnTheNext) {
+    show();
+    session.endApplication();
+    Application::sharedApplication();
+    session.windows().setActive(true);
+    EXPECT_EQ(session.windows().keyWindow(), nullptr);
+}
+
 TEST_F(WindowsTest, LoseTheKeysToTheSystemAndGetThemBack) {
     const auto delegate = std::make_shared<RecordingWindowDelegate>();
     show();

@@ -145,6 +145,22 @@ TEST_F(WindowPartsOnTheWizard, CloseTheWindowWithItsButton) {
     EXPECT_TRUE(picture().windows.empty());
 }
 
+TEST_F(WindowPartsOnTheWizard, ShowWhenThePointerIsOverTheCloseButton) {
+    const WindowCloseTarget close{wizard().number};
+    const WindowControlTarget request = control("Request permission");
+    EXPECT_FALSE(wizard().isCloseButtonHovered);
+    parts.hover(close);
+    EXPECT_TRUE(wizard().isCloseButtonHovered);
+    parts.hover(request);
+    EXPECT_FALSE(wizard().isCloseButtonHovered);
+    // What is held keeps the pointer to itself.
+    parts.press(request);
+    parts.hover(close);
+    EXPECT_FALSE(wizard().isCloseButtonHovered);
+    parts.displaysChanged();
+    EXPECT_FALSE(wizard().isCloseButtonHovered);
+}
+
 TEST_F(WindowPartsOnTheWizard, CloseAWindowInTheBackgroundWithoutBringingItForward) {
     session.windows().setActive(false);
     const WindowCloseTarget close{wizard().number};

@@ -168,9 +168,34 @@ TEST(ApplicationWindow, HasARedCloseButtonWhileItIsKeyAndGreyOnesForWhatItCannot
     picture.windows[0].isCloseButtonPressed = true;
     EXPECT_LT(buttons()[0].red, 200);
     picture.windows[0].isKey = false;
+    picture.windows[0].isCloseButtonPressed = false;
     for (const Pixel pixel : buttons()) {
         EXPECT_TRUE(isGrey(pixel));
     }
+}
+
+TEST(ApplicationWindow, ShowsACrossInTheCloseButtonUnderThePointerInTheBackgroundToo) {
+    DeskPicture picture = withWindow();
+    const Point close = centerOf(layoutOf(picture).closeButton);
+    for (const bool isKey : {true, false}) {
+        picture.windows[0].isKey = isKey;
+        picture.windows[0].isCloseButtonHovered = true;
+        const PaintedPicture hovered{picture};
+        EXPECT_LT(hovered.at(close).red, 160);
+        EXPECT_TRUE(isNear(hovered.at({close.x + 4, close.y}), 0xFF, 0x5F, 0x57, 3));
+        picture.windows[0].isClosable = false;
+        EXPECT_GT(PaintedPicture{picture}.at(close).red, 160);
+        picture.windows[0].isClosable = true;
+    }
+}
+
+TEST(ApplicationWindow, LooksActiveWhileItIsMainAndAnotherReceivesTheKeys) {
+    DeskPicture picture = withWindow();
+    const Point close = centerOf(layoutOf(picture).closeButton);
+    picture.windows[0].isKey = false;
+    EXPECT_FALSE(isNear(PaintedPicture{picture}.at(close), 0xFF, 0x5F, 0x57, 3));
+    picture.windows[0].isMain = true;
+    EXPECT_TRUE(isNear(PaintedPicture{picture}.at(close), 0xFF, 0x5F, 0x57, 3));
 }
 
 TEST(ApplicationWindow, ShowsItsTitleInTheMiddleAndPalerInTheBackground) {

@@ -23,6 +23,9 @@ PROGRAMS = ["Xvfb", "xdotool", "xwininfo", "import", "convert", "defaults"]
 ICON = pathlib.Path(__file__).resolve().parents[3] / "Kestrune" / "Resources" / "MenuBarIcon.png"
 ICON_SIZE = 20  # points, which are pixels here
 
+ACCENT = [0, 122 / 255, 1]
+PRESSED_OPACITY = 0.75  # of the fill of a button
+
 RIGHT_UUID = "37D8832A-2D66-02CA-B9F7-8F3000000002"
 
 
@@ -31,6 +34,13 @@ def darkest(picture, area):
     crop = f"{round(area.width)}x{round(area.height)}+{round(area.left)}+{round(area.top)}"
     command = ["convert", str(picture), "-crop", crop, "+repage", "-colorspace", "Gray"]
     return float(run(*command, "-format", "%[fx:minima]", "info:"))
+
+
+def color_at(picture, left, top):
+    """Red, green and blue, from 0 to 1."""
+    pixel = f"p{{{left},{top}}}"
+    parts = ",".join(f"%[fx:{pixel}.{part}]" for part in "rgb")
+    return [float(part) for part in run("convert", str(picture), "-format", parts, "info:").split(",")]
 
 
 def has_drawing(picture, area):
@@ -166,6 +176,19 @@ class FirstRun(ProcessTest):
 
         wait_for(is_drawn, f"a picture of {control!r}")
 
+    def background(self, window):
+        return color_at(self.take_picture(), *window.place.area.at(0, 0, 4))
+
+    def wait_for_color(self, window, control, expected):
+        """Of the fill, in the room beside the label."""
+        left, middle = window.controls[control].area.at(0, 0.5)
+
+        def is_shown():
+            color = color_at(self.take_picture(), left + 8, middle)
+            return all(abs(part - wanted) < 0.01 for part, wanted in zip(color, expected))
+
+        wait_for(is_shown, f"the colour {expected} of {control!r}")
+
     def test_a_new_user_goes_through_the_wizard(self):
         application = self.start(is_permitted=False)
         application.guarded_after(application.click_row, row_with("Complete setup", application.open_menu()))
@@ -176,9 +199,13 @@ class FirstRun(ProcessTest):
         self.assertEqual(wizard.texts[-1], "Waiting for permission…")
         self.assertEqual(list(wizard.controls), ["Request permission"])
         self.wait_until_drawn(wizard, "Request permission")
+        self.wait_for_color(wizard, "Request permission", ACCENT)
         self.keep(wizard, "1-before-the-request")
+        behind = self.background(wizard)
+        dimmed = [PRESSED_OPACITY * fill + (1 - PRESSED_OPACITY) * back for fill, back in zip(ACCENT, behind)]
 
         application.press(wizard, "Request permission")
+        self.wait_for_color(wizard, "Request permission", dimmed)
         self.keep(wizard, "2-pressed")
         application.hand("mouseup", 1)
         wizard = application.wait_for_control("Open System Settings")
@@ -199,7 +226,6 @@ class FirstRun(ProcessTest):
         self.assertEqual(application.guarded_after(application.click_beside_menu), ["Right"])
         self.assertEqual(self.saved("hasCompletedOnboarding"), "1")
         self.assert_quits(application)
-
 
     def test_a_user_with_the_permission_begins_with_the_introduction(self):
         application = self.start()
