@@ -54,17 +54,14 @@ KestruneApp::KestruneApp(Construction)
 
 std::span<const ActionMethod> KestruneApp::actionMethods() const { return Actions; }
 
-std::function<void()> KestruneApp::ifAlive(void (KestruneApp::*operation)()) {
-    return whileAlive(weak_from_this(), operation);
-}
-
 void KestruneApp::applicationDidFinishLaunching() noexcept {
     installMainMenu();
     menuBarController_ = makeMenuBarController();
     dockGuard_->setPreferences(preferences_);
     startGuardIfAllowed();
     rebuildMenu();
-    menuBarController_->setOnAccessibilityGranted(ifAlive(&KestruneApp::accessibilityGranted));
+    menuBarController_->setOnAccessibilityGranted(
+        whileAlive(weak_from_this(), [this] { accessibilityGranted(); }));
     if (!isProcessTrusted()) {
         registerForAccessibilityList();
         startAccessibilityWatcher();
@@ -82,8 +79,8 @@ void KestruneApp::installMainMenu() {
 
 std::shared_ptr<MenuBarController> KestruneApp::makeMenuBarController() {
     MenuBarController::Openers openers;
-    openers.openSettings = ifAlive(&KestruneApp::openSettingsWindow);
-    openers.openWelcome = ifAlive(&KestruneApp::showWelcomeWindow);
+    openers.openSettings = whileAlive(weak_from_this(), [this] { openSettingsWindow(); });
+    openers.openWelcome = whileAlive(weak_from_this(), [this] { showWelcomeWindow(); });
     return MenuBarController::make(preferences_, dockGuard_, std::move(openers));
 }
 
@@ -100,8 +97,8 @@ void KestruneApp::openSettingsWindow() {}
 
 void KestruneApp::showWelcomeWindow() {
     if (!welcomeWindowController_) {
-        welcomeWindowController_ =
-            WelcomeWindowController::make(preferences_, ifAlive(&KestruneApp::welcomeFinished));
+        welcomeWindowController_ = WelcomeWindowController::make(
+            preferences_, whileAlive(weak_from_this(), [this] { welcomeFinished(); }));
     }
     welcomeWindowController_->show();
 }
@@ -160,7 +157,9 @@ void KestruneApp::welcomeFinished() {
     rebuildMenu();
 }
 
-void KestruneApp::scheduleWelcomeDecision() { MainActor::startTask(ifAlive(&KestruneApp::decideOnWelcome)); }
+void KestruneApp::scheduleWelcomeDecision() {
+    MainActor::startTask(whileAlive(weak_from_this(), [this] { decideOnWelcome(); }));
+}
 
 // Whoever holds the permission already has no use for the wizard; whoever lost it sees the wizard again at
 // every launch, whatever was completed before.
@@ -177,7 +176,7 @@ void KestruneApp::observeScreenParameters() {
     // The token is dropped: the displays are followed as long as the process lives.
     NotificationCenter::defaultCenter().addObserver(
         ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(),
-        [follow = ifAlive(&KestruneApp::screenParametersChanged)] {
+        [follow = whileAlive(weak_from_this(), [this] { screenParametersChanged(); })] {
             requireMainActor("A change of displays was announced outside the main thread.");
             follow();
         });

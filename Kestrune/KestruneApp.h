@@ -70,9 +70,6 @@ private:
     void installMainMenu();
     std::shared_ptr<MenuBarController> makeMenuBarController();
 
-    // Calls the operation, or does nothing once this object is gone.
-    std::function<void()> ifAlive(void (KestruneApp::*operation)());
-
     void startGuardIfAllowed();
     void startAccessibilityWatcher();
     void checkAccessibility(Timer& watcher);

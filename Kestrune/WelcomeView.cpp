@@ -37,7 +37,7 @@ View prominent(const View& button) {
 
 View stepCaption() {
     // The negative padding pulls the page up under the caption.
-    return HStack({}, {ui::VerbatimText("Step 2 of 2"), Spacer()})
+    return HStack({}, ui::VerbatimText("Step 2 of 2"), Spacer())
         .font(Font::preferred(TextStyle::caption))
         .fontWeight(FontWeight::medium)
         .foregroundStyle(Color::secondary)
@@ -45,12 +45,23 @@ View stepCaption() {
         .padding({.top = 16, .leading = 24, .bottom = -4, .trailing = 24});
 }
 
+View statusMark(bool isTrusted) {
+    if (isTrusted) {
+        return SystemImage("checkmark.circle.fill").foregroundStyle(Color::green);
+    }
+    return SystemImage("circle.dashed").foregroundStyle(Color::secondary);
+}
+
+View statusText(bool isTrusted) {
+    if (isTrusted) {
+        return Text("Permission granted");
+    }
+    return Text("Waiting for permission…");
+}
+
 View statusRow(bool isTrusted) {
-    const View mark = isTrusted ? SystemImage("checkmark.circle.fill").foregroundStyle(Color::green)
-                                : SystemImage("circle.dashed").foregroundStyle(Color::secondary);
-    const View status = isTrusted ? Text("Permission granted") : Text("Waiting for permission…");
-    return HStack({.spacing = 10},
-                  {mark.imageScale(ui::ImageScale::large), status.foregroundStyle(Color::secondary)})
+    return HStack({.spacing = 10}, statusMark(isTrusted).imageScale(ui::ImageScale::large),
+                  statusText(isTrusted).foregroundStyle(Color::secondary))
         .padding({.top = 4});
 }
 
@@ -72,28 +83,25 @@ View WelcomeView::body() const {
 
 View WelcomeIntroStep::body() const {
     constexpr double SymbolSize = 44; // points
-    return VStack(
-               leading(18),
-               {
-                   SystemImage("dock.rectangle")
-                       .font(Font::system(SymbolSize, FontWeight::light))
-                       .foregroundStyle(ui::ForegroundStyle::tint()),
-                   Text("Welcome to Kestrune")
-                       .font(Font::preferred(TextStyle::title))
-                       .fontWeight(FontWeight::semibold),
-                   secondary(Text("Thanks for picking up Kestrune. You're about to get the Mac Dock to stay "
-                                  "exactly where you want it. No more jumping between screens."),
-                             TextStyle::body),
-                   Text("Two quick steps and you're done:")
-                       .font(Font::preferred(TextStyle::callout))
-                       .fontWeight(FontWeight::medium)
-                       .padding({.top = 4}),
-                   VStack(leading(8), {Label("Grant Accessibility permission", "2.circle.fill")})
-                       .foregroundStyle(Color::secondary),
-                   HStack({}, {Spacer(), prominent(Button("Get started", onContinue))
-                                             .keyboardShortcut(ui::KeyboardShortcut::defaultAction)})
-                       .padding({.top = 8}),
-               })
+    const View symbol = SystemImage("dock.rectangle")
+                            .font(Font::system(SymbolSize, FontWeight::light))
+                            .foregroundStyle(ui::ForegroundStyle::tint());
+    const View heading =
+        Text("Welcome to Kestrune").font(Font::preferred(TextStyle::title)).fontWeight(FontWeight::semibold);
+    const View thanks = secondary(
+        Text("Thanks for picking up Kestrune. You're about to get the Mac Dock to stay exactly where "
+             "you want it. No more jumping between screens."),
+        TextStyle::body);
+    const View announcement = Text("Two quick steps and you're done:")
+                                  .font(Font::preferred(TextStyle::callout))
+                                  .fontWeight(FontWeight::medium)
+                                  .padding({.top = 4});
+    const View steps = VStack(leading(8), Label("Grant Accessibility permission", "2.circle.fill"))
+                           .foregroundStyle(Color::secondary);
+    const View button =
+        prominent(Button("Get started", onContinue)).keyboardShortcut(ui::KeyboardShortcut::defaultAction);
+    return VStack(leading(18), symbol, heading, thanks, announcement, steps,
+                  HStack({}, Spacer(), button).padding({.top = 8}))
         .padding(24);
 }
 
@@ -110,21 +118,20 @@ View WelcomeAccessibilityStep::body() const {
     } else {
         buttons.push_back(prominent(Button("Request permission", onRequestPermissions)));
     }
-    const View heading = VStack(
-        leading(4),
-        {Text("Grant Accessibility permission")
-             .font(Font::preferred(TextStyle::title2))
-             .fontWeight(FontWeight::semibold),
-         secondary(Text("Kestrune needs to observe window events from other apps so it can keep the Dock "
-                        "pinned where you want it."),
-                   TextStyle::callout)});
+    const View heading = Text("Grant Accessibility permission")
+                             .font(Font::preferred(TextStyle::title2))
+                             .fontWeight(FontWeight::semibold);
+    const View reason =
+        secondary(Text("Kestrune needs to observe window events from other apps so it can keep "
+                       "the Dock pinned where you want it."),
+                  TextStyle::callout);
     const View explanation = secondary(
         Text("macOS will show a permission dialog. Click **Open System Settings** in that dialog, then "
              "enable **Kestrune** in the Accessibility list. We never read your screen content or "
              "keystrokes."),
         TextStyle::callout);
-    return VStack(leading(16), {heading, explanation, statusRow(isTrusted),
-                                HStack({.spacing = 12}, std::move(buttons)).padding({.top = 8})})
+    return VStack(leading(16), VStack(leading(4), heading, reason), explanation, statusRow(isTrusted),
+                  HStack({.spacing = 12}, std::move(buttons)).padding({.top = 8}))
         .padding(24);
 }
 

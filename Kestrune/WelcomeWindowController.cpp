@@ -22,8 +22,9 @@ constexpr double ContentWidth = 460;    // points
 constexpr double InitialHeight = 200;   // until the view has said how high it is
 
 Window makeWindow() {
-    Window window(Rect(0, 0, ContentWidth, InitialHeight),
-                  WindowStyleMask::titled | WindowStyleMask::closable, BackingStoreType::buffered, false);
+    constexpr Rect Content(0, 0, ContentWidth, InitialHeight);
+    constexpr WindowStyleMask Style = WindowStyleMask::titled | WindowStyleMask::closable;
+    Window window(Content, Style, BackingStoreType::buffered, false);
     window.setTitle(localized("Welcome to Kestrune"));
     window.setReleasedWhenClosed(false);
     window.setLevel(WindowLevel::floating);
@@ -57,12 +58,10 @@ WelcomeWindowController::WelcomeWindowController(Construction, std::shared_ptr<P
 WelcomeWindowController::~WelcomeWindowController() { endAccessibilityWatcher(); }
 
 void WelcomeWindowController::installActions() {
-    const auto weakThis = weak_from_this();
-    model_->advanceFromIntro = whileAlive(weakThis, &WelcomeWindowController::advanceFromIntro);
-    model_->requestPermissions = whileAlive(weakThis, &WelcomeWindowController::requestPermissions);
-    model_->openAccessibilitySettings =
-        whileAlive(weakThis, &WelcomeWindowController::openAccessibilitySettings);
-    model_->finish = whileAlive(weakThis, &WelcomeWindowController::finish);
+    model_->advanceFromIntro = whileAlive(weak_from_this(), [this] { advanceFromIntro(); });
+    model_->requestPermissions = whileAlive(weak_from_this(), [this] { requestPermissions(); });
+    model_->openAccessibilitySettings = whileAlive(weak_from_this(), [] { openAccessibilityPane(); });
+    model_->finish = whileAlive(weak_from_this(), [this] { finish(); });
 }
 
 void WelcomeWindowController::hostView() {
@@ -74,12 +73,8 @@ void WelcomeWindowController::hostView() {
 
 void WelcomeWindowController::startAccessibilityWatcher() {
     endAccessibilityWatcher();
-    accessibilityWatcher_ =
-        Timer::scheduledTimer(PollingInterval, true, [weakThis = weak_from_this()](Timer&) {
-            if (const auto self = weakThis.lock()) {
-                self->checkAccessibility();
-            }
-        });
+    const auto check = whileAlive(weak_from_this(), [this] { checkAccessibility(); });
+    accessibilityWatcher_ = Timer::scheduledTimer(PollingInterval, true, [check](Timer&) { check(); });
 }
 
 void WelcomeWindowController::endAccessibilityWatcher() {
@@ -107,8 +102,6 @@ void WelcomeWindowController::requestPermissions() {
     model_->hasRequestedPermission = true;
     isProcessTrustedWithOptions({.prompt = true});
 }
-
-void WelcomeWindowController::openAccessibilitySettings() { openAccessibilityPane(); }
 
 void WelcomeWindowController::applyWindowLevel() {
     window().setLevel(model_->currentStep < Step::accessibility ? WindowLevel::floating

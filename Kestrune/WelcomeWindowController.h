@@ -18,7 +18,6 @@ namespace kestrune {
 // until the wizard has finished; the window may be closed and shown again meanwhile. What it hands out (the
 // model's actions, the timer's block) holds it weakly. Main thread only.
 class WelcomeWindowController : public WindowController,
-                                public WindowDelegate,
                                 public std::enable_shared_from_this<WelcomeWindowController> {
     struct Construction {};
 
@@ -60,7 +59,6 @@ private:
 
     void advanceFromIntro();
     void requestPermissions();
-    void openAccessibilitySettings();
 
     // Records that the first run is done, and puts the wizard away. Whoever calls it holds the controller.
     void finish();

@@ -3,18 +3,11 @@
 
 #include <functional>
 #include <memory>
-#include <utility>
 
 namespace kestrune {
 
-// Calls the operation, or does nothing once the owner is gone. The owner lives until the operation returns.
-template <typename Owner>
-std::function<void()> whileAlive(std::weak_ptr<Owner> owner, void (Owner::*operation)()) {
-    return [owner = std::move(owner), operation] {
-        if (const auto alive = owner.lock()) {
-            (alive.get()->*operation)();
-        }
-    };
-}
+// Does the work, or nothing once the owner is gone. The owner lives until the work is done, so that the work
+// may use it without holding it.
+std::function<void()> whileAlive(std::weak_ptr<const void> owner, std::function<void()> work);
 
 } // namespace kestrune

@@ -46,7 +46,7 @@ template <>
 inline constexpr bool IsOptionSet<WindowCollectionBehavior> = true;
 
 // NSWindowDelegate.
-class WindowDelegate : public virtual Object {
+class WindowDelegate : public Object {
 public:
     // windowDidBecomeKey:, when the window receives the keys from now on.
     virtual void windowDidBecomeKey() noexcept {}

@@ -3,7 +3,6 @@
 // Source: AppKit, NSWindowController.h.
 #pragma once
 
-#include "platform/Object.h"
 #include "platform/Window.h"
 
 #include <optional>
@@ -11,12 +10,13 @@
 
 namespace kestrune {
 
-// NSWindowController, as the superclass of the application's own. It retains its window. A subclass can only
+// NSWindowController, as the superclass of the application's own, each of which is also the delegate of its
+// window once `Window::setDelegate` says so. It retains its window. A subclass can only
 // be made by its own constructor: when the platform makes one from an archive (`initWithCoder:`) or from a
 // bare window (`initWithWindow:`), the process stops with the message
 // "<sourcePath>: Fatal error: init(coder:) is not supported". The runtime knows the subclass from its first
 // instance on; before that an archive names a class that there is not.
-class WindowController : public virtual Object {
+class WindowController : public WindowDelegate {
 public:
     // Where the subclass is defined, such as "Kestrune/AWindowController"; static storage.
     virtual std::string_view sourcePath() const = 0;

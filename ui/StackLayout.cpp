@@ -143,6 +143,27 @@ struct StackNode final : Node {
 
 } // namespace
 
+namespace {
+
+std::vector<View> copied(std::span<const View* const> children) {
+    std::vector<View> copies;
+    copies.reserve(children.size());
+    for (const View* const child : children) {
+        copies.push_back(*child);
+    }
+    return copies;
+}
+
+} // namespace
+
+View VStackOf(const VStackOptions& options, std::span<const View* const> children) {
+    return VStack(options, copied(children));
+}
+
+View HStackOf(const HStackOptions& options, std::span<const View* const> children) {
+    return HStack(options, copied(children));
+}
+
 View VStack(const VStackOptions& options, std::vector<View> children) {
     return View(std::make_shared<StackNode>(Axis::vertical, options.spacing, shareBefore(options.alignment),
                                             std::move(children)));

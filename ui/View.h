@@ -8,11 +8,14 @@
 #include "ui/Font.h"
 #include "ui/Style.h"
 
+#include <concepts>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kestrune::ui {
@@ -103,6 +106,22 @@ struct HStackOptions {
 };
 View VStack(const VStackOptions& options, std::vector<View> children);
 View HStack(const HStackOptions& options, std::vector<View> children);
+
+// The same with the children where they are; none is kept as a pointer.
+View VStackOf(const VStackOptions& options, std::span<const View* const> children);
+View HStackOf(const HStackOptions& options, std::span<const View* const> children);
+
+// The same with the children one after the other.
+template <std::same_as<View>... Views>
+View VStack(const VStackOptions& options, const View& first, const Views&... others) {
+    const View* const children[] = {&first, &others...};
+    return VStackOf(options, std::span<const View* const>(children)); // GCOVR_EXCL_BR_LINE
+}
+template <std::same_as<View>... Views>
+View HStack(const HStackOptions& options, const View& first, const Views&... others) {
+    const View* const children[] = {&first, &others...};
+    return HStackOf(options, std::span<const View* const>(children)); // GCOVR_EXCL_BR_LINE
+}
 
 View Button(std::string_view titleKey, std::function<void()> action, ButtonRole role = ButtonRole::none);
 

@@ -44,6 +44,11 @@ TEST_F(WelcomeWindow, IsMadeInOrder) {
     EXPECT_THAT(session.windows().shown(), IsEmpty());
 }
 
+TEST_F(WelcomeWindow, IsTheTargetOfNoAction) {
+    make();
+    EXPECT_THAT(controller->actionMethods(), IsEmpty());
+}
+
 TEST_F(WelcomeWindow, IsShownInOrderWithThePermission) {
     make();
     calls();

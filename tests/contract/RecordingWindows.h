@@ -40,7 +40,7 @@ private:
 };
 
 // Controls its window, and is its delegate too.
-class RecordingWindowController : public WindowController, public WindowDelegate {
+class RecordingWindowController : public WindowController {
 public:
     explicit RecordingWindowController(const Window& window) { initWithWindow(window); }
 

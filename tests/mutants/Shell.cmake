@@ -106,10 +106,10 @@ kestrune_mutant(TerminationLeavesTheGuard ${DELEGATE}
     FROM "applicationWillTerminate() noexcept { dockGuard_->stop(); }"
     TO "applicationWillTerminate() noexcept {}")
 kestrune_mutant(MenuRetainsTheDelegate ${DELEGATE}
-    FROM "whileAlive<&KestruneApp::accessibilityGranted>()"
+    FROM "whileAlive(weak_from_this(), [this] { accessibilityGranted(); })"
     TO "[retained = shared_from_this()] { retained->accessibilityGranted(); }")
 kestrune_mutant(DecisionRetainsTheDelegate ${DELEGATE}
-    FROM "whileAlive<&KestruneApp::decideOnWelcome>()"
+    FROM "whileAlive(weak_from_this(), [this] { decideOnWelcome(); })"
     TO "[retained = shared_from_this()] { retained->decideOnWelcome(); }")
 kestrune_mutant(TimerRetainsTheDelegate ${DELEGATE}
     FROM "[weakThis = weak_from_this()](Timer& watcher)"
@@ -119,8 +119,9 @@ kestrune_mutant(TimerOutlivesTheDelegate ${DELEGATE}
                 watcher.invalidate();
             }" TO "            }")
 kestrune_mutant(ObserverRetainsTheDelegate ${DELEGATE}
-    FROM "[follow = whileAlive<&KestruneApp::screenParametersChanged>()]"
-    TO "[follow = whileAlive<&KestruneApp::screenParametersChanged>(), retained = shared_from_this()]")
+    FROM "[follow = whileAlive(weak_from_this(), [this] { screenParametersChanged(); })]"
+    TO "[follow = whileAlive(weak_from_this(), [this] { screenParametersChanged(); }),
+         retained = shared_from_this()]")
 
 set(MENU FILE Kestrune/MenuBarController.cpp DRIVER kestrune_shell_driver SEEDS 400)
 

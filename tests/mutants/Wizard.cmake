@@ -104,9 +104,9 @@ kestrune_mutant(RequestTakesTheAnswer ${WIZARD}
 " TO "    model_->isAccessibilityTrusted = isProcessTrustedWithOptions({.prompt = true});
 ")
 kestrune_mutant(SettingsAreNotOpened ${WIZARD}
-    FROM "{ openAccessibilityPane(); }" TO "{}")
+    FROM "[] { openAccessibilityPane(); }" TO "[] {}")
 kestrune_mutant(WizardIsRetainedByItsActions ${WIZARD}
-    FROM "model_->finish = whileAlive(weakThis, &WelcomeWindowController::finish);"
+    FROM "model_->finish = whileAlive(weak_from_this(), [this] { finish(); });"
     TO "model_->finish = [strong = shared_from_this()] { strong->finish(); };")
 kestrune_mutant(WindowDoesNotFollowItsPage ${WIZARD}
     FROM "HostingSizingOptions::preferredContentSize" TO "HostingSizingOptions::none")
@@ -134,7 +134,8 @@ kestrune_mutant(ReturnRequests ${PAGES}
     TO "prominent(Button(\"Request permission\", onRequestPermissions))
             .keyboardShortcut(ui::KeyboardShortcut::defaultAction)")
 kestrune_mutant(StatusIsAlwaysWaiting ${PAGES}
-    FROM "isTrusted ? Text(\"Permission granted\")" TO "false ? Text(\"Permission granted\")")
+    FROM "        return Text(\"Permission granted\");"
+    TO "        return Text(\"Waiting for permission…\");")
 kestrune_mutant(IntroductionIsNumbered ${PAGES}
     FROM "currentStep == WelcomeViewModel::Step::intro) {
 " TO "currentStep == WelcomeViewModel::Step::intro) {

@@ -137,4 +137,11 @@ TEST_F(AStack, InAStackIsServedByWhatItsViewsNeed) {
               (Columns{{0, 30}, {38, 112}, {158, 42}}));
 }
 
+TEST_F(AStack, TakesItsChildrenOneAfterTheOtherToo) {
+    EXPECT_EQ(describeView(VStack({}, Box(10, 10), Box(20, 20), Box(30, 30))),
+              describeView(VStack({}, {Box(10, 10), Box(20, 20), Box(30, 30)})));
+    EXPECT_EQ(describeView(HStack({}, Box(10, 10))),
+              describeView(HStack({}, std::vector<View>(1, Box(10, 10)))));
+}
+
 } // namespace kestrune::ui
