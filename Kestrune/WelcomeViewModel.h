@@ -14,7 +14,7 @@ public:
     // In the order in which the user goes through them.
     enum class Step { intro, accessibility };
 
-    WelcomeViewModel(Step initialStep, bool isAccessibilityTrusted);
+    WelcomeViewModel(Step initialStep, bool isTrusted);
 
     ui::Published<Step> currentStep;
 

@@ -118,6 +118,7 @@ int measure(std::size_t renders) {
 
 } // namespace kestrune::benchmarks
 
+// NOLINTNEXTLINE(bugprone-exception-escape): without memory there is nothing to measure.
 int main(int count, char** arguments) {
     const std::span<char*> all(arguments, static_cast<std::size_t>(count));
     const auto renders = kestrune::benchmarks::countFrom(all.subspan(1), "--renders", 10'000);
