@@ -72,7 +72,7 @@ void windowWillClose(id instance, SEL selector, id notification) noexcept {
 
 // Where each class of window controllers is defined.
 std::unordered_map<Class, std::string_view>& sourcePaths() {
-    static auto& paths = *new std::unordered_map<Class, std::string_view>;
+    static std::unordered_map<Class, std::string_view> paths;
     return paths;
 }
 

@@ -11,7 +11,11 @@
 namespace kestrune::desk {
 
 // Elements of the scene, by their places in it.
-enum SceneElement : std::size_t { Sentence, Link, Main, Switch, Push };
+inline constexpr std::size_t Sentence = 0;
+inline constexpr std::size_t Link = 1;
+inline constexpr std::size_t Main = 2;
+inline constexpr std::size_t Switch = 3;
+inline constexpr std::size_t Push = 4;
 
 // An own-drawn button as AccentProminentButtonStyle makes it.
 inline ui::ButtonElement customButton(const Rect& frame, const std::string& title) {
