@@ -20,7 +20,7 @@ constexpr double WatcherInterval = 1.0; // seconds
 
 constexpr Selector MenuOpenSettings{"menuOpenSettings"};
 
-constexpr ActionMethod Actions[] = {
+constexpr ActionMethod MainMenuActions[] = {
     {MenuOpenSettings,
      [](Object& receiver, const MenuItem&) noexcept {
          static_cast<KestruneApp&>(receiver).menuOpenSettings();
@@ -52,7 +52,7 @@ KestruneApp::KestruneApp(Construction)
     init();
 }
 
-std::span<const ActionMethod> KestruneApp::actionMethods() const { return Actions; }
+std::span<const ActionMethod> KestruneApp::actionMethods() const { return MainMenuActions; }
 
 void KestruneApp::applicationDidFinishLaunching() noexcept {
     installMainMenu();

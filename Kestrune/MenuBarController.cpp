@@ -24,7 +24,7 @@ constexpr Selector Quit{"quit"};
 
 MenuBarController& controller(Object& receiver) { return static_cast<MenuBarController&>(receiver); }
 
-constexpr ActionMethod Actions[] = {
+constexpr ActionMethod StatusMenuActions[] = {
     {ToggleEnabled, [](Object& receiver, const MenuItem&) noexcept { controller(receiver).toggleEnabled(); }},
     {SelectScreen,
      [](Object& receiver, const MenuItem& sender) noexcept { controller(receiver).selectScreen(sender); }},
@@ -75,7 +75,7 @@ MenuBarController::MenuBarController(Construction, std::shared_ptr<Preferences> 
     init();
 }
 
-std::span<const ActionMethod> MenuBarController::actionMethods() const { return Actions; }
+std::span<const ActionMethod> MenuBarController::actionMethods() const { return StatusMenuActions; }
 
 void MenuBarController::setOnAccessibilityGranted(std::function<void()> onAccessibilityGranted) {
     onAccessibilityGranted_ = std::move(onAccessibilityGranted);

@@ -42,8 +42,11 @@ std::size_t liveAllocationCount() { return allocationCount() - releases().load(s
 
 } // namespace kestrune::benchmarks
 
-// The forms for arrays and the ones that do not throw call these.
+// The forms for arrays call these.
 void* operator new(std::size_t size) { return counted(std::malloc(size != 0 ? size : 1)); }
+
+// Also for one that cannot be had, which its callers could do without.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return operator new(size); }
 
 void* operator new(std::size_t size, std::align_val_t alignment) {
     const auto unit = static_cast<std::size_t>(alignment);

@@ -11,9 +11,9 @@
 namespace kestrune {
 
 // NSWindowController, as the superclass of the application's own, each of which is also the delegate of its
-// window once `Window::setDelegate` says so. It retains its window. A subclass can only
-// be made by its own constructor: when the platform makes one from an archive (`initWithCoder:`) or from a
-// bare window (`initWithWindow:`), the process stops with the message
+// window once `Window::setDelegate` says so. It retains its window. A subclass can only be made by its own
+// constructor: when the platform makes one from an archive (`initWithCoder:`) or from a bare window
+// (`initWithWindow:`), the process stops with the message
 // "<sourcePath>: Fatal error: init(coder:) is not supported". The runtime knows the subclass from its first
 // instance on; before that an archive names a class that there is not.
 class WindowController : public WindowDelegate {

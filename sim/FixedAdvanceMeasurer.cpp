@@ -1,5 +1,7 @@
 #include "sim/FixedAdvanceMeasurer.h"
 
+#include "ui/ControlMetrics.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -121,17 +123,6 @@ Size FixedAdvanceMeasurer::measurePushButton(std::string_view title, ui::Control
     return {28 + 7 * static_cast<double>(title.size()), heightOfButton(size)};
 }
 
-Size FixedAdvanceMeasurer::measureSwitch(ui::ControlSize size) const {
-    switch (size) {
-    case ui::ControlSize::mini:
-        return {26, 15};
-    case ui::ControlSize::small:
-        return {32, 18};
-    case ui::ControlSize::regular:
-    case ui::ControlSize::large:
-        break;
-    }
-    return {38, 22};
-}
+Size FixedAdvanceMeasurer::measureSwitch(ui::ControlSize size) const { return ui::switchSize(size); }
 
 } // namespace kestrune::sim

@@ -10,7 +10,7 @@ namespace kestrune::sim {
 
 namespace {
 
-constexpr std::string_view WhiteSpace = " \t\r\n";
+constexpr std::string_view XMLWhiteSpace = " \t\r\n";
 constexpr int DeepestNesting = 64;
 
 struct Entity {
@@ -73,7 +73,7 @@ private:
 
     void skipBlanks() {
         while (true) {
-            advance(std::min(rest_.find_first_not_of(WhiteSpace), rest_.size()));
+            advance(std::min(rest_.find_first_not_of(XMLWhiteSpace), rest_.size()));
             if (!rest_.starts_with("<!--")) {
                 return;
             }

@@ -175,10 +175,6 @@ void Windows::registerController(std::string_view className, std::string_view so
     sourcePaths_.emplace(className, sourcePath);
 }
 
-void Windows::constructFromArchive(std::string_view className) const { refuseConstruction(className); }
-
-void Windows::constructFromWindow(std::string_view className) const { refuseConstruction(className); }
-
 void Windows::refuseConstruction(std::string_view className) const {
     const auto known = sourcePaths_.find(className);
     if (known == sourcePaths_.end()) {

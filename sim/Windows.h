@@ -29,11 +29,9 @@ public:
     // was ordered front last.
     std::vector<WindowState> shown() const;
 
-    // Which receives the keys; null while the application is not active or shows no window.
+    // Which receives the keys, and is the main window too, as nothing here has panels; null while the
+    // application is not active or shows no window.
     WindowState keyWindow() const;
-
-    // Whose title bar looks active: here always the window with the keys, as nothing has panels.
-    WindowState mainWindow() const { return keyWindow(); }
 
     // What the hosted view of a window shows; nothing when it hosts none.
     static const ui::Scene& sceneOf(const Window::State& window);
@@ -68,10 +66,10 @@ public:
     // The application becomes the active one, or ceases to be.
     void setActive(bool isActive);
 
-    // The platform makes an object of the class from an archive, or from a bare window.
+    // The platform makes an object of the class itself, from an archive or from a bare window: both are
+    // refused.
     void registerController(std::string_view className, std::string_view sourcePath);
-    void constructFromArchive(std::string_view className) const;
-    void constructFromWindow(std::string_view className) const;
+    [[noreturn]] void refuseConstruction(std::string_view className) const;
 
     // The application's process has ended.
     void clear();
@@ -81,7 +79,6 @@ private:
     void takeOut(const Window::State& window);
     void tellNewKeyWindow(const WindowState& before) const;
     static void requireUnreleased(const Window::State& window);
-    [[noreturn]] void refuseConstruction(std::string_view className) const;
 
     Session& session_;
     std::vector<std::weak_ptr<Window::State>> ordered_; // the front one first, whatever its level

@@ -220,7 +220,6 @@ WindowPicture WindowParts::pictureOf(const WindowState& window) {
     picture.isMiniaturizable = window->has(WindowStyleMask::miniaturizable);
     picture.isResizable = window->has(WindowStyleMask::resizable);
     picture.isKey = session_.windows().keyWindow() == window;
-    picture.isMain = session_.windows().mainWindow() == window;
     picture.depth = depthOf(*window);
     picture.scene = sim::Windows::sceneOf(*window);
     if (isStillThere(focused_, window)) {

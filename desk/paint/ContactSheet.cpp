@@ -35,7 +35,7 @@ void paintAlone(cairo_t* context, Point topLeft, const WindowPicture& shown, boo
     TextPainter text{context};
     const Canvas canvas{context, text, paletteFor(dark)};
     const WindowLayout layout = windowLayoutAt(topLeft, shown);
-    paintPanel(canvas, layout.frame, applicationWindowStyle(canvas.palette, shown.isActive()));
+    paintPanel(canvas, layout.frame, applicationWindowStyle(canvas.palette, shown.isKey));
     paintWindow(canvas, layout, shown);
 }
 

@@ -70,19 +70,6 @@ void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view la
     canvas.text.paint(label, centerOf(area), style);
 }
 
-Size switchSize(ui::ControlSize size) {
-    switch (size) {
-    case ui::ControlSize::mini:
-        return {26, 15};
-    case ui::ControlSize::small:
-        return {32, 18};
-    case ui::ControlSize::regular:
-    case ui::ControlSize::large:
-        break;
-    }
-    return {38, 22};
-}
-
 void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state) {
     const SystemColors& colors = canvas.palette.system;
     const double radius = area.height() / 2;

@@ -31,9 +31,8 @@ struct PushButtonState {
 void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state,
                      const PushButtonLook& look = {});
 
-// In the system's own windows, and in those of applications.
+// In the system's own windows.
 inline constexpr Size SwitchSize{28, 16};
-Size switchSize(ui::ControlSize size);
 
 struct SwitchState {
     bool isOn = false;

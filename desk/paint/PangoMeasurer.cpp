@@ -2,6 +2,7 @@
 
 #include "desk/paint/ControlPainter.h"
 #include "desk/paint/SymbolPainter.h"
+#include "ui/ControlMetrics.h"
 
 namespace kestrune::desk {
 
@@ -22,6 +23,6 @@ Size PangoMeasurer::measurePushButton(std::string_view title, ui::ControlSize si
     return {titles_.width(title, look.label) + 2 * look.padding, look.height};
 }
 
-Size PangoMeasurer::measureSwitch(ui::ControlSize size) const { return switchSize(size); }
+Size PangoMeasurer::measureSwitch(ui::ControlSize size) const { return ui::switchSize(size); }
 
 } // namespace kestrune::desk

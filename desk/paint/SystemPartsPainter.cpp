@@ -72,7 +72,7 @@ void SystemPartsPainter::paintWindows(const Canvas& canvas, const DeskLayout& la
         }
         const WindowLayout place = windowLayout(layout, *shown, window);
         windows_[shown->number].paint(
-            canvas, {place.frame, applicationWindowStyle(canvas.palette, shown->isActive()), picture.dark},
+            canvas, {place.frame, applicationWindowStyle(canvas.palette, shown->isKey), picture.dark},
             {*shown, place, std::nullopt, picture.dark},
             [&](const Canvas& own) { paintWindow(own, place, *shown); });
     }

@@ -108,8 +108,7 @@ struct WindowPicture {
     bool isClosable = true;
     bool isMiniaturizable = false;
     bool isResizable = false;
-    bool isKey = false;  // receives the keys
-    bool isMain = false; // is the one that the user works on, whatever receives the keys
+    bool isKey = false; // receives the keys
     WindowDepth depth = WindowDepth::beforePane;
     ui::Scene scene = {};
 
@@ -119,7 +118,6 @@ struct WindowPicture {
     bool isCloseButtonPressed = false;
     bool isCloseButtonHovered = false;
 
-    bool isActive() const { return isKey || isMain; }
     bool isTitled() const { return titleBarHeight > 0; }
 
     friend bool operator==(const WindowPicture&, const WindowPicture&) = default;

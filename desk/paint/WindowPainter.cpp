@@ -13,7 +13,7 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
     constexpr double ButtonsWidth = 72; // with the room after them
     const SceneColors& colors = canvas.palette.scene;
     const Rect& bar = layout.titleBar;
-    if (shown.isActive()) {
+    if (shown.isKey) {
         cairo_rectangle(canvas.context, bar.minX(), bar.minY(), bar.width(), bar.height());
         setColor(canvas.context, colors.titleBar);
         cairo_fill(canvas.context);
@@ -24,13 +24,13 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
                        {.isClosable = shown.isClosable,
                         .isMiniaturizable = shown.isMiniaturizable,
                         .isZoomable = shown.isResizable,
-                        .isActive = shown.isActive(),
+                        .isActive = shown.isKey,
                         .isClosePressed = shown.isCloseButtonPressed,
                         .isCloseHovered = shown.isCloseButtonHovered});
     canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, bar.minY() + bar.height() / 2},
                       {.size = 13,
                        .weight = FontWeight::bold,
-                       .color = shown.isActive() ? colors.title : colors.inactiveTitle,
+                       .color = shown.isKey ? colors.title : colors.inactiveTitle,
                        .alignment = TextAlignment::center,
                        .maximumWidth = std::max(0.0, bar.width() - 2 * ButtonsWidth)});
 }
@@ -50,7 +50,7 @@ PanelStyle applicationWindowStyle(const Palette& palette, bool isActive) {
 void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
     const SavedState saved{canvas.context};
     addRoundedRectangle(canvas.context, layout.frame,
-                        applicationWindowStyle(canvas.palette, shown.isActive()).cornerRadius);
+                        applicationWindowStyle(canvas.palette, shown.isKey).cornerRadius);
     cairo_clip(canvas.context);
     if (shown.isTitled()) {
         paintTitleBar(canvas, layout, shown);

@@ -5,23 +5,6 @@
 
 namespace kestrune::mac {
 
-namespace {
-
-// As characters of key equivalents.
-const char* keyOf(ui::KeyboardShortcut shortcut) {
-    switch (shortcut) {
-    case ui::KeyboardShortcut::defaultAction:
-        return "\r";
-    case ui::KeyboardShortcut::cancelAction:
-        return "\x1b";
-    case ui::KeyboardShortcut::none:
-        break;
-    }
-    return "";
-}
-
-} // namespace
-
 Unsigned platformSize(ui::ControlSize size) {
     switch (size) {
     case ui::ControlSize::mini:
@@ -42,12 +25,6 @@ void setButtonSize(id button, ui::ControlSize size) {
     ns_control::setFont(button, ns_font::systemFontOfSize(
                                     fonts, ns_font::systemFontSizeForControlSize(fonts, platformSize(size))));
 }
-
-void setShortcut(id button, ui::KeyboardShortcut shortcut) {
-    ns_button::setKeyEquivalent(button, nsString(keyOf(shortcut)).get());
-}
-
-void setTitle(id button, std::string_view title) { ns_button::setTitle(button, nsString(title).get()); }
 
 void setAccessibilityLabel(id control, std::string_view label) {
     ns_view::setAccessibilityLabel(control, nsString(label).get());

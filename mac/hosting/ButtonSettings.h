@@ -15,11 +15,6 @@ Unsigned platformSize(ui::ControlSize size);
 // The button's font goes with it.
 void setButtonSize(id button, ui::ControlSize size);
 
-// The key that presses the button, also when another control has the focus.
-void setShortcut(id button, ui::KeyboardShortcut shortcut);
-
-void setTitle(id button, std::string_view title);
-
 // What is read out.
 void setAccessibilityLabel(id control, std::string_view label);
 

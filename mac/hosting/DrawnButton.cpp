@@ -1,7 +1,7 @@
 // Buttons whose look comes with the scene: custom ones and links. The platform tracks the mouse and the keys,
 // highlights the cell while the button is pressed, and draws the ring around the one that has the focus.
 #include "mac/Vocabulary.h"
-#include "mac/hosting/ButtonSettings.h"
+#include "mac/hosting/ButtonView.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/objc/Pool.h"
@@ -13,47 +13,32 @@ namespace kestrune::mac {
 
 namespace {
 
-constexpr Unsigned MomentaryPushIn = 7; // NSButtonTypeMomentaryPushIn
 constexpr double PressedLinkOpacity = 0.55;
 
-class DrawnButton : public ViewOf<ui::ButtonElement> {
+class DrawnButton : public ButtonView {
 public:
     explicit DrawnButton(id target)
-        : ViewOf(Retained::adopting(
+        : ButtonView(Retained::adopting(
               ns_view::initWithFrame(ns_object::alloc(reinterpret_cast<id>(buttonClass())), Rect()))) {
         const Retained cell =
             Retained::adopting(ns_object::init(ns_object::alloc(reinterpret_cast<id>(cellClass()))));
         ns_control::setCell(view(), cell.get());
         ns_button::setButtonType(view(), MomentaryPushIn);
         ns_button::setBordered(view(), truth(false));
-        ns_control::setTarget(view(), target);
-        ns_control::setAction(view(), sel_registerName("pressButton:"));
+        connect(target);
         RuntimeClass::setTarget(view(), this);
     }
     ~DrawnButton() override { RuntimeClass::setTarget(view(), nullptr); }
 
-    bool isControl() const override { return true; }
-
 private:
-    bool isSame(const ui::ButtonElement& before, const ui::ButtonElement& next) const override {
-        return before.kind == next.kind && before.title == next.title;
-    }
-
     void update(const ui::ButtonElement& next) override {
-        if (differs(next, &ui::ButtonElement::title)) {
-            setTitle(view(), next.title);
-            setAccessibilityLabel(view(), next.title);
-        }
-        if (differs(next, &ui::ButtonElement::shortcut)) {
-            setShortcut(view(), next.shortcut);
-        }
+        ButtonView::update(next);
         if (differs(next, &ui::ButtonElement::frame)) {
             ns_view::setFrame(view(), next.frame);
         }
         if (differs(next, &ui::ButtonElement::body) || differs(next, &ui::ButtonElement::pressedBody)) {
             ns_view::setNeedsDisplay(view(), truth(true));
         }
-        mac::setAction(view(), next.action);
     }
 
     // Null when the view has outlived it.

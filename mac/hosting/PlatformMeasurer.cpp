@@ -6,6 +6,7 @@
 #include "mac/hosting/Symbols.h"
 #include "mac/hosting/SystemControls.h"
 #include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
 
 namespace kestrune::mac {
 
@@ -30,7 +31,7 @@ Size PlatformMeasurer::measureSymbol(const ui::StyledSymbol& symbol) const {
 Size PlatformMeasurer::measurePushButton(std::string_view title, ui::ControlSize size) const {
     const Pool pool;
     const Retained button = newPushButton();
-    setTitle(button.get(), title);
+    ns_button::setTitle(button.get(), nsString(title).get());
     setButtonSize(button.get(), size);
     return ns_view::intrinsicContentSize(button.get());
 }

@@ -1,13 +1,13 @@
 #include "mac/hosting/SystemControls.h"
 
 #include "mac/Vocabulary.h"
+#include "mac/hosting/ButtonView.h"
 
 namespace kestrune::mac {
 
 namespace {
 
-constexpr Unsigned MomentaryPushIn = 7; // NSButtonTypeMomentaryPushIn
-constexpr Unsigned Push = 1;            // NSBezelStylePush
+constexpr Unsigned Push = 1; // NSBezelStylePush
 
 } // namespace
 

@@ -1,16 +1,14 @@
 #include "sim/PointerEvent.h"
 #include "tests/Kestrune/GuardFixture.h"
+#include "tests/base/UnusualNumbers.h"
 
 #include <cmath>
-#include <limits>
 
 namespace kestrune {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 // The first display is pinned.
 class DockGuardEvent : public GuardFixture {

@@ -78,6 +78,9 @@ TEST_F(MainMenu, LooksAtThePermissionOnlyWhenTheWizardIsFinished) {
     const Calls calls = session.journal().take();
     EXPECT_EQ(calls.at(0), "-[KestruneApp menuOpenSettings]");
     EXPECT_EQ(calls.at(1), "-[NSUserDefaults boolForKey:] hasCompletedOnboarding");
+    // One look for the wizard that is made now, and none for the setup.
+    EXPECT_EQ(calls.at(2), Trusted);
+    EXPECT_TRUE(calls.at(3).starts_with("-[NSWindow initWithContentRect:")) << calls.at(3);
     EXPECT_NE(app->welcomeWindowController(), nullptr);
 }
 

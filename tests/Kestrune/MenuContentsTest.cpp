@@ -1,10 +1,10 @@
 #include "Kestrune/KestruneApp.h"
 #include "sim/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
+#include "tests/base/UnusualNumbers.h"
 
 #include <cmath>
 #include <deque>
-#include <limits>
 
 namespace kestrune {
 namespace {
@@ -312,7 +312,6 @@ constexpr const char* NoWholePoints =
     "Fatal error: A display's width or height is no number of points that an integer can hold\\.";
 
 TEST_F(MenuContentsDeathTest, StopForASizeThatNoIntegerHolds) {
-    constexpr double Infinity = std::numeric_limits<double>::infinity();
     constexpr double FirstBeyond = 9223372036854775808.0;
     for (const Size size : {Size{Infinity, 1080}, Size{1920, Infinity}, Size{std::nan(""), 1080},
                             Size{FirstBeyond, 1080}, Size{1920, FirstBeyond}}) {

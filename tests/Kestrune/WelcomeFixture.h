@@ -26,14 +26,11 @@ inline bool pressButton(sim::Session& session, std::string_view title) {
     if (!window) {
         return false;
     }
-    const ui::Scene scene = sim::Windows::sceneOf(*window);
-    for (const std::size_t place : ui::placesOf<ui::ButtonElement>(scene)) {
-        if (std::get<ui::ButtonElement>(scene.elements[place]).title == title) {
-            session.windows().pressButton(window, place);
-            return true;
-        }
+    const auto place = ui::placeOfButton(sim::Windows::sceneOf(*window), title);
+    if (place) {
+        session.windows().pressButton(window, *place);
     }
-    return false;
+    return place.has_value();
 }
 
 class WelcomeFixture : public ::testing::Test {

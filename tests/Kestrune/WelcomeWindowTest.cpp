@@ -278,15 +278,9 @@ TEST_F(WelcomeWindow, PausesItsPollingWhileAMenuIsOpen) {
 
 using WelcomeWindowDeathTest = WelcomeWindow;
 
-TEST_F(WelcomeWindowDeathTest, CannotBeMadeFromAnArchive) {
+TEST_F(WelcomeWindowDeathTest, CanOnlyBeMadeByItself) {
     make();
-    EXPECT_DEATH(session.windows().constructFromArchive("WelcomeWindowController"),
-                 "Kestrune/WelcomeWindowController: Fatal error: init\\(coder:\\) is not supported");
-}
-
-TEST_F(WelcomeWindowDeathTest, CannotBeMadeFromABareWindow) {
-    make();
-    EXPECT_DEATH(session.windows().constructFromWindow("WelcomeWindowController"),
+    EXPECT_DEATH(session.windows().refuseConstruction("WelcomeWindowController"),
                  "Kestrune/WelcomeWindowController: Fatal error: init\\(coder:\\) is not supported");
 }
 

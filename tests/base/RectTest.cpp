@@ -1,15 +1,12 @@
 #include "base/Geometry.h"
+#include "tests/base/UnusualNumbers.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 namespace kestrune {
 namespace {
-
-constexpr double Infinity = std::numeric_limits<double>::infinity();
-constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 // Kept out of the compiler's sight, so that the accessors run when the test does.
 Rect rect(double x, double y, double width, double height) {

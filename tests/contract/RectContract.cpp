@@ -1,17 +1,14 @@
 // The values of base/ follow the platform's rectangle functions; an implementation that hands rectangles
 // across unchanged needs both sides to agree.
 #include "base/Geometry.h"
+#include "tests/base/UnusualNumbers.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <ostream>
 
 namespace kestrune::contract {
 namespace {
-
-constexpr double Infinity = std::numeric_limits<double>::infinity();
-constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 struct ContainsCase {
     const char* name;
@@ -49,9 +46,9 @@ const ContainsCase ContainsCases[] = {
     {"NotANumberWidth", {0, 0, NotANumber, 10}, {5, 5}, false},
 };
 
-std::string nameOf(const testing::TestParamInfo<ContainsCase>& example) { return example.param.name; }
+std::string nameOfPoint(const testing::TestParamInfo<ContainsCase>& example) { return example.param.name; }
 
-INSTANTIATE_TEST_SUITE_P(Points, RectContainsContract, testing::ValuesIn(ContainsCases), nameOf);
+INSTANTIATE_TEST_SUITE_P(Points, RectContainsContract, testing::ValuesIn(ContainsCases), nameOfPoint);
 
 TEST(RectContract, TellsLengthsAndEdgesOfTheStandardizedRectangle) {
     const Rect rect(10, 20, -4, -6);

@@ -82,13 +82,13 @@ TEST_P(TapDisabledContract, LetsTheTapLeaveTheRunLoopInItsCallback) {
     EXPECT_EQ(received_.size(), 1U);
 }
 
-std::string nameOf(const testing::TestParamInfo<EventType>& reason) {
+std::string nameOfReason(const testing::TestParamInfo<EventType>& reason) {
     return reason.param == EventType::tapDisabledByTimeout ? "Timeout" : "UserInput";
 }
 
 INSTANTIATE_TEST_SUITE_P(Reasons, TapDisabledContract,
                          testing::Values(EventType::tapDisabledByTimeout, EventType::tapDisabledByUserInput),
-                         nameOf);
+                         nameOfReason);
 
 } // namespace
 } // namespace kestrune::contract

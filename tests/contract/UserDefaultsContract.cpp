@@ -23,7 +23,9 @@ struct Conversion {
 
 void PrintTo(const Conversion& conversion, std::ostream* output) { *output << conversion.name; }
 
-std::string nameOf(const testing::TestParamInfo<Conversion>& conversion) { return conversion.param.name; }
+std::string nameOfConversion(const testing::TestParamInfo<Conversion>& conversion) {
+    return conversion.param.name;
+}
 
 class UserDefaultsConversionContract : public testing::TestWithParam<Conversion> {
 protected:
@@ -57,7 +59,8 @@ const Conversion Numbers[] = {
     {"RealZero", 0.0, false, 0, "0"},
     {"RealMinusFraction", -12.25, true, -12.25, "-12.25"},
 };
-INSTANTIATE_TEST_SUITE_P(Numbers, UserDefaultsConversionContract, testing::ValuesIn(Numbers), nameOf);
+INSTANTIATE_TEST_SUITE_P(Numbers, UserDefaultsConversionContract, testing::ValuesIn(Numbers),
+                         nameOfConversion);
 
 const Conversion Others[] = {
     {"Data", StoredData{"MQ=="}, false, 0, std::nullopt},
@@ -65,7 +68,7 @@ const Conversion Others[] = {
     {"Array", StoredArray{{"1"}}, false, 0, std::nullopt},
     {"Dictionary", StoredDictionary{"YES", "YES"}, false, 0, std::nullopt},
 };
-INSTANTIATE_TEST_SUITE_P(Others, UserDefaultsConversionContract, testing::ValuesIn(Others), nameOf);
+INSTANTIATE_TEST_SUITE_P(Others, UserDefaultsConversionContract, testing::ValuesIn(Others), nameOfConversion);
 
 Conversion text(const char* name, std::string stored, bool asBool, double asDouble) {
     return {name, stored, asBool, asDouble, stored};
@@ -111,7 +114,8 @@ const Conversion Strings[] = {
     text("TooLargeAndNegative", "-1e999", true, -std::numeric_limits<double>::infinity()),
     text("TooSmall", "1e-999", true, 0),
 };
-INSTANTIATE_TEST_SUITE_P(Strings, UserDefaultsConversionContract, testing::ValuesIn(Strings), nameOf);
+INSTANTIATE_TEST_SUITE_P(Strings, UserDefaultsConversionContract, testing::ValuesIn(Strings),
+                         nameOfConversion);
 
 class UserDefaultsContract : public testing::Test {
 protected:

@@ -3,6 +3,7 @@
 #include "mac/Vocabulary.h"
 #include "mac/objc/Text.h"
 #include "platform/Window.h"
+#include "tests/gnustep/EventTypes.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/standins/Accessibility.h"
 
@@ -14,10 +15,6 @@ extern "C" id NSApp;
 namespace kestrune::gnustep {
 
 namespace {
-
-constexpr mac::Unsigned LeftMouseDown = 1;
-constexpr mac::Unsigned LeftMouseUp = 2;
-constexpr mac::Unsigned KeyDown = 10;
 
 constexpr double BelowTheTop = 8; // points; in a title bar
 

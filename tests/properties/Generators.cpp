@@ -1,5 +1,7 @@
 #include "tests/properties/Generators.h"
 
+#include "tests/base/UnusualNumbers.h"
+
 #include <array>
 #include <limits>
 #include <ostream>
@@ -93,7 +95,6 @@ rc::Gen<double> gridNumbers() {
 }
 
 rc::Gen<double> anyNumbers() {
-    constexpr double Infinity = std::numeric_limits<double>::infinity();
     return rc::gen::oneOf(gridNumbers(), rc::gen::arbitrary<double>(),
                           rc::gen::element(0.0, -0.0, Infinity, -Infinity, 1e300, 5e-324,
                                            std::numeric_limits<double>::quiet_NaN()));

@@ -1,5 +1,7 @@
 #include "sim/Dock.h"
 
+#include "tests/sim/PointerStep.h"
+
 #include <gtest/gtest.h>
 
 namespace kestrune::sim {
@@ -9,11 +11,10 @@ using namespace std::chrono_literals;
 
 // The primary display, one to the right of it that reaches further down, and one below the primary.
 const Display Primary = makeDisplay(1, "Primary", {0, 0, 1000, 800});
-const Display Right = makeDisplay(2, "Right", {1000, 0, 1000, 900});
+const Display OnTheRight = makeDisplay(2, "Right", {1000, 0, 1000, 900});
 const Display Below = makeDisplay(3, "Below", {0, 800, 600, 500});
 
-constexpr double LastStep = 1.0 / 256;
-constexpr Point RightBottom{1500, 900 - LastStep};
+constexpr Point RightBottom{1500, 900 - PointerStep};
 
 class DockTest : public testing::Test {
 protected:
@@ -25,7 +26,7 @@ protected:
         now_ += duration;
     }
 
-    Displays displays_{{Primary, Right, Below}};
+    Displays displays_{{Primary, OnTheRight, Below}};
     Dock dock_{displays_, 200ms};
     Duration now_{0};
 };
@@ -53,7 +54,7 @@ TEST_F(DockTest, CountsAPushInTheLastPointAboveTheEdge) {
 }
 
 TEST_F(DockTest, IgnoresAPushThatEndsFurtherUp) {
-    push({1500, 899 - LastStep}, 1s);
+    push({1500, 899 - PointerStep}, 1s);
     EXPECT_EQ(dock_.display(), 1U);
 }
 
@@ -71,8 +72,8 @@ TEST_F(DockTest, IgnoresAPointerThatIsPulledUp) {
 
 TEST_F(DockTest, GoesOnCountingAfterAPauseOnTheEdge) {
     dock_.pointerArrived(RightBottom, 3, 0ms);
-    dock_.pointerArrived({1400, 900 - LastStep}, 0, 100ms);
-    dock_.pointerArrived({1300, 900 - LastStep}, 1, 250ms);
+    dock_.pointerArrived({1400, 900 - PointerStep}, 0, 100ms);
+    dock_.pointerArrived({1300, 900 - PointerStep}, 1, 250ms);
     EXPECT_EQ(dock_.display(), 2U);
 }
 
@@ -85,19 +86,19 @@ TEST_F(DockTest, CountsAfreshWhenThePointerLeftTheEdge) {
 
 TEST_F(DockTest, IsNotAttractedByAnEdgeWithADisplayBelow) {
     dock_.place(2);
-    push({300, 800 - LastStep}, 1s);
+    push({300, 800 - PointerStep}, 1s);
     EXPECT_EQ(dock_.display(), 2U);
 }
 
 TEST_F(DockTest, IsAttractedByThePartOfAnEdgeWithoutADisplayBelow) {
     dock_.place(2);
-    push({600, 800 - LastStep}, 200ms);
+    push({600, 800 - PointerStep}, 200ms);
     EXPECT_EQ(dock_.display(), 1U);
     EXPECT_EQ(dock_.moves(), 1U);
 }
 
 TEST_F(DockTest, IsAttractedByADisplayBelowAnother) {
-    push({300, 1300 - LastStep}, 200ms);
+    push({300, 1300 - PointerStep}, 200ms);
     EXPECT_EQ(dock_.display(), 3U);
 }
 
@@ -116,22 +117,22 @@ TEST_F(DockTest, IgnoresAPointerOnNoDisplay) {
 TEST_F(DockTest, CountsAPushOnEachDisplayOnItsOwn) {
     dock_.place(1);
     push(RightBottom, 150ms);
-    push({300, 1300 - LastStep}, 150ms);
+    push({300, 1300 - PointerStep}, 150ms);
     EXPECT_EQ(dock_.display(), 1U);
-    push({300, 1300 - LastStep}, 50ms);
+    push({300, 1300 - PointerStep}, 50ms);
     EXPECT_EQ(dock_.display(), 3U);
 }
 
 TEST_F(DockTest, ForgetsAPushWhenThePointerCrossesTheEdgeOfAnotherDisplay) {
     push(RightBottom, 150ms);
-    dock_.pointerArrived({300, 1300 - LastStep}, 0, now_);
+    dock_.pointerArrived({300, 1300 - PointerStep}, 0, now_);
     push(RightBottom, 150ms);
     EXPECT_EQ(dock_.display(), 1U);
 }
 
 TEST_F(DockTest, CountsEveryMove) {
     push(RightBottom, 200ms);
-    push({800, 800 - LastStep}, 200ms);
+    push({800, 800 - PointerStep}, 200ms);
     push(RightBottom, 200ms);
     EXPECT_EQ(dock_.display(), 2U);
     EXPECT_EQ(dock_.moves(), 3U);
@@ -160,7 +161,7 @@ TEST_F(DockTest, LeavesADisconnectedDisplayForThePrimaryOneWithoutAMove) {
 
 TEST_F(DockTest, StaysWhenAnotherDisplayGoes) {
     dock_.place(2);
-    displays_.set({Primary, Right});
+    displays_.set({Primary, OnTheRight});
     dock_.displaysChanged();
     EXPECT_EQ(dock_.display(), 2U);
 }
@@ -178,7 +179,7 @@ TEST_F(DockTest, IsNowhereWithoutDisplaysAndComesBackOnThePrimary) {
     EXPECT_EQ(dock_.display(), std::nullopt);
     push(RightBottom, 1s);
     EXPECT_EQ(dock_.display(), std::nullopt);
-    displays_.set({Right});
+    displays_.set({OnTheRight});
     dock_.displaysChanged();
     EXPECT_EQ(dock_.display(), 2U);
     EXPECT_EQ(dock_.moves(), 0U);
@@ -192,7 +193,7 @@ TEST_F(DockTest, CountsAfreshWhenTheDisplaysChanged) {
 }
 
 TEST(Dock, MovesAtTheFirstPushWithoutDwellTime) {
-    const Displays displays({Primary, Right});
+    const Displays displays({Primary, OnTheRight});
     Dock dock(displays, 0ms);
     dock.pointerArrived(RightBottom, 0, 0ms);
     EXPECT_EQ(dock.display(), 1U);

@@ -1,5 +1,7 @@
 #include "sim/PropertyList.h"
 
+#include "tests/base/UnusualNumbers.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,8 +9,6 @@
 
 namespace kestrune::sim {
 namespace {
-
-constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 double asDouble(const std::string& text) { return PropertyList{text}.asDouble(); }
 

@@ -1,6 +1,7 @@
 // The pointer of a session: hardware motion, posted events, and what follows the displays.
 #include "sim/Session.h"
 #include "tests/contract/RecordingTap.h"
+#include "tests/sim/PointerStep.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +13,6 @@ namespace {
 using namespace std::chrono_literals;
 using contract::ReceivedEvents;
 using contract::RecordingTap;
-
-constexpr double Step = 1.0 / 256;
 
 SessionOptions twoDisplays() {
     SessionOptions options;
@@ -53,7 +52,7 @@ TEST(SessionPointer, FollowsTheHardware) {
 
 TEST(SessionPointer, StopsAtTheEdgesOfTheDisplays) {
     Session session(twoDisplays());
-    EXPECT_EQ(session.movePointer(0, 5000).sent, (Point{500, 800 - Step}));
+    EXPECT_EQ(session.movePointer(0, 5000).sent, (Point{500, 800 - PointerStep}));
     EXPECT_EQ(session.movePointerTo({-50, -50}).sent, (Point{0, 0}));
     EXPECT_EQ(session.pointer(), (Point{0, 0}));
 }
@@ -64,7 +63,7 @@ TEST(SessionPointer, IsPlacedWithoutAnEvent) {
     RecordingTap tap(received, {});
     ASSERT_TRUE(tap.schedule());
     session.placePointer({1500, 5000});
-    EXPECT_EQ(session.pointer(), (Point{1500, 900 - Step}));
+    EXPECT_EQ(session.pointer(), (Point{1500, 900 - PointerStep}));
     EXPECT_TRUE(received.empty());
 }
 
@@ -110,7 +109,7 @@ TEST(SessionPointer, GoesWithAnEventThatATapDeletes) {
 TEST(SessionPointer, GoesToAPostedEventAsFarAsThereAreDisplays) {
     Session session(twoDisplays());
     EXPECT_EQ(session.post(EventType::mouseMoved, {300, 5000}).delivered, (Point{300, 5000}));
-    EXPECT_EQ(session.pointer(), (Point{300, 800 - Step}));
+    EXPECT_EQ(session.pointer(), (Point{300, 800 - PointerStep}));
 }
 
 TEST(SessionPointer, StaysForAPostedEventWithoutANumber) {
@@ -125,7 +124,7 @@ TEST(SessionPointer, JumpsToADisplayThatIsLeft) {
     session.placePointer({1500, 850});
     session.dock().place(2);
     session.changeDisplays({makeDisplay(1, "Primary", {0, 0, 1000, 800})});
-    EXPECT_EQ(session.pointer(), (Point{1000 - Step, 800 - Step}));
+    EXPECT_EQ(session.pointer(), (Point{1000 - PointerStep, 800 - PointerStep}));
     EXPECT_EQ(session.dock().display(), 1U);
     EXPECT_EQ(session.dock().moves(), 0U);
 }
@@ -136,7 +135,7 @@ TEST(SessionPointer, StaysWhileNoDisplayIsConnected) {
     EXPECT_EQ(session.pointer(), (Point{500, 400}));
     EXPECT_EQ(session.dock().display(), std::nullopt);
     session.changeDisplays({makeDisplay(5, "New", {0, 0, 100, 100})});
-    EXPECT_EQ(session.pointer(), (Point{100 - Step, 100 - Step}));
+    EXPECT_EQ(session.pointer(), (Point{100 - PointerStep, 100 - PointerStep}));
     EXPECT_EQ(session.dock().display(), 5U);
 }
 
@@ -190,7 +189,7 @@ TEST(SessionPointer, DoesNotPullTheDockWithEventsThatATapDeletes) {
         session.movePointer(0, 20);
         session.advance(50ms);
     }
-    EXPECT_EQ(session.pointer(), (Point{1500, 900 - Step}));
+    EXPECT_EQ(session.pointer(), (Point{1500, 900 - PointerStep}));
     EXPECT_EQ(session.dock().moves(), 0U);
 }
 

@@ -207,7 +207,7 @@ TEST_F(WindowsDeathTest, StopTheProcessThatUsesOneAfterItReleasedItself) {
 }
 
 TEST_F(WindowsDeathTest, DoNotMakeControllersOfAnUnknownClass) {
-    EXPECT_DEATH(session.windows().constructFromArchive("Unknown"), "does not know the class");
+    EXPECT_DEATH(session.windows().refuseConstruction("Unknown"), "does not know the class");
 }
 
 } // namespace

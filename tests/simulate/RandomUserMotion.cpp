@@ -1,4 +1,5 @@
 // How the pointer is moved in a random session.
+#include "tests/base/UnusualNumbers.h"
 #include "tests/simulate/Judge.h"
 #include "tests/simulate/RandomUser.h"
 
@@ -13,8 +14,6 @@ namespace {
 
 using std::chrono::microseconds;
 using std::chrono::milliseconds;
-
-constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 // The part of a stroke's way that is done after a part of its time: smooth at both ends, as hands move.
 double strokeProgress(double time) { return time * time * time * (10 - time * (15 - 6 * time)); }

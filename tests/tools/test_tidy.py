@@ -46,6 +46,20 @@ class Tidy(TreeTest):
         database.write_text(text, encoding="utf-8")
         self.assert_found(tidy, {}, "base/A.h:3: invalid case style for struct 'bad_name'", builds=[build])
 
+    def test_finds_a_mistake_in_one_of_several_tests(self):
+        build = self.configure("clang", ["tests/base/ATest.cpp", "tests/base/BTest.cpp"])
+        good = "int same(int value) { return value; }\n"
+        bad = "bool isItself(int value) { return value == value; }\n"
+        files = {"tests/base/ATest.cpp": good, "tests/base/BTest.cpp": bad}
+        self.assert_found(tidy, files, "tests/base/BTest.cpp:1: both sides of operator", builds=[build])
+
+    def test_does_not_mind_that_two_tests_have_names_in_common(self):
+        build = self.configure("clang", ["tests/base/ATest.cpp", "tests/base/BTest.cpp"])
+        text = "namespace {\nconstexpr int Width = 5;\n} // namespace\nint %s() { return Width; }\n"
+        files = {"tests/base/ATest.cpp": text % "widthOfA", "tests/base/BTest.cpp": text % "widthOfB"}
+        result = self.run_check(tidy, files, [build])
+        self.assertEqual((result.findings, result.examined), ([], "2 files"))
+
     def test_reports_a_file_that_does_not_compile(self):
         build = self.configure("clang", ["base/A.cpp"])
         files = {"base/A.cpp": '#include "base/B.h"\n'}

@@ -1,14 +1,11 @@
+#include "tests/base/UnusualNumbers.h"
 #include "tests/ui/LayoutFixture.h"
-
-#include <limits>
 
 namespace kestrune::ui {
 
 namespace {
 
 class AFrame : public LayoutFixture {};
-
-constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 } // namespace
 

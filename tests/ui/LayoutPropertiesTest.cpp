@@ -15,8 +15,6 @@ namespace kestrune::ui {
 
 namespace {
 
-using Kind = ViewTree::Kind;
-
 // Letters of 7.259 points in lines of 16.592, so that nothing is whole by itself.
 class Page {
 public:
@@ -58,7 +56,7 @@ bool hasNegativeInset(const EdgeInsets& insets) {
 // Whether the rule lets the child stick out: of negative padding, and of a frame that is smaller than it.
 bool mayStickOut(const Rect& child, const ViewTree& parent, const Rect& around) {
     return hasNegativeInset(parent.insets) ||
-           (parent.kind == Kind::frame && !isNoLarger(child.size, around.size));
+           (parent.kind == ViewTree::Kind::frame && !isNoLarger(child.size, around.size));
 }
 
 bool fits(const Size& size, const ProposedSize& proposal) {
@@ -145,8 +143,9 @@ RC_GTEST_PROP(LayoutProperties, ViewsInAStackDoNotOverlap, (const ProposedSize& 
         for (const ViewTree& child : stack->children) {
             const std::optional<Rect> frame = frameOf(child, scene);
             if (before && frame) {
-                const bool isAfter = stack->kind == Kind::verticalStack ? frame->minY() >= before->maxY()
-                                                                        : frame->minX() >= before->maxX();
+                const bool isAfter = stack->kind == ViewTree::Kind::verticalStack
+                                         ? frame->minY() >= before->maxY()
+                                         : frame->minX() >= before->maxX();
                 RC_ASSERT(isAfter);
             }
             before = frame ? frame : before;
@@ -165,7 +164,7 @@ RC_GTEST_PROP(LayoutProperties, AStackIsAsLongAsItsViewsAndSpacesAndAsWideAsTheW
             !std::all_of(stack->children.begin(), stack->children.end(), hasFrame)) {
             continue;
         }
-        const bool isVertical = stack->kind == Kind::verticalStack;
+        const bool isVertical = stack->kind == ViewTree::Kind::verticalStack;
         double along = stack->spacing.value_or(8) * static_cast<double>(stack->children.size() - 1);
         double across = 0;
         for (const ViewTree& child : stack->children) {
@@ -183,7 +182,7 @@ RC_GTEST_PROP(LayoutProperties, APaddingIsItsContentAndItsInsets, (const Propose
     const Scene scene = Page().layOut(tree, proposal).scene;
     for (const ViewTree* const padding : allOf(tree)) {
         const std::optional<Rect> frame = frameOf(*padding, scene);
-        if (padding->kind != Kind::padding || !frame) {
+        if (padding->kind != ViewTree::Kind::padding || !frame) {
             continue;
         }
         if (const std::optional<Rect> content = frameOf(padding->children.at(0), scene)) {
@@ -268,9 +267,10 @@ RC_GTEST_PROP(LayoutProperties, EveryControlHasAnActionOfItsOwnInTheOrderOfTheEl
     }
     RC_ASSERT(rendering.actions.size() == buttons);
     RC_ASSERT(rendering.switches.size() == toggles);
-    RC_ASSERT(buttons == count(tree, Kind::borderedButton) + count(tree, Kind::linkButton) +
-                             count(tree, Kind::customButton));
-    RC_ASSERT(toggles == count(tree, Kind::toggle));
+    RC_ASSERT(buttons == count(tree, ViewTree::Kind::borderedButton) +
+                             count(tree, ViewTree::Kind::linkButton) +
+                             count(tree, ViewTree::Kind::customButton));
+    RC_ASSERT(toggles == count(tree, ViewTree::Kind::toggle));
 }
 
 } // namespace kestrune::ui

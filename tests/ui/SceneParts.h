@@ -4,7 +4,9 @@
 #include "ui/Scene.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kestrune::ui {
@@ -37,6 +39,16 @@ inline std::vector<std::string> buttonTitles(const Scene& scene) {
         titles.push_back(button.title);
     }
     return titles;
+}
+
+// The place of the button with that title; absent when there is none.
+inline std::optional<std::size_t> placeOfButton(const Scene& scene, std::string_view title) {
+    for (const std::size_t place : placesOf<ButtonElement>(scene)) {
+        if (std::get<ButtonElement>(scene.elements[place]).title == title) {
+            return place;
+        }
+    }
+    return std::nullopt;
 }
 
 // The texts outside of buttons.

@@ -5,6 +5,7 @@ import json
 import os
 import pathlib
 import re
+import shlex
 import shutil
 import subprocess
 import tempfile
@@ -26,6 +27,10 @@ bool probe(const badly_named& object) { return object.isItself(1); }
 """
 PROBE_CHECKS = {"readability-identifier-naming", "misc-redundant-expression"}
 
+# Most of the time goes into the headers of the test framework, so tests are looked at several at a time.
+JOINED_FOLDER = "tests"
+JOINED_FILES = 12
+
 
 def run(tree):
     findings = _configuration_findings(tree)
@@ -38,11 +43,16 @@ def run(tree):
             tempfile.TemporaryDirectory() as database,
             concurrent.futures.ThreadPoolExecutor(max_workers=os.cpu_count()) as pool,
         ):
+            joined = _joined_files(tree, files, pathlib.Path(database))
+            single = sorted(set(files).difference(*joined.values()))
             # A file that is there twice would be looked at twice.
-            entries = json.dumps([tree.compiled[path] for path in files])
-            pathlib.Path(database, "compile_commands.json").write_text(entries, encoding="utf-8")
-            for found in pool.map(lambda path: _file_findings(tree, path, database), files):
-                findings += found
+            entries = [tree.compiled[path] for path in files]
+            entries += [_entry_of_joined(tree, *each) for each in joined.items()]
+            pathlib.Path(database, "compile_commands.json").write_text(json.dumps(entries), encoding="utf-8")
+            looks = [pool.submit(_joined_findings, tree, *each, database) for each in joined.items()]
+            looks += [pool.submit(_file_findings, tree, path, database) for path in single]
+            for look in looks:
+                findings += look.result()
     # A header's finding appears with each file that includes it.
     return Result(f"{len(files)} files", sorted(set(findings)))
 
@@ -70,6 +80,50 @@ def _configuration_findings(tree):
                     Finding(path, 1, f"is not in force: a bad file passes {names}; correct the file")
                 )
     return findings
+
+
+def _joined_files(tree, files, folder):
+    """New sources that each include some tests compiled alike, beside copies of our configuration."""
+    alike = {}
+    for path in files:
+        if path.startswith(JOINED_FOLDER + "/"):
+            alike.setdefault(tuple(_flags(tree.compiled[path])), []).append(path)
+    groups = [
+        paths[start : start + JOINED_FILES]
+        for paths in alike.values()
+        for start in range(0, len(paths), JOINED_FILES)
+    ]
+    (folder / JOINED_FOLDER).mkdir()
+    for configuration in (".clang-tidy", f"{JOINED_FOLDER}/.clang-tidy"):
+        if configuration in tree.files:
+            shutil.copy(tree.root / configuration, folder / configuration)
+    joined = {}
+    for number, group in enumerate(groups):
+        source = folder / JOINED_FOLDER / f"joined{number}.cpp"
+        lines = [f'#include "{tree.root / path}"\n' for path in group]
+        source.write_text("".join(lines), encoding="utf-8")
+        joined[source] = group
+    return joined
+
+
+def _flags(entry):
+    """How a file is compiled, whichever it is."""
+    words = entry.get("arguments") or shlex.split(entry["command"])
+    output = words.index("-o") if "-o" in words else len(words)
+    return [word for word in words[:output] + words[output + 2 :] if word not in ("-c", entry["file"])]
+
+
+def _entry_of_joined(tree, source, group):
+    entry = tree.compiled[group[0]]
+    arguments = [*_flags(entry), "-c", str(source)]
+    return {"directory": entry["directory"], "file": str(source), "arguments": arguments}
+
+
+def _joined_findings(tree, source, group, database):
+    """What is not clean together is looked at alone: names of two files may clash and nothing be wrong."""
+    if _clang_tidy(["-p", database, str(source)]).returncode == 0:
+        return []
+    return [finding for path in group for finding in _file_findings(tree, path, database)]
 
 
 def _file_findings(tree, path, database):

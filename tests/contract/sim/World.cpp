@@ -251,14 +251,11 @@ void World::clickCloseButton(std::size_t window) {
 void World::clickButton(std::string_view title, std::size_t window) {
     sim::Windows& windows = state_->session.windows();
     const auto clicked = windows.shown().at(window);
-    const ui::Scene scene = sim::Windows::sceneOf(*clicked);
-    for (const std::size_t place : ui::placesOf<ui::ButtonElement>(scene)) {
-        if (std::get<ui::ButtonElement>(scene.elements[place]).title == title) {
-            windows.pressButton(clicked, place);
-            return;
-        }
+    const auto place = ui::placeOfButton(sim::Windows::sceneOf(*clicked), title);
+    if (!place) {
+        fatal("There is no button of that title.");
     }
-    fatal("There is no button of that title.");
+    windows.pressButton(clicked, *place);
 }
 
 void World::clickSwitch(std::size_t index, std::size_t window) {
@@ -268,11 +265,11 @@ void World::clickSwitch(std::size_t index, std::size_t window) {
 }
 
 void World::constructFromArchive(std::string_view className) {
-    state_->session.windows().constructFromArchive(className);
+    state_->session.windows().refuseConstruction(className);
 }
 
 void World::constructFromWindow(std::string_view className) {
-    state_->session.windows().constructFromWindow(className);
+    state_->session.windows().refuseConstruction(className);
 }
 
 std::vector<std::string> World::openedURLs() const { return state_->session.openedURLs(); }

@@ -189,15 +189,6 @@ TEST(ApplicationWindow, ShowsACrossInTheCloseButtonUnderThePointerInTheBackgroun
     }
 }
 
-TEST(ApplicationWindow, LooksActiveWhileItIsMainAndAnotherReceivesTheKeys) {
-    DeskPicture picture = withWindow();
-    const Point close = centerOf(layoutOf(picture).closeButton);
-    picture.windows[0].isKey = false;
-    EXPECT_FALSE(isNear(PaintedPicture{picture}.at(close), 0xFF, 0x5F, 0x57, 3));
-    picture.windows[0].isMain = true;
-    EXPECT_TRUE(isNear(PaintedPicture{picture}.at(close), 0xFF, 0x5F, 0x57, 3));
-}
-
 TEST(ApplicationWindow, ShowsItsTitleInTheMiddleAndPalerInTheBackground) {
     DeskPicture picture = withWindow();
     const Rect bar = layoutOf(picture).titleBar;

@@ -4,11 +4,10 @@
 #include "desk/paint/AlertLayout.h"
 #include "desk/paint/MenuLayout.h"
 #include "desk/paint/ToolTipPainter.h"
+#include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
-
-#include <limits>
 
 namespace kestrune::desk {
 namespace {
@@ -53,7 +52,6 @@ TEST_F(HitTest, FindsStatusItemsAndTitlesOnEachDisplay) {
 
 TEST_F(HitTest, FindsNothingOnTheBareDesk) {
     const DeskPicture picture = withStatusItem();
-    constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
     for (const Point place :
          {Point{5, 5}, Point{300, 400}, Point{600, 680}, Point{-50, 1e9}, Point{NotANumber, NotANumber}}) {
         EXPECT_FALSE(at(picture, place));

@@ -1,19 +1,16 @@
 #include "desk/paint/DeskLayout.h"
 
+#include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/PaintedPicture.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <random>
 #include <vector>
 
 namespace kestrune::desk {
 namespace {
-
-constexpr double Infinity = std::numeric_limits<double>::infinity();
-constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 class RandomNumbers {
 public:

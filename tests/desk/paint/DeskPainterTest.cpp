@@ -16,7 +16,7 @@
 namespace kestrune::desk {
 namespace {
 
-DeskLayout layoutOf(const DeskPicture& picture) { return DeskLayout::of(picture, TestWindow); }
+DeskLayout deskLayoutOf(const DeskPicture& picture) { return DeskLayout::of(picture, TestWindow); }
 
 bool isBandColored(Pixel pixel) { return pixel.red > pixel.green + 60 && pixel.red > pixel.blue + 60; }
 
@@ -29,12 +29,12 @@ int bandPixels(const PaintedPicture& painted, const DisplayPlace& place) {
 CaptionPlace captionOf(const DeskPicture& picture, std::size_t display) {
     const std::optional<Surface> surface = Surface::create({10, 10}, 1);
     TextPainter text{surface->context()};
-    const DeskLayout layout = layoutOf(picture);
+    const DeskLayout layout = deskLayoutOf(picture);
     const Canvas canvas{surface->context(), text, paletteFor(picture.dark)};
     return captionPlace(canvas, *layout.place(display), layout.scale(), picture.displays[display]);
 }
 
-bool isAccentColored(Pixel pixel) {
+bool isPinColored(Pixel pixel) {
     const Color accent = paletteFor(false).accent;
     return isNear(pixel, static_cast<int>(std::lround(accent.red * 255)),
                   static_cast<int>(std::lround(accent.green * 255)),
@@ -44,7 +44,7 @@ bool isAccentColored(Pixel pixel) {
 TEST(DeskPainter, ColorsTheBandOnGuardedDisplaysOnly) {
     const DeskPicture picture = twoDisplays();
     const PaintedPicture painted{picture};
-    const DeskLayout layout = layoutOf(picture);
+    const DeskLayout layout = deskLayoutOf(picture);
     const double areaOfRight = (layout.place(1)->screen.width() - 40) * 3;
     EXPECT_GT(bandPixels(painted, *layout.place(1)), areaOfRight * 0.9);
     EXPECT_EQ(bandPixels(painted, *layout.place(0)), 0);
@@ -52,7 +52,7 @@ TEST(DeskPainter, ColorsTheBandOnGuardedDisplaysOnly) {
 
 TEST(DeskPainter, ShowsNoBandWhileTheGuardIsOffOrWithoutPermission) {
     DeskPicture picture = twoDisplays();
-    const DeskLayout layout = layoutOf(picture);
+    const DeskLayout layout = deskLayoutOf(picture);
     for (const GuardState guard : {GuardState::off, GuardState::noPermission}) {
         picture.guard = guard;
         EXPECT_EQ(bandPixels(PaintedPicture{picture}, *layout.place(1)), 0);
@@ -61,7 +61,7 @@ TEST(DeskPainter, ShowsNoBandWhileTheGuardIsOffOrWithoutPermission) {
 
 TEST(DeskPainter, KeepsAThinBandVisibleAndADeepBandToScale) {
     const DeskPicture picture = twoDisplays();
-    const DisplayPlace place = *layoutOf(picture).place(1);
+    const DisplayPlace place = *deskLayoutOf(picture).place(1);
     const Rect thin = bandArea(place, place.bounds.maxY() - 1);
     EXPECT_GE(thin.height(), 4);
     EXPECT_EQ(thin.maxY(), place.screen.maxY());
@@ -76,16 +76,16 @@ TEST(DeskPainter, PutsTheBadgeOnThePinnedDisplayOnly) {
         picture.displays[0].pinned = pinned == 0;
         picture.displays[1].pinned = pinned == 1;
         const PaintedPicture painted{picture};
-        const DeskLayout layout = layoutOf(picture);
+        const DeskLayout layout = deskLayoutOf(picture);
         const CaptionPlace caption = captionOf(picture, pinned);
         ASSERT_TRUE(caption.badge);
         EXPECT_TRUE(encloses(layout.place(pinned)->screen, *caption.badge));
-        EXPECT_TRUE(isAccentColored(
+        EXPECT_TRUE(isPinColored(
             painted.at({caption.badge->minX() + caption.badge->width() / 2, caption.badge->minY() + 3})));
         EXPECT_FALSE(captionOf(picture, 1 - pinned).badge);
         const Rect otherScreen = layout.place(1 - pinned)->screen;
         EXPECT_EQ(
-            painted.count({otherScreen.minX(), otherScreen.minY(), otherScreen.width(), 80}, isAccentColored),
+            painted.count({otherScreen.minX(), otherScreen.minY(), otherScreen.width(), 80}, isPinColored),
             0);
     }
 }
@@ -97,7 +97,7 @@ TEST(DeskPainter, KeepsTheCaptionInsideTheScreenWhateverTheNameAndSize) {
     for (const double width : {1512.0, 900.0, 400.0, 240.0, 120.0, 30.0}) {
         picture.displays[0].bounds = {1512 - width, 0, width, 982};
         const CaptionPlace caption = captionOf(picture, 0);
-        const Rect screen = layoutOf(picture).place(0)->screen;
+        const Rect screen = deskLayoutOf(picture).place(0)->screen;
         ASSERT_TRUE(caption.badge) << width;
         EXPECT_TRUE(encloses(screen, *caption.badge)) << width;
         if (caption.caption) {
@@ -114,7 +114,7 @@ TEST(DeskPainter, PutsTheTipOfABlackArrowExactlyAtThePointer) {
     for (const double scale : {1.0, 2.0}) {
         const PaintedPicture painted{picture, TestWindow, scale};
         const PaintedPicture without{elsewhere, TestWindow, scale};
-        const Point tip = layoutOf(picture).toWindow(picture.pointer);
+        const Point tip = deskLayoutOf(picture).toWindow(picture.pointer);
         const auto isBlack = [](Pixel pixel) { return isNear(pixel, 0, 0, 0, 40); };
         int left = painted.width();
         int top = painted.height();
@@ -141,7 +141,7 @@ TEST(DeskPainter, KeepsThePointersSizeWhenDisplaysAreDrawnSmaller) {
     DeskPicture small = large;
     small.displays.push_back({.name = "Far", .bounds = {9000, 0, 1000, 1000}, .bandTop = std::nullopt});
     const auto blackPixels = [](const DeskPicture& picture) {
-        const Point tip = layoutOf(picture).toWindow(picture.pointer);
+        const Point tip = deskLayoutOf(picture).toWindow(picture.pointer);
         return PaintedPicture{picture}.count({tip.x, tip.y, 16, 24},
                                              [](Pixel pixel) { return isNear(pixel, 0, 0, 0, 30); });
     };
@@ -153,7 +153,7 @@ TEST(DeskPainter, PaintsTheDockOnItsDisplayOnly) {
     DeskPicture picture = twoDisplays();
     picture.dockDisplay = std::nullopt;
     const PaintedPicture without{picture};
-    const DeskLayout layout = layoutOf(picture);
+    const DeskLayout layout = deskLayoutOf(picture);
     for (const std::size_t display : {0U, 1U}) {
         picture.dockDisplay = display;
         const std::optional<Rect> dock = differenceOf(PaintedPicture{picture}, without);
@@ -182,7 +182,7 @@ TEST(DeskPainter, ShowsWhereThePointerWasHeldOnThatDisplayUntilTheMarkHasFaded) 
     picture.heldMark = HeldMark{{2400, 977}, 0.2};
     const std::optional<Rect> mark = differenceOf(PaintedPicture{picture}, without);
     ASSERT_TRUE(mark);
-    const DeskLayout layout = layoutOf(picture);
+    const DeskLayout layout = deskLayoutOf(picture);
     EXPECT_TRUE(encloses(layout.place(1)->screen, *mark));
     EXPECT_NEAR(mark->minX() + mark->width() / 2, layout.toWindow({2400, 977}).x, 2);
     picture.heldMark->age = 1;
@@ -196,7 +196,7 @@ TEST(DeskPainter, DrawsATrailForAMovedDockUntilItHasFaded) {
     picture.dockMoveMark = DockMoveMark{0, 1, 0};
     const std::optional<Rect> trail = differenceOf(PaintedPicture{picture}, without);
     ASSERT_TRUE(trail);
-    const DeskLayout layout = layoutOf(picture);
+    const DeskLayout layout = deskLayoutOf(picture);
     EXPECT_TRUE(encloses(*trail, dockPlace(*layout.place(0), layout.scale()).panel, 2));
     EXPECT_GT(trail->maxX(), layout.place(1)->screen.minX() + layout.place(1)->screen.width() / 2 - 8);
     picture.dockMoveMark->age = 1;
@@ -213,7 +213,7 @@ TEST(DeskPainter, LeavesOutKeysThatDoNotFit) {
     const std::optional<Rect> keys = differenceOf(PaintedPicture{picture}, PaintedPicture{withoutKeys});
     ASSERT_TRUE(keys);
     EXPECT_LE(keys->maxX(), TestWindow.width - 27);
-    EXPECT_TRUE(encloses(layoutOf(picture).footer(), *keys));
+    EXPECT_TRUE(encloses(deskLayoutOf(picture).footer(), *keys));
 }
 
 TEST(DeskPainter, WrapsTheKeysWhereOneLineHasNoRoomForThem) {

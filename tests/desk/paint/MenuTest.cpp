@@ -11,7 +11,7 @@ std::optional<MenuLayout> menuOf(const DeskPicture& picture, Size window = TestW
     return menuLayout(measure, DeskLayout::of(picture, window), picture, window);
 }
 
-bool isAccentColored(Pixel pixel) {
+bool isHighlightColored(Pixel pixel) {
     const Color accent = paletteFor(false).system.accent;
     return isNear(pixel, static_cast<int>(accent.red * 255), static_cast<int>(accent.green * 255),
                   static_cast<int>(accent.blue * 255), 4);
@@ -129,8 +129,8 @@ TEST(Menu, HighlightsEnabledRowsOnly) {
     ASSERT_TRUE(changed);
     EXPECT_TRUE(encloses(menu.rows[4], *changed));
     const Rect row = menu.rows[4];
-    EXPECT_TRUE(isAccentColored(painted.at({row.maxX() - 12, row.minY() + row.height() / 2})));
-    EXPECT_FALSE(isAccentColored(painted.at({row.maxX() - 2, row.minY() + row.height() / 2})));
+    EXPECT_TRUE(isHighlightColored(painted.at({row.maxX() - 12, row.minY() + row.height() / 2})));
+    EXPECT_FALSE(isHighlightColored(painted.at({row.maxX() - 2, row.minY() + row.height() / 2})));
 }
 
 TEST(Menu, GreysDisabledRows) {

@@ -1,5 +1,6 @@
 #include "desk/paint/Surface.h"
 
+#include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/PaintedPicture.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +22,6 @@ TEST(Surface, HasThePixelsOfItsWindowAndScale) {
 }
 
 TEST(Surface, IsNotMadeInAnImpossibleSize) {
-    constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
     EXPECT_FALSE(Surface::create({0, 100}, 1));
     EXPECT_FALSE(Surface::create({100, -1}, 1));
     EXPECT_FALSE(Surface::create({-100, -100}, -1));

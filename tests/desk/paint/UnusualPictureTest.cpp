@@ -1,18 +1,15 @@
 #include "desk/paint/DeskHitTest.h"
 #include "desk/paint/DeskLayout.h"
+#include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/PaintedPicture.h"
 #include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <vector>
 
 namespace kestrune::desk {
 namespace {
-
-constexpr double Infinity = std::numeric_limits<double>::infinity();
-constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 DeskPicture pictureOf(const std::vector<Rect>& displays) {
     DeskPicture picture = twoDisplays();

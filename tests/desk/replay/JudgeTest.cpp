@@ -1,11 +1,11 @@
 #include "desk/replay/Judge.h"
 
+#include "tests/desk/replay/TwoDisplays.h"
+
 #include <gtest/gtest.h>
 
 namespace kestrune::desk {
 namespace {
-
-const JudgedDesk Desk{{{0, 0, 1920, 1080}, {1920, 280, 1280, 800}}, 0, true, 4};
 
 bool violates(const JudgedDesk& desk, Point sent, Point delivered) {
     return violatesTheRule(desk, {EventType::mouseMoved, sent, delivered});

@@ -9,6 +9,7 @@
 
 #include "mac/objc/Pool.h"
 #include "platform/MainActor.h"
+#include "tests/gnustep/EventTypes.h"
 #include "tests/gnustep/ShownWindows.h"
 #include "tests/gnustep/standins/Deallocation.h"
 #include "tests/gnustep/standins/Methods.h"
@@ -22,8 +23,6 @@ namespace kestrune::gnustep {
 
 namespace {
 
-constexpr mac::Unsigned LeftMouseDown = 1;
-constexpr mac::Unsigned AppKitDefined = 13;
 constexpr short FocusIn = 5;
 constexpr short FocusOut = 6;
 constexpr unsigned Out = 2; // GNUstep's NSWindowOrderingMode

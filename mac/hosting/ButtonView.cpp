@@ -1,0 +1,42 @@
+#include "mac/hosting/ButtonView.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/hosting/ButtonSettings.h"
+#include "mac/objc/Text.h"
+
+namespace kestrune::mac {
+
+namespace {
+
+// As characters of key equivalents.
+const char* keyOf(ui::KeyboardShortcut shortcut) {
+    switch (shortcut) {
+    case ui::KeyboardShortcut::defaultAction:
+        return "\r";
+    case ui::KeyboardShortcut::cancelAction:
+        return "\x1b";
+    case ui::KeyboardShortcut::none:
+        break;
+    }
+    return "";
+}
+
+} // namespace
+
+void ButtonView::connect(id target) {
+    ns_control::setTarget(view(), target);
+    ns_control::setAction(view(), sel_registerName("pressButton:"));
+}
+
+void ButtonView::update(const ui::ButtonElement& next) {
+    if (differs(next, &ui::ButtonElement::title)) {
+        ns_button::setTitle(view(), nsString(next.title).get());
+        setAccessibilityLabel(view(), next.title);
+    }
+    if (differs(next, &ui::ButtonElement::shortcut)) {
+        ns_button::setKeyEquivalent(view(), nsString(keyOf(next.shortcut)).get());
+    }
+    mac::setAction(view(), next.action);
+}
+
+} // namespace kestrune::mac

@@ -1,0 +1,13 @@
+// NSEventType's values.
+#pragma once
+
+#include "mac/objc/Runtime.h"
+
+namespace kestrune::gnustep {
+
+inline constexpr mac::Unsigned LeftMouseDown = 1;
+inline constexpr mac::Unsigned LeftMouseUp = 2;
+inline constexpr mac::Unsigned KeyDown = 10;
+inline constexpr mac::Unsigned AppKitDefined = 13;
+
+} // namespace kestrune::gnustep
