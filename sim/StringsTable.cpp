@@ -8,9 +8,9 @@ namespace kestrune::sim {
 
 namespace {
 
-class Reader {
+class TableReader {
 public:
-    explicit Reader(std::string_view text) : text_(text) {}
+    explicit TableReader(std::string_view text) : text_(text) {}
 
     std::variant<StringsTable, StringsTableError> read() {
         StringsTable table;
@@ -105,7 +105,7 @@ private:
 } // namespace
 
 std::variant<StringsTable, StringsTableError> readStringsTable(std::string_view text) {
-    return Reader(text).read();
+    return TableReader(text).read();
 }
 
 } // namespace kestrune::sim

@@ -9,7 +9,7 @@ namespace kestrune {
 namespace {
 
 template <typename... Parts>
-void record(const Parts&... parts) {
+void recordCall(const Parts&... parts) {
     sim::Session::current().journal().record(parts...);
 }
 
@@ -31,69 +31,70 @@ void Window::State::setContentSize(Size size) {
 
 Window::Window(const Rect& contentRect, WindowStyleMask styleMask, BackingStoreType backing, bool defer)
     : state_(std::make_shared<State>()) {
-    record("-[NSWindow initWithContentRect:styleMask:backing:defer:] ", contentRect.origin, " ",
-           contentRect.size.width, " x ", contentRect.size.height, ", ",
-           static_cast<std::uintptr_t>(styleMask), ", ", static_cast<std::uintptr_t>(backing), ", ", defer);
+    recordCall("-[NSWindow initWithContentRect:styleMask:backing:defer:] ", contentRect.origin, " ",
+               contentRect.size.width, " x ", contentRect.size.height, ", ",
+               static_cast<std::uintptr_t>(styleMask), ", ", static_cast<std::uintptr_t>(backing), ", ",
+               defer);
     state_->styleMask = styleMask;
     state_->frame = contentRect;
     state_->frame.size.height += state_->titleBarHeight();
 }
 
 void Window::setTitle(std::string_view title) {
-    record("-[NSWindow setTitle:] ", title);
+    recordCall("-[NSWindow setTitle:] ", title);
     state_->title = title;
 }
 
 void Window::setReleasedWhenClosed(bool released) {
-    record("-[NSWindow setReleasedWhenClosed:] ", released);
+    recordCall("-[NSWindow setReleasedWhenClosed:] ", released);
     state_->isReleasedWhenClosed = released;
 }
 
 void Window::setLevel(WindowLevel level) {
-    record("-[NSWindow setLevel:] ", nameOf(level));
+    recordCall("-[NSWindow setLevel:] ", nameOf(level));
     state_->level = level;
 }
 
 void Window::setHidesOnDeactivate(bool hides) {
-    record("-[NSWindow setHidesOnDeactivate:] ", hides);
+    recordCall("-[NSWindow setHidesOnDeactivate:] ", hides);
     state_->hidesOnDeactivate = hides;
 }
 
 void Window::setCollectionBehavior(WindowCollectionBehavior behavior) {
-    record("-[NSWindow setCollectionBehavior:] ", static_cast<std::uintptr_t>(behavior));
+    recordCall("-[NSWindow setCollectionBehavior:] ", static_cast<std::uintptr_t>(behavior));
     state_->collectionBehavior = behavior;
 }
 
 void Window::center() {
-    record("-[NSWindow center]");
+    recordCall("-[NSWindow center]");
     sim::Session::current().windows().center(*state_);
 }
 
 void Window::setContentViewController(const HostingController& controller) {
-    record("-[NSWindow setContentViewController:]");
+    recordCall("-[NSWindow setContentViewController:]");
     state_->content = controller.state()->view;
     state_->content->enter(state_);
 }
 
 void Window::setContentView(const HostingView& view) {
-    record("-[NSWindow setContentView:]");
+    recordCall("-[NSWindow setContentView:]");
     state_->content = view.state()->view;
     state_->content->enter(state_);
 }
 
 void Window::setDelegate(const std::weak_ptr<WindowDelegate>& delegate) {
     const auto object = delegate.lock();
-    record("-[NSWindow setDelegate:] ", object ? object->className() : "nil");
+    recordCall("-[NSWindow setDelegate:] ", object ? object->className() : "nil");
     state_->delegate = delegate;
 }
 
 void Window::makeKeyAndOrderFront() {
-    record("-[NSWindow makeKeyAndOrderFront:]");
+    recordCall("-[NSWindow makeKeyAndOrderFront:]");
     sim::Session::current().windows().makeKeyAndOrderFront(state_);
 }
 
 void Window::orderOut() {
-    record("-[NSWindow orderOut:]");
+    recordCall("-[NSWindow orderOut:]");
     sim::Session::current().windows().orderOut(state_);
 }
 

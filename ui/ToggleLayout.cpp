@@ -12,7 +12,7 @@ namespace kestrune::ui {
 
 namespace {
 
-constexpr double Gap = 8;
+constexpr double LabelGap = 8;
 
 class SwitchItem final : public LeafItem {
 public:
@@ -63,10 +63,10 @@ struct ToggleNode final : Node {
         std::vector<View> row;
         row.push_back(label);
         if (environment.isInGroupedForm) {
-            row.push_back(Spacer(Gap));
+            row.push_back(Spacer(LabelGap));
         }
         row.push_back(control);
-        return ui::resolve(HStack({.spacing = environment.isInGroupedForm ? 0 : Gap}, std::move(row)),
+        return ui::resolve(HStack({.spacing = environment.isInGroupedForm ? 0 : LabelGap}, std::move(row)),
                            environment, pass);
     }
 

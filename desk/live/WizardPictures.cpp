@@ -16,7 +16,7 @@ namespace kestrune::desk {
 
 namespace {
 
-constexpr double PictureScale = 2;
+constexpr double WizardPictureScale = 2;
 constexpr double SheetScale = 1;
 
 struct NamedState {
@@ -99,7 +99,7 @@ public:
             const std::string name =
                 std::string(state.name) + std::string(suffix) + (dark ? "-dark.png" : "-light.png");
             const std::string path = (folder_ / name).string();
-            if (const auto error = writeWindowPicture(path, shot->window, dark, PictureScale)) {
+            if (const auto error = writeWindowPicture(path, shot->window, dark, WizardPictureScale)) {
                 return InputError{error->message};
             }
             sheet_.cells.push_back({captionOf(state, suffix == LongSuffix ? LongCaption : look.caption, dark),

@@ -23,7 +23,7 @@ struct State {
 
 void PrintTo(const State& state, std::ostream* output) { *output << state.name; }
 
-std::string nameOf(const testing::TestParamInfo<State>& state) { return state.param.name; }
+std::string nameOfState(const testing::TestParamInfo<State>& state) { return state.param.name; }
 
 class AccessibilityTest : public testing::TestWithParam<State> {};
 
@@ -89,7 +89,7 @@ const State States[] = {
     {"Stale", Permission::stale, false, false, true, true, Permission::stale, Permission::stale,
      Permission::notListed},
 };
-INSTANTIATE_TEST_SUITE_P(States, AccessibilityTest, testing::ValuesIn(States), nameOf);
+INSTANTIATE_TEST_SUITE_P(States, AccessibilityTest, testing::ValuesIn(States), nameOfState);
 
 TEST(AccessibilityDialog, LeadsToThePaneOrOnlyCloses) {
     Accessibility accessibility(Permission::notListed);

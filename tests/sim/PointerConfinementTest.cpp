@@ -31,7 +31,7 @@ struct Movement {
 
 void PrintTo(const Movement& movement, std::ostream* output) { *output << movement.name; }
 
-std::string nameOf(const testing::TestParamInfo<Movement>& movement) { return movement.param.name; }
+std::string nameOfMovement(const testing::TestParamInfo<Movement>& movement) { return movement.param.name; }
 
 class PointerConfinementTest : public testing::TestWithParam<Movement> {};
 
@@ -64,7 +64,7 @@ const Movement OneDisplay[] = {
     {"NotANumberX", One, {100, 100}, {NotANumber, 50}, {100, 100}},
     {"NotANumberY", One, {100, 100}, {50, NotANumber}, {100, 100}},
 };
-INSTANTIATE_TEST_SUITE_P(OneDisplay, PointerConfinementTest, testing::ValuesIn(OneDisplay), nameOf);
+INSTANTIATE_TEST_SUITE_P(OneDisplay, PointerConfinementTest, testing::ValuesIn(OneDisplay), nameOfMovement);
 
 // 900.3 points are 230476.8 steps: the last one inside is 230476.
 const std::vector<Display> Fractional = arrange({{0, 0, 1440.5, 900.3}, {1440.5, 10.3, 1000, 800}});
@@ -78,7 +78,8 @@ const Movement FractionalSizes[] = {
      {1500, 0},
      {1500, std::ceil(10.3 * 256) * PointerStep}},
 };
-INSTANTIATE_TEST_SUITE_P(FractionalSizes, PointerConfinementTest, testing::ValuesIn(FractionalSizes), nameOf);
+INSTANTIATE_TEST_SUITE_P(FractionalSizes, PointerConfinementTest, testing::ValuesIn(FractionalSizes),
+                         nameOfMovement);
 
 // The right display starts 100 points lower.
 const std::vector<Display> SideBySide = arrange({{0, 0, 1000, 800}, {1000, 100, 1000, 800}});
@@ -92,7 +93,7 @@ const Movement Neighbours[] = {
     {"BackBelowTheSharedEdge", SideBySide, {1010, 850}, {990, 850}, {1000, 850}},
     {"BottomEdgeOfTheNeighbour", SideBySide, {990, 790}, {1010, 950}, {1010, 900 - PointerStep}},
 };
-INSTANTIATE_TEST_SUITE_P(Neighbours, PointerConfinementTest, testing::ValuesIn(Neighbours), nameOf);
+INSTANTIATE_TEST_SUITE_P(Neighbours, PointerConfinementTest, testing::ValuesIn(Neighbours), nameOfMovement);
 
 const std::vector<Display> Stacked = arrange({{0, 0, 1000, 800}, {0, 800, 500, 400}});
 const Movement StackedDisplays[] = {
@@ -102,7 +103,8 @@ const Movement StackedDisplays[] = {
     {"SlidesDownAlongTheLeftEdge", Stacked, {20, 790}, {-50, 850}, {0, 850}},
     {"SlidesAlongTheRightEdgeOfTheLowerOne", Stacked, {490, 1100}, {700, 900}, {500 - PointerStep, 900}},
 };
-INSTANTIATE_TEST_SUITE_P(StackedDisplays, PointerConfinementTest, testing::ValuesIn(StackedDisplays), nameOf);
+INSTANTIATE_TEST_SUITE_P(StackedDisplays, PointerConfinementTest, testing::ValuesIn(StackedDisplays),
+                         nameOfMovement);
 
 const std::vector<Display> Apart = arrange({{0, 0, 1000, 800}, {1200, 0, 1000, 800}});
 const Movement Gaps[] = {
@@ -110,7 +112,7 @@ const Movement Gaps[] = {
     {"LeapsOverAGap", Apart, {990, 50}, {1300, 60}, {1300, 60}},
     {"StopsAtAGapFromTheOtherSide", Apart, {1210, 50}, {1100, 60}, {1200, 60}},
 };
-INSTANTIATE_TEST_SUITE_P(Gaps, PointerConfinementTest, testing::ValuesIn(Gaps), nameOf);
+INSTANTIATE_TEST_SUITE_P(Gaps, PointerConfinementTest, testing::ValuesIn(Gaps), nameOfMovement);
 
 const Movement Unplugged[] = {
     {"GoesToTheOnlyDisplay", One, {5000, 50}, {5000, 50}, {1512 - PointerStep, 50}},
@@ -137,7 +139,7 @@ const Movement Unplugged[] = {
      {2000, 5},
      {1000.001, 5}},
 };
-INSTANTIATE_TEST_SUITE_P(Unplugged, PointerConfinementTest, testing::ValuesIn(Unplugged), nameOf);
+INSTANTIATE_TEST_SUITE_P(Unplugged, PointerConfinementTest, testing::ValuesIn(Unplugged), nameOfMovement);
 
 TEST(PointerConfinement, AlwaysEndsOnADisplayAndOnTheGrid) {
     const double deltas[] = {-3000.7, -700.1, -33.3, -0.003, 0, 0.002, 1, 55.5, 812.9, 4000};

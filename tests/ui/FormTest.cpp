@@ -13,14 +13,14 @@ protected:
 
 class APlainForm : public LayoutFixture {};
 
-View toggle() {
+View launchToggle() {
     return Toggle("Launch", true, [](bool) {});
 }
 
 } // namespace
 
 TEST_F(AGroupedForm, HasABoxWithAMarginAroundEachSection) {
-    EXPECT_EQ(describeView(form({Section({toggle()})}), {.width = 440}),
+    EXPECT_EQ(describeView(form({Section({launchToggle()})}), {.width = 440}),
               "scene 440x76\n"
               "  shape 20,20 400x36 radius 10 continuous sectionBorder\n"
               "  shape 21,21 398x34 radius 9 continuous sectionFill\n"
@@ -51,7 +51,7 @@ TEST_F(AGroupedForm, HasHigherRowsForHigherContent) {
 }
 
 TEST_F(AGroupedForm, IsAsWideAsItsWidestRowWhenNothingIsOffered) {
-    EXPECT_EQ(describeView(form({Section({Box(100, 10)}), Section({Text("a"), toggle()})})),
+    EXPECT_EQ(describeView(form({Section({Box(100, 10)}), Section({Text("a"), launchToggle()})})),
               "scene 160x169\n"
               "  shape 20,20 120x36 radius 10 continuous sectionBorder\n"
               "  shape 21,21 118x34 radius 9 continuous sectionFill\n"
@@ -72,7 +72,7 @@ TEST_F(AGroupedForm, KeepsItsIdealHeightWhateverIsOffered) {
 }
 
 TEST_F(AGroupedForm, HasASwitchOfTheSizeThatItIsTold) {
-    const Scene scene = render(form({Section({toggle().controlSize(ControlSize::mini)})})).scene;
+    const Scene scene = render(form({Section({launchToggle().controlSize(ControlSize::mini)})})).scene;
     EXPECT_EQ(std::get<ToggleElement>(scene.elements.at(3)).size, ControlSize::mini);
 }
 
@@ -81,13 +81,13 @@ TEST_F(AGroupedForm, CanHaveASectionWithoutRows) {
 }
 
 TEST_F(APlainForm, StandsItsRowsUnderOneAnother) {
-    EXPECT_EQ(
-        describeView(Form({Section({Text("a"), toggle()}), Section({Button("One", [] {})})}), {.width = 440}),
-        "scene 88x88\n"
-        "  text 0,0 7x16 \"a\" body\n"
-        "  text 0,27 42x16 \"Launch\" body\n"
-        "  toggle 50,24 38x22 \"Launch\" on switch 0\n"
-        "  button 0,66 49x22 \"One\" bordered action 0\n");
+    EXPECT_EQ(describeView(Form({Section({Text("a"), launchToggle()}), Section({Button("One", [] {})})}),
+                           {.width = 440}),
+              "scene 88x88\n"
+              "  text 0,0 7x16 \"a\" body\n"
+              "  text 0,27 42x16 \"Launch\" body\n"
+              "  toggle 50,24 38x22 \"Launch\" on switch 0\n"
+              "  button 0,66 49x22 \"One\" bordered action 0\n");
 }
 
 TEST_F(APlainForm, StandsTheRowsOfASectionOfItsOwnUnderOneAnother) {

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 namespace {
 
 MarkdownPart plain(std::string text) { return {std::move(text), false}; }
-MarkdownPart bold(std::string text) { return {std::move(text), true}; }
+MarkdownPart boldPart(std::string text) { return {std::move(text), true}; }
 
 } // namespace
 
@@ -21,28 +21,29 @@ TEST(Markdown, OfATextWithoutMarksIsThatText) {
 
 TEST(Markdown, PartsDifferByTheirTextsAndByTheirWeights) {
     EXPECT_NE(plain("a"), plain("b"));
-    EXPECT_NE(plain("a"), bold("a"));
+    EXPECT_NE(plain("a"), boldPart("a"));
 }
 
 TEST(Markdown, OfNothingIsNothing) { EXPECT_THAT(parseMarkdown(""), IsEmpty()); }
 
 TEST(Markdown, MakesAPartBetweenPairsOfAsterisksBold) {
     EXPECT_THAT(parseMarkdown("Click **Open** in it"),
-                ElementsAre(plain("Click "), bold("Open"), plain(" in it")));
+                ElementsAre(plain("Click "), boldPart("Open"), plain(" in it")));
 }
 
 TEST(Markdown, MakesSeveralPartsBold) {
-    EXPECT_THAT(parseMarkdown("**One** and **two**"), ElementsAre(bold("One"), plain(" and "), bold("two")));
+    EXPECT_THAT(parseMarkdown("**One** and **two**"),
+                ElementsAre(boldPart("One"), plain(" and "), boldPart("two")));
 }
 
 TEST(Markdown, MakesAPartInTheMiddleOfAWordBold) {
-    EXPECT_THAT(parseMarkdown("dis**play**s"), ElementsAre(plain("dis"), bold("play"), plain("s")));
+    EXPECT_THAT(parseMarkdown("dis**play**s"), ElementsAre(plain("dis"), boldPart("play"), plain("s")));
 }
 
 TEST(Markdown, LeavesAMarkWithoutAPartner) {
     EXPECT_THAT(parseMarkdown("Click **Open"), ElementsAre(plain("Click **Open")));
     EXPECT_THAT(parseMarkdown("Click Open**"), ElementsAre(plain("Click Open**")));
-    EXPECT_THAT(parseMarkdown("**A** and **b"), ElementsAre(bold("A"), plain(" and **b")));
+    EXPECT_THAT(parseMarkdown("**A** and **b"), ElementsAre(boldPart("A"), plain(" and **b")));
     EXPECT_THAT(parseMarkdown("**"), ElementsAre(plain("**")));
 }
 
@@ -53,11 +54,11 @@ TEST(Markdown, LeavesMarksThatTouchASpaceInside) {
 }
 
 TEST(Markdown, GoesOnToAMarkThatEndsThePart) {
-    EXPECT_THAT(parseMarkdown("**2 ** 3**"), ElementsAre(bold("2 ** 3")));
+    EXPECT_THAT(parseMarkdown("**2 ** 3**"), ElementsAre(boldPart("2 ** 3")));
 }
 
 TEST(Markdown, StartsAtAMarkThatBeginsAPart) {
-    EXPECT_THAT(parseMarkdown("2 ** **3**"), ElementsAre(plain("2 ** "), bold("3")));
+    EXPECT_THAT(parseMarkdown("2 ** **3**"), ElementsAre(plain("2 ** "), boldPart("3")));
 }
 
 TEST(Markdown, LeavesMarksAroundNothing) {

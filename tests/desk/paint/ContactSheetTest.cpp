@@ -1,5 +1,6 @@
 #include "desk/paint/ContactSheet.h"
 
+#include "tests/base/Overlap.h"
 #include "tests/desk/paint/PaintedCanvas.h"
 #include "tests/desk/paint/WindowPictures.h"
 
@@ -18,11 +19,6 @@ ContactSheet sheetOf(std::size_t cells, std::size_t columns) {
         sheet.cells.push_back(cell);
     }
     return sheet;
-}
-
-bool overlap(const Rect& first, const Rect& second) {
-    return first.minX() < second.maxX() && second.minX() < first.maxX() && first.minY() < second.maxY() &&
-           second.minY() < first.maxY();
 }
 
 TEST(ContactSheet, PlacesEveryWindowInACellOfItsOwn) {

@@ -1,6 +1,7 @@
 #include "desk/paint/AccessibilityPaneLayout.h"
 #include "desk/paint/AlertLayout.h"
 #include "desk/paint/ToolTipPainter.h"
+#include "tests/base/Overlap.h"
 #include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
@@ -20,11 +21,6 @@ AccessibilityPaneLayout paneOf(const DeskPicture& picture, Size window = TestWin
 std::optional<Rect> toolTipOf(const DeskPicture& picture, Size window = TestWindow) {
     TextMeasure measure;
     return toolTipArea(measure, DeskLayout::of(picture, window), picture, window);
-}
-
-bool overlap(const Rect& first, const Rect& second) {
-    return first.minX() < second.maxX() && second.minX() < first.maxX() && first.minY() < second.maxY() &&
-           second.minY() < first.maxY();
 }
 
 TEST(PermissionDialog, HoldsItsPartsApartFromEachOther) {

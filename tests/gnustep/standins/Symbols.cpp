@@ -22,14 +22,14 @@ namespace kestrune::gnustep {
 namespace {
 
 constexpr double BodySize = 13; // points
-constexpr double Regular = 0;
-constexpr mac::Integer Small = 1;
+constexpr double RegularWeight = 0;
+constexpr mac::Integer SmallScale = 1;
 constexpr mac::Integer Medium = 2;
 constexpr mac::Integer Large = 3;
 
 struct Configuration {
     double pointSize = BodySize;
-    double weight = Regular;
+    double weight = RegularWeight;
     mac::Integer scale = Medium;
 };
 
@@ -43,7 +43,7 @@ struct Symbol {
 using SymbolClass = Subclass<Symbol>;
 using ConfigurationClass = Subclass<Configuration>;
 
-double factor(mac::Integer scale) { return scale == Small ? 0.8 : scale == Large ? 1.28 : 1; }
+double factor(mac::Integer scale) { return scale == SmallScale ? 0.8 : scale == Large ? 1.28 : 1; }
 
 double heightOf(const Configuration& configuration) {
     return configuration.pointSize * 1.2 * factor(configuration.scale);

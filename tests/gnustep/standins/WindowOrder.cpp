@@ -22,7 +22,7 @@ namespace {
 
 // GNUstep's NSWindowOrderingMode, which has other numbers than the Mac's.
 constexpr unsigned Above = 0;
-constexpr unsigned Out = 2;
+constexpr unsigned OrderedOut = 2;
 
 // Not retained; the one that was ordered front last is first.
 std::vector<id>& ordered() {
@@ -30,7 +30,7 @@ std::vector<id>& ordered() {
     return windows;
 }
 
-void forget(id window) { std::erase(ordered(), window); }
+void takeOut(id window) { std::erase(ordered(), window); }
 
 id windowList(id, SEL) {
     std::vector<id> windows = ordered();
@@ -52,26 +52,26 @@ void note(id window, unsigned place) {
     // Its class is known when the application has it.
     static const auto before = replaceMethod(object_getClass(GSCurrentServer()), "windowlist", windowList);
     static_cast<void>(before);
-    forget(window);
-    whenDeallocated(window, &ordered(), [window] { forget(window); });
+    takeOut(window);
+    whenDeallocated(window, &ordered(), [window] { takeOut(window); });
     ordered().insert(place == Above ? ordered().begin() : ordered().end(), window);
 }
 
 // One that goes out is in the list until it is out: GNUstep gives the keys to the next one after it.
-void orderWindow(id window, SEL selector, unsigned place, mac::Integer other) {
-    if (place != Out) {
+void orderAndNote(id window, SEL selector, unsigned place, mac::Integer other) {
+    if (place != OrderedOut) {
         note(window, place);
     }
     orderWindowOfGNUstep(window, selector, place, other);
-    if (place == Out) {
-        forget(window);
+    if (place == OrderedOut) {
+        takeOut(window);
     }
 }
 
 } // namespace
 
 void installWindowOrder() {
-    orderWindowOfGNUstep = replaceMethod(classNamed("NSWindow"), "orderWindow:relativeTo:", orderWindow);
+    orderWindowOfGNUstep = replaceMethod(classNamed("NSWindow"), "orderWindow:relativeTo:", orderAndNote);
 }
 
 } // namespace kestrune::gnustep
