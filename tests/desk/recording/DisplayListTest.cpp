@@ -17,7 +17,7 @@ std::vector<Rect> displaysIn(std::string_view text) {
     return std::get<std::vector<Rect>>(result);
 }
 
-std::string refusalOf(std::string_view text) {
+std::string refusalOfList(std::string_view text) {
     const auto result = parseDisplayList(text);
     const auto* error = std::get_if<InputError>(&result);
     return error == nullptr ? "accepted" : error->message;
@@ -48,16 +48,16 @@ TEST(DisplayList, ReadsMinusZeroAsZero) {
 
 TEST(DisplayList, AcceptsSixteenDisplaysAndNoMore) {
     EXPECT_EQ(displaysIn(displayRow(16)).size(), 16U);
-    EXPECT_EQ(refusalOf(displayRow(17)), "--displays: display 17: expected at most 16 displays");
+    EXPECT_EQ(refusalOfList(displayRow(17)), "--displays: display 17: expected at most 16 displays");
 }
 
 TEST(DisplayList, AcceptsTheLargestNumbersAndRefusesLargerOnes) {
     EXPECT_EQ(displaysIn("1000000x1000000+0+0,1x1-1000000+0,1x1+1000000-1000000").size(), 3U);
-    EXPECT_EQ(refusalOf("1000000.5x10+0+0"),
+    EXPECT_EQ(refusalOfList("1000000.5x10+0+0"),
               "--displays: display 1: expected a number from -1000000 to 1000000, found \"1000000.5\"");
-    EXPECT_EQ(refusalOf("10x10+0+0,10x10-1000001+0"),
+    EXPECT_EQ(refusalOfList("10x10+0+0,10x10-1000001+0"),
               "--displays: display 2: expected a number from -1000000 to 1000000, found \"-1000001\"");
-    EXPECT_EQ(refusalOf("10x10+0+0,10x10+0+" + std::string(400, '9')),
+    EXPECT_EQ(refusalOfList("10x10+0+0,10x10+0+" + std::string(400, '9')),
               "--displays: display 2: expected a number from -1000000 to 1000000, found "
               "\"9999999999999999999999999999999999999999\"...");
 }
@@ -72,41 +72,41 @@ TEST(DisplayList, TakesRoundingForTouching) {
 }
 
 TEST(DisplayList, RefusesDisplaysThatOverlap) {
-    EXPECT_EQ(refusalOf("100x100+0+0,100x100+100+0,100x100+199+99"),
+    EXPECT_EQ(refusalOfList("100x100+0+0,100x100+100+0,100x100+199+99"),
               "--displays: display 3: expected no overlap, found one with display 2");
-    EXPECT_EQ(refusalOf("100x100+0+0,100x100+99.999+0"),
+    EXPECT_EQ(refusalOfList("100x100+0+0,100x100+99.999+0"),
               "--displays: display 2: expected no overlap, found one with display 1");
-    EXPECT_EQ(refusalOf("100x100+0+0,10x10+50+50"),
+    EXPECT_EQ(refusalOfList("100x100+0+0,10x10+50+50"),
               "--displays: display 2: expected no overlap, found one with display 1");
-    EXPECT_EQ(refusalOf("100x100+0+0,100x100+0+0"),
+    EXPECT_EQ(refusalOfList("100x100+0+0,100x100+0+0"),
               "--displays: display 2: expected no overlap, found one with display 1");
 }
 
 TEST(DisplayList, RefusesAnEmptyList) {
-    EXPECT_EQ(refusalOf(""), "--displays: display 1: expected WxH+X+Y, found \"\"");
+    EXPECT_EQ(refusalOfList(""), "--displays: display 1: expected WxH+X+Y, found \"\"");
 }
 
 TEST(DisplayList, RefusesACommaWithoutADisplay) {
-    EXPECT_EQ(refusalOf("10x10+0+0,"), "--displays: display 2: expected WxH+X+Y, found \"\"");
-    EXPECT_EQ(refusalOf(",10x10+0+0"), "--displays: display 1: expected WxH+X+Y, found \"\"");
-    EXPECT_EQ(refusalOf("10x10+0+0,,10x10+10+0"), "--displays: display 2: expected WxH+X+Y, found \"\"");
+    EXPECT_EQ(refusalOfList("10x10+0+0,"), "--displays: display 2: expected WxH+X+Y, found \"\"");
+    EXPECT_EQ(refusalOfList(",10x10+0+0"), "--displays: display 1: expected WxH+X+Y, found \"\"");
+    EXPECT_EQ(refusalOfList("10x10+0+0,,10x10+10+0"), "--displays: display 2: expected WxH+X+Y, found \"\"");
 }
 
 TEST(DisplayList, RefusesADisplayOfNoSize) {
-    EXPECT_EQ(refusalOf("0x10+0+0"),
+    EXPECT_EQ(refusalOfList("0x10+0+0"),
               "--displays: display 1: expected a width of at least 0.001, found \"0\"");
-    EXPECT_EQ(refusalOf("10x0.0+0+0"),
+    EXPECT_EQ(refusalOfList("10x0.0+0+0"),
               "--displays: display 1: expected a height of at least 0.001, found \"0.0\"");
-    EXPECT_EQ(refusalOf("10x10+0+0,-5x10+10+0"),
+    EXPECT_EQ(refusalOfList("10x10+0+0,-5x10+10+0"),
               "--displays: display 2: expected a width of at least 0.001, found \"-5\"");
-    EXPECT_EQ(refusalOf("10x-5+0+0"),
+    EXPECT_EQ(refusalOfList("10x-5+0+0"),
               "--displays: display 1: expected a height of at least 0.001, found \"-5\"");
 }
 
 TEST(DisplayList, RefusesAListWithoutAPrimary) {
-    EXPECT_EQ(refusalOf("10x10+5+0,10x10-5+0"),
+    EXPECT_EQ(refusalOfList("10x10+5+0,10x10-5+0"),
               "--displays: display 1: expected the primary display at +0+0, found \"10x10+5+0\"");
-    EXPECT_EQ(refusalOf("10x10+0-0.5"),
+    EXPECT_EQ(refusalOfList("10x10+0-0.5"),
               "--displays: display 1: expected the primary display at +0+0, found \"10x10+0-0.5\"");
 }
 
@@ -116,20 +116,21 @@ TEST(DisplayList, RefusesWhatItDoesNotUnderstand) {
           "x10+0+0",    "10x+0+0",   "10x10 +0+0", " 10x10+0+0",  "10x10+0+0 ",   "10x10+0+0;",
           "10.x10+0+0", ".5x10+0+0", "10x10+0+.5", "10x10+0+0.",  "1.2.3x10+0+0", "10x10++0+0",
           "10x10+-0+0", "10x10+0",   "+10x10+0+0", "--10x10+0+0", "10x100+0",     "1,5x10+0+0"})
-        EXPECT_EQ(refusalOf(text), "--displays: display 1: expected WxH+X+Y, found \"" +
-                                       text.substr(0, text.find(',')) + "\"");
+        EXPECT_EQ(refusalOfList(text), "--displays: display 1: expected WxH+X+Y, found \"" +
+                                           text.substr(0, text.find(',')) + "\"");
 }
 
 TEST(DisplayList, RefusesInfinitiesNotANumberAndExponents) {
     for (const std::string text :
          {"infx10+0+0", "10xinfinity+0+0", "10x10+inf+0", "10x10-inf+0", "nanx10+0+0", "10x10+0+nan",
           "1e3x10+0+0", "10x1E2+0+0", "10x10+1e1+0", "0x10x10+0+0"})
-        EXPECT_EQ(refusalOf(text), "--displays: display 1: expected WxH+X+Y, found \"" + text + "\"");
+        EXPECT_EQ(refusalOfList(text), "--displays: display 1: expected WxH+X+Y, found \"" + text + "\"");
 }
 
 TEST(DisplayList, ShowsNonPrintingBytesAndCutsLongText) {
-    EXPECT_EQ(refusalOf("10x10+0+0\n"), "--displays: display 1: expected WxH+X+Y, found \"10x10+0+0\\x0A\"");
-    EXPECT_EQ(refusalOf(std::string(1'000'000, 'q')),
+    EXPECT_EQ(refusalOfList("10x10+0+0\n"),
+              "--displays: display 1: expected WxH+X+Y, found \"10x10+0+0\\x0A\"");
+    EXPECT_EQ(refusalOfList(std::string(1'000'000, 'q')),
               "--displays: display 1: expected WxH+X+Y, found \"" + std::string(40, 'q') + "\"...");
 }
 
