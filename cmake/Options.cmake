@@ -1,6 +1,7 @@
 # Compiler settings shared by every target.
 option(KESTRUNE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(KESTRUNE_COVERAGE "Build with gcov instrumentation" OFF)
+option(KESTRUNE_JOIN_TESTS "Compile the files of a test program several at a time" OFF)
 
 add_library(kestrune_options INTERFACE)
 target_compile_features(kestrune_options INTERFACE cxx_std_20)
@@ -32,3 +33,11 @@ if(KESTRUNE_COVERAGE)
     target_compile_definitions(kestrune_options INTERFACE KESTRUNE_COVERAGE)
     target_link_options(kestrune_options INTERFACE --coverage)
 endif()
+
+# For a folder of tests: most of their time goes into the headers of the test framework.
+macro(kestrune_join_tests)
+    if(KESTRUNE_JOIN_TESTS)
+        set(CMAKE_UNITY_BUILD ON)
+        set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
+    endif()
+endmacro()
