@@ -4,6 +4,7 @@
 #include "Kestrune/ApplicationLog.h"
 #include "Kestrune/MainMenu.h"
 #include "Kestrune/RunningApplication.h"
+#include "Kestrune/UpdaterManager.h"
 #include "Kestrune/WhileAlive.h"
 #include "base/Fatal.h"
 #include "platform/AccessibilityTrust.h"
@@ -56,6 +57,7 @@ std::span<const ActionMethod> KestruneApp::actionMethods() const { return MainMe
 
 void KestruneApp::applicationDidFinishLaunching() noexcept {
     installMainMenu();
+    UpdaterManager::shared();
     menuBarController_ = makeMenuBarController();
     dockGuard_->setPreferences(preferences_);
     startGuardIfAllowed();
@@ -92,8 +94,12 @@ void KestruneApp::menuOpenSettings() {
     }
 }
 
-// There is no Settings window yet.
-void KestruneApp::openSettingsWindow() {}
+void KestruneApp::openSettingsWindow() {
+    if (!settingsWindowController_) {
+        settingsWindowController_ = SettingsWindowController::make();
+    }
+    settingsWindowController_->show();
+}
 
 void KestruneApp::showWelcomeWindow() {
     if (!welcomeWindowController_) {
@@ -176,7 +182,7 @@ void KestruneApp::observeScreenParameters() {
     // The token is dropped: the displays are followed as long as the process lives.
     NotificationCenter::defaultCenter().addObserver(
         ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(),
-        [follow = whileAlive(weak_from_this(), [this] { screenParametersChanged(); })] {
+        [follow = whileAlive(weak_from_this(), [this] { screenParametersChanged(); })](const Notification&) {
             requireMainActor("A change of displays was announced outside the main thread.");
             follow();
         });

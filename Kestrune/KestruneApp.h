@@ -4,6 +4,7 @@
 #include "Kestrune/DockGuardController.h"
 #include "Kestrune/MenuBarController.h"
 #include "Kestrune/Preferences.h"
+#include "Kestrune/SettingsWindowController.h"
 #include "Kestrune/WelcomeWindowController.h"
 #include "platform/Application.h"
 #include "platform/Timer.h"
@@ -55,6 +56,11 @@ public:
     const std::shared_ptr<Preferences>& preferences() const { return preferences_; }
     const std::shared_ptr<DockGuardController>& dockGuard() const { return dockGuard_; }
 
+    // Null until the user has wanted Settings.
+    const std::shared_ptr<SettingsWindowController>& settingsWindowController() const {
+        return settingsWindowController_;
+    }
+
     // Null unless the wizard is going on.
     const std::shared_ptr<WelcomeWindowController>& welcomeWindowController() const {
         return welcomeWindowController_;
@@ -84,7 +90,8 @@ private:
     std::shared_ptr<Preferences> preferences_;
     std::shared_ptr<DockGuardController> dockGuard_;
     std::optional<Timer> accessibilityWatcher_;
-    std::shared_ptr<WelcomeWindowController> welcomeWindowController_; // null unless the wizard is going on
+    std::shared_ptr<SettingsWindowController> settingsWindowController_; // null until the user has wanted it
+    std::shared_ptr<WelcomeWindowController> welcomeWindowController_;   // null unless the wizard is going on
 };
 
 // The process's main function: launches the application and runs it. The result keeps the delegate alive,

@@ -5,10 +5,12 @@
 
 #include "platform/Menu.h"
 #include "platform/Object.h"
+#include "platform/Window.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace kestrune {
 
@@ -43,6 +45,12 @@ public:
 
     // setActivationPolicy:. False when the system refuses.
     bool setActivationPolicy(ActivationPolicy policy);
+
+    // activationPolicy.
+    ActivationPolicy activationPolicy() const;
+
+    // windows: every window of the application that there is, on screen or not, in no order.
+    std::vector<Window> windows() const;
 
     // setMainMenu:. Retained. It shows while the application is regular and active; its key equivalents work
     // while the application is active.

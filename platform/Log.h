@@ -8,6 +8,18 @@
 
 namespace kestrune {
 
+// The format of a message that holds one text: printf's, with "%{public}s" where the text goes. Static
+// storage, as the log keeps a reference to it.
+class LogFormat {
+public:
+    consteval explicit LogFormat(const char* format) : format_(format) {}
+
+    constexpr const char* text() const { return format_; }
+
+private:
+    const char* format_;
+};
+
 // A log channel. Callable from any thread. Debug and info messages are not kept by default; error messages
 // are.
 class Log {
@@ -18,6 +30,10 @@ public:
     // Each logs a fixed message as a public string.
     void debug(std::string_view message) const;
     void error(std::string_view message) const;
+
+    // Each logs a message with a public string in it.
+    void info(LogFormat format, std::string_view publicString) const;
+    void error(LogFormat format, std::string_view publicString) const;
 
 private:
     struct State;

@@ -4,15 +4,35 @@
 // Foundation, NSThread.h.
 #pragma once
 
+#include <chrono>
 #include <functional>
+#include <memory>
+#include <utility>
 
 namespace kestrune {
+
+// A retained task that sleeps before its work. It goes on without whoever started it.
+class SleepingTask {
+public:
+    // Ends the sleep; the work is done at once, as it is none of the work's business why it may begin.
+    void cancel();
+
+    struct State;
+    explicit SleepingTask(std::shared_ptr<State> state) : state_(std::move(state)) {}
+
+private:
+    std::shared_ptr<State> state_;
+};
 
 class MainActor {
 public:
     // A task with default priority on the main actor. It runs on the main thread after whatever runs there
     // now has returned. `body` must not throw.
     static void startTask(std::function<void()> body);
+
+    // The same, but before `body` it sleeps, on the continuous clock, which goes on while the computer
+    // sleeps, and ignores that the sleep was cancelled.
+    static SleepingTask startTask(std::chrono::milliseconds sleep, std::function<void()> body);
 
     // +[NSThread isMainThread]: whether the caller is where the main actor's work may be done.
     static bool isCurrent();

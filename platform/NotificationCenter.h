@@ -1,7 +1,9 @@
 // Notifications inside the process.
 //
-// Source: Foundation, NSNotification.h, NSOperation.h; AppKit, NSApplication.h.
+// Source: Foundation, NSNotification.h, NSOperation.h; AppKit, NSApplication.h, NSWindow.h.
 #pragma once
+
+#include "platform/Window.h"
 
 #include <functional>
 #include <memory>
@@ -27,6 +29,22 @@ private:
 inline constexpr NotificationName ApplicationDidChangeScreenParametersNotification{
     "NSApplicationDidChangeScreenParametersNotification"};
 
+// Posted by AppKit on the main thread when a window receives the keys from now on. Its object is the window.
+inline constexpr NotificationName WindowDidBecomeKeyNotification{"NSWindowDidBecomeKeyNotification"};
+
+// An NSNotification, borrowed for the time of the block that gets it.
+class Notification {
+public:
+    // object, if it is an NSWindow.
+    std::optional<Window> objectAsWindow() const;
+
+    struct State;
+    explicit Notification(const State& state) : state_(state) {}
+
+private:
+    const State& state_;
+};
+
 class OperationQueue {
 public:
     // NSOperationQueue.mainQueue: runs on the main thread, also while a menu is tracked or an alert is modal.
@@ -41,6 +59,7 @@ class NotificationObserver {
 public:
     struct State;
     explicit NotificationObserver(std::shared_ptr<State> state) : state_(std::move(state)) {}
+    const std::shared_ptr<State>& state() const { return state_; }
 
 private:
     std::shared_ptr<State> state_;
@@ -54,7 +73,10 @@ public:
     // addObserverForName:object:queue:usingBlock: with object nil: from every sender. `block` runs on
     // `queue`, inline when the notification is posted from there, and must not throw.
     NotificationObserver addObserver(const NotificationName& name, const OperationQueue& queue,
-                                     std::function<void()> block);
+                                     std::function<void(const Notification&)> block);
+
+    // removeObserver:. The block is not run any more, and gone once it is not running.
+    void removeObserver(const NotificationObserver& observer);
 
 private:
     NotificationCenter() = default;

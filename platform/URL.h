@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -15,6 +16,9 @@ class URL {
 public:
     // +[NSURL URLWithString:]. Absent when the text is no URL.
     static std::optional<URL> withString(std::string_view text);
+
+    // absoluteString, encoded.
+    std::string absoluteString() const;
 
     struct State;
     explicit URL(std::shared_ptr<const State> state) : state_(std::move(state)) {}

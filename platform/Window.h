@@ -12,6 +12,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -61,7 +62,11 @@ public:
     // initWithContentRect:styleMask:backing:defer:.
     Window(const Rect& contentRect, WindowStyleMask styleMask, BackingStoreType backing, bool defer);
 
-    // setTitle:, UTF-8.
+    // object_getClassName: the class that the window really is of, as frameworks have their own.
+    std::string className() const;
+
+    // title and setTitle:, UTF-8.
+    std::string title() const;
     void setTitle(std::string_view title);
 
     // setReleasedWhenClosed:. On unless set, which takes the window from whoever still uses it.

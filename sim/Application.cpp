@@ -48,6 +48,22 @@ bool Application::setActivationPolicy(ActivationPolicy policy) {
     return true;
 }
 
+ActivationPolicy Application::activationPolicy() const {
+    sim::Session& session = sim::Session::current();
+    session.journal().record("-[NSApplication activationPolicy]");
+    return session.application().policy;
+}
+
+std::vector<Window> Application::windows() const {
+    sim::Session& session = sim::Session::current();
+    session.journal().record("-[NSApplication windows]");
+    std::vector<Window> windows;
+    for (const auto& window : session.windows().all()) {
+        windows.emplace_back(window);
+    }
+    return windows;
+}
+
 void Application::setMainMenu(const Menu& menu) {
     sim::Session& session = sim::Session::current();
     session.journal().record("-[NSApplication setMainMenu:] ", menu.state()->items.size(), " items");

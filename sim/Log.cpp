@@ -1,5 +1,6 @@
 #include "platform/Log.h"
 
+#include "base/Fatal.h"
 #include "sim/Session.h"
 
 #include <string>
@@ -17,6 +18,20 @@ struct Log::State {
     }
 };
 
+namespace {
+
+std::string filled(LogFormat format, std::string_view publicString) {
+    constexpr std::string_view Placeholder = "%{public}s";
+    std::string message = format.text();
+    const std::size_t place = message.find(Placeholder);
+    if (place == std::string::npos) {
+        fatal("A format of the log has no place for its text.");
+    }
+    return message.replace(place, Placeholder.size(), publicString);
+}
+
+} // namespace
+
 Log::Log(std::string_view subsystem, std::string_view category)
     : state_(std::make_shared<State>(State{std::string(subsystem), std::string(category)})) {
     sim::Session::current().journal().record("os_log_create(", subsystem, ", ", category, ")");
@@ -28,6 +43,14 @@ void Log::debug(std::string_view message) const {
 
 void Log::error(std::string_view message) const {
     state_->append("os_log_error", sim::LogLevel::error, message);
+}
+
+void Log::info(LogFormat format, std::string_view publicString) const {
+    state_->append("os_log_info", sim::LogLevel::info, filled(format, publicString));
+}
+
+void Log::error(LogFormat format, std::string_view publicString) const {
+    state_->append("os_log_error", sim::LogLevel::error, filled(format, publicString));
 }
 
 } // namespace kestrune

@@ -112,12 +112,15 @@ bool MenuTracking::choose(std::size_t row) {
     return endWith(item);
 }
 
-// The action is sent at the end of tracking, before the run loop is back in its default mode.
+// The action is sent at the end of tracking, if a menu was open, before the run loop is back in its default
+// mode.
 bool MenuTracking::endWith(const MenuItem& chosen) {
-    menu_.reset();
+    const bool wasOpen = std::exchange(menu_, std::nullopt).has_value();
     place_.reset();
     const bool isSent = sendAction(chosen);
-    session_.timers().enterDefaultMode();
+    if (wasOpen) {
+        session_.timers().enterDefaultMode();
+    }
     return isSent;
 }
 

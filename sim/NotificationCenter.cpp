@@ -1,13 +1,16 @@
 #include "platform/NotificationCenter.h"
 
+#include "sim/NotificationState.h"
 #include "sim/Session.h"
 
 #include <utility>
 
 namespace kestrune {
 
-// The center keeps the observation; nobody asks the token for anything.
-struct NotificationObserver::State {};
+std::optional<Window> Notification::objectAsWindow() const {
+    sim::Session::current().journal().record("-[NSNotification object]");
+    return state_.window ? std::optional(Window(state_.window)) : std::nullopt;
+}
 
 OperationQueue OperationQueue::mainQueue() {
     sim::Session::current().journal().record("NSOperationQueue.mainQueue");
@@ -20,12 +23,17 @@ NotificationCenter NotificationCenter::defaultCenter() {
 }
 
 NotificationObserver NotificationCenter::addObserver(const NotificationName& name, const OperationQueue&,
-                                                     std::function<void()> block) {
+                                                     std::function<void(const Notification&)> block) {
     sim::Session& session = sim::Session::current();
     session.journal().record("-[NSNotificationCenter addObserverForName:object:queue:usingBlock:] ",
                              name.name(), ", nil, main queue");
-    session.observers().add(name.name(), std::move(block));
-    return NotificationObserver(std::make_shared<NotificationObserver::State>());
+    return NotificationObserver(session.observers().add(name.name(), std::move(block)));
+}
+
+void NotificationCenter::removeObserver(const NotificationObserver& observer) {
+    sim::Session& session = sim::Session::current();
+    session.journal().record("-[NSNotificationCenter removeObserver:]");
+    session.observers().remove(*observer.state());
 }
 
 } // namespace kestrune

@@ -1,26 +1,47 @@
 #include "sim/Observers.h"
 
+#include "sim/NotificationState.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace kestrune::sim {
 
-void Observers::add(std::string_view name, std::function<void()> block) {
-    entries_.push_back({std::string(name), std::make_shared<std::function<void()>>(std::move(block))});
+std::shared_ptr<NotificationObserver::State> Observers::add(std::string_view name,
+                                                            std::function<void(const Notification&)> block) {
+    auto observer = std::make_shared<NotificationObserver::State>();
+    observer->name = name;
+    observer->block = std::move(block);
+    observers_.push_back(observer);
+    return observer;
 }
 
-void Observers::post(std::string_view name) const {
-    const unsigned before = clearings_;
-    // A copy, because a block may add observers or end the process.
-    for (const Entry& entry : std::vector<Entry>(entries_)) {
-        if (entry.name == name && clearings_ == before) {
-            (*entry.block)();
+void Observers::remove(NotificationObserver::State& observer) {
+    observer.isObserving = false;
+    std::erase_if(observers_, [&observer](const auto& other) { return other.get() == &observer; });
+}
+
+void Observers::post(const NotificationName& name, const std::shared_ptr<Window::State>& window) const {
+    const Notification::State notification{window};
+    // A copy, because a block may add and remove observers or end the process; and it keeps each block alive
+    // while it runs.
+    for (const auto& observer : std::vector(observers_)) {
+        if (observer->name == name.name() && observer->isObserving) {
+            observer->block(Notification(notification));
         }
     }
 }
 
+std::size_t Observers::count(const NotificationName& name) const {
+    return static_cast<std::size_t>(
+        std::count_if(observers_.begin(), observers_.end(),
+                      [&name](const auto& observer) { return observer->name == name.name(); }));
+}
+
 void Observers::clear() {
-    entries_.clear();
-    ++clearings_;
+    for (const auto& observer : std::exchange(observers_, {})) {
+        observer->isObserving = false;
+    }
 }
 
 } // namespace kestrune::sim

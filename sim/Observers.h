@@ -1,10 +1,11 @@
 // The observers at the application's notification center.
 #pragma once
 
+#include "platform/NotificationCenter.h"
+
 #include <cstddef>
 #include <functional>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,25 +13,23 @@ namespace kestrune::sim {
 
 class Observers {
 public:
-    void add(std::string_view name, std::function<void()> block);
+    std::shared_ptr<NotificationObserver::State> add(std::string_view name,
+                                                     std::function<void(const Notification&)> block);
+    void remove(NotificationObserver::State& observer);
 
     // Runs the blocks that wait for a notification of that name, in the order of their registration. They are
-    // all on the main queue, where the system posts what it posts; so each runs at once.
-    void post(std::string_view name) const;
+    // all on the main queue, where the system posts what it posts; so each runs at once. `window` is the
+    // object of the notification, unless it has another one.
+    void post(const NotificationName& name, const std::shared_ptr<Window::State>& window = nullptr) const;
 
-    std::size_t count() const { return entries_.size(); }
+    std::size_t count() const { return observers_.size(); }
+    std::size_t count(const NotificationName& name) const;
 
     // The application's process has ended.
     void clear();
 
 private:
-    struct Entry {
-        std::string name;
-        std::shared_ptr<std::function<void()>> block;
-    };
-
-    std::vector<Entry> entries_;
-    unsigned clearings_ = 0;
+    std::vector<std::shared_ptr<NotificationObserver::State>> observers_;
 };
 
 } // namespace kestrune::sim

@@ -24,6 +24,8 @@ Session::Session(SessionOptions options)
       dock_(displays_, options.dockDwell),
       defaults_(std::move(options.defaults)),
       bundle_(std::move(options.bundle)),
+      surroundings_(std::move(options.surroundings)),
+      updates_(*this, options.updateFramework),
       measurer_(options.measurer),
       cursorFollowsEvents_(options.cursorFollowsEvents) {
     if (current_ != nullptr) {
@@ -115,7 +117,7 @@ void Session::changeDisplays(std::vector<Display> displays) {
 }
 
 void Session::announceScreenParameters() {
-    observers_.post(ApplicationDidChangeScreenParametersNotification.name());
+    observers_.post(ApplicationDidChangeScreenParametersNotification);
 }
 
 void Session::startApplication() {
@@ -133,6 +135,10 @@ void Session::endApplication() {
     observers_.clear();
     statusItems_.clear();
     windows_.clear();
+    updates_.clear();
+    isMainQueueKept_ = false;
+    waitingForMainQueue_.clear();
+    processObjects_.clear();
     taps_.clear();
     sources_.clear();
     accessibility_.processEnded();
@@ -140,12 +146,30 @@ void Session::endApplication() {
     application_ = {};
 }
 
-void Session::enqueueOnMainQueue(std::function<void()> task) {
-    clock_.schedule(Duration::zero(), [this, process = processNumber_, queued = std::move(task)] {
-        if (process == processNumber_) {
+void Session::enqueueOnMainQueue(std::function<void()> task, Duration delay) {
+    clock_.schedule(delay, [this, process = processNumber_, queued = std::move(task)] {
+        if (process != processNumber_) {
+            return;
+        }
+        if (isMainQueueKept_) {
+            waitingForMainQueue_.push_back(queued);
+        } else {
             queued();
         }
     });
+}
+
+void Session::beginModalAlert() {
+    isMainQueueKept_ = true;
+    timers_.leaveDefaultMode();
+}
+
+void Session::endModalAlert() {
+    isMainQueueKept_ = false;
+    timers_.enterDefaultMode();
+    for (auto& task : std::exchange(waitingForMainQueue_, {})) {
+        enqueueOnMainQueue(std::move(task));
+    }
 }
 
 void Session::openURL(const std::string& text) {

@@ -10,17 +10,22 @@
 #include "sim/Dock.h"
 #include "sim/FixedAdvanceMeasurer.h"
 #include "sim/Journal.h"
+#include "sim/LoginItem.h"
 #include "sim/MenuTracking.h"
 #include "sim/Observers.h"
 #include "sim/RunLoopSources.h"
 #include "sim/StatusItems.h"
+#include "sim/Surroundings.h"
 #include "sim/TapChain.h"
 #include "sim/Timers.h"
+#include "sim/Updates.h"
 #include "sim/VirtualClock.h"
 #include "sim/Windows.h"
 
 #include <cstdint>
 #include <functional>
+#include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,6 +37,8 @@ struct SessionOptions {
     Permission permission = Permission::granted;
     PropertyListDictionary defaults = {};
     BundleContents bundle = {};
+    Surroundings surroundings = {};
+    UpdateFramework updateFramework = UpdateFramework::working;
     bool recordJournal = true;
 
     // Whether the visible pointer goes where an active tap put the event. Not confirmed for session taps.
@@ -43,7 +50,7 @@ struct SessionOptions {
     const ui::Measurer* measurer = nullptr;
 };
 
-enum class LogLevel { debug, error };
+enum class LogLevel { debug, info, error };
 
 struct LogRecord {
     LogLevel level;
@@ -96,6 +103,9 @@ public:
     RunLoopSources& sources() { return sources_; }
     Dock& dock() { return dock_; }
     const BundleContents& bundle() const { return bundle_; }
+    const Surroundings& surroundings() const { return surroundings_; }
+    LoginItem& loginItem() { return loginItem_; }
+    Updates& updates() { return updates_; }
     ApplicationState& application() { return application_; }
     Timers& timers() { return timers_; }
     Observers& observers() { return observers_; }
@@ -134,8 +144,17 @@ public:
     void refuseActivation(bool refuse) { refusesActivation_ = refuse; }
     bool refusesActivation() const { return refusesActivation_; }
 
-    // Runs on the main thread when time passes next, if the process is still the same then.
-    void enqueueOnMainQueue(std::function<void()> task);
+    // Runs on the main thread after that time, at the earliest when time passes next, if the process is still
+    // the same then.
+    void enqueueOnMainQueue(std::function<void()> task, Duration delay = Duration::zero());
+
+    // An alert that was shown from the main queue keeps it, and the run loop from its default mode, until the
+    // alert is closed.
+    void beginModalAlert();
+    void endModalAlert();
+
+    // Of the application's process, by the addresses that tell them apart.
+    std::map<const void*, std::shared_ptr<void>>& processObjects() { return processObjects_; }
 
     // The URLs that were opened, in order.
     const std::vector<std::string>& openedURLs() const { return openedURLs_; }
@@ -196,12 +215,18 @@ private:
     TapChain taps_;
     RunLoopSources sources_;
     BundleContents bundle_;
+    Surroundings surroundings_;
+    LoginItem loginItem_;
     ApplicationState application_;
     Timers timers_{clock_};
     Observers observers_;
     StatusItems statusItems_;
     MenuTracking menus_{*this};
     Windows windows_{*this};
+    Updates updates_;
+    std::map<const void*, std::shared_ptr<void>> processObjects_;
+    bool isMainQueueKept_ = false;
+    std::vector<std::function<void()>> waitingForMainQueue_;
     const ui::Measurer* measurer_;
     FixedAdvanceMeasurer fixedAdvance_;
     std::uint64_t processNumber_ = 0;

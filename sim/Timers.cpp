@@ -38,7 +38,7 @@ void Timers::fire(const std::shared_ptr<Timer::State>& timer) {
     if (!timer->isValid) {
         return;
     }
-    if (!isInDefaultMode_) {
+    if (otherModes_ > 0) {
         missed_.push_back(timer);
         return;
     }
@@ -67,7 +67,9 @@ void Timers::invalidate(Timer::State& timer) {
 }
 
 void Timers::enterDefaultMode() {
-    isInDefaultMode_ = true;
+    if (otherModes_ > 0 && --otherModes_ > 0) {
+        return;
+    }
     for (const auto& timer : std::exchange(missed_, {})) {
         fire(timer);
     }
@@ -79,7 +81,7 @@ void Timers::clear() {
         timer->block = nullptr;
     }
     missed_.clear();
-    isInDefaultMode_ = true;
+    otherModes_ = 0;
 }
 
 } // namespace kestrune::sim

@@ -22,9 +22,10 @@ public:
                                            std::function<void(Timer&)> block);
     void invalidate(Timer::State& timer);
 
-    // The run loop leaves the default mode, while a menu is tracked, and comes back to it; then what fell due
-    // meanwhile fires, once.
-    void leaveDefaultMode() { isInDefaultMode_ = false; }
+    // The run loop leaves the default mode, while a menu is tracked or an alert is modal, and comes back to
+    // it; then what fell due meanwhile fires, once. It runs nested: when it left twice, it is back after two
+    // returns.
+    void leaveDefaultMode() { ++otherModes_; }
     void enterDefaultMode();
 
     // Timers that may still fire.
@@ -38,7 +39,7 @@ private:
     void fire(const std::shared_ptr<Timer::State>& timer);
 
     VirtualClock& clock_;
-    bool isInDefaultMode_ = true;
+    std::size_t otherModes_ = 0; // that the run loop is in, one inside the other
     std::vector<std::shared_ptr<Timer::State>> scheduled_;
     std::vector<std::shared_ptr<Timer::State>> missed_;
 };

@@ -14,4 +14,9 @@ std::optional<URL> URL::withString(std::string_view text) {
     return URL(std::make_shared<const State>(State{std::string(text)}));
 }
 
+std::string URL::absoluteString() const {
+    sim::Session::current().journal().record("-[NSURL absoluteString]");
+    return state_->text;
+}
+
 } // namespace kestrune

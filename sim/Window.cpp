@@ -38,6 +38,17 @@ Window::Window(const Rect& contentRect, WindowStyleMask styleMask, BackingStoreT
     state_->styleMask = styleMask;
     state_->frame = contentRect;
     state_->frame.size.height += state_->titleBarHeight();
+    sim::Session::current().windows().add(state_);
+}
+
+std::string Window::className() const {
+    recordCall("object_getClassName");
+    return state_->className;
+}
+
+std::string Window::title() const {
+    recordCall("-[NSWindow title]");
+    return state_->title;
 }
 
 void Window::setTitle(std::string_view title) {

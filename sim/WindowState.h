@@ -26,6 +26,7 @@ struct Window::State {
     // The top left corner stays where it is.
     void setContentSize(Size size);
 
+    std::string className = "NSWindow";
     std::string title;
     Rect frame; // AppKit screen coordinates
     WindowStyleMask styleMask = WindowStyleMask::borderless;

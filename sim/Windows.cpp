@@ -1,6 +1,7 @@
 #include "sim/Windows.h"
 
 #include "base/Fatal.h"
+#include "platform/NotificationCenter.h"
 #include "sim/HostedView.h"
 #include "sim/Session.h"
 #include "sim/WindowState.h"
@@ -40,6 +41,21 @@ std::vector<Windows::WindowState> Windows::shown() const {
     std::stable_sort(result.begin(), result.end(),
                      [](const auto& one, const auto& other) { return one->level > other->level; });
     return result;
+}
+
+std::vector<Windows::WindowState> Windows::all() const {
+    std::vector<WindowState> result;
+    for (const auto& reference : all_) {
+        if (auto window = reference.lock()) {
+            result.push_back(std::move(window));
+        }
+    }
+    return result;
+}
+
+void Windows::add(const WindowState& window) {
+    std::erase_if(all_, [](const auto& reference) { return reference.expired(); });
+    all_.push_back(window);
 }
 
 Windows::WindowState Windows::keyWindow() const {
@@ -106,6 +122,7 @@ void Windows::tellNewKeyWindow(const WindowState& before) const {
         session_.journal().record("-[", delegate->className(), " windowDidBecomeKey:]");
         delegate->windowDidBecomeKey();
     }
+    session_.observers().post(WindowDidBecomeKeyNotification, key);
 }
 
 void Windows::click(const WindowState& window) {
@@ -197,6 +214,7 @@ void Windows::clear() {
         }
     }
     ordered_.clear();
+    all_.clear();
     wantedKey_.reset();
     sourcePaths_.clear();
 }

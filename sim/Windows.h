@@ -29,6 +29,10 @@ public:
     // was ordered front last.
     std::vector<WindowState> shown() const;
 
+    // Every one of the process, on screen or not, from the first to the latest.
+    std::vector<WindowState> all() const;
+    void add(const WindowState& window);
+
     // Which receives the keys, and is the main window too, as nothing here has panels; null while the
     // application is not active or shows no window.
     WindowState keyWindow() const;
@@ -39,7 +43,9 @@ public:
     // In the middle of the main display: halfway across its room, and with twice as much room below as above.
     void center(Window::State& window) const;
 
+    // In front of its level; only the first one asks for the keys.
     void makeKeyAndOrderFront(const WindowState& window);
+    void orderFront(const WindowState& window);
     void orderOut(const WindowState& window);
 
     // The user clicks into a window: the application becomes active and the window key.
@@ -75,12 +81,12 @@ public:
     void clear();
 
 private:
-    void orderFront(const WindowState& window);
     void takeOut(const Window::State& window);
     void tellNewKeyWindow(const WindowState& before) const;
     static void requireUnreleased(const Window::State& window);
 
     Session& session_;
+    std::vector<std::weak_ptr<Window::State>> all_;
     std::vector<std::weak_ptr<Window::State>> ordered_; // the front one first, whatever its level
     std::weak_ptr<Window::State> wantedKey_;            // the one that was made key last
     std::map<std::string, std::string, std::less<>> sourcePaths_;

@@ -68,7 +68,7 @@ TEST_F(AccessibilityWatcher, EndsAlthoughTheStartFails) {
     grant();
     session.advance(1s);
     EXPECT_FALSE(guard->isRunning());
-    EXPECT_EQ(session.logRecords().size(), 1U);
+    EXPECT_EQ(messagesButTheUpdaters(session).size(), 1U);
     expectOver();
 }
 
@@ -249,14 +249,45 @@ TEST_F(AppEvents, ChangedDisplaysReachTheGuardWhileTheMenuIsOpen) {
 TEST_F(AppEvents, TheMainMenusSettingsLookAtTheSetup) {
     launchAndSettle();
     app->menuOpenSettings();
-    EXPECT_THAT(session.journal().take(),
-                ElementsAre("-[NSUserDefaults boolForKey:] hasCompletedOnboarding", Trusted));
+    const Calls calls = session.journal().take();
+    EXPECT_EQ(calls.at(0), "-[NSUserDefaults boolForKey:] hasCompletedOnboarding");
+    EXPECT_EQ(calls.at(1), Trusted);
+    EXPECT_EQ(calls.at(2), "SMAppService.mainAppService");
+    EXPECT_NE(app->settingsWindowController(), nullptr);
+    EXPECT_EQ(app->welcomeWindowController(), nullptr);
     EXPECT_TRUE(app->isSetupComplete());
     session.accessibility().setPermission(sim::Permission::switchedOff);
     EXPECT_FALSE(app->isSetupComplete());
     store("hasCompletedOnboarding", sim::PropertyList{false});
     EXPECT_FALSE(app->isSetupComplete());
     app->menuOpenSettings();
+}
+
+// Of its own accord; the updater's checks are its framework's.
+TEST_F(AppEvents, NothingHappensForADayOnceThePermissionIsThereAndNoWindowIsOpen) {
+    launchAndSettle();
+    EXPECT_EQ(session.timers().count(), 0U);
+    session.advance(24h);
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+    app->openSettingsWindow();
+    session.windows().closeByUser(session.windows().shown().at(0));
+    session.advance(0s);
+    session.journal().take();
+    session.advance(24h);
+    EXPECT_THAT(session.journal().take(), IsEmpty());
+}
+
+TEST_F(AppEvents, SettingsAreOneControllerForTheWholeProcess) {
+    launchAndSettle();
+    EXPECT_EQ(app->settingsWindowController(), nullptr);
+    app->openSettingsWindow();
+    const auto controller = app->settingsWindowController();
+    const auto window = session.windows().shown().at(0);
+    session.windows().closeByUser(window);
+    app->openSettingsWindow();
+    EXPECT_EQ(app->settingsWindowController(), controller);
+    EXPECT_EQ(session.windows().shown().at(0), window);
+    EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
 }
 
 class DelegateGone : public AppWithoutPermission {

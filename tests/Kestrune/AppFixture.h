@@ -6,8 +6,20 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace kestrune {
+
+// What the application has logged, but for the start of the updater.
+inline std::vector<std::string> messagesButTheUpdaters(const sim::Session& session) {
+    std::vector<std::string> messages;
+    for (const sim::LogRecord& record : session.logRecords()) {
+        if (record.category != "updater") {
+            messages.push_back(record.message);
+        }
+    }
+    return messages;
+}
 
 class AppFixture : public ::testing::Test {
 protected:

@@ -6,8 +6,10 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
+using ::testing::StartsWith;
 
 const Calls EntryPoint = {"NSApplication.sharedApplication",
                           "NSUserDefaults.standardUserDefaults",
@@ -18,6 +20,18 @@ const Calls EntryPoint = {"NSApplication.sharedApplication",
                           "-[KestruneApp applicationDidFinishLaunching:]"};
 
 const Calls SettingTheMainMenu = {"NSApp", "-[NSApplication setMainMenu:] 2 items"};
+
+const Calls StartingTheUpdater = {
+    "-[UpdaterManager init]",
+    "-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, UpdaterManager",
+    "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] main bundle, main bundle, "
+    "UpdaterManager",
+    "-[SPUUpdater startUpdater:]",
+    "-[SPUUpdater setAutomaticallyDownloadsUpdates:] false",
+    "-[NSBundle infoDictionary][SUFeedURL]",
+    "-[NSBundle bundleIdentifier]",
+    "os_log_create(org.kestrune.Kestrune, updater)",
+    "os_log_info(updater, Sparkle initialized — feed: NOT SET)"};
 
 const Calls ConfiguringTheStatusItem = {
     "NSStatusBar.systemStatusBar",
@@ -44,6 +58,7 @@ TEST_F(AppLaunch, WithThePermissionGoesInOrder) {
     const Calls rebuilding = rebuildOutline({.trusted = true, .items = 10});
     EXPECT_THAT(outlineOfCalls(), ElementsAreArray(inOrder({EntryPoint,
                                                             SettingTheMainMenu,
+                                                            StartingTheUpdater,
                                                             ConfiguringTheStatusItem,
                                                             rebuilding,
                                                             {ReadingTheSwitch, Trusted, ReadingThePin},
@@ -63,6 +78,7 @@ TEST_F(AppLaunchWithoutPermission, GoesInOrder) {
     EXPECT_THAT(outlineOfCalls(), ElementsAreArray(inOrder(
                                       {EntryPoint,
                                        SettingTheMainMenu,
+                                       StartingTheUpdater,
                                        ConfiguringTheStatusItem,
                                        rebuilding,
                                        {ReadingTheSwitch, NotTrusted},
@@ -76,7 +92,7 @@ TEST_F(AppLaunchWithoutPermission, GoesInOrder) {
     EXPECT_TRUE(app->isWatchingAccessibility());
     EXPECT_EQ(session.timers().count(), 1U);
     EXPECT_TRUE(session.accessibility().isListed());
-    EXPECT_THAT(session.logRecords(), IsEmpty());
+    EXPECT_THAT(messagesButTheUpdaters(session), IsEmpty());
 }
 
 TEST_F(AppLaunch, OfAGuardThatIsSwitchedOffGoesInOrder) {
@@ -88,6 +104,7 @@ TEST_F(AppLaunch, OfAGuardThatIsSwitchedOffGoesInOrder) {
                               readingTheValue, "-[NSStatusItem setMenu:] 10 items"};
     EXPECT_THAT(outlineOfCalls(), ElementsAreArray(inOrder({EntryPoint,
                                                             SettingTheMainMenu,
+                                                            StartingTheUpdater,
                                                             ConfiguringTheStatusItem,
                                                             rebuilding,
                                                             {ReadingTheSwitch, readingTheValue},
@@ -137,9 +154,9 @@ TEST_F(AppLaunch, MarksAUserWithThePermissionAsOnboardedAfterTheLaunch) {
                     "NSBundle.mainBundle", "-[NSBundle bundleIdentifier]",
                     "os_log_create(org.kestrune.Kestrune, app)",
                     "os_log_debug(app, scheduleWelcomeDecision: skipping wizard, already onboarded)"));
-    ASSERT_THAT(session.logRecords(), SizeIs(1));
-    EXPECT_EQ(session.logRecords()[0].level, sim::LogLevel::debug);
-    EXPECT_EQ(session.logRecords()[0].subsystem, "org.kestrune.Kestrune");
+    ASSERT_THAT(messagesButTheUpdaters(session), SizeIs(1));
+    EXPECT_EQ(session.logRecords().back().level, sim::LogLevel::debug);
+    EXPECT_EQ(session.logRecords().back().subsystem, "org.kestrune.Kestrune");
 }
 
 TEST_F(AppLaunch, NeverReadsWhetherTheWizardWasFinishedBeforeItDecides) {
@@ -159,7 +176,7 @@ TEST_F(AppLaunchWithoutPermission, LeadsToTheWizardWithoutAWord) {
     EXPECT_EQ(session.journal().take().front(), NotTrusted);
     ASSERT_NE(app->welcomeWindowController(), nullptr);
     EXPECT_EQ(session.windows().shown().size(), 1U);
-    EXPECT_THAT(session.logRecords(), IsEmpty());
+    EXPECT_THAT(messagesButTheUpdaters(session), IsEmpty());
 }
 
 TEST_F(AppLaunchWithoutPermission, ThrowsTheProbesTapAwayWhenThereIsOne) {
@@ -190,9 +207,8 @@ TEST_F(AppLaunch, LogsAFailedStartOnceAndGoesOn) {
     session.refuseTapCreation(true);
     launchAndSettle();
     EXPECT_FALSE(guard->isRunning());
-    ASSERT_THAT(session.logRecords(), SizeIs(2));
-    EXPECT_EQ(session.logRecords()[0].category, "dockGuard");
-    EXPECT_EQ(session.logRecords()[1].category, "app");
+    EXPECT_THAT(messagesButTheUpdaters(session),
+                ElementsAre(HasSubstr("tap"), StartsWith("scheduleWelcomeDecision")));
     session.refuseTapCreation(false);
     openedMenu(session);
     EXPECT_TRUE(guard->isRunning());

@@ -135,7 +135,8 @@ TEST_F(ApplicationCallsTest, AreJournaledForTheMainThread) {
                     Timer timer = Timer::scheduledTimer(1.5, true, [](Timer& /*timer*/) {});
                     timer.invalidate();
                     NotificationCenter::defaultCenter().addObserver(
-                        ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(), [] {});
+                        ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(),
+                        [](const Notification&) {});
                     MainActor::startTask([] {});
                     MainActor::isCurrent();
                 }),

@@ -235,6 +235,18 @@ TEST_F(MenuTrackingTest, ChoosesNothingByAKeyWithoutCharacter) {
     EXPECT_EQ(actions(), 0U);
 }
 
+TEST_F(MenuTrackingTest, LeavesTimersWaitingBehindAnAlertWhenAKeyIsPressed) {
+    showMainMenu();
+    bool hasFired = false;
+    const Timer timer = Timer::scheduledTimer(1, false, [&](Timer& /*timer*/) { hasFired = true; });
+    session_.beginModalAlert();
+    session_.advance(1s);
+    EXPECT_TRUE(menus_.press("h", EventModifierFlags::command));
+    EXPECT_FALSE(hasFired);
+    session_.endModalAlert();
+    EXPECT_TRUE(hasFired);
+}
+
 TEST_F(MenuTrackingTest, HoldsTimersBackUntilTheActionIsDone) {
     statusItem_.setMenu(statusMenu());
     std::vector<std::string> order;

@@ -29,7 +29,7 @@ struct Leftovers {
           timer(Timer::scheduledTimer(1, true, [&calls](Timer& /*timer*/) { calls.emplace_back("timer"); })),
           observer(NotificationCenter::defaultCenter().addObserver(
               ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(),
-              [&calls] { calls.emplace_back("observer"); })),
+              [&calls](const Notification&) { calls.emplace_back("observer"); })),
           statusItem(StatusBar::systemStatusBar().statusItem(VariableStatusItemLength)),
           delegate(std::make_shared<contract::RecordingApplicationDelegate>()),
           menuDelegate(std::make_shared<contract::RecordingMenuDelegate>()) {

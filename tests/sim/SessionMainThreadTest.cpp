@@ -19,7 +19,7 @@ protected:
     void observeDisplays(std::string mark) {
         NotificationCenter::defaultCenter().addObserver(
             ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(),
-            [this, observer = std::move(mark)] { calls_.push_back(observer); });
+            [this, observer = std::move(mark)](const Notification&) { calls_.push_back(observer); });
     }
 
     Session session_;

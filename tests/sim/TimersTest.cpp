@@ -106,6 +106,17 @@ TEST_F(TimersTest, AreKeptBackAgainWhenOneOfThemLeavesTheDefaultMode) {
     EXPECT_THAT(firings_, ElementsAre(1s));
 }
 
+TEST_F(TimersTest, WaitUntilAMenuAndTheAlertBehindItAreClosed) {
+    schedule(1, false);
+    timers_.leaveDefaultMode();
+    timers_.leaveDefaultMode();
+    session_.advance(1s);
+    timers_.enterDefaultMode();
+    EXPECT_THAT(firings_, IsEmpty());
+    timers_.enterDefaultMode();
+    EXPECT_THAT(firings_, ElementsAre(1s));
+}
+
 TEST_F(TimersTest, FireNoMoreOnceTheyAreCleared) {
     Timer kept = schedule(1, true);
     schedule(1, true);

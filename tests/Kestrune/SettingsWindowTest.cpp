@@ -1,0 +1,271 @@
+// The Settings window: its procedures, call by call, and what its user sees and does.
+#include "Kestrune/BugReport.h"
+#include "Kestrune/SettingsWindowController.h"
+#include "Kestrune/UpdaterManager.h"
+#include "sim/WindowState.h"
+#include "tests/Kestrune/SettingsFixture.h"
+#include "tests/Kestrune/WelcomeFixture.h"
+
+namespace kestrune {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using namespace std::chrono_literals;
+
+const Calls BringingForward = {"-[NSWindow makeKeyAndOrderFront:]", "NSApp",
+                               "-[NSApplication activateIgnoringOtherApps:] true"};
+
+class SettingsWindow : public SettingsFixture {
+protected:
+    explicit SettingsWindow(sim::UpdateFramework framework = sim::UpdateFramework::working)
+        : SettingsFixture(bundleOfVersion("2.1", "57"), framework) {}
+
+    // As after the launch.
+    void make() {
+        manager = UpdaterManager::shared();
+        controller = SettingsWindowController::make();
+    }
+
+    void makeAndShow() {
+        make();
+        controller->show();
+        settle();
+        calls();
+    }
+
+    bool press(std::string_view title) {
+        const bool isPressed = pressButton(session, title);
+        settle();
+        return isPressed;
+    }
+
+    const ui::Scene& scene() { return sim::Windows::sceneOf(*onlyWindow(session)); }
+    std::size_t observers() { return session.observers().count(WindowDidBecomeKeyNotification); }
+
+    void flipSwitch() {
+        const auto window = onlyWindow(session);
+        session.windows().flipSwitch(window, ui::placesOf<ui::ToggleElement>(scene()).at(0));
+        settle();
+    }
+
+    bool isSwitchOn() { return ui::elementsOf<ui::ToggleElement>(scene()).at(0).isOn; }
+
+    std::shared_ptr<UpdaterManager> manager;
+    std::shared_ptr<SettingsWindowController> controller;
+};
+
+class SettingsWindowWithoutUpdater : public SettingsWindow {
+protected:
+    SettingsWindowWithoutUpdater() : SettingsWindow(sim::UpdateFramework::missing) {}
+};
+
+TEST_F(SettingsWindow, IsMadeInOrder) {
+    controller = SettingsWindowController::make();
+    EXPECT_THAT(
+        calls(),
+        ElementsAreArray(inOrder(
+            {ReadingTheLoginItem,
+             {"-[NSWindow initWithContentRect:styleMask:backing:defer:] (0, 0) 420 x 360, 7, 2, false"},
+             localizing("Kestrune Settings"),
+             {"-[NSWindow setTitle:] Kestrune Settings", "-[NSWindow setReleasedWhenClosed:] false",
+              "-[NSWindow center]", "-[SettingsWindowController initWithWindow:]",
+              "-[NSHostingView initWithRootView:]"},
+             ReadingTheVersion,
+             {"NSBundle.mainBundle", "-[NSBundle infoDictionary][NSHumanReadableCopyright]",
+              "-[NSWindow setContentView:]", "-[NSWindow setDelegate:] SettingsWindowController"}})));
+    EXPECT_THAT(session.windows().shown(), IsEmpty());
+    EXPECT_THAT(controller->actionMethods(), IsEmpty());
+}
+
+TEST_F(SettingsWindow, BeginsWithTheSwitchAsTheSystemHasIt) {
+    for (const auto status : {AppServiceStatus::enabled, AppServiceStatus::requiresApproval,
+                              AppServiceStatus::notFound, AppServiceStatus::notRegistered}) {
+        session.loginItem().setStatus(status);
+        EXPECT_EQ(SettingsWindowController::make()->model()->launchAtLogin,
+                  status == AppServiceStatus::enabled);
+    }
+}
+
+TEST_F(SettingsWindow, IsShownInOrder) {
+    make();
+    calls();
+    controller->show();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({ReadingTheLoginItem, ReadingTheLoginItem,
+                                                   settingThePolicy("Regular"), BringingForward})));
+}
+
+TEST_F(SettingsWindow, TakesTheSizeOfItsForm) {
+    makeAndShow();
+    const auto window = onlyWindow(session);
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->contentRect().width(), 440);
+    EXPECT_EQ(window->contentRect().height(), scene().size.height);
+    EXPECT_FALSE(window->has(WindowStyleMask::resizable));
+    EXPECT_TRUE(window->has(WindowStyleMask::miniaturizable));
+    EXPECT_EQ(window->title, "Kestrune Settings");
+    EXPECT_EQ(window->level, WindowLevel::normal);
+}
+
+TEST_F(SettingsWindow, IsOneWindowHoweverOftenItIsShown) {
+    makeAndShow();
+    const auto window = onlyWindow(session);
+    const auto model = controller->model();
+    session.loginItem().setStatus(AppServiceStatus::enabled);
+    controller->show();
+    settle();
+    EXPECT_EQ(onlyWindow(session), window);
+    EXPECT_EQ(controller->model(), model);
+    EXPECT_TRUE(isSwitchOn());
+    session.windows().closeByUser(window);
+    session.loginItem().setStatus(AppServiceStatus::requiresApproval);
+    controller->show();
+    settle();
+    EXPECT_EQ(onlyWindow(session), window);
+    EXPECT_FALSE(isSwitchOn());
+}
+
+TEST_F(SettingsWindow, MakesTheApplicationAnAccessoryWhenItCloses) {
+    session.application().policy = ActivationPolicy::regular;
+    makeAndShow();
+    session.windows().closeByUser(onlyWindow(session));
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({{"-[SettingsWindowController windowWillClose:]"},
+                                                   settingThePolicy("Accessory")})));
+    EXPECT_THAT(session.windows().shown(), IsEmpty());
+}
+
+TEST_F(SettingsWindow, RegistersAndUnregistersWithItsSwitch) {
+    makeAndShow();
+    flipSwitch();
+    EXPECT_EQ(session.loginItem().status(), AppServiceStatus::enabled);
+    EXPECT_TRUE(isSwitchOn());
+    flipSwitch();
+    EXPECT_EQ(session.loginItem().status(), AppServiceStatus::notRegistered);
+    EXPECT_FALSE(isSwitchOn());
+    EXPECT_THAT(session.logRecords(), SizeIs(1)); // of the updater
+}
+
+TEST_F(SettingsWindow, LeavesTheSwitchWhereTheUserPutItUntilItIsShownAgain) {
+    makeAndShow();
+    session.loginItem().refuse("Operation not permitted");
+    flipSwitch();
+    EXPECT_TRUE(isSwitchOn());
+    EXPECT_EQ(session.loginItem().status(), AppServiceStatus::notRegistered);
+    EXPECT_EQ(session.logRecords().back().message, "LoginItem toggle failed: Operation not permitted");
+    const std::size_t logged = session.logRecords().size();
+    controller->show();
+    settle();
+    EXPECT_FALSE(isSwitchOn());
+    EXPECT_EQ(session.logRecords().size(), logged);
+}
+
+TEST_F(SettingsWindow, ChecksForUpdatesInOrder) {
+    makeAndShow();
+    controller->model()->checkForUpdates();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder(
+                             {{"NSNotificationCenter.defaultCenter", "NSOperationQueue.mainQueue",
+                               "-[NSNotificationCenter addObserverForName:object:queue:usingBlock:] "
+                               "NSWindowDidBecomeKeyNotification, nil, main queue"},
+                              ActivatingTheApplication,
+                              {"-[SPUUpdater checkForUpdates]", "-[NSNotification object]",
+                               "object_getClassName", "-[NSWindow title]", "Task on the main actor"}})));
+    settle();
+    EXPECT_THAT(calls(), ElementsAre("Task.sleep(for: 300 ms, clock: .continuous)"));
+    session.updates().dismiss();
+    settle();
+    calls();
+    session.advance(299ms);
+    EXPECT_THAT(calls(), IsEmpty());
+    session.advance(1ms);
+    Calls raising = {"NSApp", "-[NSApplication windows]", "object_getClassName",
+                     "-[NSApplication activateIgnoringOtherApps:] true"};
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({ActivatingTheApplication, raising})));
+}
+
+TEST_F(SettingsWindow, ActivatesTheApplicationAlsoWhenTheManagerIsGoneMeanwhile) {
+    makeAndShow();
+    controller->model()->checkForUpdates();
+    session.updates().dismiss();
+    settle();
+    manager.reset();
+    session.processObjects().clear();
+    calls();
+    session.advance(300ms);
+    EXPECT_THAT(calls(), ElementsAreArray(ActivatingTheApplication));
+}
+
+TEST_F(SettingsWindow, SaysThatThereIsNoUpdateAndGoesOn) {
+    makeAndShow();
+    EXPECT_TRUE(press("Check for Updates…"));
+    session.advance(1s);
+    ASSERT_TRUE(session.updates().isShowingAlert());
+    session.updates().dismiss();
+    session.advance(1s);
+    EXPECT_EQ(observers(), 0U);
+    EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
+    EXPECT_THAT(session.windows().shown(), SizeIs(1));
+}
+
+TEST_F(SettingsWindow, KeepsItsDockIconWhenAnUpdateIsPutAway) {
+    session.updates().setFeed(sim::UpdateFeed::newVersion);
+    makeAndShow();
+    EXPECT_TRUE(press("Check for Updates…"));
+    session.advance(1s);
+    ASSERT_TRUE(session.updates().isShowingUpdate());
+    EXPECT_EQ(session.windows().shown().front()->title, "Software Update");
+    EXPECT_EQ(session.windows().shown().front()->level, WindowLevel::floating);
+    session.updates().dismiss();
+    session.advance(1s);
+    EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
+    session.windows().closeByUser(onlyWindow(session));
+    EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
+}
+
+TEST_F(SettingsWindowWithoutUpdater, ChangesNothingWhenItShouldCheckForUpdates) {
+    makeAndShow();
+    EXPECT_TRUE(press("Check for Updates…"));
+    session.advance(1s);
+    EXPECT_THAT(calls(), IsEmpty());
+    EXPECT_EQ(observers(), 0U);
+    EXPECT_THAT(session.windows().shown(), SizeIs(1));
+}
+
+TEST_F(SettingsWindow, OpensTheMailOfABugReport) {
+    makeAndShow();
+    EXPECT_TRUE(press("Report a Bug…"));
+    ASSERT_THAT(session.openedURLs(), SizeIs(1));
+    EXPECT_EQ(session.openedURLs().front(), makeBugReportURL().absoluteString());
+}
+
+TEST_F(SettingsWindow, ReportsABugInOrder) {
+    makeAndShow();
+    controller->model()->reportBug();
+    const Calls reported = calls();
+    EXPECT_EQ(reported.at(0), "NSWorkspace.sharedWorkspace");
+    EXPECT_EQ(reported.at(1), "-[NSURLComponents init]");
+    EXPECT_TRUE(reported.back().starts_with("-[NSWorkspace openURL:] mailto:"));
+}
+
+TEST_F(SettingsWindow, DoesNothingOnceTheControllerIsGone) {
+    make();
+    const auto model = controller->model();
+    controller.reset();
+    calls();
+    model->reportBug();
+    model->checkForUpdates();
+    EXPECT_THAT(calls(), IsEmpty());
+    EXPECT_THAT(session.openedURLs(), IsEmpty());
+}
+
+using SettingsWindowDeathTest = SettingsWindow;
+
+TEST_F(SettingsWindowDeathTest, CanOnlyBeMadeByItself) {
+    make();
+    EXPECT_DEATH(session.windows().refuseConstruction("SettingsWindowController"),
+                 "Kestrune/SettingsWindowController: Fatal error: init\\(coder:\\) is not supported");
+}
+
+} // namespace
+} // namespace kestrune

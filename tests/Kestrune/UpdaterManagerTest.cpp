@@ -1,0 +1,350 @@
+#include "Kestrune/UpdaterManager.h"
+
+#include "sim/WindowState.h"
+#include "tests/Kestrune/SettingsFixture.h"
+
+namespace kestrune {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using namespace std::chrono_literals;
+
+const Calls MakingTheUpdater = {
+    "-[UpdaterManager init]", "NSBundle.mainBundle",
+    "-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, UpdaterManager",
+    "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] main bundle, main bundle, "
+    "UpdaterManager",
+    "-[SPUUpdater startUpdater:]"};
+
+const Calls ConfiguringTheUpdater = {"-[SPUUpdater setAutomaticallyDownloadsUpdates:] false",
+                                     "-[NSBundle infoDictionary][SUFeedURL]"};
+
+const Calls AddingTheObserver = {"NSNotificationCenter.defaultCenter", "NSOperationQueue.mainQueue",
+                                 "-[NSNotificationCenter addObserverForName:object:queue:usingBlock:] "
+                                 "NSWindowDidBecomeKeyNotification, nil, main queue"};
+
+const Calls RemovingTheObserver = {"NSNotificationCenter.defaultCenter",
+                                   "-[NSNotificationCenter removeObserver:]"};
+
+const Calls RaisingNoWindow =
+    inOrder({{"NSApp", "-[NSApplication windows]"}, {"-[NSApplication activateIgnoringOtherApps:] true"}});
+
+class Updates : public SettingsFixture {
+protected:
+    explicit Updates(sim::BundleContents bundle = bundleOfVersion("2.1", "57"),
+                     sim::UpdateFramework framework = sim::UpdateFramework::working)
+        : SettingsFixture(std::move(bundle), framework) {}
+
+    void start() {
+        manager = UpdaterManager::shared();
+        session.journal().take();
+    }
+
+    void setPolicy(ActivationPolicy policy) { session.application().policy = policy; }
+    ActivationPolicy policy() { return session.application().policy; }
+    std::size_t observers() { return session.observers().count(WindowDidBecomeKeyNotification); }
+
+    // A window of any class and title, which is on screen from then on.
+    std::shared_ptr<Window::State> showWindow(std::string_view className, std::string_view title) {
+        Window window({0, 0, 200, 100}, WindowStyleMask::titled, BackingStoreType::buffered, false);
+        window.state()->className = className;
+        window.state()->title = title;
+        window.state()->hidesOnDeactivate = true;
+        window.makeKeyAndOrderFront();
+        windows.push_back(window);
+        session.journal().take();
+        return window.state();
+    }
+
+    static bool floats(const Window::State& window) {
+        return window.level == WindowLevel::floating && !window.hidesOnDeactivate;
+    }
+
+    std::shared_ptr<UpdaterManager> manager;
+    std::vector<Window> windows;
+};
+
+class UpdatesWithoutFeed : public Updates {
+protected:
+    UpdatesWithoutFeed() : Updates(sim::BundleContents()) {}
+};
+
+class UpdatesWithANumberForAFeed : public Updates {
+protected:
+    UpdatesWithANumberForAFeed() : Updates({.infoDictionary = {{"SUFeedURL", {std::int64_t{5}}}}}) {}
+};
+
+class UpdatesWithoutFramework : public Updates {
+protected:
+    UpdatesWithoutFramework() : Updates(bundleOfVersion("2.1", "57"), sim::UpdateFramework::missing) {}
+};
+
+class UpdatesThatDoNotStart : public Updates {
+protected:
+    UpdatesThatDoNotStart() : Updates(bundleOfVersion("2.1", "57"), sim::UpdateFramework::broken) {}
+};
+
+TEST_F(Updates, AreStartedInOrder) {
+    UpdaterManager::shared();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({MakingTheUpdater,
+                                                   ConfiguringTheUpdater,
+                                                   openingLog("updater"),
+                                                   {"os_log_info(updater, Sparkle initialized — feed: "
+                                                    "https://kestrune.org/appcast.xml)"}})));
+    ASSERT_THAT(session.logRecords(), SizeIs(1));
+    EXPECT_EQ(session.logRecords()[0].level, sim::LogLevel::info);
+    EXPECT_EQ(session.logRecords()[0].subsystem, "org.kestrune.Kestrune");
+    EXPECT_TRUE(UpdaterManager::shared()->updater());
+}
+
+TEST_F(Updates, AreStartedOnce) {
+    start();
+    EXPECT_EQ(UpdaterManager::shared(), manager);
+    EXPECT_THAT(calls(), IsEmpty());
+}
+
+TEST_F(Updates, AreNotDownloadedOfThemselves) {
+    start();
+    EXPECT_FALSE(session.defaults().find("SUAutomaticallyUpdate")->asBool());
+}
+
+TEST_F(UpdatesWithoutFeed, SayThatTheirFeedIsNotSet) {
+    start();
+    EXPECT_EQ(session.logRecords().at(0).message, "Sparkle initialized — feed: NOT SET");
+    EXPECT_TRUE(manager->updater());
+}
+
+TEST_F(UpdatesWithANumberForAFeed, SayThatTheirFeedIsNotSet) {
+    start();
+    EXPECT_EQ(session.logRecords().at(0).message, "Sparkle initialized — feed: NOT SET");
+}
+
+TEST_F(UpdatesThatDoNotStart, AreLoggedAndGivenUp) {
+    UpdaterManager::shared();
+    EXPECT_THAT(calls(),
+                ElementsAreArray(
+                    inOrder({MakingTheUpdater,
+                             openingLog("updater"),
+                             {"os_log_error(updater, Sparkle init failed: The updater failed to start.)"}})));
+    EXPECT_EQ(session.logRecords().at(0).level, sim::LogLevel::error);
+    start();
+    EXPECT_FALSE(manager->updater());
+    EXPECT_EQ(session.defaults().find("SUAutomaticallyUpdate"), nullptr);
+    EXPECT_THAT(session.logRecords(), SizeIs(1));
+}
+
+TEST_F(UpdatesWithoutFramework, SayWhatIsMissing) {
+    start();
+    EXPECT_FALSE(manager->updater());
+    EXPECT_EQ(session.logRecords().at(0).message,
+              "Sparkle init failed: " + std::string(MissingUpdateFramework));
+}
+
+TEST_F(Updates, LeaveTheShowingToTheFramework) {
+    start();
+    EXPECT_FALSE(manager->supportsGentleScheduledUpdateReminders());
+    EXPECT_THAT(manager->actionMethods(), IsEmpty());
+    EXPECT_THAT(calls(), IsEmpty());
+}
+
+TEST_F(Updates, BeginTheirSessionInOrderAndLater) {
+    start();
+    manager->standardUserDriverWillHandleShowingUpdate();
+    EXPECT_THAT(calls(), ElementsAre("Task on the main actor"));
+    settle();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder(
+                             {AddingTheObserver,
+                              {"NSApp", "-[NSApplication activationPolicy]",
+                               "-[NSApplication setActivationPolicy:] NSApplicationActivationPolicyRegular",
+                               "-[NSApplication activateIgnoringOtherApps:] true"}})));
+}
+
+TEST_F(Updates, EndTheirSessionInOrderAndLater) {
+    setPolicy(ActivationPolicy::accessory);
+    start();
+    manager->standardUserDriverWillHandleShowingUpdate();
+    settle();
+    calls();
+    manager->standardUserDriverWillFinishUpdateSession();
+    EXPECT_THAT(calls(), ElementsAre("Task on the main actor"));
+    settle();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({RemovingTheObserver, settingThePolicy("Accessory")})));
+    EXPECT_EQ(observers(), 0U);
+}
+
+TEST_F(Updates, PutBackThePolicyThatTheFirstAnnouncementFound) {
+    setPolicy(ActivationPolicy::accessory);
+    start();
+    manager->standardUserDriverWillHandleShowingUpdate();
+    settle();
+    EXPECT_EQ(policy(), ActivationPolicy::regular);
+    manager->standardUserDriverWillHandleShowingUpdate();
+    settle();
+    EXPECT_EQ(policy(), ActivationPolicy::regular);
+    EXPECT_EQ(observers(), 1U);
+    manager->standardUserDriverWillFinishUpdateSession();
+    settle();
+    EXPECT_EQ(policy(), ActivationPolicy::accessory);
+}
+
+TEST_F(Updates, ForgetThePolicyWithTheirSession) {
+    setPolicy(ActivationPolicy::accessory);
+    start();
+    manager->standardUserDriverWillHandleShowingUpdate();
+    manager->standardUserDriverWillFinishUpdateSession();
+    settle();
+    setPolicy(ActivationPolicy::regular);
+    manager->standardUserDriverWillHandleShowingUpdate();
+    manager->standardUserDriverWillFinishUpdateSession();
+    settle();
+    EXPECT_EQ(policy(), ActivationPolicy::regular);
+}
+
+TEST_F(Updates, ThatWereNeverAnnouncedLeaveThePolicyAlone) {
+    setPolicy(ActivationPolicy::accessory);
+    start();
+    manager->startWindowObserver();
+    calls();
+    manager->standardUserDriverWillFinishUpdateSession();
+    settle();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({{"Task on the main actor"}, RemovingTheObserver})));
+    EXPECT_EQ(observers(), 0U);
+    manager->standardUserDriverWillFinishUpdateSession();
+    settle();
+    EXPECT_THAT(calls(), ElementsAre("Task on the main actor"));
+}
+
+TEST_F(Updates, RaiseTheirWindowsAroundAnAlert) {
+    start();
+    manager->standardUserDriverWillShowModalAlert();
+    EXPECT_THAT(calls(), ElementsAre("Task on the main actor"));
+    settle();
+    EXPECT_THAT(calls(), ElementsAreArray(RaisingNoWindow));
+    manager->standardUserDriverDidShowModalAlert();
+    settle();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({{"Task on the main actor"}, RaisingNoWindow})));
+}
+
+TEST_F(Updates, ObserveWindowsOnce) {
+    start();
+    manager->startWindowObserver();
+    EXPECT_THAT(calls(), ElementsAreArray(AddingTheObserver));
+    manager->startWindowObserver();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({RemovingTheObserver, AddingTheObserver})));
+    EXPECT_EQ(observers(), 1U);
+    manager->stopWindowObserver();
+    EXPECT_THAT(calls(), ElementsAreArray(RemovingTheObserver));
+    manager->stopWindowObserver();
+    EXPECT_THAT(calls(), IsEmpty());
+    EXPECT_EQ(observers(), 0U);
+}
+
+struct WindowExample {
+    std::string name;
+    std::string className;
+    std::string title;
+    bool floatsAsKey;
+    bool isRaised;
+};
+
+const WindowExample WindowExamples[] = {
+    {"ClassOfTheFramework", "SPUUpdateWindow", "", true, true},
+    {"ClassWithTheNameOfTheFramework", "MySparkleAlert", "", true, true},
+    {"TitleOfTheAlert", "NSWindow", "Software Update", true, false},
+    {"UpdateInTheTitle", "NSWindow", "My Updates of 2026", true, false},
+    {"TitleOfTheStatusWindow", "NSWindow", "Updating Kestrune", false, false},
+    {"OtherCase", "NSsparkleWindow", "software update", false, false},
+    {"LowerCaseClass", "spuWindow", "", false, false},
+    {"Settings", "NSWindow", "Kestrune Settings", false, false},
+    {"Nothing", "NSWindow", "", false, false},
+};
+
+class UpdatesWindow : public Updates, public ::testing::WithParamInterface<WindowExample> {};
+
+TEST_P(UpdatesWindow, FloatsOnceItIsKeyWhileItIsObserved) {
+    start();
+    session.windows().setActive(true);
+    manager->startWindowObserver();
+    calls();
+    const auto window = showWindow(GetParam().className, GetParam().title);
+    EXPECT_EQ(floats(*window), GetParam().floatsAsKey);
+    EXPECT_TRUE(window->level == WindowLevel::normal || GetParam().floatsAsKey);
+}
+
+TEST_P(UpdatesWindow, StaysWhereItIsWhileNobodyObservesIt) {
+    start();
+    session.windows().setActive(true);
+    manager->startWindowObserver();
+    manager->stopWindowObserver();
+    EXPECT_FALSE(floats(*showWindow(GetParam().className, GetParam().title)));
+}
+
+TEST_P(UpdatesWindow, IsRaisedByItsClassAlone) {
+    start();
+    const auto window = showWindow(GetParam().className, GetParam().title);
+    manager->raiseUpdaterWindows();
+    EXPECT_EQ(floats(*window), GetParam().isRaised);
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, UpdatesWindow, ::testing::ValuesIn(WindowExamples),
+                         [](const auto& example) { return example.param.name; });
+
+TEST_F(Updates, DoNotActivateTheApplicationWhenAWindowBecomesKey) {
+    start();
+    session.windows().setActive(true);
+    manager->startWindowObserver();
+    windows.clear();
+    Window window({0, 0, 200, 100}, WindowStyleMask::titled, BackingStoreType::buffered, false);
+    window.state()->title = "Software Update";
+    calls();
+    window.makeKeyAndOrderFront();
+    EXPECT_THAT(calls(), ElementsAre("-[NSWindow makeKeyAndOrderFront:]", "-[NSNotification object]",
+                                     "object_getClassName", "-[NSWindow title]",
+                                     "-[NSWindow setLevel:] NSFloatingWindowLevel",
+                                     "-[NSWindow setHidesOnDeactivate:] false"));
+}
+
+TEST_F(Updates, DoNotLookAtAnObjectThatIsNoWindow) {
+    start();
+    manager->startWindowObserver();
+    calls();
+    session.observers().post(WindowDidBecomeKeyNotification);
+    EXPECT_THAT(calls(), ElementsAre("-[NSNotification object]"));
+}
+
+TEST_F(Updates, RaiseEveryWindowOfTheirsAndThenActivate) {
+    start();
+    showWindow("SPUFirst", "");
+    showWindow("NSWindow", "Software Update");
+    showWindow("SparkleSecond", "");
+    manager->raiseUpdaterWindows();
+    const Calls floating = {"-[NSWindow setLevel:] NSFloatingWindowLevel",
+                            "-[NSWindow setHidesOnDeactivate:] false"};
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({{"NSApp", "-[NSApplication windows]"},
+                                                   {"object_getClassName"},
+                                                   floating,
+                                                   {"object_getClassName", "object_getClassName"},
+                                                   floating,
+                                                   {"-[NSApplication activateIgnoringOtherApps:] true"}})));
+}
+
+TEST_F(Updates, DoNothingAnyMoreOnceTheManagerIsGone) {
+    start();
+    manager->standardUserDriverWillHandleShowingUpdate();
+    manager->standardUserDriverWillShowModalAlert();
+    manager->standardUserDriverDidShowModalAlert();
+    manager->standardUserDriverWillFinishUpdateSession();
+    const std::weak_ptr<UpdaterManager> weakManager = manager;
+    manager.reset();
+    session.processObjects().clear();
+    ASSERT_TRUE(weakManager.expired());
+    calls();
+    settle();
+    EXPECT_THAT(calls(), IsEmpty());
+}
+
+} // namespace
+} // namespace kestrune

@@ -1,0 +1,42 @@
+#include "sim/LoginItem.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrune::sim {
+namespace {
+
+TEST(LoginItem, IsRegisteredAndUnregistered) {
+    LoginItem item;
+    EXPECT_EQ(item.status(), AppServiceStatus::notRegistered);
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_EQ(item.status(), AppServiceStatus::enabled);
+    EXPECT_FALSE(item.unregisterItem());
+    EXPECT_EQ(item.status(), AppServiceStatus::notRegistered);
+}
+
+TEST(LoginItem, MayWaitForApproval) {
+    LoginItem item;
+    item.requireApproval(true);
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_EQ(item.status(), AppServiceStatus::requiresApproval);
+    item.setStatus(AppServiceStatus::enabled);
+    item.requireApproval(false);
+    EXPECT_FALSE(item.unregisterItem());
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_EQ(item.status(), AppServiceStatus::enabled);
+}
+
+TEST(LoginItem, StaysAsItIsWhenTheSystemRefuses) {
+    LoginItem item;
+    item.refuse("No");
+    EXPECT_EQ(item.registerItem()->localizedDescription, "No");
+    EXPECT_EQ(item.status(), AppServiceStatus::notRegistered);
+    item.setStatus(AppServiceStatus::enabled);
+    EXPECT_EQ(item.unregisterItem()->localizedDescription, "No");
+    EXPECT_EQ(item.status(), AppServiceStatus::enabled);
+    item.refuse(std::nullopt);
+    EXPECT_FALSE(item.unregisterItem());
+}
+
+} // namespace
+} // namespace kestrune::sim

@@ -1,0 +1,234 @@
+#include "sim/Updates.h"
+
+#include "platform/Application.h"
+#include "platform/NotificationCenter.h"
+#include "sim/Session.h"
+#include "sim/WindowState.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kestrune::sim {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+// Notes what the framework tells it.
+class RecordingDelegate : public StandardUserDriverDelegate {
+public:
+    RecordingDelegate() { init(); }
+
+    bool supportsGentleScheduledUpdateReminders() const noexcept override { return false; }
+    void standardUserDriverWillHandleShowingUpdate() noexcept override { told.emplace_back("update"); }
+    void standardUserDriverWillFinishUpdateSession() noexcept override { told.emplace_back("finish"); }
+    void standardUserDriverWillShowModalAlert() noexcept override { told.emplace_back("will alert"); }
+    void standardUserDriverDidShowModalAlert() noexcept override { told.emplace_back("did alert"); }
+
+    std::string_view className() const override { return "RecordingDelegate"; }
+    std::span<const ActionMethod> actionMethods() const override { return {}; }
+
+    std::vector<std::string> told;
+};
+
+class UpdatesTest : public testing::Test {
+protected:
+    explicit UpdatesTest(UpdateFramework framework = UpdateFramework::working, bool hasFeed = true)
+        : session_(options(framework, hasFeed)) {
+        Application::sharedApplication();
+        session_.application().isActive = true;
+    }
+
+    void start() { EXPECT_FALSE(updates().start(delegate_)); }
+    Updates& updates() { return session_.updates(); }
+
+    std::vector<std::string> titles() {
+        std::vector<std::string> result;
+        for (const auto& window : session_.windows().shown()) {
+            result.push_back(window->title);
+        }
+        return result;
+    }
+
+    static SessionOptions options(UpdateFramework framework, bool hasFeed) {
+        SessionOptions options;
+        options.updateFramework = framework;
+        if (hasFeed) {
+            options.bundle.infoDictionary["SUFeedURL"] = {std::string("https://kestrune.org/appcast.xml")};
+        }
+        return options;
+    }
+
+    Session session_;
+    std::shared_ptr<RecordingDelegate> delegate_ = std::make_shared<RecordingDelegate>();
+};
+
+class UpdatesTestWithoutFramework : public UpdatesTest {
+protected:
+    UpdatesTestWithoutFramework() : UpdatesTest(UpdateFramework::missing) {}
+};
+
+class UpdatesTestOfABrokenFramework : public UpdatesTest {
+protected:
+    UpdatesTestOfABrokenFramework() : UpdatesTest(UpdateFramework::broken) {}
+};
+
+class UpdatesTestWithoutFeed : public UpdatesTest {
+protected:
+    UpdatesTestWithoutFeed() : UpdatesTest(UpdateFramework::working, false) {}
+};
+
+TEST_F(UpdatesTest, DoNothingBeforeTheyAreStarted) {
+    updates().checkForUser();
+    updates().checkAsScheduled();
+    updates().dismiss();
+    session_.advance(1s);
+    EXPECT_THAT(delegate_->told, IsEmpty());
+    EXPECT_THAT(titles(), IsEmpty());
+}
+
+TEST_F(UpdatesTestWithoutFramework, DoNotStart) {
+    EXPECT_EQ(updates().start(delegate_)->localizedDescription, MissingUpdateFramework);
+}
+
+TEST_F(UpdatesTestOfABrokenFramework, DoNotStart) {
+    EXPECT_EQ(updates().start(delegate_)->localizedDescription, Updates::StartFailure);
+}
+
+TEST_F(UpdatesTest, ShowAtOnceThatTheyCheckForTheUser) {
+    start();
+    updates().checkForUser();
+    EXPECT_THAT(titles(), ElementsAre("Updating Kestrune"));
+    EXPECT_THAT(delegate_->told, IsEmpty());
+    updates().checkForUser();
+    EXPECT_THAT(titles(), SizeIs(1));
+    updates().dismiss();
+    EXPECT_THAT(titles(), IsEmpty());
+    EXPECT_THAT(delegate_->told, ElementsAre("finish"));
+    session_.advance(1s);
+    EXPECT_THAT(titles(), IsEmpty());
+}
+
+TEST_F(UpdatesTest, SayToTheUserThatThereIsNothingNew) {
+    start();
+    updates().checkForUser();
+    session_.advance(Updates::CheckDuration);
+    EXPECT_TRUE(updates().isShowingAlert());
+    EXPECT_THAT(titles(), ElementsAre(""));
+    EXPECT_EQ(session_.windows().shown()[0]->className, "_NSAlertPanel");
+    EXPECT_THAT(delegate_->told, ElementsAre("will alert"));
+    updates().checkForUser();
+    EXPECT_THAT(titles(), SizeIs(1));
+    updates().dismiss();
+    EXPECT_THAT(delegate_->told, ElementsAre("will alert", "did alert", "finish"));
+    EXPECT_THAT(titles(), IsEmpty());
+    updates().dismiss();
+    EXPECT_THAT(delegate_->told, SizeIs(3));
+}
+
+TEST_F(UpdatesTest, SayNothingOfAScheduledCheckThatFindsNothing) {
+    for (const UpdateFeed feed : {UpdateFeed::nothingNew, UpdateFeed::unreachable}) {
+        updates().setFeed(feed);
+        start();
+        updates().checkAsScheduled();
+        EXPECT_THAT(titles(), IsEmpty());
+        session_.advance(1s);
+        EXPECT_THAT(titles(), IsEmpty());
+        EXPECT_THAT(delegate_->told, IsEmpty());
+    }
+}
+
+TEST_F(UpdatesTestWithoutFeed, AreUnreachable) {
+    updates().setFeed(UpdateFeed::newVersion);
+    start();
+    updates().checkForUser();
+    session_.advance(1s);
+    EXPECT_TRUE(updates().isShowingAlert());
+}
+
+TEST_F(UpdatesTest, AnnounceAndShowANewVersion) {
+    updates().setFeed(UpdateFeed::newVersion);
+    start();
+    updates().checkForUser();
+    session_.advance(1s);
+    EXPECT_TRUE(updates().isShowingUpdate());
+    EXPECT_THAT(titles(), ElementsAre("Software Update"));
+    EXPECT_EQ(session_.windows().shown()[0]->className, "NSWindow");
+    EXPECT_EQ(session_.windows().keyWindow(), session_.windows().shown()[0]);
+    EXPECT_THAT(delegate_->told, ElementsAre("update"));
+    updates().dismiss();
+    EXPECT_THAT(delegate_->told, ElementsAre("update", "finish"));
+    EXPECT_THAT(titles(), IsEmpty());
+}
+
+TEST_F(UpdatesTest, AnnounceAgainWhatTheUserAsksForWhileItIsShown) {
+    updates().setFeed(UpdateFeed::newVersion);
+    start();
+    updates().checkAsScheduled();
+    session_.advance(1s);
+    updates().checkAsScheduled();
+    EXPECT_THAT(delegate_->told, ElementsAre("update"));
+    updates().checkForUser();
+    EXPECT_THAT(delegate_->told, ElementsAre("update", "update"));
+    EXPECT_THAT(titles(), SizeIs(1));
+}
+
+TEST_F(UpdatesTest, MayHaveWindowsOfTheirOwnClasses) {
+    updates().setFeed(UpdateFeed::newVersion);
+    updates().setWindowClass("SPUUpdateWindow");
+    start();
+    updates().checkAsScheduled();
+    session_.advance(1s);
+    EXPECT_EQ(Application::sharedApplication().windows().at(0).className(), "SPUUpdateWindow");
+}
+
+TEST_F(UpdatesTest, KeepTheMainQueueAndTheTimersWhileTheirAlertIsModal) {
+    std::vector<std::string> done;
+    Timer timer = Timer::scheduledTimer(1, true, [&](Timer&) { done.emplace_back("timer"); });
+    start();
+    updates().checkForUser();
+    session_.advance(500ms);
+    ASSERT_TRUE(updates().isShowingAlert());
+    session_.enqueueOnMainQueue([&] { done.emplace_back("task"); });
+    session_.advance(5s);
+    EXPECT_THAT(done, IsEmpty());
+    updates().dismiss();
+    EXPECT_THAT(done, ElementsAre("timer"));
+    session_.advance(0s);
+    EXPECT_THAT(done, ElementsAre("timer", "task"));
+    timer.invalidate();
+}
+
+TEST_F(UpdatesTest, EndWithTheProcess) {
+    start();
+    updates().checkForUser();
+    session_.advance(500ms);
+    ASSERT_TRUE(updates().isShowingAlert());
+    session_.endApplication();
+    EXPECT_FALSE(updates().isShowingAlert());
+    EXPECT_THAT(titles(), IsEmpty());
+    bool isDone = false;
+    session_.enqueueOnMainQueue([&] { isDone = true; });
+    session_.advance(0s);
+    EXPECT_TRUE(isDone);
+    EXPECT_THAT(delegate_->told, ElementsAre("will alert"));
+}
+
+TEST_F(UpdatesTest, DoWithoutADelegateThatIsGone) {
+    updates().setFeed(UpdateFeed::newVersion);
+    start();
+    delegate_.reset();
+    updates().checkForUser();
+    session_.advance(1s);
+    updates().dismiss();
+    EXPECT_THAT(titles(), IsEmpty());
+}
+
+} // namespace
+} // namespace kestrune::sim
