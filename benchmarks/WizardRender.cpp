@@ -5,6 +5,7 @@
 #include "Kestrune/WelcomeWindowController.h"
 #include "benchmarks/AllocationCounter.h"
 #include "benchmarks/CountArgument.h"
+#include "benchmarks/Quantile.h"
 #include "platform/Application.h"
 #include "sim/Session.h"
 
@@ -62,14 +63,6 @@ private:
     std::shared_ptr<WelcomeWindowController> controller_;
     std::size_t page_ = 1; // as it opens without the permission
 };
-
-// What all but a part of the values do not exceed.
-double quantile(std::vector<double> values, double part) {
-    const auto place =
-        values.begin() + static_cast<std::ptrdiff_t>(part * static_cast<double>(values.size()));
-    std::nth_element(values.begin(), place, values.end());
-    return *place;
-}
 
 // Whether each page looks different from the one before; otherwise nothing would be measured.
 bool turnsPages(TurningWizard& wizard) {

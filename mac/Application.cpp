@@ -30,6 +30,22 @@ bool Application::setActivationPolicy(ActivationPolicy policy) {
     return mac::ns_application::setActivationPolicy(NSApp, static_cast<mac::Integer>(policy)) != 0;
 }
 
+ActivationPolicy Application::activationPolicy() const {
+    return static_cast<ActivationPolicy>(mac::ns_application::activationPolicy(NSApp));
+}
+
+std::vector<Window> Application::windows() const {
+    const mac::Pool pool;
+    const id list = mac::ns_application::windows(NSApp);
+    std::vector<Window> windows;
+    for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
+        const id window = mac::ns_array::objectAtIndex(list, index);
+        windows.emplace_back(
+            std::make_shared<Window::State>(Window::State{mac::Retained::retaining(window)}));
+    }
+    return windows;
+}
+
 void Application::setMainMenu(const Menu& menu) {
     const mac::Pool pool;
     mac::ns_application::setMainMenu(NSApp, menu.state()->menu.get());

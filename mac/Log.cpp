@@ -10,16 +10,19 @@ namespace kestrune {
 
 namespace {
 
-constexpr std::uint8_t Debug = 0x02;
-constexpr std::uint8_t Error = 0x10;
+constexpr std::uint8_t InfoType = 0x01;
+constexpr std::uint8_t DebugType = 0x02;
+constexpr std::uint8_t ErrorType = 0x10;
 
-// The log keeps a reference into the image, so the text must lie where the linker puts format strings.
+// The log keeps a reference into the image that it is told of, so the text lies where the linker puts format
+// strings. Other formats are literals of the application, which lie among the image's other texts.
 #ifdef __APPLE__
 __attribute__((section("__TEXT,__oslogstring,cstring_literals")))
 #endif
 constexpr char PublicString[] = "%{public}s";
+constexpr LogFormat MessageItself(PublicString);
 
-// The arguments of "%{public}s": one that is no scalar, a public string, eight bytes long.
+// The arguments of a format with one "%{public}s": one that is no scalar, a public string, eight bytes long.
 class PublicArgument {
 public:
     explicit PublicArgument(const char* text) {
@@ -36,13 +39,14 @@ private:
     alignas(16) std::array<std::uint8_t, Size> bytes_{};
 };
 
-void write(os_log_t log, std::uint8_t type, OSLogFunction* function, std::string_view message) {
+void write(os_log_t log, std::uint8_t type, OSLogFunction* function, LogFormat format,
+           std::string_view publicString) {
     if (!os_log_type_enabled(log, type)) {
         return;
     }
-    const std::string text(message);
+    const std::string text(publicString);
     PublicArgument argument(text.c_str());
-    function(&__dso_handle, log, type, PublicString, argument.bytes(), PublicArgument::Size);
+    function(&__dso_handle, log, type, format.text(), argument.bytes(), PublicArgument::Size);
 }
 
 } // namespace
@@ -56,8 +60,18 @@ Log::Log(std::string_view subsystem, std::string_view category)
     : state_(std::make_shared<State>(
           State{os_log_create(std::string(subsystem).c_str(), std::string(category).c_str())})) {}
 
-void Log::debug(std::string_view message) const { write(state_->log, Debug, _os_log_debug_impl, message); }
+void Log::debug(std::string_view message) const {
+    write(state_->log, DebugType, _os_log_debug_impl, MessageItself, message);
+}
 
-void Log::error(std::string_view message) const { write(state_->log, Error, _os_log_error_impl, message); }
+void Log::error(std::string_view message) const { error(MessageItself, message); }
+
+void Log::info(LogFormat format, std::string_view publicString) const {
+    write(state_->log, InfoType, _os_log_impl, format, publicString);
+}
+
+void Log::error(LogFormat format, std::string_view publicString) const {
+    write(state_->log, ErrorType, _os_log_error_impl, format, publicString);
+}
 
 } // namespace kestrune

@@ -1,5 +1,6 @@
 #include "platform/NotificationCenter.h"
 
+#include "mac/Handles.h"
 #include "mac/Vocabulary.h"
 #include "mac/objc/Block.h"
 #include "mac/objc/Pool.h"
@@ -10,9 +11,30 @@
 
 namespace kestrune {
 
+struct Notification::State {
+    id notification; // borrowed
+};
+
 struct NotificationObserver::State {
     mac::Retained token;
 };
+
+namespace {
+
+id theDefaultCenter() {
+    return mac::ns_notification_center::defaultCenter(mac::ns_notification_center::type.object());
+}
+
+} // namespace
+
+std::optional<Window> Notification::objectAsWindow() const {
+    const mac::Pool pool;
+    const id object = mac::ns_notification::object(state_.notification);
+    const bool isWindow = mac::ns_object::isKindOfClass(object, mac::ns_window::type.find()) != 0;
+    return isWindow ? std::optional(Window(
+                          std::make_shared<Window::State>(Window::State{mac::Retained::retaining(object)})))
+                    : std::nullopt;
+}
 
 // There is one of each; they are asked for with each call.
 OperationQueue OperationQueue::mainQueue() { return {}; }
@@ -20,15 +42,22 @@ OperationQueue OperationQueue::mainQueue() { return {}; }
 NotificationCenter NotificationCenter::defaultCenter() { return {}; }
 
 NotificationObserver NotificationCenter::addObserver(const NotificationName& name, const OperationQueue&,
-                                                     std::function<void()> block) {
+                                                     std::function<void(const Notification&)> block) {
     const mac::Pool pool;
-    const mac::Block observed([block = std::move(block)](id) { block(); });
-    const id center = mac::ns_notification_center::defaultCenter(mac::ns_notification_center::type.object());
+    const mac::Block observed([block = std::move(block)](id notification) {
+        const Notification::State state{notification};
+        block(Notification(state));
+    });
     const id queue = mac::ns_operation_queue::mainQueue(mac::ns_operation_queue::type.object());
-    const id token = mac::ns_notification_center::addObserver(center, mac::nsString(name.name()).get(),
-                                                              nullptr, queue, observed.get());
+    const id token = mac::ns_notification_center::addObserver(
+        theDefaultCenter(), mac::nsString(name.name()).get(), nullptr, queue, observed.get());
     return NotificationObserver(std::make_shared<NotificationObserver::State>(
         NotificationObserver::State{mac::Retained::retaining(token)}));
+}
+
+void NotificationCenter::removeObserver(const NotificationObserver& observer) {
+    const mac::Pool pool;
+    mac::ns_notification_center::removeObserver(theDefaultCenter(), observer.state()->token.get());
 }
 
 } // namespace kestrune

@@ -8,6 +8,7 @@
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 #include "platform/Application.h"
+#include "platform/Updater.h"
 
 #include <algorithm>
 #include <memory>
@@ -63,6 +64,25 @@ void hearOf(id instance, SEL, id /*notification*/) noexcept {
     }
 }
 
+// A method of a delegate without arguments.
+template <typename Delegate, void (Delegate::*method)()>
+void tell(id instance, SEL selector) noexcept {
+    hearOf<Delegate, method>(instance, selector, nullptr);
+}
+
+// Without a delegate as without the method.
+BOOL supportsGentleReminders(id instance, SEL) noexcept {
+    const Pool pool;
+    const auto delegate = std::dynamic_pointer_cast<StandardUserDriverDelegate>(objectOf(instance));
+    return truth(delegate && delegate->supportsGentleScheduledUpdateReminders());
+}
+
+// Who shows the update, which one it is and what the user knows of it is not the delegate's concern.
+void willHandleShowingUpdate(id instance, SEL selector, BOOL, id /*update*/, id /*state*/) noexcept {
+    tell<StandardUserDriverDelegate, &StandardUserDriverDelegate::standardUserDriverWillHandleShowingUpdate>(
+        instance, selector);
+}
+
 // The delegate may let go of the window, which is still closing.
 void windowWillClose(id instance, SEL selector, id notification) noexcept {
     const Pool pool;
@@ -102,6 +122,18 @@ void addActions(RuntimeClass& made, const Object& object) {
     }
 }
 
+void addUserDriverMethods(RuntimeClass& made) {
+    using Delegate = StandardUserDriverDelegate;
+    made.addMethod("supportsGentleScheduledUpdateReminders", supportsGentleReminders);
+    made.addMethod("standardUserDriverWillHandleShowingUpdate:forUpdate:state:", willHandleShowingUpdate);
+    made.addMethod("standardUserDriverWillFinishUpdateSession",
+                   tell<Delegate, &Delegate::standardUserDriverWillFinishUpdateSession>);
+    made.addMethod("standardUserDriverWillShowModalAlert",
+                   tell<Delegate, &Delegate::standardUserDriverWillShowModalAlert>);
+    made.addMethod("standardUserDriverDidShowModalAlert",
+                   tell<Delegate, &Delegate::standardUserDriverDidShowModalAlert>);
+}
+
 void addDelegateMethods(RuntimeClass& made, const Object& object) {
     if (dynamic_cast<const MenuDelegate*>(&object) != nullptr) {
         made.addMethod("menuWillOpen:", menuWillOpen);
@@ -115,6 +147,9 @@ void addDelegateMethods(RuntimeClass& made, const Object& object) {
     if (dynamic_cast<const WindowDelegate*>(&object) != nullptr) {
         made.addMethod("windowDidBecomeKey:", hearOf<WindowDelegate, &WindowDelegate::windowDidBecomeKey>);
         made.addMethod("windowWillClose:", windowWillClose);
+    }
+    if (dynamic_cast<const StandardUserDriverDelegate*>(&object) != nullptr) {
+        addUserDriverMethods(made);
     }
 }
 

@@ -7,11 +7,12 @@ namespace kestrune {
 
 std::optional<URL> URL::withString(std::string_view text) {
     const mac::Pool pool;
-    const id url = mac::ns_url::urlWithString(mac::ns_url::type.object(), mac::nsString(text).get());
-    if (url == nullptr) {
-        return std::nullopt;
-    }
-    return URL(std::make_shared<const State>(State{mac::Retained::retaining(url)}));
+    return State::handle(mac::ns_url::urlWithString(mac::ns_url::type.object(), mac::nsString(text).get()));
+}
+
+std::string URL::absoluteString() const {
+    const mac::Pool pool;
+    return mac::textOf(mac::ns_url::absoluteString(state_->url.get()));
 }
 
 } // namespace kestrune

@@ -18,6 +18,13 @@ Window::Window(const Rect& contentRect, WindowStyleMask styleMask, BackingStoreT
     state_ = std::make_shared<State>(State{mac::Retained::adopting(window)});
 }
 
+std::string Window::className() const { return object_getClassName(state_->window.get()); }
+
+std::string Window::title() const {
+    const mac::Pool pool;
+    return mac::textOf(mac::ns_window::title(state_->window.get()));
+}
+
 void Window::setTitle(std::string_view title) {
     const mac::Pool pool;
     mac::ns_window::setTitle(state_->window.get(), mac::nsString(title).get());

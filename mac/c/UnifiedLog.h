@@ -16,6 +16,7 @@ bool os_log_type_enabled(os_log_t log, std::uint8_t type);
 
 using OSLogFunction = void(void* image, os_log_t log, std::uint8_t type, const char* format,
                            std::uint8_t* buffer, std::uint32_t size);
+OSLogFunction _os_log_impl; // of the types that have none of their own
 OSLogFunction _os_log_debug_impl;
 OSLogFunction _os_log_error_impl;
 

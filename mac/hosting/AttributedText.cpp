@@ -4,6 +4,7 @@
 #include "mac/c/TextAttributes.h"
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/Fonts.h"
+#include "mac/objc/NewObject.h"
 #include "mac/objc/Text.h"
 
 namespace kestrune::mac {
@@ -30,10 +31,6 @@ Integer platformAlignment(ui::TextAlignment alignment) {
         break;
     }
     return Left;
-}
-
-Retained newObject(const ClassReference& type) {
-    return Retained::adopting(ns_object::init(ns_object::alloc(type.object())));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "mac/Vocabulary.h"
 #include "mac/objc/Lifetime.h"
+#include "mac/objc/NewObject.h"
 
 #include <utility>
 
@@ -58,8 +59,7 @@ void SceneView::keepRemoved(const Views& views) {
 // Views are in front of each other, and read out, in the order of the elements. Those that stay are not taken
 // out on the way, so the focus stays where it is.
 void SceneView::arrangeSubviews() const {
-    const Retained list =
-        Retained::adopting(ns_object::init(ns_object::alloc(ns_mutable_array::type.object())));
+    const Retained list = newObject(ns_mutable_array::type);
     for (const auto& view : views_) {
         ns_mutable_array::addObject(list.get(), view->view());
     }

@@ -4,7 +4,10 @@
 
 namespace kestrune::mac {
 
-ClassReference::ClassReference(const char* name) : name_(name), next_(first_) { first_ = this; }
+ClassReference::ClassReference(const char* name, ClassPresence presence)
+    : name_(name), presence_(presence), next_(first_) {
+    first_ = this;
+}
 
 Class ClassReference::find() const { return reinterpret_cast<Class>(objc_getClass(name_)); }
 

@@ -12,15 +12,19 @@
 
 namespace kestrune::mac {
 
+// Whether a class has to be there from the start, or only once a framework is loaded that may be missing.
+enum class ClassPresence { always, onceLoaded };
+
 // A class of the platform's. `name` must have static storage.
 class ClassReference {
 public:
-    explicit ClassReference(const char* name);
+    explicit ClassReference(const char* name, ClassPresence presence = ClassPresence::always);
 
     ClassReference(const ClassReference&) = delete;
     ClassReference& operator=(const ClassReference&) = delete;
 
     const char* name() const { return name_; }
+    ClassPresence presence() const { return presence_; }
 
     // Null when no library that is loaded has the class.
     Class find() const;
@@ -38,6 +42,7 @@ private:
     inline static const ClassReference* first_ = nullptr;
 
     const char* name_;
+    ClassPresence presence_;
     const ClassReference* next_;
     mutable id object_ = nullptr;
 };

@@ -18,17 +18,28 @@ Method methodOf(const MessageDeclaration& message, Class type) {
                                                  : class_getInstanceMethod(type, selector);
 }
 
+bool isLoaded(const ClassReference& type) {
+    return type.presence() == ClassPresence::always || type.find() != nullptr;
+}
+
 } // namespace
 
 SelfCheckResult checkVocabulary() {
     SelfCheckResult result;
     for (const auto* type = ClassReference::first(); type != nullptr; type = type->next()) {
+        if (!isLoaded(*type)) {
+            result.classesNotLoaded.emplace_back(type->name());
+            continue;
+        }
         ++result.classes;
         if (type->find() == nullptr) {
             result.missingClasses.emplace_back(type->name());
         }
     }
     for (const auto* message = MessageDeclaration::first(); message != nullptr; message = message->next()) {
+        if (!isLoaded(message->receiver())) {
+            continue;
+        }
         ++result.messages;
         const Class type = message->receiver().find();
         const Method method = type != nullptr ? methodOf(*message, type) : nullptr;

@@ -8,8 +8,11 @@
 namespace kestrune::mac {
 
 struct SelfCheckResult {
-    std::size_t classes = 0; // declared
+    std::size_t classes = 0; // declared, but for those below
     std::size_t messages = 0;
+
+    // Names of classes whose framework is not loaded. Nothing is known of their methods.
+    std::vector<std::string> classesNotLoaded;
 
     // Each names a class, or a method and its encodings.
     std::vector<std::string> missingClasses;

@@ -5,6 +5,7 @@
 
 #include "base/Geometry.h"
 #include "mac/objc/Runtime.h"
+#include "platform/ProcessInfo.h"
 
 #include <string>
 #include <string_view>
@@ -12,9 +13,11 @@
 
 namespace kestrune::mac {
 
-// The application's geometry is passed as Core Graphics' structures.
+// The application's geometry is passed as Core Graphics' structures, its version as Foundation's.
 static_assert(std::is_standard_layout_v<Rect> && std::is_trivially_copyable_v<Rect> && sizeof(Rect) == 32);
 static_assert(std::is_standard_layout_v<Size> && std::is_trivially_copyable_v<Size> && sizeof(Size) == 16);
+static_assert(std::is_standard_layout_v<OperatingSystemVersion> &&
+              std::is_trivially_copyable_v<OperatingSystemVersion> && sizeof(OperatingSystemVersion) == 24);
 
 template <typename Type>
 inline constexpr bool HasNoEncoding = false;
@@ -25,6 +28,8 @@ constexpr std::string_view encodingOfType() {
         return "v";
     } else if constexpr (std::is_same_v<Type, id>) {
         return "@";
+    } else if constexpr (std::is_same_v<Type, id*>) {
+        return "^@";
     } else if constexpr (std::is_same_v<Type, Class>) {
         return "#";
     } else if constexpr (std::is_same_v<Type, SEL>) {
@@ -55,6 +60,8 @@ constexpr std::string_view encodingOfType() {
         return "{CGSize=dd}";
     } else if constexpr (std::is_same_v<Type, Rect>) {
         return "{CGRect={CGPoint=dd}{CGSize=dd}}";
+    } else if constexpr (std::is_same_v<Type, OperatingSystemVersion>) {
+        return "{?=qqq}";
     } else {
         static_assert(HasNoEncoding<Type>, "add the encoding of this type");
     }

@@ -44,6 +44,15 @@ TEST_F(ApplicationContract, TakesTheActivationPolicyThatIsSet) {
     EXPECT_EQ(world_.activationPolicy(), ActivationPolicy::regular);
 }
 
+TEST_F(ApplicationContract, TellsItsActivationPolicy) {
+    Application application = Application::sharedApplication();
+    EXPECT_EQ(application.activationPolicy(), world_.activationPolicy());
+    application.setActivationPolicy(ActivationPolicy::accessory);
+    EXPECT_EQ(application.activationPolicy(), ActivationPolicy::accessory);
+    application.setActivationPolicy(ActivationPolicy::regular);
+    EXPECT_EQ(application.activationPolicy(), ActivationPolicy::regular);
+}
+
 TEST_F(ApplicationContract, KeepsItsActivationPolicyThroughTheLaunch) {
     Application::sharedApplication().setActivationPolicy(ActivationPolicy::accessory);
     world_.launchApplication();

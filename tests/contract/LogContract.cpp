@@ -69,5 +69,17 @@ TEST(LogContract, KeepsTheOrderOfMessagesOfDifferentLevels) {
                             LoggedMessage{Level::debug, "org.kestrune.Contract", "Suite", "third"}));
 }
 
+TEST(LogContract, FillsATextIntoAFormat) {
+    const World world;
+    const Log log("org.kestrune.Contract", "Suite");
+    log.error(LogFormat("LoginItem toggle failed: %{public}s"), "100 %s sure, \xC3\xA4");
+    log.info(LogFormat("Tea \xE2\x80\x94 %{public}s"), std::string_view("hot, not cold").substr(0, 3));
+    EXPECT_THAT(
+        world.loggedMessages(),
+        ElementsAre(LoggedMessage{Level::error, "org.kestrune.Contract", "Suite",
+                                  "LoginItem toggle failed: 100 %s sure, \xC3\xA4"},
+                    LoggedMessage{Level::info, "org.kestrune.Contract", "Suite", "Tea \xE2\x80\x94 hot"}));
+}
+
 } // namespace
 } // namespace kestrune::contract

@@ -22,8 +22,8 @@ protected:
     static NotificationObserver
     observe(std::function<void()> block,
             const NotificationName& name = ApplicationDidChangeScreenParametersNotification) {
-        return NotificationCenter::defaultCenter().addObserver(name, OperationQueue::mainQueue(),
-                                                               std::move(block));
+        return NotificationCenter::defaultCenter().addObserver(
+            name, OperationQueue::mainQueue(), [block = std::move(block)](const Notification&) { block(); });
     }
 
     NotificationObserver observeAs(std::string name) {
@@ -125,6 +125,59 @@ TEST_F(NotificationCenterContract, LetsABlockAddAnObserver) {
     notified_.clear();
     changeDisplays();
     EXPECT_THAT(notified_, ElementsAre("added"));
+}
+
+// It is about the application.
+TEST_F(NotificationCenterContract, TellsOfAnObjectThatIsNoWindow) {
+    std::vector<bool> isWindow;
+    const NotificationObserver observer = NotificationCenter::defaultCenter().addObserver(
+        ApplicationDidChangeScreenParametersNotification, OperationQueue::mainQueue(),
+        [&](const Notification& notification) {
+            isWindow.push_back(notification.objectAsWindow().has_value());
+        });
+    changeDisplays();
+    EXPECT_THAT(isWindow, ElementsAre(false));
+}
+
+TEST_F(NotificationCenterContract, TellsNothingToAnObserverThatWasRemoved) {
+    const NotificationObserver removed = observeAs("removed");
+    const NotificationObserver staying = observeAs("staying");
+    NotificationCenter::defaultCenter().removeObserver(removed);
+    changeDisplays();
+    EXPECT_THAT(notified_, ElementsAre("staying"));
+    NotificationCenter::defaultCenter().removeObserver(removed);
+    changeDisplays();
+    EXPECT_THAT(notified_, ElementsAre("staying", "staying"));
+}
+
+TEST_F(NotificationCenterContract, LetsGoOfTheBlockOfAnObserverThatWasRemoved) {
+    auto token = std::make_shared<int>();
+    const std::weak_ptr<int> watched = token;
+    {
+        const NotificationObserver observer = observe([token = std::move(token)] {});
+        changeDisplays();
+        EXPECT_FALSE(watched.expired());
+        NotificationCenter::defaultCenter().removeObserver(observer);
+    }
+    world_.runMainQueue();
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST_F(NotificationCenterContract, LetsABlockRemoveItsOwnObserver) {
+    std::optional<NotificationObserver> observer;
+    auto token = std::make_shared<int>();
+    const std::weak_ptr<int> watched = token;
+    bool isThere = false;
+    observer = observe([&, token = std::move(token)] {
+        NotificationCenter::defaultCenter().removeObserver(*observer);
+        observer.reset();
+        isThere = !watched.expired();
+        notified_.emplace_back("removed itself");
+    });
+    changeDisplays();
+    changeDisplays();
+    EXPECT_TRUE(isThere);
+    EXPECT_THAT(notified_, ElementsAre("removed itself"));
 }
 
 } // namespace

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "platform/AppService.h"
 #include "platform/Application.h"
 #include "platform/DisplayUUID.h"
 #include "platform/Event.h"
+#include "platform/ProcessInfo.h"
 #include "platform/Screen.h"
 #include "tests/contract/Shown.h"
 
@@ -62,7 +64,7 @@ enum class Trust {
 
 // One message in the system log, seen by somebody who looks at every level.
 struct LoggedMessage {
-    enum class Level { debug, error };
+    enum class Level { debug, info, error };
 
     Level level;
     std::string subsystem;
@@ -71,6 +73,9 @@ struct LoggedMessage {
 
     friend bool operator==(const LoggedMessage&, const LoggedMessage&) = default;
 };
+
+// Sparkle in the application's bundle: not there, refusing to start, starting.
+enum class UpdateFramework { missing, refusing, working };
 
 // What lies in the application's bundle.
 struct BundleFiles {
@@ -84,6 +89,9 @@ struct BundleFiles {
 class World {
 public:
     static constexpr std::string_view BundleIdentifier = "org.kestrune.Contract";
+
+    // What the update framework says when it refuses to start.
+    static constexpr std::string_view UpdateFailure = "The updater failed to start.";
 
     // The bundle has nothing but that identifier.
     World();
@@ -182,6 +190,38 @@ public:
     // The platform makes an object of the application's class from an archive, or from a bare window.
     void constructFromArchive(std::string_view className);
     void constructFromWindow(std::string_view className);
+
+    // A framework in the process shows a window of a class of its own, which asks for the keys. It is there
+    // as long as the result.
+    std::shared_ptr<void> showFrameworkWindow(std::string_view className, std::string_view title);
+
+    // The application among the login items, as the user finds and changes it in System Settings.
+    AppServiceStatus loginItem() const;
+    void setLoginItem(AppServiceStatus status);
+
+    // What registers from now on waits for the user's approval.
+    void requireApprovalOfLoginItem();
+
+    // The system refuses every change of the login item, with that description.
+    void refuseLoginItemChanges(std::string description);
+
+    // What the process runs on.
+    OperatingSystemVersion operatingSystemVersion() const;
+    std::string localeIdentifier() const;
+
+    // Before the application makes an updater; one that works otherwise.
+    void setUpdateFramework(UpdateFramework framework);
+
+    // What its objects were asked for, in order: class, selector and arguments.
+    std::vector<std::string> updateMessages() const;
+
+    // Once started, it asks the delegate of its user driver; absent: there is none any more.
+    std::optional<bool> asksForGentleReminders() const;
+
+    // And it tells the delegate what it does; `whileShown` runs while the alert is shown.
+    void announceUpdate();
+    void finishUpdateSession();
+    void showUpdateAlert(const std::function<void()>& whileShown);
 
     // The texts of the URLs that the application opened, in order.
     std::vector<std::string> openedURLs() const;

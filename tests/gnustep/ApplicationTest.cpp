@@ -7,11 +7,10 @@
 #include "mac/objc/Text.h"
 #include "platform/MainActor.h"
 #include "platform/NotificationCenter.h"
-#include "tests/contract/World.h"
 #include "tests/gnustep/Allocations.h"
+#include "tests/gnustep/ApplicationFixture.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/SavedDefaults.h"
-#include "tests/scenarios/ShippedBundle.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -33,77 +32,22 @@ extern id NSApp;
 namespace kestrune::gnustep {
 namespace {
 
-using contract::ConnectedDisplay;
-using contract::ShownRow;
 using contract::Trust;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-const std::string LeftUUID = "37D8832A-2D66-02CA-B9F7-8F3000000001";
-const std::string RightUUID = "37D8832A-2D66-02CA-B9F7-8F3000000002";
+const Point InTheRightBand{2000, 1078};
+const Point HeldOnTheRight{2000, 1075};
 
 // The watcher looks once a second; the rest is for a busy machine.
 constexpr double SecondsForATick = 1.3;
 
-ConnectedDisplay left() { return {1, "Left", {0, 0, 1512, 982}, LeftUUID, std::int64_t{1}}; }
-
-ConnectedDisplay right() { return {2, "Right", {1512, 0, 1920, 1080}, RightUUID, std::int64_t{2}}; }
-
-const Point InTheRightBand{2000, 1078};
-const Point HeldOnTheRight{2000, 1075};
-
-// "✓" when marked, "(disabled)" when not to be chosen; "---" for a separator.
-std::string textOf(const ShownRow& row) {
-    if (row.isSeparator) {
-        return "---";
-    }
-    const std::string text = row.state == ControlState::on ? "✓" + row.title : row.title;
-    return row.isEnabled ? text : text + " (disabled)";
-}
-
-class ApplicationOnGNUstep : public testing::Test {
+class ApplicationOnGNUstep : public ApplicationFixture {
 protected:
-    explicit ApplicationOnGNUstep(Trust trust = Trust::granted) : world_(scenarios::shippedBundle()) {
-        world_.connect({left(), right()});
-        world_.setTrust(trust);
-    }
-
-    ~ApplicationOnGNUstep() override {
-        if (app_) {
-            app_->dockGuard()->stop();
-        }
-    }
-
-    void launch() {
-        world_.launch([this] { app_ = runKestrune(); });
-        world_.runMainQueue();
-    }
-
-    std::vector<std::string> menu() {
-        std::vector<std::string> texts;
-        for (const ShownRow& row : world_.statusMenuRows()) {
-            texts.push_back(textOf(row));
-        }
-        return texts;
-    }
-
-    // The first row that contains the text.
-    std::size_t rowWith(const std::string& text) {
-        const std::vector<std::string> rows = menu();
-        const auto row = std::find_if(rows.begin(), rows.end(), [&](const std::string& title) {
-            return title.find(text) != std::string::npos;
-        });
-        EXPECT_NE(row, rows.end()) << text;
-        return static_cast<std::size_t>(row - rows.begin());
-    }
-
-    void choose(const std::string& text) { world_.chooseInStatusMenu(rowWith(text)); }
+    using ApplicationFixture::ApplicationFixture;
 
     bool isGuarded() { return world_.post(EventType::mouseMoved, InTheRightBand) == HeldOnTheRight; }
-
-    contract::World world_;
-    std::shared_ptr<KestruneApp> app_;
 };
 
 class WithoutPermission : public ApplicationOnGNUstep {
@@ -218,7 +162,7 @@ TEST_F(ApplicationOnGNUstep, ReadsTheMarginThatAnotherProcessStored) {
 
 TEST_F(ApplicationOnGNUstep, SwitchesTheGuardOffAndOn) {
     launch();
-    choose("Settings…"); // opens nothing yet, and the next menu is the one after setup
+    menu(); // the next one is the one after setup
     choose("Disable");
     EXPECT_FALSE(isGuarded());
     EXPECT_EQ(savedDefault("isEnabled"), "0");
@@ -273,7 +217,7 @@ TEST_F(ApplicationOnGNUstepDeathTest, QuitsFromItsMenuAndStopsTheGuard) {
         Application::sharedApplication();
         NotificationCenter::defaultCenter().addObserver(
             NotificationName("NSApplicationDidFinishLaunchingNotification"), OperationQueue::mainQueue(),
-            [&] { MainActor::startTask(quit); });
+            [&](const Notification&) { MainActor::startTask(quit); });
         app_ = runKestrune();
     };
     EXPECT_EXIT(launchAndQuit(), testing::ExitedWithCode(0), "The guard runs. The guard has stopped.");

@@ -7,6 +7,9 @@
 #include <cstdint>
 #include <string>
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name is Foundation's.
+extern "C" const id NSLocalizedDescriptionKey;
+
 namespace kestrune::gnustep {
 
 inline id objectFor(const std::string& text) {
@@ -24,5 +27,14 @@ inline id objectFor(std::int64_t number) {
 }
 
 inline id objectFor(double number) { return send(classObject("NSNumber"), "numberWithDouble:", number); }
+
+// An NSError with nothing but that description.
+inline id errorFor(const std::string& domain, const std::string& description) {
+    const id information =
+        send(classObject("NSDictionary"), "dictionaryWithObject:forKey:", objectFor(description),
+             NSLocalizedDescriptionKey);
+    return send(classObject("NSError"), "errorWithDomain:code:userInfo:", objectFor(domain), mac::Integer{1},
+                information);
+}
 
 } // namespace kestrune::gnustep

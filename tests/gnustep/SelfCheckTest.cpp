@@ -2,6 +2,10 @@
 #include "mac/objc/SelfCheck.h"
 
 #include "mac/Vocabulary.h"
+#include "platform/Updater.h"
+#include "tests/gnustep/PrivateHome.h"
+#include "tests/gnustep/standins/MainBundle.h"
+#include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StandIns.h"
 
 #include <gmock/gmock.h>
@@ -21,7 +25,10 @@ using testing::StartsWith;
 using testing::UnorderedElementsAreArray;
 
 // Classes and methods that stand-ins alone have; the check tells nothing about their encodings.
-const std::vector<std::string> ClassesMissingInGNUstep = {"NSImageSymbolConfiguration"};
+const std::vector<std::string> ClassesMissingInGNUstep = {"NSImageSymbolConfiguration", "SMAppService"};
+
+// Of a framework that may be missing; GNUstep knows nothing of it.
+const std::vector<std::string> ClassesOfFrameworks = {"SPUStandardUserDriver", "SPUUpdater"};
 const std::vector<std::string> MissingInGNUstep = {
     "+[NSColor controlAccentColor]",
     "+[NSColor linkColor]",
@@ -29,6 +36,8 @@ const std::vector<std::string> MissingInGNUstep = {
     "+[NSFont systemFontOfSize:weight:]",
     "+[NSImage imageWithSystemSymbolName:accessibilityDescription:]",
     "+[NSImageSymbolConfiguration configurationWithPointSize:weight:scale:]",
+    "+[SMAppService mainAppService]",
+    "-[NSApplication activationPolicy]",
     "-[NSApplication setActivationPolicy:]",
     "-[NSButton setHasDestructiveAction:]",
     "-[NSButton setImageScaling:]",
@@ -36,6 +45,7 @@ const std::vector<std::string> MissingInGNUstep = {
     "-[NSImage imageWithSymbolConfiguration:]",
     "-[NSImage setTemplate:]",
     "-[NSImageView setContentTintColor:]",
+    "-[NSProcessInfo operatingSystemVersion]",
     "-[NSScreen localizedName]",
     "-[NSStatusItem button]",
     "-[NSString localizedUppercaseString]",
@@ -44,6 +54,9 @@ const std::vector<std::string> MissingInGNUstep = {
     "-[NSView setAccessibilityElement:]",
     "-[NSView setAccessibilityLabel:]",
     "-[NSWindow setContentViewController:]",
+    "-[SMAppService registerAndReturnError:]",
+    "-[SMAppService status]",
+    "-[SMAppService unregisterAndReturnError:]",
 };
 
 // Methods that GNUstep declares otherwise, and why the binding is right all the same.
@@ -105,6 +118,7 @@ TEST(SelfCheck, FindsInGNUstepWhatIsNotListedAsMissing) {
     EXPECT_GT(result.classes, 0U);
     EXPECT_GT(result.messages, 0U);
     EXPECT_THAT(result.missingClasses, UnorderedElementsAreArray(ClassesMissingInGNUstep));
+    EXPECT_THAT(result.classesNotLoaded, UnorderedElementsAreArray(ClassesOfFrameworks));
     EXPECT_THAT(result.missingMethods, UnorderedElementsAreArray(MissingInGNUstep));
 }
 
@@ -115,7 +129,11 @@ TEST(SelfCheck, AgreesWithGNUstepsEncodingsButForThoseExplained) {
 
 TEST(SelfCheck, FindsEverythingWithTheStandIns) {
     installStandIns();
+    setMainBundle({}, privateHome());
+    setUpdateFramework(contract::UpdateFramework::working);
+    const StandardUserDriver loadsTheFramework(Bundle::mainBundle(), {});
     const mac::SelfCheckResult result = mac::checkVocabulary();
+    EXPECT_THAT(result.classesNotLoaded, IsEmpty());
     EXPECT_THAT(result.missingClasses, IsEmpty());
     EXPECT_THAT(result.missingMethods, IsEmpty());
     EXPECT_THAT(methodsOf(result.differences), UnorderedElementsAreArray(explainedMethods()));

@@ -18,11 +18,13 @@
 #include "tests/gnustep/standins/ActivationPolicy.h"
 #include "tests/gnustep/standins/DisplayUUIDs.h"
 #include "tests/gnustep/standins/EventTaps.h"
+#include "tests/gnustep/standins/LoginItem.h"
 #include "tests/gnustep/standins/MainBundle.h"
 #include "tests/gnustep/standins/OpenedURLs.h"
 #include "tests/gnustep/standins/RunLoopSources.h"
 #include "tests/gnustep/standins/RunningApplication.h"
 #include "tests/gnustep/standins/Screens.h"
+#include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StandIns.h"
 #include "tests/gnustep/standins/StatusItems.h"
 #include "tests/gnustep/standins/TemplateImages.h"
@@ -135,6 +137,8 @@ World::World(const BundleFiles& bundle) : state_(new State) {
     }
     const mac::Pool pool;
     setMainBundle(bundle, privateHome());
+    gnustep::setUpdateFramework(UpdateFramework::working);
+    gnustep::loginItem() = {};
     accessibilityRow() = {};
     resetActivationPolicy();
     gnustep::loggedMessages().clear();

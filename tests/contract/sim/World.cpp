@@ -66,9 +66,20 @@ Trust trustOf(sim::Permission permission) {
     return Trust::outdated;
 }
 
+LoggedMessage::Level levelOf(sim::LogLevel level) {
+    switch (level) {
+    case sim::LogLevel::debug:
+        return LoggedMessage::Level::debug;
+    case sim::LogLevel::info:
+        return LoggedMessage::Level::info;
+    case sim::LogLevel::error:
+        break;
+    }
+    return LoggedMessage::Level::error;
+}
+
 LoggedMessage messageOf(const sim::LogRecord& record) {
-    return {record.level == sim::LogLevel::error ? LoggedMessage::Level::error : LoggedMessage::Level::debug,
-            record.subsystem, record.category, record.message};
+    return {levelOf(record.level), record.subsystem, record.category, record.message};
 }
 
 ShownRow rowOf(const sim::MenuRow& row) {

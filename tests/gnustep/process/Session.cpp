@@ -8,6 +8,7 @@
 #include "tests/gnustep/standins/EventTaps.h"
 #include "tests/gnustep/standins/MainBundle.h"
 #include "tests/gnustep/standins/Screens.h"
+#include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StandIns.h"
 #include "tests/scenarios/ShippedBundle.h"
 
@@ -43,6 +44,7 @@ void beginSession(const std::filesystem::path& home, bool isPermitted) {
     const mac::Pool pool;
     installStandIns();
     setMainBundle(scenarios::shippedBundle(), home.string());
+    setUpdateFramework(contract::UpdateFramework::working);
     copyPictures();
     connectDisplays(displays());
     accessibilityRow().trust = isPermitted ? contract::Trust::granted : contract::Trust::notListed;

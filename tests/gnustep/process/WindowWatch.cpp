@@ -1,5 +1,6 @@
 #include "tests/gnustep/process/WindowWatch.h"
 
+#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
 #include "tests/gnustep/Send.h"
@@ -8,10 +9,24 @@
 #include "tests/gnustep/standins/Methods.h"
 
 #include <string>
+#include <string_view>
 
 namespace kestrune::gnustep {
 
 namespace {
+
+// GNUstep draws the title bar, around the content and beside it.
+std::string placeOfCloseButton(id content) {
+    const id views = send(send(content, "superview"), "subviews");
+    for (mac::Unsigned index = 0; index < mac::ns_array::count(views); ++index) {
+        const id view = mac::ns_array::objectAtIndex(views, index);
+        const bool isButton = mac::ns_object::isKindOfClass(view, classNamed("NSButton")) != 0;
+        if (isButton && sel_getName(send<SEL>(view, "action")) == std::string_view("performClose:")) {
+            return placeOf(view, send<Rect>(view, "bounds"));
+        }
+    }
+    fatal("A window that can be closed has no button for it.");
+}
 
 // The bar at the top of the screen is a window as well, without a title.
 std::string describeWindows() {
@@ -25,12 +40,17 @@ std::string describeWindows() {
         ++count;
         const id content = send(window, "contentView");
         lines += "window\t" + placeOf(content, send<Rect>(content, "bounds")) + "\t" + shown.title + "\n";
+        lines += "close\t" + placeOfCloseButton(content) + "\n";
         for (const std::string& text : shown.texts) {
             lines += "text\t" + text + "\n";
         }
         for (const std::string& button : shown.buttons) {
             const id view = buttonNamed(window, button);
             lines += "control\t" + placeOf(view, send<Rect>(view, "bounds")) + "\t" + button + "\n";
+        }
+        for (const id view : viewsIn(window, "NSSwitch")) {
+            const bool isOn = send<mac::Integer>(view, "state") != 0;
+            lines += "switch\t" + placeOf(view, send<Rect>(view, "bounds")) + (isOn ? "\ton\n" : "\toff\n");
         }
     }
     return lines + "windows\t" + std::to_string(count);

@@ -69,6 +69,8 @@ class ShownWindow:
         self.place = place
         self.texts = texts
         self.controls = controls  # places by title
+        self.close_button = None
+        self.switches = []  # of each its place, and whether it is on
 
     @staticmethod
     def in_lines(lines):
@@ -81,6 +83,10 @@ class ShownWindow:
                 windows[-1].texts.append(words[0])
             elif kind == "control":
                 windows[-1].controls[words[-1]] = Place.of(*words[:-1])
+            elif kind == "close":
+                windows[-1].close_button = Place.of(*words)
+            elif kind == "switch":
+                windows[-1].switches.append((Place.of(*words[:-1]), words[-1] == "on"))
         return windows
 
 
@@ -183,6 +189,15 @@ class Application:
         self.hand("mousedown", 1)
         if self.wait_for_line("pressed", count + 1) != [title]:
             raise AssertionError(f"not {title!r} was pressed")
+
+    def press_and_release(self, window, title):
+        self.press(window, title)
+        self.hand("mouseup", 1)
+
+    def click_on(self, place):
+        self.wait_until_shown(place)
+        self.move_to(place.area)
+        self.click()
 
     def open_menu(self):
         """Clicks the status item. Gives the rows of the menu that is open then."""

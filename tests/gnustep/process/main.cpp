@@ -8,6 +8,7 @@
 #include "tests/gnustep/TimeLimit.h"
 #include "tests/gnustep/process/MenuBar.h"
 #include "tests/gnustep/process/Session.h"
+#include "tests/gnustep/process/SystemWatch.h"
 #include "tests/gnustep/process/WindowWatch.h"
 
 #include <csignal>
@@ -27,6 +28,7 @@ void beat(Timer& /*timer*/) {
     if (isGranted != 0) {
         grantPermission();
     }
+    watchSystem();
     watchWindows();
 }
 
@@ -49,7 +51,7 @@ extern "C" int processMain() {
     // The delegate hears of the launch as well, before or after; the task comes after both.
     NotificationCenter::defaultCenter().addObserver(
         NotificationName("NSApplicationDidFinishLaunchingNotification"), OperationQueue::mainQueue(),
-        [] { MainActor::startTask(showMenuBar); });
+        [](const Notification&) { MainActor::startTask(showMenuBar); });
     // GNUstep's loop sleeps until the X server sends something, even when an event that Xlib has read already
     // waits to be handled. Without this a press of the button was now and then noticed with the next one.
     Timer::scheduledTimer(HeartbeatInSeconds, true, beat);

@@ -243,6 +243,52 @@ class FirstRun(ProcessTest):
         self.assert_quits(application)
 
 
+class Settings(ProcessTest):
+    def open_settings(self, application):
+        self.assertEqual(application.choose("Settings…"), ["Right"])
+        return application.wait_for_control("Report a Bug…")
+
+    def flip(self, application, window, is_on):
+        """Gives the window as it is then."""
+        application.click_on(window.switches[0][0])
+
+        def flipped():
+            windows = application.windows()
+            return windows[0] if windows and windows[0].switches[0][1] == is_on else None
+
+        return wait_for(flipped, f"a switch that is {'on' if is_on else 'off'}")
+
+    def test_a_user_works_with_every_control(self):
+        application = self.start_after_setup()
+        window = self.open_settings(application)
+        self.assertEqual(window.title, "Kestrune Settings")
+        self.assertEqual(window.place.area.width, 440)
+        self.assertEqual(list(window.controls), ["Check for Updates…", "Report a Bug…"])
+        self.assertEqual(
+            window.texts, ["Launch at login", "Kestrune 0.1.0 (1)", "© 2026 Kestrune contributors"]
+        )
+        self.assertEqual(application.told()["policy"][-1], ["0"])
+
+        window = self.flip(application, window, True)
+        self.assertEqual(application.told()["login item"], [["1"]])
+        application.press_and_release(window, "Report a Bug…")
+        (url,) = application.wait_for_line("opened", 1)
+        self.assertTrue(url.startswith("mailto:"), url)
+        self.assertIn("subject=Kestrune%20bug%20report&body=Describe%20what%20went%20wrong:", url)
+        before = len(application.told()["updates"])
+        application.press_and_release(window, "Check for Updates…")
+        self.assertEqual(application.wait_for_line("updates", before + 1), ["-[SPUUpdater checkForUpdates]"])
+
+        application.click_on(window.close_button)
+        wait_for(lambda: not application.windows(), "the end of Settings")
+        wait_for(lambda: application.told()["policy"][-1] == ["1"], "an accessory")
+        window = self.open_settings(application)
+        self.assertTrue(window.switches[0][1])
+        self.flip(application, window, False)
+        self.assertEqual(application.told()["login item"][-1], ["0"])
+        self.assert_quits(application)
+
+
 class Drawing(ProcessTest):
     def photograph_menu(self, application, rows):
         """The screen, once there is something in every row."""

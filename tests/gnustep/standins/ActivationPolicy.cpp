@@ -17,10 +17,13 @@ BOOL setActivationPolicy(id, SEL, mac::Integer policy) {
     return mac::truth(true);
 }
 
+mac::Integer currentPolicy(id, SEL) { return static_cast<mac::Integer>(current); }
+
 } // namespace
 
 void installActivationPolicy() {
     addMethod(classNamed("NSApplication"), "setActivationPolicy:", setActivationPolicy);
+    addMethod(classNamed("NSApplication"), "activationPolicy", currentPolicy);
 }
 
 ActivationPolicy activationPolicy() { return current; }

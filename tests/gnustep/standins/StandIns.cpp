@@ -9,12 +9,16 @@
 #include "tests/gnustep/standins/ControlMetrics.h"
 #include "tests/gnustep/standins/Deallocation.h"
 #include "tests/gnustep/standins/LabelInsets.h"
+#include "tests/gnustep/standins/LastWindow.h"
 #include "tests/gnustep/standins/LocalizedCase.h"
+#include "tests/gnustep/standins/LoginItem.h"
 #include "tests/gnustep/standins/MainBundle.h"
 #include "tests/gnustep/standins/MainQueue.h"
 #include "tests/gnustep/standins/OpenedURLs.h"
+#include "tests/gnustep/standins/OperatingSystem.h"
 #include "tests/gnustep/standins/OtherProcesses.h"
 #include "tests/gnustep/standins/Screens.h"
+#include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StatusItems.h"
 #include "tests/gnustep/standins/Symbols.h"
 #include "tests/gnustep/standins/SystemColors.h"
@@ -41,11 +45,15 @@ void installStandIns() {
     installContentViewControllers();
     installControlMetrics();
     installLabelInsets();
+    installLastWindow();
     installLocalizedCase();
+    installLoginItem();
     installMainBundle();
     installMainQueue();
     installOpenedURLs();
+    installOperatingSystem();
     installScreens();
+    installSparkle();
     installStatusItems();
     installSymbols();
     installSystemColors();

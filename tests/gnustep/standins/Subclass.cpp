@@ -26,9 +26,11 @@ Class makeSubclass(const char* name, const char* parent, void (*dealloc)(id, SEL
 
 id newInstance(Class type, void* value) {
     const id instance = send(reinterpret_cast<id>(type), "alloc");
-    *valueVariable(instance) = value;
+    setValue(instance, value);
     return instance;
 }
+
+void setValue(id instance, void* value) { *valueVariable(instance) = value; }
 
 void* valueOf(id instance) { return *valueVariable(instance); }
 

@@ -11,8 +11,12 @@ namespace kestrune::gnustep {
 // `dealloc` frees what the pointer points at and ends with that of NSObject, for the same reason.
 Class makeSubclass(const char* name, const char* parent, void (*dealloc)(id, SEL));
 id newInstance(Class type, void* value);
+void setValue(id instance, void* value);
 void* valueOf(id instance);
 void deallocAsObject(id instance);
+
+// Of a class that is all about its methods.
+struct NoValue {};
 
 template <typename Value>
 class Subclass {
@@ -32,6 +36,9 @@ public:
     id make(Arguments&&... arguments) const {
         return newInstance(class_, new Value{std::forward<Arguments>(arguments)...});
     }
+
+    // To an instance that somebody else has allocated.
+    static void give(id instance, Value value) { setValue(instance, new Value(std::move(value))); }
 
     static Value& of(id instance) { return *static_cast<Value*>(valueOf(instance)); }
 

@@ -9,6 +9,8 @@
 #include "base/Fatal.h"
 #include "mac/c/UnifiedLog.h"
 
+#include <dlfcn.h>
+
 #include <cstring>
 #include <memory>
 #include <string>
@@ -28,26 +30,51 @@ namespace {
 constexpr std::uint8_t HasNonScalar = 0x02;
 constexpr std::uint8_t PublicString = 0x22;
 
-std::string messageIn(const char* format, const std::uint8_t* buffer, std::uint32_t size) {
-    const char* text = nullptr;
-    const bool isOnePublicString = std::string_view(format) == "%{public}s" && size == 4 + sizeof(text) &&
-                                   buffer[0] == HasNonScalar && buffer[1] == 1 && buffer[2] == PublicString &&
-                                   buffer[3] == sizeof(text);
-    if (!isOnePublicString) {
-        fatal("A message to the unified log is not one public string.");
+constexpr std::string_view Placeholder = "%{public}s";
+
+// The log keeps a reference into the image that it is told of.
+void requireInImage(const char* format, void* image) {
+    Dl_info ofFormat{};
+    Dl_info ofImage{};
+    const bool isKnown = dladdr(format, &ofFormat) != 0 && dladdr(image, &ofImage) != 0;
+    if (!isKnown || ofFormat.dli_fbase != ofImage.dli_fbase) {
+        fatal("A format of the unified log does not lie in the image of the program.");
     }
-    std::memcpy(&text, buffer + 4, sizeof(text));
-    return text;
 }
 
-constexpr std::uint8_t Debug = 2;
-constexpr std::uint8_t Error = 16;
+std::string messageIn(const char* format, const std::uint8_t* buffer, std::uint32_t size) {
+    const char* text = nullptr;
+    std::string message = format;
+    const std::size_t place = message.find(Placeholder);
+    const bool isOnePublicString = place != std::string::npos &&
+                                   message.find('%', place + 1) == std::string::npos &&
+                                   size == 4 + sizeof(text) && buffer[0] == HasNonScalar && buffer[1] == 1 &&
+                                   buffer[2] == PublicString && buffer[3] == sizeof(text);
+    if (!isOnePublicString) {
+        fatal("A message to the unified log does not have one public string.");
+    }
+    std::memcpy(&text, buffer + 4, sizeof(text));
+    return message.replace(place, Placeholder.size(), text);
+}
 
-void keep(LoggedMessage::Level level, os_log_t log, std::uint8_t type, const char* format,
+std::uint8_t typeOf(LoggedMessage::Level level) {
+    switch (level) {
+    case LoggedMessage::Level::info:
+        return 1;
+    case LoggedMessage::Level::debug:
+        return 2;
+    case LoggedMessage::Level::error:
+        break;
+    }
+    return 16;
+}
+
+void keep(LoggedMessage::Level level, void* image, os_log_t log, std::uint8_t type, const char* format,
           const std::uint8_t* buffer, std::uint32_t size) {
-    if (type != (level == LoggedMessage::Level::error ? Error : Debug)) {
+    if (type != typeOf(level)) {
         fatal("A message to the unified log has another type than its function.");
     }
+    requireInImage(format, image);
     loggedMessages().push_back({level, log->subsystem, log->category, messageIn(format, buffer, size)});
 }
 
@@ -67,14 +94,19 @@ os_log_t os_log_create(const char* subsystem, const char* category) {
 
 bool os_log_type_enabled(os_log_t /*log*/, std::uint8_t /*type*/) { return true; }
 
-void _os_log_debug_impl(void* /*image*/, os_log_t log, std::uint8_t type, const char* format,
-                        std::uint8_t* buffer, std::uint32_t size) {
-    keep(LoggedMessage::Level::debug, log, type, format, buffer, size);
+void _os_log_impl(void* image, os_log_t log, std::uint8_t type, const char* format, std::uint8_t* buffer,
+                  std::uint32_t size) {
+    keep(LoggedMessage::Level::info, image, log, type, format, buffer, size);
 }
 
-void _os_log_error_impl(void* /*image*/, os_log_t log, std::uint8_t type, const char* format,
+void _os_log_debug_impl(void* image, os_log_t log, std::uint8_t type, const char* format,
                         std::uint8_t* buffer, std::uint32_t size) {
-    keep(LoggedMessage::Level::error, log, type, format, buffer, size);
+    keep(LoggedMessage::Level::debug, image, log, type, format, buffer, size);
+}
+
+void _os_log_error_impl(void* image, os_log_t log, std::uint8_t type, const char* format,
+                        std::uint8_t* buffer, std::uint32_t size) {
+    keep(LoggedMessage::Level::error, image, log, type, format, buffer, size);
 }
 
 } // extern "C"

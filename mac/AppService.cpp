@@ -1,0 +1,38 @@
+#include "platform/AppService.h"
+
+#include "mac/ReportedError.h"
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+
+namespace kestrune {
+
+namespace {
+
+id theMainAppService() { return mac::sm_app_service::mainAppService(mac::sm_app_service::type.object()); }
+
+std::optional<Error> change(const mac::Message<BOOL(id*)>& message) {
+    const mac::Pool pool;
+    id error = nullptr;
+    const BOOL isDone = message(theMainAppService(), &error);
+    return mac::errorUnless(isDone, error);
+}
+
+} // namespace
+
+// There is one; it is asked for with each call.
+AppService AppService::mainAppService() { return {}; }
+
+AppServiceStatus AppService::status() const {
+    const mac::Pool pool;
+    return static_cast<AppServiceStatus>(mac::sm_app_service::status(theMainAppService()));
+}
+
+std::optional<Error> AppService::registerAndReturnError() {
+    return change(mac::sm_app_service::registerAndReturnError);
+}
+
+std::optional<Error> AppService::unregisterAndReturnError() {
+    return change(mac::sm_app_service::unregisterAndReturnError);
+}
+
+} // namespace kestrune

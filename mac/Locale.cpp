@@ -1,0 +1,18 @@
+#include "platform/Locale.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
+
+namespace kestrune {
+
+// Asked for with each call, as the user may have changed it.
+Locale Locale::currentLocale() { return {}; }
+
+std::string Locale::localeIdentifier() const {
+    const mac::Pool pool;
+    const id locale = mac::ns_locale::currentLocale(mac::ns_locale::type.object());
+    return mac::textOf(mac::ns_locale::localeIdentifier(locale));
+}
+
+} // namespace kestrune

@@ -1,0 +1,17 @@
+#include "platform/ProcessInfo.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+
+namespace kestrune {
+
+// There is one; it is asked for with each call.
+ProcessInfo ProcessInfo::processInfo() { return {}; }
+
+OperatingSystemVersion ProcessInfo::operatingSystemVersion() const {
+    const mac::Pool pool;
+    const id information = mac::ns_process_info::processInfo(mac::ns_process_info::type.object());
+    return mac::ns_process_info::operatingSystemVersion(information);
+}
+
+} // namespace kestrune

@@ -1,0 +1,13 @@
+#include "mac/ReportedError.h"
+
+#include "mac/Vocabulary.h"
+#include "mac/objc/Text.h"
+
+namespace kestrune::mac {
+
+std::optional<Error> errorUnless(BOOL isDone, id reported) {
+    return isDone != 0 ? std::nullopt
+                       : std::optional(Error{textOf(ns_error::localizedDescription(reported))});
+}
+
+} // namespace kestrune::mac

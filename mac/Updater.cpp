@@ -1,0 +1,107 @@
+#include "platform/Updater.h"
+
+#include "mac/ObjectCounterpart.h"
+#include "mac/ReportedError.h"
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Retained.h"
+#include "mac/objc/SelfCheck.h"
+#include "mac/objc/Text.h"
+
+namespace kestrune {
+
+struct StandardUserDriver::State {
+    mac::Retained driver; // empty without the framework
+};
+
+struct Updater::State {
+    mac::Retained updater;
+    std::optional<Error> missing; // why there is no updater
+};
+
+namespace {
+
+// As every Bundle is the main one.
+id theMainBundle() { return mac::ns_bundle::mainBundle(mac::ns_bundle::type.object()); }
+
+// In the Frameworks folder of the bundle, where the framework lies if it does; loaded already when it is
+// asked for again. The program is not linked with it, so that it starts without.
+std::optional<Error> loadFramework() {
+    const std::string folder = mac::textOf(mac::ns_bundle::privateFrameworksPath(theMainBundle()));
+    const id framework = mac::ns_bundle::bundleWithPath(mac::ns_bundle::type.object(),
+                                                        mac::nsString(folder + "/Sparkle.framework").get());
+    if (framework == nullptr) {
+        return Error{std::string(MissingUpdateFramework)};
+    }
+    id error = nullptr;
+    const BOOL isLoaded = mac::ns_bundle::loadAndReturnError(framework, &error);
+    return mac::errorUnless(isLoaded, error);
+}
+
+// Nil when the framework is not there, as is what comes of a message to it.
+id allocate(const mac::ClassReference& type) {
+    return mac::ns_object::alloc(reinterpret_cast<id>(type.find()));
+}
+
+// A protocol exists at run time once the framework is loaded, and only if that keeps it.
+void adopt(id delegate, const char* protocolName) {
+    Protocol* const protocol = objc_getProtocol(protocolName);
+    if (delegate != nullptr && protocol != nullptr) {
+        class_addProtocol(object_getClass(delegate), protocol);
+    }
+}
+
+} // namespace
+
+StandardUserDriver::StandardUserDriver(const Bundle& /*hostBundle*/,
+                                       const std::weak_ptr<StandardUserDriverDelegate>& delegate)
+    : state_(std::make_shared<State>()) {
+    const mac::Pool pool;
+    if (loadFramework()) {
+        return;
+    }
+#if defined(__APPLE__) && !defined(NDEBUG)
+    mac::requireVocabulary();
+#endif
+    const id instance = Object::Counterpart::of(delegate);
+    adopt(instance, "SPUStandardUserDriverDelegate");
+    state_->driver = mac::Retained::adopting(mac::spu_standard_user_driver::initWithHostBundle(
+        allocate(mac::spu_standard_user_driver::type), theMainBundle(), instance));
+}
+
+Updater::Updater(const Bundle& /*hostBundle*/, const Bundle& /*applicationBundle*/,
+                 const StandardUserDriver& userDriver, const std::weak_ptr<Object>& delegate)
+    : state_(std::make_shared<State>()) {
+    const mac::Pool pool;
+    state_->missing = loadFramework();
+    if (state_->missing) {
+        return;
+    }
+    const id instance = Object::Counterpart::of(delegate);
+    adopt(instance, "SPUUpdaterDelegate");
+    state_->updater = mac::Retained::adopting(
+        mac::spu_updater::initWithHostBundle(allocate(mac::spu_updater::type), theMainBundle(),
+                                             theMainBundle(), userDriver.state()->driver.get(), instance));
+}
+
+std::optional<Error> Updater::startUpdater() {
+    if (state_->missing) {
+        return state_->missing;
+    }
+    const mac::Pool pool;
+    id error = nullptr;
+    const BOOL hasStarted = mac::spu_updater::startUpdater(state_->updater.get(), &error);
+    return mac::errorUnless(hasStarted, error);
+}
+
+void Updater::setAutomaticallyDownloadsUpdates(bool downloads) {
+    const mac::Pool pool;
+    mac::spu_updater::setAutomaticallyDownloadsUpdates(state_->updater.get(), mac::truth(downloads));
+}
+
+void Updater::checkForUpdates() {
+    const mac::Pool pool;
+    mac::spu_updater::checkForUpdates(state_->updater.get());
+}
+
+} // namespace kestrune

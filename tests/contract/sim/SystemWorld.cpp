@@ -1,0 +1,95 @@
+// What surrounds the application beside displays, menus and windows: login items, the system, frameworks.
+#include "sim/Session.h"
+#include "sim/WindowState.h"
+#include "tests/contract/World.h"
+
+namespace kestrune::contract {
+
+namespace {
+
+static_assert(World::UpdateFailure == sim::Updates::StartFailure);
+
+sim::LoginItem& item() { return sim::Session::current().loginItem(); }
+
+sim::UpdateFramework simulated(UpdateFramework framework) {
+    switch (framework) {
+    case UpdateFramework::missing:
+        return sim::UpdateFramework::missing;
+    case UpdateFramework::refusing:
+        return sim::UpdateFramework::broken;
+    case UpdateFramework::working:
+        break;
+    }
+    return sim::UpdateFramework::working;
+}
+
+void tell(void (StandardUserDriverDelegate::*method)()) {
+    if (const auto delegate = sim::Session::current().updates().delegate()) {
+        (delegate.get()->*method)();
+    }
+}
+
+} // namespace
+
+std::shared_ptr<void> World::showFrameworkWindow(std::string_view className, std::string_view title) {
+    sim::Windows& windows = sim::Session::current().windows();
+    auto window = std::make_shared<Window::State>();
+    window->className = className;
+    window->title = title;
+    window->styleMask = WindowStyleMask::titled;
+    window->isReleasedWhenClosed = false;
+    windows.add(window);
+    windows.makeKeyAndOrderFront(window);
+    return {window.get(), [window, &windows](void*) { windows.orderOut(window); }};
+}
+
+AppServiceStatus World::loginItem() const { return item().status(); }
+
+void World::setLoginItem(AppServiceStatus status) { item().setStatus(status); }
+
+void World::requireApprovalOfLoginItem() { item().requireApproval(true); }
+
+void World::refuseLoginItemChanges(std::string description) { item().refuse(std::move(description)); }
+
+OperatingSystemVersion World::operatingSystemVersion() const {
+    return sim::Session::current().surroundings().operatingSystemVersion;
+}
+
+std::string World::localeIdentifier() const {
+    return sim::Session::current().surroundings().localeIdentifier;
+}
+
+void World::setUpdateFramework(UpdateFramework framework) {
+    sim::Session::current().updates().setFramework(simulated(framework));
+}
+
+// The journal has what the seam was asked for, also when there is nobody to ask.
+std::vector<std::string> World::updateMessages() const {
+    sim::Session& session = sim::Session::current();
+    std::vector<std::string> messages;
+    for (const std::string& line : session.journal().lines()) {
+        if (line.starts_with("-[SPU") && session.updates().framework() != sim::UpdateFramework::missing) {
+            messages.push_back(line);
+        }
+    }
+    return messages;
+}
+
+std::optional<bool> World::asksForGentleReminders() const {
+    const auto delegate = sim::Session::current().updates().delegate();
+    return delegate ? std::optional(delegate->supportsGentleScheduledUpdateReminders()) : std::nullopt;
+}
+
+void World::announceUpdate() { tell(&StandardUserDriverDelegate::standardUserDriverWillHandleShowingUpdate); }
+
+void World::finishUpdateSession() {
+    tell(&StandardUserDriverDelegate::standardUserDriverWillFinishUpdateSession);
+}
+
+void World::showUpdateAlert(const std::function<void()>& whileShown) {
+    tell(&StandardUserDriverDelegate::standardUserDriverWillShowModalAlert);
+    whileShown();
+    tell(&StandardUserDriverDelegate::standardUserDriverDidShowModalAlert);
+}
+
+} // namespace kestrune::contract

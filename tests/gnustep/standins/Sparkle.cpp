@@ -1,0 +1,178 @@
+// Sparkle: a folder in the main bundle that NSBundle is asked to load, and the two classes that are there
+// from then on.
+//
+// This is what we believe of Sparkle, and no proof of it: delegates are held weakly, the driver is retained
+// by its updater, and the delegate is looked at for its methods by those encodings.
+//
+// Source: Sparkle 2, SPUStandardUserDriver.h, SPUStandardUserDriverDelegate.h, SPUUpdater.h.
+#include "tests/gnustep/standins/Sparkle.h"
+
+#include "base/Fatal.h"
+#include "mac/Vocabulary.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
+#include "tests/gnustep/Objects.h"
+#include "tests/gnustep/standins/Deallocation.h"
+#include "tests/gnustep/standins/Subclass.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace kestrune::gnustep {
+
+using contract::UpdateFramework;
+using contract::World;
+
+namespace {
+
+struct UpdaterVariables {
+    mac::Retained driver;
+};
+
+struct Framework {
+    bool refusesToStart = false;
+    bool hasStarted = false;
+    std::optional<std::string> loadingFault;
+    id driver = nullptr; // not retained here
+    id delegate = nullptr;
+    std::vector<std::string> messages;
+};
+
+Framework& framework() {
+    static Framework& only = *new Framework;
+    return only;
+}
+
+void require(bool holds, const std::string& otherwise) {
+    if (!holds) {
+        fatal("A message that Sparkle would not expect: " + otherwise);
+    }
+}
+
+std::string nameOf(id delegate) { return delegate != nullptr ? object_getClassName(delegate) : "nil"; }
+
+void requireMethod(id delegate, const char* selector, const std::string& encoding) {
+    struct objc_method* const method =
+        class_getInstanceMethod(object_getClass(delegate), sel_registerName(selector));
+    require(method != nullptr, std::string("the delegate has no method ") + selector);
+    const std::string found = method_getTypeEncoding(method);
+    require(mac::normalizedEncoding(found) == mac::normalizedEncoding(encoding),
+            std::string("the delegate's ") + selector + " is " + found + ", not " + encoding);
+}
+
+void requireDelegate(id delegate) {
+    if (delegate == nullptr) {
+        return;
+    }
+    requireMethod(delegate, "supportsGentleScheduledUpdateReminders", "B16@0:8");
+    requireMethod(delegate, "standardUserDriverWillHandleShowingUpdate:forUpdate:state:", "v36@0:8B16@20@28");
+    requireMethod(delegate, "standardUserDriverWillFinishUpdateSession", "v16@0:8");
+    requireMethod(delegate, "standardUserDriverWillShowModalAlert", "v16@0:8");
+    requireMethod(delegate, "standardUserDriverDidShowModalAlert", "v16@0:8");
+}
+
+void requireMainBundle(id bundle) {
+    require(bundle == mac::ns_bundle::mainBundle(mac::ns_bundle::type.object()),
+            "the bundle is not the main one");
+}
+
+id initUserDriver(id driver, SEL, id hostBundle, id delegate) {
+    requireMainBundle(hostBundle);
+    requireDelegate(delegate);
+    framework().driver = driver;
+    framework().delegate = delegate;
+    if (delegate != nullptr) {
+        whenDeallocated(delegate, &framework(), [] { framework().delegate = nullptr; });
+    }
+    whenDeallocated(driver, &framework(), [] { framework().driver = nullptr; });
+    updateMessages().push_back("-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, " +
+                               nameOf(delegate));
+    return driver;
+}
+
+id initUpdater(id updater, SEL, id hostBundle, id applicationBundle, id driver, id delegate) {
+    requireMainBundle(hostBundle);
+    requireMainBundle(applicationBundle);
+    require(driver != nullptr && driver == framework().driver,
+            "the user driver is not the one that was made");
+    Subclass<UpdaterVariables>::give(updater, {mac::Retained::retaining(driver)});
+    updateMessages().push_back(
+        "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] main bundle, main bundle, " +
+        nameOf(delegate));
+    return updater;
+}
+
+BOOL startUpdater(id, SEL, id* error) {
+    require(error != nullptr, "there is no place for the error");
+    updateMessages().emplace_back("-[SPUUpdater startUpdater:]");
+    if (framework().refusesToStart) {
+        *error = errorFor("SUSparkleErrorDomain", std::string(World::UpdateFailure));
+        return mac::truth(false);
+    }
+    framework().hasStarted = true;
+    return mac::truth(true);
+}
+
+void setAutomaticallyDownloadsUpdates(id, SEL, BOOL downloads) {
+    updateMessages().push_back(std::string("-[SPUUpdater setAutomaticallyDownloadsUpdates:] ") +
+                               (downloads != 0 ? "true" : "false"));
+}
+
+void checkForUpdates(id, SEL) {
+    require(framework().hasStarted, "a check before the updater has started");
+    updateMessages().emplace_back("-[SPUUpdater checkForUpdates]");
+}
+
+void makeClasses() {
+    Subclass<NoValue>("SPUStandardUserDriver").method("initWithHostBundle:delegate:", initUserDriver);
+    Subclass<UpdaterVariables>("SPUUpdater")
+        .method("initWithHostBundle:applicationBundle:userDriver:delegate:", initUpdater)
+        .method("startUpdater:", startUpdater)
+        .method("setAutomaticallyDownloadsUpdates:", setAutomaticallyDownloadsUpdates)
+        .method("checkForUpdates", checkForUpdates);
+}
+
+std::filesystem::path place() {
+    const id bundle = mac::ns_bundle::mainBundle(mac::ns_bundle::type.object());
+    return std::filesystem::path(mac::textOf(mac::ns_bundle::privateFrameworksPath(bundle))) /
+           "Sparkle.framework";
+}
+
+Method<BOOL, id*> loadBefore = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+BOOL load(id bundle, SEL selector, id* error) {
+    if (mac::textOf(send(bundle, "bundlePath")) != place()) {
+        return loadBefore(bundle, selector, error);
+    }
+    if (framework().loadingFault) {
+        *error = errorFor("NSCocoaErrorDomain", *framework().loadingFault);
+        return mac::truth(false);
+    }
+    if (objc_getClass("SPUUpdater") == nullptr) {
+        makeClasses();
+    }
+    return mac::truth(true);
+}
+
+} // namespace
+
+void installSparkle() { loadBefore = replaceMethod(classNamed("NSBundle"), "loadAndReturnError:", load); }
+
+void setUpdateFramework(UpdateFramework kind) {
+    const mac::Pool pool;
+    framework() = {};
+    framework().refusesToStart = kind == UpdateFramework::refusing;
+    if (kind == UpdateFramework::missing) {
+        std::filesystem::remove_all(place());
+    } else {
+        std::filesystem::create_directories(place());
+    }
+}
+
+void refuseLoadingUpdateFramework(const std::string& description) { framework().loadingFault = description; }
+
+std::vector<std::string>& updateMessages() { return framework().messages; }
+
+id userDriverDelegate() { return framework().hasStarted ? framework().delegate : nullptr; }
+
+} // namespace kestrune::gnustep

@@ -1,0 +1,27 @@
+// Sparkle.framework in the main bundle.
+#pragma once
+
+#include "mac/objc/Runtime.h"
+#include "tests/contract/World.h"
+
+#include <string>
+#include <vector>
+
+namespace kestrune::gnustep {
+
+// Whoever loads the framework from then on makes its classes.
+void installSparkle();
+
+// Puts the framework into the main bundle or takes it out, and tells whether it starts.
+void setUpdateFramework(contract::UpdateFramework framework);
+
+// Fault: it is there and cannot be loaded, with that description; as when it is signed by somebody else.
+void refuseLoadingUpdateFramework(const std::string& description);
+
+// What its objects were asked for, in order. A message that they would not expect ends the process.
+std::vector<std::string>& updateMessages();
+
+// The delegate of the user driver, once it has started; nil when it is gone.
+id userDriverDelegate();
+
+} // namespace kestrune::gnustep
