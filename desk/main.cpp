@@ -3,6 +3,7 @@
 #include "desk/command/OptionsReader.h"
 #include "desk/headless/LaunchCommand.h"
 #include "desk/headless/ReplayCommand.h"
+#include "desk/live/SettingsPictures.h"
 #include "desk/live/Tour.h"
 #include "desk/live/WizardPictures.h"
 #include "desk/window/DeskWindow.h"
@@ -45,9 +46,10 @@ int run(const Options& options) {
         const auto* text = std::get_if<std::string>(&result);
         return text != nullptr ? print(*text) : refuse(std::get<InputError>(result));
     }
-    if (options.tour || options.wizard) {
-        const auto error =
-            options.tour ? runTour(*options.tour, options) : writeWizardPictures(*options.wizard, options);
+    if (options.tour || options.wizard || options.settings) {
+        const auto error = options.tour     ? runTour(*options.tour, options)
+                           : options.wizard ? writeWizardPictures(*options.wizard, options)
+                                            : writeSettingsPictures(*options.settings, options);
         return error ? refuse(*error) : 0;
     }
     return runDeskWindow(options);

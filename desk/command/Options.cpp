@@ -9,6 +9,8 @@ std::string_view helpText() {
   kestrune-desk --tour DIR             plays the first-run story and writes a PNG for each scene
   kestrune-desk --wizard DIR           writes a PNG for each state of the first-run wizard, light and dark,
                                        and all.png with all of them
+  kestrune-desk --settings DIR         writes a PNG for each state of the Settings window, light and dark,
+                                       and all.png with all of them
   kestrune-desk --replay FILE          plays a pointer recording without a window
   kestrune-desk --generate FILE        writes a made-up recording
   kestrune-desk --launch               launches Kestrune without a window and prints every call to the

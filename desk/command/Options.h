@@ -26,6 +26,7 @@ struct Options {
     std::optional<std::string> screenshot; // where to write the picture of the end
     std::optional<std::string> tour;       // the folder for the pictures of the tour
     std::optional<std::string> wizard;     // the folder for the pictures of the first-run wizard
+    std::optional<std::string> settings;   // the folder for the pictures of the Settings window
     std::optional<std::string> generate;   // where to write a made-up recording
     std::optional<std::string> defaults;   // the file that keeps the preferences
 

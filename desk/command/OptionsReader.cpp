@@ -62,10 +62,10 @@ public:
     }
 
 private:
-    static constexpr std::array<std::string_view, 16> ValueOptions = {
-        "--displays", "--pin",  "--guard",      "--margin",    "--replay",   "--emit",
-        "--report",   "--tour", "--wizard",     "--defaults",  "--generate", "--seed",
-        "--rows",     "--size", "--screenshot", "--permission"};
+    static constexpr std::array<std::string_view, 17> ValueOptions = {
+        "--displays", "--pin",  "--guard",  "--margin",     "--replay",    "--emit",
+        "--report",   "--tour", "--wizard", "--settings",   "--defaults",  "--generate",
+        "--seed",     "--rows", "--size",   "--screenshot", "--permission"};
 
     static bool isValueOption(std::string_view option) {
         return std::find(ValueOptions.begin(), ValueOptions.end(), option) != ValueOptions.end();
@@ -140,6 +140,9 @@ private:
         }
         if (option == "--wizard") {
             return options_.wizard;
+        }
+        if (option == "--settings") {
+            return options_.settings;
         }
         return option == "--generate" ? options_.generate : options_.defaults;
     }
@@ -230,13 +233,15 @@ private:
 
     MaybeError checkCompany() const {
         const int modes = (options_.replay ? 1 : 0) + (options_.tour ? 1 : 0) + (options_.wizard ? 1 : 0) +
-                          (options_.generate ? 1 : 0);
+                          (options_.settings ? 1 : 0) + (options_.generate ? 1 : 0);
         if (modes + (options_.launch ? 1 : 0) > 1) {
-            return InputError{"expected only one of --replay, --tour, --wizard, --generate and --launch"};
+            return InputError{
+                "expected only one of --replay, --tour, --wizard, --settings, --generate and --launch"};
         }
         if (modes > 0) {
-            if (auto error = refuseSeen({"--permission"},
-                                        "expected without --replay, --tour, --wizard and --generate")) {
+            if (auto error =
+                    refuseSeen({"--permission"},
+                               "expected without --replay, --tour, --wizard, --settings and --generate")) {
                 return error;
             }
         }
@@ -244,7 +249,8 @@ private:
             return InputError{"--emit: expected together with --replay"};
         }
         if (options_.defaults && modes > 0) {
-            return InputError{"--defaults: expected without --replay, --tour, --wizard and --generate"};
+            return InputError{
+                "--defaults: expected without --replay, --tour, --wizard, --settings and --generate"};
         }
         if (!options_.generate) {
             return refuseSeen({"--seed", "--rows", "--size"}, "expected together with --generate");

@@ -10,6 +10,9 @@ const std::vector<KeyHint>& keyLegend() {
         {"U", "unplug"},
         {"P", "plug in"},
         {"A", "ask for permission"},
+        {"I", "Login Items"},
+        {"F", "update feed"},
+        {"C", "scheduled check"},
         {"T", "tap timeout"},
         {"+ −", "band"},
         {"L", "quit or launch Kestrune"},
@@ -44,6 +47,15 @@ bool pressDeskKey(LiveDesk& desk, char key) {
         return true;
     case 'a':
         desk.askForPermission();
+        return true;
+    case 'i':
+        desk.openLoginItems();
+        return true;
+    case 'f':
+        desk.changeUpdateFeed();
+        return true;
+    case 'c':
+        desk.letScheduledCheckCome();
         return true;
     case 't':
         desk.timeOutTap();

@@ -40,7 +40,14 @@ void LiveDesk::startKeepingDefaults(const LiveDeskSetup& setup) {
 
 void LiveDesk::advance(sim::Duration duration) {
     const bool wasRunning = host_.guardIsRunning();
+    const bool wasShowingUpdate = session_.updates().isShowingUpdate();
+    const bool wasShowingAlert = session_.updates().isShowingAlert();
     session_.advance(duration);
+    if (!wasShowingUpdate && session_.updates().isShowingUpdate()) {
+        news_ = newsOfFoundUpdate();
+    } else if (!wasShowingAlert && session_.updates().isShowingAlert()) {
+        news_ = newsOfUpdateAlert(feed_);
+    }
     if (!wasRunning && host_.guardIsRunning()) {
         news_ = newsOfGuard(standing());
     }
@@ -185,6 +192,8 @@ Standing LiveDesk::standing() {
     }
     const sim::PropertyList* choice = session_.defaults().find("pinnedScreenUUID");
     result.choice = choice != nullptr ? choice->asString() : std::nullopt;
+    result.loginItem = session_.loginItem().status();
+    result.mails = parts_.mailAfterLinks().count();
     for (const auto& window : session_.windows().shown()) {
         result.windows.push_back(window->title);
     }
@@ -194,6 +203,32 @@ Standing LiveDesk::standing() {
 bool LiveDesk::isEnabled() {
     const sim::PropertyList* stored = session_.defaults().find("isEnabled");
     return stored == nullptr || stored->asBool();
+}
+
+void LiveDesk::openLoginItems() {
+    parts_.openLoginItems();
+    news_ = {"System Settings shows the login items", Occurrence::neutral};
+}
+
+void LiveDesk::changeUpdateFeed() {
+    switch (feed_) {
+    case sim::UpdateFeed::nothingNew:
+        feed_ = sim::UpdateFeed::newVersion;
+        break;
+    case sim::UpdateFeed::newVersion:
+        feed_ = sim::UpdateFeed::unreachable;
+        break;
+    case sim::UpdateFeed::unreachable:
+        feed_ = sim::UpdateFeed::nothingNew;
+        break;
+    }
+    session_.updates().setFeed(feed_);
+    news_ = newsOfFeed(feed_);
+}
+
+void LiveDesk::letScheduledCheckCome() {
+    session_.updates().checkAsScheduled();
+    news_ = newsOfScheduledCheck(feed_, host_.isRunning());
 }
 
 void LiveDesk::unplugUnderPointer() {

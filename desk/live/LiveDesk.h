@@ -46,6 +46,10 @@ public:
     void releaseButton(const std::optional<DeskTarget>& target);
     void hover(const std::optional<DeskTarget>& target) { parts_.hover(target); }
 
+    // Where the hand is in the desk's window, in its points. To be told before it presses or releases a
+    // button.
+    void placeHand(Point place) { parts_.placeHand(place); }
+
     // A key for an open menu or the dialog; false when neither is there.
     bool navigate(NavigationKey key);
 
@@ -65,6 +69,15 @@ public:
 
     // The display that was unplugged last, where it was if the others are the same; otherwise a new one.
     void plugIn();
+
+    // System Settings with the login items.
+    void openLoginItems();
+
+    // What a check for updates finds: in turn nothing, a new version, and no answer.
+    void changeUpdateFeed();
+
+    // The time for the updater's own check has come.
+    void letScheduledCheckCome();
 
     // Switches the application's row in the Accessibility pane.
     void togglePermission();
@@ -126,9 +139,11 @@ private:
     JudgedDesk judgedDesk();
     Whereabouts whereabouts();
     std::string nameOf(std::optional<DisplayID> number);
+
     sim::Session session_;
     ApplicationHost host_{session_};
     ScreenParts parts_{session_};
+    sim::UpdateFeed feed_ = sim::UpdateFeed::nothingNew;
     Plugs plugs_{session_};
     Report report_;
     News news_;

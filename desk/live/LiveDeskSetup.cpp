@@ -31,6 +31,9 @@ std::variant<LiveDeskSetup, InputError> setupOf(const Options& options) {
         return InputError{std::move(*error)};
     }
     setup.bundle = std::get<sim::BundleContents>(std::move(bundle));
+    // Which address a build has is decided when it is packaged; here it only has to be there.
+    setup.bundle.infoDictionary.emplace("SUFeedURL",
+                                        sim::PropertyList{std::string("https://example.org/appcast.xml")});
     if (options.defaults) {
         auto loaded = sim::loadDefaultsFile(*options.defaults);
         if (auto* error = std::get_if<std::string>(&loaded)) {

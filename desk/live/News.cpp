@@ -112,11 +112,33 @@ std::optional<std::string> missingIn(const std::vector<std::string>& second,
     return missing != first.end() ? std::optional(*missing) : std::nullopt;
 }
 
+// An alert has no title.
+bool isTitled(const std::string& title) { return !title.empty(); }
+
+std::optional<News> newsOfLoginItem(AppServiceStatus before, AppServiceStatus after) {
+    if (before == after) {
+        return std::nullopt;
+    }
+    switch (after) {
+    case AppServiceStatus::enabled:
+        return News{"Kestrune will open when the user logs in", Occurrence::neutral};
+    case AppServiceStatus::requiresApproval:
+        return News{"Kestrune may not open at login until System Settings allows it", Occurrence::warning};
+    case AppServiceStatus::notRegistered:
+    case AppServiceStatus::notFound:
+        return News{"Kestrune will not open when the user logs in", Occurrence::neutral};
+    }
+    return std::nullopt;
+}
+
 std::optional<News> newsOfWindows(const Standing& before, const Standing& after) {
-    if (const auto opened = missingIn(before.windows, after.windows)) {
+    if (const auto opened = missingIn(before.windows, after.windows); opened && isTitled(*opened)) {
         return News{"Kestrune opened its window “" + *opened + "”", Occurrence::neutral};
     }
     if (const auto closed = missingIn(after.windows, before.windows)) {
+        if (!isTitled(*closed)) {
+            return News{"The alert is closed", Occurrence::neutral};
+        }
         return News{"Kestrune's window “" + *closed + "” is closed", Occurrence::neutral};
     }
     return std::nullopt;
@@ -137,6 +159,12 @@ std::optional<News> newsOfChange(const Standing& before, const Standing& after) 
     if (before.isEnabled != after.isEnabled || before.guardRuns != after.guardRuns) {
         return newsOfGuard(after);
     }
+    if (after.mails > before.mails) {
+        return News{"Mail shows the mail that Kestrune composed; nothing is sent", Occurrence::neutral};
+    }
+    if (auto news = newsOfLoginItem(before.loginItem, after.loginItem)) {
+        return news;
+    }
     return newsOfWindows(before, after);
 }
 
@@ -148,7 +176,7 @@ News newsOfChoiceWithoutEffect(const std::string& row, const Standing& standing)
     if (!standing.windows.empty()) {
         return {"“" + row + "” brings “" + standing.windows.front() + "” to the front", Occurrence::neutral};
     }
-    return {"“" + row + "” leads to a window that Kestrune does not have yet", Occurrence::neutral};
+    return {"“" + row + "” changed nothing", Occurrence::neutral};
 }
 
 News newsOfClosedMenu(const Standing& standing) {
@@ -183,6 +211,35 @@ News newsOfUnplugging(const std::string& display, const Whereabouts& before, con
 
 News newsOfPlugging(const std::string& display, bool isPrimary) {
     return {display + " was plugged in" + (isPrimary ? " as the primary display" : ""), Occurrence::neutral};
+}
+
+News newsOfFeed(sim::UpdateFeed feed) {
+    switch (feed) {
+    case sim::UpdateFeed::nothingNew:
+        return {"The update feed has nothing new", Occurrence::neutral};
+    case sim::UpdateFeed::newVersion:
+        return {"The update feed has a new version", Occurrence::neutral};
+    case sim::UpdateFeed::unreachable:
+        return {"The update feed cannot be reached", Occurrence::neutral};
+    }
+    return {};
+}
+
+News newsOfScheduledCheck(sim::UpdateFeed feed, bool applicationRuns) {
+    if (!applicationRuns) {
+        return {"Kestrune does not run, and so does not check for updates", Occurrence::neutral};
+    }
+    return feed == sim::UpdateFeed::newVersion
+               ? News{"The updater checks the feed by itself", Occurrence::neutral}
+               : News{"The updater checks the feed by itself and finds nothing to show", Occurrence::neutral};
+}
+
+News newsOfFoundUpdate() { return {"The updater shows a new version", Occurrence::neutral}; }
+
+News newsOfUpdateAlert(sim::UpdateFeed feed) {
+    return feed == sim::UpdateFeed::unreachable
+               ? News{"The updater tells that the feed cannot be reached", Occurrence::warning}
+               : News{"The updater tells that there is nothing new", Occurrence::neutral};
 }
 
 News newsOfTapTimeout(bool switchedOnAgain) {

@@ -4,6 +4,7 @@
 #include "desk/paint/DeskPicture.h"
 #include "sim/Session.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,7 +34,9 @@ struct Standing {
     std::optional<std::string> pinned; // the display that keeps the Dock
     bool pinnedHasDock = false;
     std::optional<std::string> choice; // the stored identifier
-    std::vector<std::string> windows;  // by their titles, the frontmost first
+    AppServiceStatus loginItem = AppServiceStatus::notRegistered;
+    std::size_t mails = 0;            // that the mail program was asked for
+    std::vector<std::string> windows; // by their titles, the frontmost first
 };
 
 News newsOfHeldPointer(const sim::Delivery& delivery, const std::string& display);
@@ -64,6 +67,15 @@ News newsOfClosedMenu(const Standing& standing);
 
 News newsOfUnplugging(const std::string& display, const Whereabouts& before, const Whereabouts& after);
 News newsOfPlugging(const std::string& display, bool isPrimary);
+
+// What the next check for updates will find.
+News newsOfFeed(sim::UpdateFeed feed);
+
+// The updater checks by itself, if the application runs.
+News newsOfScheduledCheck(sim::UpdateFeed feed, bool applicationRuns);
+
+News newsOfFoundUpdate();
+News newsOfUpdateAlert(sim::UpdateFeed feed);
 
 News newsOfTapTimeout(bool switchedOnAgain);
 News newsOfMargin(double margin);

@@ -108,18 +108,10 @@ void ScreenParts::act(const DeskTarget& target) {
         } else {
             accessibility.denyInDialog();
         }
-    } else if (std::holds_alternative<PaneSwitchTarget>(target)) {
-        accessibility.flipSwitch();
-    } else if (std::holds_alternative<PaneRowTarget>(target)) {
-        isRowSelected_ = true;
-    } else if (std::holds_alternative<PaneRemoveTarget>(target)) {
-        accessibility.removeRow();
-        isRowSelected_ = false;
-    } else if (std::holds_alternative<PaneCloseTarget>(target)) {
-        accessibility.closePane();
-        isRowSelected_ = false;
-    } else if (std::holds_alternative<PaneTarget>(target)) {
-        isRowSelected_ = false;
+    } else if (std::holds_alternative<MailCloseTarget>(target)) {
+        mail_.close();
+    } else {
+        settings_.act(target);
     }
 }
 
@@ -268,8 +260,15 @@ PartsOutcome ScreenParts::pressEquivalent(std::string_view character, bool withS
     if (session_.menus().press(character, modifiers)) {
         outcome.chosenRow = "⌘" + std::string(character);
         noteClosedMenu();
+    } else if (character == "w" && mail_.isOpen() && !windows_.takesKeys()) {
+        mail_.close();
     }
     return outcome;
+}
+
+const MailProgram& ScreenParts::mailAfterLinks() {
+    mail_.lookForLinks();
+    return mail_;
 }
 
 void ScreenParts::addTo(DeskPicture& picture, const std::string& iconPath) {
@@ -292,14 +291,9 @@ void ScreenParts::addTo(DeskPicture& picture, const std::string& iconPath) {
         picture.permissionDialog =
             PermissionDialogPicture{0, ApplicationName, iconPath, Window::State::TitleBarHeight};
     }
-    if (accessibility.isPaneShown()) {
-        picture.accessibilityPane =
-            AccessibilityPanePicture{picture.displays.size() > 1 ? std::size_t{1} : std::size_t{0}, {}};
-        if (accessibility.isListed()) {
-            picture.accessibilityPane->rows.push_back(
-                {ApplicationName, iconPath, accessibility.isSwitchedOn(), isRowSelected_});
-        }
-    }
+    const std::size_t displayBeside = picture.displays.size() > 1 ? 1 : 0;
+    settings_.addTo(picture, iconPath, displayBeside);
+    mail_.addTo(picture, displayBeside);
     windows_.addTo(picture);
     picture.pressed = pressed_;
 }

@@ -1,8 +1,10 @@
-// The user's hand at the parts of the Mac's screen: menus, the permission dialog, the Accessibility pane and
-// the application's windows.
+// The user's hand at the parts of the Mac's screen: menus, the permission dialog, System Settings, the mail
+// program and the application's windows.
 #pragma once
 
+#include "desk/live/MailProgram.h"
 #include "desk/live/NavigationKey.h"
+#include "desk/live/SystemSettings.h"
 #include "desk/live/WindowParts.h"
 #include "desk/paint/DeskPicture.h"
 #include "desk/paint/DeskTarget.h"
@@ -32,7 +34,8 @@ struct PartsOutcome {
 class ScreenParts {
 public:
     // `session` must outlive the parts.
-    explicit ScreenParts(sim::Session& session) : session_(session), windows_(session) {}
+    explicit ScreenParts(sim::Session& session)
+        : session_(session), windows_(session), settings_(session), mail_(session) {}
 
     // With the button that clicks, at what is under the pointer; absent for the bare desk.
     PartsOutcome press(const std::optional<DeskTarget>& target);
@@ -40,6 +43,9 @@ public:
 
     // The pointer is there now.
     void hover(const std::optional<DeskTarget>& target);
+
+    // Where the hand is in the desk's window, in its points.
+    void placeHand(Point place) { windows_.placeHand(place); }
 
     // The pointer has moved in the session.
     void followPointer() { windows_.followPointer(); }
@@ -54,13 +60,19 @@ public:
     // As the keyboard's command for the status menus does, on the display with that index.
     void openStatusMenu(std::size_t display);
 
+    // The user opens the pane of System Settings.
+    void openLoginItems() { settings_.openLoginItems(); }
+
+    // Lets the mail program see which links were opened.
+    const MailProgram& mailAfterLinks();
+
     bool isMenuOpen() const { return session_.menus().place().has_value(); }
 
     // Displays have come or gone: what was open or pressed on one of them is no longer there.
     void displaysChanged();
 
-    // Puts the parts into a picture of the session's displays. The dialog shows on the primary display, the
-    // pane beside it where there is another.
+    // Puts the parts into a picture of the session's displays. The dialog shows on the primary display;
+    // System Settings and the mail program show beside it where there is another.
     void addTo(DeskPicture& picture, const std::string& iconPath);
 
 private:
@@ -77,11 +89,12 @@ private:
 
     sim::Session& session_;
     WindowParts windows_;
+    SystemSettings settings_;
+    MailProgram mail_;
     std::size_t menuDisplay_ = 0;
     std::optional<std::size_t> highlightedRow_;
     std::optional<DeskTarget> pressed_;
     bool isOpenedByThisPress_ = false;
-    bool isRowSelected_ = false; // in the Accessibility pane
 
     // Where the pointer rests, and since when without an open menu.
     std::optional<DeskTarget> hovered_;

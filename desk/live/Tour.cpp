@@ -2,18 +2,21 @@
 
 #include "desk/live/LivePicture.h"
 #include "desk/live/TourScenes.h"
+#include "desk/live/WindowAlbum.h"
+#include "desk/paint/PictureSheet.h"
 #include "desk/paint/StatusBarPainter.h"
 #include "desk/paint/Surface.h"
 
 #include <filesystem>
 #include <fstream>
-#include <system_error>
 
 namespace kestrune::desk {
 
 namespace {
 
 constexpr double PictureScale = 2;
+constexpr double SmallPictureScale = 0.4;
+constexpr std::size_t SheetColumns = 5;
 
 // Long enough for the marks of a scene to fade before the next.
 constexpr sim::Duration Pause = std::chrono::seconds(20);
@@ -52,10 +55,8 @@ std::string fileName(std::size_t number, const std::string& name) {
 } // namespace
 
 std::optional<InputError> runTour(const std::string& folder, const Options& options) {
-    std::error_code failure;
-    std::filesystem::create_directories(folder, failure);
-    if (failure) {
-        return inputError(folder, "expected a folder that can be written: " + failure.message());
+    if (auto error = makeFolder(folder)) {
+        return error;
     }
     const auto setup = tourSetup(options);
     if (const auto* error = std::get_if<InputError>(&setup)) {
@@ -67,6 +68,8 @@ std::optional<InputError> runTour(const std::string& folder, const Options& opti
         return InputError{
             "--tour: expected another display than the pinned one, both with a free bottom edge"};
     }
+    PictureSheet sheet("The whole life of Kestrune, scene by scene", SheetColumns, UsualWindow,
+                       SmallPictureScale);
     std::string report = "The tour of the desk, scene by scene\n";
     std::size_t number = 0;
     for (const TourScenes::Scene& scene : TourScenes::all()) {
@@ -82,8 +85,14 @@ std::optional<InputError> runTour(const std::string& folder, const Options& opti
         if (const auto error = writePng(path, picture, UsualWindow, PictureScale)) {
             return InputError{error->message};
         }
+        if (const auto error = sheet.add(name, picture)) {
+            return InputError{error->message};
+        }
         report += "\n" + name + "\n    " + story + "\n    " + desk.news().text + ".\n    " +
                   figures(before, desk.report()) + "\n";
+    }
+    if (const auto error = sheet.write((std::filesystem::path(folder) / "all.png").string())) {
+        return InputError{error->message};
     }
     report += "\nAll scenes together\n" + reportAsText(desk.report());
     return writeReport(std::filesystem::path(folder) / "report.txt", report);

@@ -70,6 +70,8 @@ void TourHand::pointAt(const DeskTarget& target) {
     if (const auto area = hitTest_.areaOf(picture, UsualWindow, target)) {
         const Point middle{area->minX() + area->width() / 2, area->minY() + area->height() / 2};
         glideTo(DeskLayout::of(picture, UsualWindow).toGlobal(middle));
+        place_ = middle;
+        desk_.placeHand(place_);
     }
     desk_.hover(target);
 }
@@ -123,6 +125,15 @@ std::optional<DeskTarget> TourHand::controlWith(std::string_view title) {
 void TourHand::pointAtControl(std::string_view title) {
     if (const auto control = controlWith(title)) {
         pointAt(*control);
+    }
+}
+
+void TourHand::closeWindow(std::string_view title) {
+    for (const WindowPicture& window : pictureOf(desk_).windows) {
+        if (window.title == title) {
+            click(WindowCloseTarget{window.number});
+            return;
+        }
     }
 }
 

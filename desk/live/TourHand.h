@@ -31,6 +31,9 @@ public:
     void pointAt(const DeskTarget& target);
     void click(const DeskTarget& target);
 
+    // Where it pointed last, in the points of the desk's window.
+    Point place() const { return place_; }
+
     // Opens the application's menu on a display.
     void openMenu(DisplayID number);
 
@@ -43,12 +46,16 @@ public:
     void pointAtControl(std::string_view title);
     void clickControl(std::string_view title);
 
+    // The close button of one of the application's windows, by its title.
+    void closeWindow(std::string_view title);
+
 private:
     std::optional<DeskTarget> rowWith(std::string_view title);
     std::optional<DeskTarget> controlWith(std::string_view title);
 
     LiveDesk& desk_;
     DeskHitTest hitTest_;
+    Point place_;
 };
 
 } // namespace kestrune::desk

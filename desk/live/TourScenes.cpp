@@ -13,6 +13,7 @@ constexpr int DeepeningSteps = 4;
 
 constexpr sim::Duration LongRest = std::chrono::seconds(2);
 constexpr sim::Duration UntilTheWatcherLooks = std::chrono::seconds(1);
+constexpr sim::Duration UntilTheUpdaterHasChecked = std::chrono::seconds(1);
 
 } // namespace
 
@@ -52,8 +53,14 @@ const std::vector<TourScenes::Scene>& TourScenes::all() {
         {"permission-revoked", &TourScenes::revoke},
         {"permission-back", &TourScenes::grantAgain},
         {"tap-timeout", &TourScenes::timeOut},
+        {"settings", &TourScenes::openSettings},
+        {"launch-at-login", &TourScenes::launchAtLogin},
+        {"nothing-new", &TourScenes::findNothingNew},
+        {"new-version", &TourScenes::findNewVersion},
+        {"bug-report", &TourScenes::reportBug},
         {"one-display-left", &TourScenes::leaveOneDisplay},
         {"quit", &TourScenes::quit},
+        {"launched-again", &TourScenes::launchAgain},
     };
     return scenes;
 }
@@ -203,11 +210,48 @@ std::string TourScenes::timeOut() {
     return "The system gives up on a slow tap, and the guard switches it on again.";
 }
 
+std::string TourScenes::openSettings() {
+    unplugAllBut(2);
+    hand_.openMenu(first_);
+    hand_.clickRow("Settings…");
+    hand_.pointAtControl("Launch at login");
+    return "While its Settings are open, Kestrune is an application with a menu bar of its own.";
+}
+
+std::string TourScenes::launchAtLogin() {
+    hand_.clickControl("Launch at login");
+    desk_.openLoginItems();
+    hand_.pointAt(PaneSwitchTarget{0});
+    return "Launched at login from now on, and System Settings knows.";
+}
+
+std::string TourScenes::findNothingNew() {
+    hand_.click(PaneCloseTarget{});
+    hand_.clickControl("Check for Updates…");
+    desk_.advance(UntilTheUpdaterHasChecked);
+    hand_.pointAtControl("OK");
+    return "A check for updates finds nothing new, and says so.";
+}
+
+std::string TourScenes::findNewVersion() {
+    hand_.clickControl("OK");
+    desk_.changeUpdateFeed();
+    hand_.clickControl("Check for Updates…");
+    desk_.advance(UntilTheUpdaterHasChecked);
+    hand_.pointAtControl("Remind Me Later");
+    return "Another check finds a new version; its window floats in front of everything.";
+}
+
+std::string TourScenes::reportBug() {
+    hand_.clickControl("Remind Me Later");
+    hand_.clickControl("Report a Bug…");
+    return "A bug report is a mail that the user sends, or does not.";
+}
+
 std::string TourScenes::leaveOneDisplay() {
-    while (desk_.session().displays().connected().size() > 1) {
-        hand_.glideTo(hand_.onDisplay(desk_.session().displays().connected().back().displayID, 0.5, 0.5));
-        desk_.unplugUnderPointer();
-    }
+    hand_.click(MailCloseTarget{});
+    hand_.closeWindow("Kestrune Settings");
+    unplugAllBut(1);
     hand_.push(desk_.session().displays().connected().front().displayID);
     return "With one display left there is nothing to guard, and the pointer goes everywhere.";
 }
@@ -215,6 +259,20 @@ std::string TourScenes::leaveOneDisplay() {
 std::string TourScenes::quit() {
     desk_.quitOrLaunch();
     return "Quit, the icon and the tap are gone; what was chosen is kept for the next launch.";
+}
+
+std::string TourScenes::launchAgain() {
+    desk_.quitOrLaunch();
+    hand_.openMenu(desk_.session().displays().connected().front().displayID);
+    return "Launched again, Kestrune needs no setup any more and guards what was chosen.";
+}
+
+void TourScenes::unplugAllBut(std::size_t count) {
+    const auto& connected = desk_.session().displays().connected();
+    while (connected.size() > count) {
+        hand_.glideTo(hand_.onDisplay(connected.back().displayID, 0.5, 0.5));
+        desk_.unplugUnderPointer();
+    }
 }
 
 const std::string& TourScenes::nameOf(DisplayID number) {

@@ -49,8 +49,17 @@ private:
     std::string revoke();
     std::string grantAgain();
     std::string timeOut();
+    std::string openSettings();
+    std::string launchAtLogin();
+    std::string findNothingNew();
+    std::string findNewVersion();
+    std::string reportBug();
     std::string leaveOneDisplay();
     std::string quit();
+    std::string launchAgain();
+
+    // The last ones go.
+    void unplugAllBut(std::size_t count);
 
     const std::string& nameOf(DisplayID number);
     std::string pinnedName();

@@ -1,9 +1,11 @@
 #include "desk/live/WindowParts.h"
 
+#include "desk/paint/ControlPainter.h"
 #include "desk/paint/MenuBarLayout.h"
 #include "sim/WindowState.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 #include <variant>
 
@@ -45,6 +47,10 @@ void WindowParts::press(const std::optional<DeskTarget>& target) {
         }
         return;
     }
+    if (const WindowState alert = modalAlert(); alert && alert != window) {
+        session_.windows().click(alert);
+        return;
+    }
     pressed_ = target;
     isOverPressed_ = true;
     // A window in the background can be closed without coming forward.
@@ -54,6 +60,9 @@ void WindowParts::press(const std::optional<DeskTarget>& target) {
     session_.windows().click(window);
     if (const auto* const control = std::get_if<WindowControlTarget>(&*target)) {
         pressedControl_ = controlIn(window, control->element);
+        if (const ui::ToggleElement* const toggle = switchOf(pressedControl_)) {
+            grip_ = SwitchGrip(toggle->isOn, hand_, switchTravel(toggle->frame));
+        }
     } else if (std::holds_alternative<WindowTitleTarget>(*target)) {
         startDrag(window);
     }
@@ -62,7 +71,11 @@ void WindowParts::press(const std::optional<DeskTarget>& target) {
 std::optional<std::string> WindowParts::release(const std::optional<DeskTarget>& target) {
     const auto pressed = std::exchange(pressed_, std::nullopt);
     const auto control = std::exchange(pressedControl_, std::nullopt);
+    const auto grip = std::exchange(grip_, std::nullopt);
     letGo();
+    if (grip && grip->isDragged()) {
+        return letGoOfKnob(*control, *grip);
+    }
     const WindowState window = pressed && pressed == target ? windowOf(target) : nullptr;
     if (!window) {
         return std::nullopt;
@@ -75,6 +88,33 @@ std::optional<std::string> WindowParts::release(const std::optional<DeskTarget>&
     return std::nullopt;
 }
 
+void WindowParts::placeHand(Point place) {
+    hand_ = place;
+    if (grip_) {
+        grip_->follow(place);
+    }
+}
+
+// What the switch was may have gone while the hand held it.
+std::optional<std::string> WindowParts::letGoOfKnob(const Control& control, const SwitchGrip& grip) {
+    const WindowState window = control.window.lock();
+    const ui::ToggleElement* const toggle = isStillThere(control, window) ? switchOf(control) : nullptr;
+    if (toggle == nullptr) {
+        return std::nullopt;
+    }
+    const bool isFlipped = grip.isOnSide() != toggle->isOn;
+    slide(control, grip.position(), grip.isOnSide());
+    if (!isFlipped) {
+        return std::nullopt;
+    }
+    session_.windows().flipSwitch(window, control.element);
+    return control.title;
+}
+
+void WindowParts::slide(const Control& control, double from, bool isOn) {
+    slide_ = Slide{control, SwitchSlide(from, isOn, session_.clock().now())};
+}
+
 void WindowParts::hover(const std::optional<DeskTarget>& target) {
     hovered_ = target;
     isOverPressed_ = pressed_ && pressed_ == target;
@@ -83,6 +123,7 @@ void WindowParts::hover(const std::optional<DeskTarget>& target) {
 void WindowParts::letGo() {
     pressed_.reset();
     pressedControl_.reset();
+    grip_.reset();
     drag_.reset();
     isOverPressed_ = false;
 }
@@ -174,13 +215,40 @@ bool WindowParts::isStillThere(const std::optional<Control>& control, const Wind
 std::optional<std::string> WindowParts::act(const Control& control) {
     const WindowState window = control.window.lock();
     std::string title = control.title; // The action may end with the control.
-    if (std::holds_alternative<ui::ButtonElement>(
-            sim::Windows::sceneOf(*window).elements.at(control.element))) {
-        session_.windows().pressButton(window, control.element);
-    } else {
+    if (const ui::ToggleElement* const toggle = switchOf(control)) {
+        slide(control, toggle->isOn ? 1 : 0, !toggle->isOn);
         session_.windows().flipSwitch(window, control.element);
+    } else {
+        session_.windows().pressButton(window, control.element);
     }
     return title;
+}
+
+const ui::ToggleElement* WindowParts::switchOf(const std::optional<Control>& control) {
+    const WindowState window = control ? control->window.lock() : nullptr;
+    return window ? std::get_if<ui::ToggleElement>(&sim::Windows::sceneOf(*window).elements[control->element])
+                  : nullptr;
+}
+
+// The alert that keeps the application from everything else; null when there is none.
+WindowParts::WindowState WindowParts::modalAlert() const {
+    constexpr std::string_view AlertClass = "_NSAlertPanel";
+    const auto shown =
+        session_.updates().isShowingAlert() ? session_.windows().shown() : std::vector<WindowState>();
+    const auto alert = std::find_if(shown.begin(), shown.end(), [&](const WindowState& window) {
+        return window->className == AlertClass;
+    });
+    return alert != shown.end() ? *alert : nullptr;
+}
+
+std::optional<MovingSwitch> WindowParts::movingSwitchIn(const WindowState& window) const {
+    if (grip_ && grip_->isDragged() && isStillThere(pressedControl_, window)) {
+        return MovingSwitch{pressedControl_->element, grip_->position()};
+    }
+    const auto position = slide_ && isStillThere(slide_->control, window)
+                              ? slide_->knob.position(session_.clock().now())
+                              : std::nullopt;
+    return position ? std::optional(MovingSwitch{slide_->control.element, *position}) : std::nullopt;
 }
 
 std::size_t WindowParts::numberOf(const WindowState& window) {
@@ -225,9 +293,11 @@ WindowPicture WindowParts::pictureOf(const WindowState& window) {
     if (isStillThere(focused_, window)) {
         picture.focusedElement = focused_->element;
     }
-    if (isOverPressed_ && isStillThere(pressedControl_, window)) {
+    const bool isDragged = grip_ && grip_->isDragged();
+    if ((isOverPressed_ || isDragged) && isStillThere(pressedControl_, window)) {
         picture.pressedElement = pressedControl_->element;
     }
+    picture.movingSwitch = movingSwitchIn(window);
     const DeskTarget close = WindowCloseTarget{picture.number};
     picture.isCloseButtonPressed = isOverPressed_ && pressed_ == close;
     picture.isCloseButtonHovered = hovered_ == close && (!pressed_ || pressed_ == close);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desk/live/NavigationKey.h"
+#include "desk/live/SwitchMotion.h"
 #include "desk/paint/DeskPicture.h"
 #include "desk/paint/DeskTarget.h"
 #include "sim/Session.h"
@@ -18,7 +19,8 @@ namespace kestrune::desk {
 std::optional<std::string> titleOfControl(const ui::Element& element);
 
 // Works like macOS with keyboard navigation switched on: a click brings a window to the front and makes it
-// key; buttons and switches act when the press is released over them; Tab goes from control to control.
+// key; buttons and switches act when the press is released over them, and a switch also goes where its knob
+// is dragged; Tab goes from control to control. While a modal alert is shown, no other window takes a click.
 class WindowParts {
 public:
     // `session` must outlive the parts.
@@ -30,6 +32,10 @@ public:
 
     // The title of what was pressed by it, if anything was.
     std::optional<std::string> release(const std::optional<DeskTarget>& target);
+
+    // Where the hand is in the desk's window, in its points: windows keep a size of their own there, whatever
+    // the displays' scale. A switch that is held by its knob follows it.
+    void placeHand(Point place);
 
     // The pointer is there now. A window that is held by its title bar follows it.
     void hover(const std::optional<DeskTarget>& target);
@@ -61,9 +67,19 @@ private:
         Point hold; // from the window's upper left corner
     };
 
+    struct Slide {
+        Control control;
+        SwitchSlide knob;
+    };
+
     static std::optional<Control> controlIn(const WindowState& window, std::size_t element);
     static bool isStillThere(const std::optional<Control>& control, const WindowState& window);
+    static const ui::ToggleElement* switchOf(const std::optional<Control>& control);
     std::optional<std::string> act(const Control& control);
+    std::optional<std::string> letGoOfKnob(const Control& control, const SwitchGrip& grip);
+    void slide(const Control& control, double from, bool isOn);
+    std::optional<MovingSwitch> movingSwitchIn(const WindowState& window) const;
+    WindowState modalAlert() const;
     std::optional<std::string> pressShortcut(ui::KeyboardShortcut shortcut);
     void moveFocus(bool forwards);
     void startDrag(const WindowState& window);
@@ -79,6 +95,9 @@ private:
     std::optional<Control> pressedControl_;
     std::optional<DeskTarget> hovered_;
     bool isOverPressed_ = false;
+    Point hand_;
+    std::optional<SwitchGrip> grip_; // at the knob of the pressed control
+    std::optional<Slide> slide_;
     std::optional<Drag> drag_;
     std::optional<Control> focused_;
 };

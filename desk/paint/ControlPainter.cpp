@@ -70,18 +70,26 @@ void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view la
     canvas.text.paint(label, centerOf(area), style);
 }
 
+double switchTravel(const Rect& area) { return area.width() - area.height(); }
+
 void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state) {
     const SystemColors& colors = canvas.palette.system;
     const double radius = area.height() / 2;
+    const double position = state.position.value_or(state.isOn ? 1 : 0);
     const Color onTrack = state.isInKeyWindow ? colors.accent : colors.inactiveTrack;
-    fillRoundedRectangle(canvas.context, area, radius, state.isOn ? onTrack : colors.switchTrack);
+    if (position < 1) {
+        fillRoundedRectangle(canvas.context, area, radius, colors.switchTrack);
+    }
+    if (position > 0) {
+        fillRoundedRectangle(canvas.context, area, radius, onTrack.withAlpha(onTrack.alpha * position));
+    }
     strokeRoundedRectangle(canvas.context, area, radius, 0.5, colors.buttonEdge);
     if (state.isPressed) {
         fillRoundedRectangle(canvas.context, area, radius, colors.pressedShade);
     }
     const double gap = area.height() * 0.078;
     const double knobRadius = radius - gap;
-    const Point knob{state.isOn ? area.maxX() - radius : area.minX() + radius, area.minY() + radius};
+    const Point knob{area.minX() + radius + position * switchTravel(area), area.minY() + radius};
     const Rect shadow{knob.x - knobRadius, knob.y - knobRadius + 0.75, 2 * knobRadius, 2 * knobRadius};
     paintSoftShadow(canvas.context, shadow, 2, rgb(0x000000, 0.30),
                     [&](cairo_t* mask) { addRoundedRectangle(mask, shadow, knobRadius); });

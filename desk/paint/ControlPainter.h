@@ -5,6 +5,7 @@
 #include "desk/paint/Canvas.h"
 #include "ui/Style.h"
 
+#include <optional>
 #include <string_view>
 
 namespace kestrune::desk {
@@ -36,10 +37,15 @@ inline constexpr Size SwitchSize{28, 16};
 
 struct SwitchState {
     bool isOn = false;
+    // Where the knob is while it moves, from 0, off, to 1, on.
+    std::optional<double> position = std::nullopt;
     bool isPressed = false;
     bool isInKeyWindow = true; // only there the accent colour shows
 };
 void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state);
+
+// How far the knob goes from off to on.
+double switchTravel(const Rect& area);
 
 // Close, minimise and zoom at the leading end of a title bar.
 struct WindowButtons {

@@ -1,10 +1,11 @@
 #include "desk/paint/DeskHitTest.h"
 
-#include "desk/paint/AccessibilityPaneLayout.h"
 #include "desk/paint/AlertLayout.h"
 #include "desk/paint/DeskLayout.h"
+#include "desk/paint/MailLayout.h"
 #include "desk/paint/MenuBarLayout.h"
 #include "desk/paint/MenuLayout.h"
+#include "desk/paint/SettingsPaneLayout.h"
 #include "desk/paint/WindowLayout.h"
 
 #include <algorithm>
@@ -45,8 +46,8 @@ bool isCloseTo(const Rect& control, Point place) {
         .contains(place);
 }
 
-std::optional<DeskTarget> targetInPane(const AccessibilityPaneLayout& layout,
-                                       const AccessibilityPanePicture& pane, Point place) {
+std::optional<DeskTarget> targetInPane(const SettingsPaneLayout& layout, const SettingsPanePicture& pane,
+                                       Point place) {
     if (!layout.frame.contains(place)) {
         return std::nullopt;
     }
@@ -65,6 +66,13 @@ std::optional<DeskTarget> targetInPane(const AccessibilityPaneLayout& layout,
         }
     }
     return PaneTarget{};
+}
+
+std::optional<DeskTarget> targetInMail(const MailLayout& mail, Point place) {
+    if (!mail.frame.contains(place)) {
+        return std::nullopt;
+    }
+    return isCloseTo(mail.closeButton, place) ? DeskTarget{MailCloseTarget{}} : DeskTarget{MailTarget{}};
 }
 
 std::optional<DeskTarget> targetInWindow(const WindowLayout& layout, const WindowPicture& shown,
@@ -152,26 +160,30 @@ struct AreaOfTarget {
     }
 
     std::optional<Rect> operator()(const PaneSwitchTarget& target) const {
-        const auto pane = accessibilityPaneLayout(layout, picture, window);
+        const auto pane = settingsPaneLayout(layout, picture, window);
         const auto* row = pane ? at(pane->rows, target.row) : nullptr;
         return row != nullptr ? std::optional(row->toggle) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const PaneRowTarget& target) const {
-        const auto pane = accessibilityPaneLayout(layout, picture, window);
+        const auto pane = settingsPaneLayout(layout, picture, window);
         const auto* row = pane ? at(pane->rows, target.row) : nullptr;
         return row != nullptr ? std::optional(row->area) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const PaneCloseTarget&) const {
-        const auto pane = accessibilityPaneLayout(layout, picture, window);
+        const auto pane = settingsPaneLayout(layout, picture, window);
         return pane ? std::optional(pane->closeButton) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const PaneRemoveTarget&) const {
-        const auto pane = accessibilityPaneLayout(layout, picture, window);
-        return pane && canRemove(*picture.accessibilityPane) ? std::optional(pane->removeButton)
-                                                             : std::nullopt;
+        const auto pane = settingsPaneLayout(layout, picture, window);
+        return pane && canRemove(*picture.settingsPane) ? std::optional(pane->removeButton) : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const MailCloseTarget&) const {
+        const auto mail = mailLayout(layout, picture, window);
+        return mail ? std::optional(mail->closeButton) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const WindowCloseTarget& target) const {
@@ -231,8 +243,11 @@ std::optional<DeskTarget> DeskHitTest::targetAt(const DeskPicture& picture, Size
         target = targetInAlert(*alert, place);
     }
     lookInWindows(WindowDepth::beforePane);
-    if (const auto pane = target ? std::nullopt : accessibilityPaneLayout(layout, picture, window)) {
-        target = targetInPane(*pane, *picture.accessibilityPane, place);
+    if (const auto mail = target ? std::nullopt : mailLayout(layout, picture, window)) {
+        target = targetInMail(*mail, place);
+    }
+    if (const auto pane = target ? std::nullopt : settingsPaneLayout(layout, picture, window)) {
+        target = targetInPane(*pane, *picture.settingsPane, place);
     }
     lookInWindows(WindowDepth::behindSystemWindows);
     for (std::size_t display = 0; !target && display < picture.displays.size(); ++display) {

@@ -99,7 +99,8 @@ DeskPicture withoutWhatMoves(DeskPicture picture) {
     }
     picture.toolTip = nothing.toolTip;
     picture.permissionDialog = nothing.permissionDialog;
-    picture.accessibilityPane = nothing.accessibilityPane;
+    picture.mail = nothing.mail;
+    picture.settingsPane = nothing.settingsPane;
     picture.windows.clear();
     picture.pressed = nothing.pressed;
     return picture;

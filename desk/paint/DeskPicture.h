@@ -87,7 +87,8 @@ struct DeskPicture {
     std::optional<MenuPicture> menu;
     std::optional<ToolTipPicture> toolTip;
     std::optional<PermissionDialogPicture> permissionDialog;
-    std::optional<AccessibilityPanePicture> accessibilityPane;
+    std::optional<MailPicture> mail;
+    std::optional<SettingsPanePicture> settingsPane;
     // The application's own, from front to back, deeper ones after less deep ones.
     std::vector<WindowPicture> windows;
     // The button, switch or close button of the system's windows that is held down.

@@ -54,7 +54,7 @@ struct PaneSwitchTarget {
     friend bool operator==(const PaneSwitchTarget&, const PaneSwitchTarget&) = default;
 };
 
-// A row of the Accessibility pane beside its switch.
+// A row of the pane of System Settings beside its switch.
 struct PaneRowTarget {
     std::size_t row = 0;
 
@@ -70,9 +70,18 @@ struct PaneRemoveTarget {
     friend bool operator==(const PaneRemoveTarget&, const PaneRemoveTarget&) = default;
 };
 
-// The Accessibility pane where nothing can be pressed.
+// The pane where nothing can be pressed.
 struct PaneTarget {
     friend bool operator==(const PaneTarget&, const PaneTarget&) = default;
+};
+
+struct MailCloseTarget {
+    friend bool operator==(const MailCloseTarget&, const MailCloseTarget&) = default;
+};
+
+// The mail program's window where nothing can be pressed.
+struct MailTarget {
+    friend bool operator==(const MailTarget&, const MailTarget&) = default;
 };
 
 struct WindowCloseTarget {
@@ -103,9 +112,9 @@ struct WindowTarget {
     friend bool operator==(const WindowTarget&, const WindowTarget&) = default;
 };
 
-using DeskTarget =
-    std::variant<StatusItemTarget, MainMenuTitleTarget, MenuRowTarget, MenuPanelTarget, DialogButtonTarget,
-                 DialogTarget, PaneSwitchTarget, PaneRowTarget, PaneCloseTarget, PaneRemoveTarget, PaneTarget,
-                 WindowCloseTarget, WindowControlTarget, WindowTitleTarget, WindowTarget>;
+using DeskTarget = std::variant<StatusItemTarget, MainMenuTitleTarget, MenuRowTarget, MenuPanelTarget,
+                                DialogButtonTarget, DialogTarget, PaneSwitchTarget, PaneRowTarget,
+                                PaneCloseTarget, PaneRemoveTarget, PaneTarget, MailCloseTarget, MailTarget,
+                                WindowCloseTarget, WindowControlTarget, WindowTitleTarget, WindowTarget>;
 
 } // namespace kestrune::desk

@@ -46,6 +46,8 @@ struct SystemColors {
     Color separator;
     Color selection; // of a row that keeps its text's colour
 
+    Color paper; // behind what is written
+
     Color groupBox;
     Color groupBoxEdge;
 

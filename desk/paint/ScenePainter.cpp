@@ -16,10 +16,13 @@ class ElementPainter {
 public:
     explicit ElementPainter(const Canvas& canvas) : canvas_(canvas), text_(canvas.context) {}
 
-    // The next element's, and whether the window is the key window.
-    void set(bool isPressed, bool isInKeyWindow) {
-        isPressed_ = isPressed;
-        isInKeyWindow_ = isInKeyWindow;
+    // Of the next element, which has that index.
+    void set(std::size_t index, const SceneState& state) {
+        isPressed_ = state.pressedElement == index;
+        isInKeyWindow_ = state.isInKeyWindow;
+        switchPosition_ = state.movingSwitch && state.movingSwitch->element == index
+                              ? std::optional(state.movingSwitch->position)
+                              : std::nullopt;
     }
 
     void operator()(const ui::TextElement& element) {
@@ -64,7 +67,10 @@ public:
 
     void operator()(const ui::ToggleElement& element) {
         paintSwitch(canvas_, element.frame,
-                    {.isOn = element.isOn, .isPressed = isPressed_, .isInKeyWindow = isInKeyWindow_});
+                    {.isOn = element.isOn,
+                     .position = switchPosition_,
+                     .isPressed = isPressed_,
+                     .isInKeyWindow = isInKeyWindow_});
     }
 
 private:
@@ -87,6 +93,7 @@ private:
     StyledTextLayout text_;
     bool isPressed_ = false;
     bool isInKeyWindow_ = true;
+    std::optional<double> switchPosition_;
 };
 
 // The ring follows the shape that a button is drawn on.
@@ -123,7 +130,7 @@ void paintScene(const Canvas& canvas, const ui::Scene& scene, Point origin, cons
     cairo_translate(canvas.context, origin.x, origin.y);
     ElementPainter painter{canvas};
     for (std::size_t index = 0; index < scene.elements.size(); ++index) {
-        painter.set(state.pressedElement == index, state.isInKeyWindow);
+        painter.set(index, state);
         std::visit(painter, scene.elements[index]);
     }
     if (state.focusedElement && *state.focusedElement < scene.elements.size() && state.isInKeyWindow) {

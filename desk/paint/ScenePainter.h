@@ -3,6 +3,7 @@
 
 #include "base/Geometry.h"
 #include "desk/paint/Canvas.h"
+#include "desk/paint/SystemPicture.h"
 #include "ui/Scene.h"
 
 #include <cstddef>
@@ -14,6 +15,7 @@ namespace kestrune::desk {
 struct SceneState {
     std::optional<std::size_t> pressedElement = std::nullopt;
     std::optional<std::size_t> focusedElement = std::nullopt; // what the keyboard works on
+    std::optional<MovingSwitch> movingSwitch = std::nullopt;
     bool isInKeyWindow = true;
 };
 

@@ -1,8 +1,9 @@
 #include "desk/paint/SystemPartsPainter.h"
 
-#include "desk/paint/AccessibilityPanePainter.h"
 #include "desk/paint/AlertPainter.h"
+#include "desk/paint/MailPainter.h"
 #include "desk/paint/MenuPainter.h"
+#include "desk/paint/SettingsPanePainter.h"
 #include "desk/paint/ToolTipPainter.h"
 #include "desk/paint/WindowPainter.h"
 
@@ -50,6 +51,7 @@ void SystemPartsPainter::paint(const Canvas& canvas, TextMeasure& measure, Image
     forgetClosedWindows(picture);
     paintWindows(canvas, layout, picture, window, WindowDepth::behindSystemWindows);
     paintPane(canvas, images, layout, picture, window);
+    paintOpenMail(canvas, layout, picture, window);
     paintWindows(canvas, layout, picture, window, WindowDepth::beforePane);
     paintDialog(canvas, measure, images, layout, picture, window);
     paintWindows(canvas, layout, picture, window, WindowDepth::beforeDialog);
@@ -80,16 +82,29 @@ void SystemPartsPainter::paintWindows(const Canvas& canvas, const DeskLayout& la
 
 void SystemPartsPainter::paintPane(const Canvas& canvas, ImageStore& images, const DeskLayout& layout,
                                    const DeskPicture& picture, Size window) {
-    const auto place = accessibilityPaneLayout(layout, picture, window);
+    const auto place = settingsPaneLayout(layout, picture, window);
     if (!place) {
         pane_.forget();
         return;
     }
-    const AccessibilityPanePicture& pane = *picture.accessibilityPane;
+    const SettingsPanePicture& pane = *picture.settingsPane;
     const auto pressed = pressedAmong<PaneSwitchTarget, PaneCloseTarget, PaneRemoveTarget>(picture.pressed);
     pane_.paint(canvas, {place->frame, windowPanelStyle(canvas.palette), picture.dark},
                 {pane, *place, pressed, picture.dark},
-                [&](const Canvas& own) { paintAccessibilityPane(own, images, *place, pane, pressed); });
+                [&](const Canvas& own) { paintSettingsPane(own, images, *place, pane, pressed); });
+}
+
+void SystemPartsPainter::paintOpenMail(const Canvas& canvas, const DeskLayout& layout,
+                                       const DeskPicture& picture, Size window) {
+    const auto place = mailLayout(layout, picture, window);
+    if (!place) {
+        mail_.forget();
+        return;
+    }
+    const auto pressed = pressedAmong<MailCloseTarget>(picture.pressed);
+    mail_.paint(canvas, {place->frame, windowPanelStyle(canvas.palette), picture.dark},
+                {*picture.mail, *place, pressed, picture.dark},
+                [&](const Canvas& own) { paintMail(own, *place, *picture.mail, pressed); });
 }
 
 void SystemPartsPainter::paintDialog(const Canvas& canvas, TextMeasure& measure, ImageStore& images,

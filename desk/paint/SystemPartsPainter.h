@@ -1,17 +1,18 @@
-// Menu, tool tip, permission dialog, Accessibility pane and the application's windows, in front of the
+// Menu, tool tip, permission dialog, System Settings, mail and the application's windows, in front of the
 // displays.
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/AccessibilityPaneLayout.h"
 #include "desk/paint/AlertLayout.h"
 #include "desk/paint/CachedSprite.h"
 #include "desk/paint/Canvas.h"
 #include "desk/paint/DeskLayout.h"
 #include "desk/paint/DeskPicture.h"
 #include "desk/paint/ImageStore.h"
+#include "desk/paint/MailLayout.h"
 #include "desk/paint/MenuLayout.h"
 #include "desk/paint/PanelPainter.h"
+#include "desk/paint/SettingsPaneLayout.h"
 #include "desk/paint/TextMeasure.h"
 #include "desk/paint/WindowLayout.h"
 
@@ -65,6 +66,8 @@ private:
     void forgetClosedWindows(const DeskPicture& picture);
     void paintPane(const Canvas& canvas, ImageStore& images, const DeskLayout& layout,
                    const DeskPicture& picture, Size window);
+    void paintOpenMail(const Canvas& canvas, const DeskLayout& layout, const DeskPicture& picture,
+                       Size window);
     void paintDialog(const Canvas& canvas, TextMeasure& measure, ImageStore& images, const DeskLayout& layout,
                      const DeskPicture& picture, Size window);
     void paintTip(const Canvas& canvas, TextMeasure& measure, const DeskLayout& layout,
@@ -72,7 +75,8 @@ private:
     void paintOpenMenu(const Canvas& canvas, TextMeasure& measure, const DeskLayout& layout,
                        const DeskPicture& picture, Size window);
 
-    Part<AccessibilityPanePicture, AccessibilityPaneLayout> pane_;
+    Part<SettingsPanePicture, SettingsPaneLayout> pane_;
+    Part<MailPicture, MailLayout> mail_;
     Part<PermissionDialogPicture, AlertLayout> dialog_;
     Part<ToolTipPicture, Rect> toolTip_;
     Part<MenuPicture, MenuLayout> menu_;

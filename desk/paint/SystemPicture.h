@@ -1,5 +1,6 @@
 // The parts of a Mac's screen that an application of the menu bar lives in, as plain data: status items,
-// menus, tool tips, its windows, the dialog that asks for a permission, and the pane that grants it.
+// menus, tool tips, its windows, the dialog that asks for a permission, the panes of System Settings that
+// concern it, and the mail that it lets its user write.
 #pragma once
 
 #include "base/Geometry.h"
@@ -89,16 +90,37 @@ struct PaneRowPicture {
     friend bool operator==(const PaneRowPicture&, const PaneRowPicture&) = default;
 };
 
-// The system's list of applications that may control the computer.
-struct AccessibilityPanePicture {
+// System Settings with a list of applications and what each may do. Usually the applications that may control
+// the computer.
+struct SettingsPanePicture {
     std::size_t display = 0;
     std::vector<PaneRowPicture> rows = {};
+    std::string title = "Accessibility";
+    std::string sentence = "Allow the applications below to control your computer.";
 
-    friend bool operator==(const AccessibilityPanePicture&, const AccessibilityPanePicture&) = default;
+    friend bool operator==(const SettingsPanePicture&, const SettingsPanePicture&) = default;
+};
+
+// A mail program with a mail that is not sent yet.
+struct MailPicture {
+    std::size_t display = 0;
+    std::string recipient = {};
+    std::string subject = {};
+    std::string body = {}; // lines end in line feeds
+
+    friend bool operator==(const MailPicture&, const MailPicture&) = default;
 };
 
 // How far in front an application's window lies.
 enum class WindowDepth { behindSystemWindows, beforePane, beforeDialog };
+
+// A switch whose knob is under way.
+struct MovingSwitch {
+    std::size_t element = 0; // of the window's scene
+    double position = 0;     // of the knob, from 0, off, to 1, on
+
+    friend bool operator==(const MovingSwitch&, const MovingSwitch&) = default;
+};
 
 struct WindowPicture {
     std::size_t number = 0; // stays with the window while others come and go
@@ -115,6 +137,7 @@ struct WindowPicture {
     // Indices into the scene's elements.
     std::optional<std::size_t> pressedElement = std::nullopt;
     std::optional<std::size_t> focusedElement = std::nullopt;
+    std::optional<MovingSwitch> movingSwitch = std::nullopt;
     bool isCloseButtonPressed = false;
     bool isCloseButtonHovered = false;
 

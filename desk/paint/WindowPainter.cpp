@@ -9,6 +9,11 @@
 namespace kestrune::desk {
 namespace {
 
+// A window that can be neither closed nor minimised nor resized has none of the buttons.
+bool hasButtons(const WindowPicture& shown) {
+    return shown.isClosable || shown.isMiniaturizable || shown.isResizable;
+}
+
 void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
     constexpr double ButtonsWidth = 72; // with the room after them
     const SceneColors& colors = canvas.palette.scene;
@@ -20,13 +25,15 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
     }
     fillRoundedRectangle(canvas.context, {bar.minX(), bar.maxY() - 0.5, bar.width(), 0.5}, 0,
                          colors.separator);
-    paintWindowButtons(canvas, layout.closeButton,
-                       {.isClosable = shown.isClosable,
-                        .isMiniaturizable = shown.isMiniaturizable,
-                        .isZoomable = shown.isResizable,
-                        .isActive = shown.isKey,
-                        .isClosePressed = shown.isCloseButtonPressed,
-                        .isCloseHovered = shown.isCloseButtonHovered});
+    if (hasButtons(shown)) {
+        paintWindowButtons(canvas, layout.closeButton,
+                           {.isClosable = shown.isClosable,
+                            .isMiniaturizable = shown.isMiniaturizable,
+                            .isZoomable = shown.isResizable,
+                            .isActive = shown.isKey,
+                            .isClosePressed = shown.isCloseButtonPressed,
+                            .isCloseHovered = shown.isCloseButtonHovered});
+    }
     canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, bar.minY() + bar.height() / 2},
                       {.size = 13,
                        .weight = FontWeight::bold,
@@ -52,12 +59,14 @@ void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowP
     addRoundedRectangle(canvas.context, layout.frame,
                         applicationWindowStyle(canvas.palette, shown.isKey).cornerRadius);
     cairo_clip(canvas.context);
-    if (shown.isTitled()) {
+    // The title bar of an alert cannot be told from the rest of it.
+    if (shown.isTitled() && (hasButtons(shown) || !shown.title.empty())) {
         paintTitleBar(canvas, layout, shown);
     }
     paintScene(canvas, shown.scene, layout.content.origin,
                {.pressedElement = shown.pressedElement,
                 .focusedElement = shown.focusedElement,
+                .movingSwitch = shown.movingSwitch,
                 .isInKeyWindow = shown.isKey});
 }
 

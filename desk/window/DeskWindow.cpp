@@ -128,11 +128,13 @@ private:
             break;
         case SDL_MOUSEBUTTONDOWN:
             if (event.button.button == SDL_BUTTON_LEFT) {
+                desk_.placeHand(placeOf(event.button));
                 desk_.pressButton(targetAt(placeOf(event.button)));
             }
             break;
         case SDL_MOUSEBUTTONUP:
             if (event.button.button == SDL_BUTTON_LEFT) {
+                desk_.placeHand(placeOf(event.button));
                 desk_.releaseButton(targetAt(placeOf(event.button)));
             }
             break;
@@ -158,6 +160,7 @@ private:
         const DeskLayout layout = DeskLayout::of(pictureOf(desk_), canvas_.size());
         const std::optional<DeskTarget> target = targetAt(place);
         hand_.moveTo(layout.toGlobal(place), motionType(motion.state), elapsed());
+        desk_.placeHand(place);
         desk_.hover(target);
         // The simulated pointer stands in for the real one where the displays are, but cannot follow it over
         // a menu that reaches beyond them.

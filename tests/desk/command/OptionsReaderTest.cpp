@@ -57,6 +57,7 @@ TEST(OptionsReader, ReadsWhatTheOtherCommandsTake) {
     EXPECT_EQ(generate.recordedHeight, 480);
     EXPECT_EQ(read({"--tour", "pictures"}).tour, "pictures");
     EXPECT_EQ(read({"--wizard", "pictures"}).wizard, "pictures");
+    EXPECT_EQ(read({"--settings", "pictures"}).settings, "pictures");
     EXPECT_EQ(read({"--defaults", "kestrune.plist", "--dark"}).defaults, "kestrune.plist");
     EXPECT_TRUE(read({"--dark"}).dark);
     EXPECT_TRUE(read({"--help"}).help);
@@ -80,9 +81,9 @@ TEST(OptionsReader, ReadsWhatALaunchTakes) {
 
 TEST(OptionsReader, TellsOfEveryOptionInItsHelp) {
     for (const std::string_view option :
-         {"--tour", "--wizard", "--replay", "--generate", "--launch", "--displays", "--pin", "--guard",
-          "--margin", "--permission", "--defaults", "--dark", "--report", "--screenshot", "--emit", "--seed",
-          "--rows", "--size"}) {
+         {"--tour", "--wizard", "--settings", "--replay", "--generate", "--launch", "--displays", "--pin",
+          "--guard", "--margin", "--permission", "--defaults", "--dark", "--report", "--screenshot", "--emit",
+          "--seed", "--rows", "--size"}) {
         EXPECT_NE(helpText().find(" " + std::string(option) + " "), std::string_view::npos) << option;
     }
 }
@@ -138,21 +139,21 @@ TEST(OptionsReader, RefusesUnusableValues) {
 
 TEST(OptionsReader, RefusesOptionsThatDoNotGoTogether) {
     EXPECT_EQ(refusalOf({"--replay", "a", "--tour", "b"}),
-              "expected only one of --replay, --tour, --wizard, --generate and --launch");
+              "expected only one of --replay, --tour, --wizard, --settings, --generate and --launch");
     EXPECT_EQ(refusalOf({"--wizard", "a", "--tour", "b"}),
-              "expected only one of --replay, --tour, --wizard, --generate and --launch");
+              "expected only one of --replay, --tour, --wizard, --settings, --generate and --launch");
     EXPECT_EQ(refusalOf({"--launch", "--tour", "b"}),
-              "expected only one of --replay, --tour, --wizard, --generate and --launch");
+              "expected only one of --replay, --tour, --wizard, --settings, --generate and --launch");
     EXPECT_EQ(refusalOf({"--replay", "a", "--launch"}),
-              "expected only one of --replay, --tour, --wizard, --generate and --launch");
+              "expected only one of --replay, --tour, --wizard, --settings, --generate and --launch");
     EXPECT_EQ(refusalOf({"--launch", "--generate", "a"}),
-              "expected only one of --replay, --tour, --wizard, --generate and --launch");
-    for (const std::string_view mode : {"--replay", "--tour", "--wizard", "--generate"}) {
+              "expected only one of --replay, --tour, --wizard, --settings, --generate and --launch");
+    for (const std::string_view mode : {"--replay", "--tour", "--wizard", "--settings", "--generate"}) {
         EXPECT_EQ(refusalOf({mode, "a", "--permission", "granted"}),
-                  "--permission: expected without --replay, --tour, --wizard and --generate");
+                  "--permission: expected without --replay, --tour, --wizard, --settings and --generate");
     }
     EXPECT_EQ(refusalOf({"--replay", "a", "--defaults", "b"}),
-              "--defaults: expected without --replay, --tour, --wizard and --generate");
+              "--defaults: expected without --replay, --tour, --wizard, --settings and --generate");
     EXPECT_EQ(refusalOf({"--emit", "a"}), "--emit: expected together with --replay");
     EXPECT_EQ(refusalOf({"--seed", "1"}), "--seed: expected together with --generate");
     EXPECT_EQ(refusalOf({"--rows", "1"}), "--rows: expected together with --generate");

@@ -61,6 +61,8 @@ const std::vector<std::string> BothBegin = {
     "-[NSApplication run]",
     "-[KestruneApp applicationDidFinishLaunching:]",
     "-[NSApplication setMainMenu:] 2 items",
+    "-[SPUUpdater startUpdater:]",
+    "-[SPUUpdater setAutomaticallyDownloadsUpdates:] false",
     "NSStatusBar.systemStatusBar",
     "-[NSStatusBar statusItemWithLength:] -1",
     "-[NSStatusBarButton setToolTip:] Kestrune — Pin the Dock to one screen",

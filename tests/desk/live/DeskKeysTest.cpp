@@ -24,6 +24,9 @@ TEST(DeskKeys, DoWhatTheLegendSays) {
     EXPECT_EQ(newsAfter('-'), "The guarded band is 2 points deep");
     EXPECT_EQ(newsAfter('u').substr(0, 30), "Built-in Display was unplugged");
     EXPECT_EQ(newsAfter('a').substr(0, 23), "The system does not ask");
+    EXPECT_EQ(newsAfter('i'), "System Settings shows the login items");
+    EXPECT_EQ(newsAfter('f'), "The update feed has a new version");
+    EXPECT_EQ(newsAfter('c'), "The updater checks the feed by itself and finds nothing to show");
     EXPECT_EQ(newsAfter('l'), "Kestrune has quit: the Dock goes wherever the pointer pushes it");
 }
 
@@ -62,7 +65,7 @@ TEST(DeskKeys, AreAllInTheLegend) {
         EXPECT_FALSE(hint.action.empty());
         keys += hint.key + " ";
     }
-    EXPECT_EQ(keys, "1–9 G M U P A T + − L D S H Q ");
+    EXPECT_EQ(keys, "1–9 G M U P A I F C T + − L D S H Q ");
 }
 
 } // namespace

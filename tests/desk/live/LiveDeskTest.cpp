@@ -317,7 +317,7 @@ TEST(LiveDesk, TellsWhatWasChosenInTheMenu) {
     EXPECT_EQ(desk.news().text, "Guard on: only Display 2 may have the Dock");
     openMenu(desk);
     click(desk, menuRow(desk, "Settings…"));
-    EXPECT_EQ(desk.news().text, "“Settings…” leads to a window that Kestrune does not have yet");
+    EXPECT_EQ(desk.news().text, "Kestrune opened its window “Kestrune Settings”");
     openMenu(desk);
     click(desk, menuRow(desk, "Quit"));
     EXPECT_EQ(desk.news().text, "Kestrune has quit: the Dock goes wherever the pointer pushes it");

@@ -117,9 +117,37 @@ TEST(News, TellThatARowWasRemovedThatWasOffAlready) {
     EXPECT_EQ(textOfChange(before, after), "Kestrune is no longer in the Accessibility list");
 }
 
+TEST(News, TellHowTheLoginItemStands) {
+    Standing after = running();
+    after.loginItem = AppServiceStatus::enabled;
+    EXPECT_EQ(textOfChange(running(), after), "Kestrune will open when the user logs in");
+    EXPECT_EQ(textOfChange(after, running()), "Kestrune will not open when the user logs in");
+    after.loginItem = AppServiceStatus::notFound;
+    EXPECT_EQ(textOfChange(running(), after), "Kestrune will not open when the user logs in");
+    after.loginItem = AppServiceStatus::requiresApproval;
+    EXPECT_EQ(textOfChange(running(), after),
+              "Kestrune may not open at login until System Settings allows it");
+    EXPECT_EQ(newsOfChange(running(), after)->kind, Occurrence::warning);
+}
+
+TEST(News, TellOfAMailBeforeTheWindows) {
+    Standing before = running();
+    before.windows = {"Kestrune Settings"};
+    Standing after = before;
+    after.mails = 1;
+    after.windows.clear();
+    EXPECT_EQ(textOfChange(before, after), "Mail shows the mail that Kestrune composed; nothing is sent");
+}
+
+TEST(News, LeaveTheOpeningOfAnAlertToWhatItSays) {
+    Standing alert = running();
+    alert.windows = {""};
+    EXPECT_FALSE(newsOfChange(running(), alert));
+    EXPECT_EQ(textOfChange(alert, running()), "The alert is closed");
+}
+
 TEST(News, TellWhyARowHadNoEffect) {
-    EXPECT_EQ(newsOfChoiceWithoutEffect("Settings…", {}).text,
-              "“Settings…” leads to a window that Kestrune does not have yet");
+    EXPECT_EQ(newsOfChoiceWithoutEffect("Settings…", {}).text, "“Settings…” changed nothing");
     Standing withWindow;
     withWindow.windows = {"Welcome to Kestrune"};
     EXPECT_EQ(newsOfChoiceWithoutEffect("Complete setup…", withWindow).text,

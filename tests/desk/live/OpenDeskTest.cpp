@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <iterator>
+#include <string>
+#include <vector>
 
 namespace kestrune::desk {
 namespace {
@@ -61,19 +63,24 @@ TEST(OpenDesk, FindsTheApplicationsResources) {
     EXPECT_EQ(items[0]->button->toolTip, "Kestrune — Pin the Dock to one screen");
 }
 
-TEST(OpenDesk, MakesNoFileBeforeSomethingIsStored) {
+TEST(OpenDesk, SavesWhatTheApplicationStoresWhenItIsLaunched) {
     const TemporaryFolder folder;
     Options options;
     options.defaults = folder.path() / "defaults.plist";
+    const auto saved = [&options] {
+        std::vector<std::string> keys;
+        const auto loaded = sim::loadDefaultsFile(*options.defaults);
+        for (const auto& [key, value] : std::get<sim::PropertyListDictionary>(loaded)) {
+            keys.push_back(key);
+        }
+        return keys;
+    };
     options.isPermissionGranted = false;
-    {
-        const auto desk = opened(options);
-        EXPECT_FALSE(std::filesystem::exists(*options.defaults));
-    }
+    opened(options);
+    EXPECT_THAT(saved(), testing::UnorderedElementsAre("SUAutomaticallyUpdate"));
     options.isPermissionGranted = true;
-    const auto desk = opened(options);
-    const auto loaded = sim::loadDefaultsFile(*options.defaults);
-    EXPECT_EQ(std::get<sim::PropertyListDictionary>(loaded).size(), 1U) << "the setup is complete";
+    opened(options);
+    EXPECT_THAT(saved(), testing::UnorderedElementsAre("SUAutomaticallyUpdate", "hasCompletedOnboarding"));
 }
 
 TEST(OpenDesk, KeepsWhatWasChosenForTheNextTime) {

@@ -13,9 +13,9 @@ protected:
     PermissionDialog() { session.accessibility().askUser(); }
 };
 
-class AccessibilityPane : public PartsFixture {
+class SettingsPane : public PartsFixture {
 protected:
-    AccessibilityPane() { session.accessibility().showPane(); }
+    SettingsPane() { session.accessibility().showPane(); }
 
     sim::Permission permission() { return session.accessibility().permission(); }
 };
@@ -23,19 +23,19 @@ protected:
 TEST_F(PermissionDialog, ShowsOnThePrimaryDisplay) {
     ASSERT_TRUE(picture().permissionDialog);
     EXPECT_EQ(*picture().permissionDialog, (PermissionDialogPicture{0, "Kestrune", "icon.png", 28}));
-    EXPECT_FALSE(picture().accessibilityPane);
+    EXPECT_FALSE(picture().settingsPane);
 }
 
 TEST_F(PermissionDialog, LeadsToThePane) {
     click(OpenSettings);
     EXPECT_FALSE(picture().permissionDialog);
-    EXPECT_TRUE(picture().accessibilityPane);
+    EXPECT_TRUE(picture().settingsPane);
 }
 
 TEST_F(PermissionDialog, CanBeDenied) {
     click(Deny);
     EXPECT_FALSE(picture().permissionDialog);
-    EXPECT_FALSE(picture().accessibilityPane);
+    EXPECT_FALSE(picture().settingsPane);
 }
 
 TEST_F(PermissionDialog, ActsOnlyWhenTheButtonIsReleasedWhereItWasPressed) {
@@ -71,22 +71,22 @@ TEST_F(PermissionDialog, LeavesTheKeysToAnOpenMenu) {
     EXPECT_TRUE(picture().permissionDialog);
 }
 
-TEST_F(AccessibilityPane, ShowsBesideTheDialogWhereThereIsAnotherDisplay) {
-    EXPECT_EQ(picture().accessibilityPane->display, 1U);
+TEST_F(SettingsPane, ShowsBesideTheDialogWhereThereIsAnotherDisplay) {
+    EXPECT_EQ(picture().settingsPane->display, 1U);
     session.changeDisplays({sim::makeDisplay(1, "One", {0, 0, 100, 100})});
-    EXPECT_EQ(picture().accessibilityPane->display, 0U);
+    EXPECT_EQ(picture().settingsPane->display, 0U);
 }
 
-TEST_F(AccessibilityPane, ListsTheApplicationWithItsSwitch) {
-    ASSERT_EQ(picture().accessibilityPane->rows.size(), 1U);
-    EXPECT_EQ(picture().accessibilityPane->rows[0], (PaneRowPicture{"Kestrune", "icon.png", true, false}));
+TEST_F(SettingsPane, ListsTheApplicationWithItsSwitch) {
+    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
+    EXPECT_EQ(picture().settingsPane->rows[0], (PaneRowPicture{"Kestrune", "icon.png", true, false}));
     session.accessibility().setPermission(sim::Permission::switchedOff);
-    EXPECT_FALSE(picture().accessibilityPane->rows[0].isOn);
+    EXPECT_FALSE(picture().settingsPane->rows[0].isOn);
     session.accessibility().setPermission(sim::Permission::notListed);
-    EXPECT_TRUE(picture().accessibilityPane->rows.empty());
+    EXPECT_TRUE(picture().settingsPane->rows.empty());
 }
 
-TEST_F(AccessibilityPane, FlipsTheSwitchWithAClick) {
+TEST_F(SettingsPane, FlipsTheSwitchWithAClick) {
     click(PaneSwitchTarget{0});
     EXPECT_EQ(permission(), sim::Permission::switchedOff);
     click(PaneSwitchTarget{0});
@@ -95,37 +95,37 @@ TEST_F(AccessibilityPane, FlipsTheSwitchWithAClick) {
     EXPECT_EQ(picture().pressed, DeskTarget(PaneSwitchTarget{0}));
     parts.release(PaneRowTarget{0});
     EXPECT_EQ(permission(), sim::Permission::granted);
-    EXPECT_FALSE(picture().accessibilityPane->rows[0].selected);
+    EXPECT_FALSE(picture().settingsPane->rows[0].selected);
 }
 
-TEST_F(AccessibilityPane, SelectsARowUntilAClickBesideIt) {
+TEST_F(SettingsPane, SelectsARowUntilAClickBesideIt) {
     click(PaneRowTarget{0});
-    EXPECT_TRUE(picture().accessibilityPane->rows[0].selected);
+    EXPECT_TRUE(picture().settingsPane->rows[0].selected);
     click(PaneTarget{});
-    EXPECT_FALSE(picture().accessibilityPane->rows[0].selected);
+    EXPECT_FALSE(picture().settingsPane->rows[0].selected);
 }
 
-TEST_F(AccessibilityPane, RemovesTheRow) {
+TEST_F(SettingsPane, RemovesTheRow) {
     click(PaneRowTarget{0});
     click(PaneRemoveTarget{});
-    EXPECT_TRUE(picture().accessibilityPane->rows.empty());
+    EXPECT_TRUE(picture().settingsPane->rows.empty());
     EXPECT_EQ(permission(), sim::Permission::rowDeleted);
     session.accessibility().setPermission(sim::Permission::switchedOff);
-    EXPECT_FALSE(picture().accessibilityPane->rows[0].selected) << "a new row is not the one that was chosen";
+    EXPECT_FALSE(picture().settingsPane->rows[0].selected) << "a new row is not the one that was chosen";
 }
 
-TEST_F(AccessibilityPane, ClosesAndForgetsTheSelection) {
+TEST_F(SettingsPane, ClosesAndForgetsTheSelection) {
     click(PaneRowTarget{0});
     click(PaneCloseTarget{});
-    EXPECT_FALSE(picture().accessibilityPane);
+    EXPECT_FALSE(picture().settingsPane);
     session.accessibility().showPane();
-    EXPECT_FALSE(picture().accessibilityPane->rows[0].selected);
+    EXPECT_FALSE(picture().settingsPane->rows[0].selected);
 }
 
-TEST_F(AccessibilityPane, TakesNoKeys) {
+TEST_F(SettingsPane, TakesNoKeys) {
     EXPECT_FALSE(parts.takesKeys());
     parts.press(NavigationKey::escape);
-    EXPECT_TRUE(picture().accessibilityPane);
+    EXPECT_TRUE(picture().settingsPane);
 }
 
 } // namespace

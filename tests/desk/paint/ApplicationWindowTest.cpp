@@ -117,7 +117,7 @@ TEST(ApplicationWindow, LiesAsFarInFrontAsItsDepthSays) {
 
 TEST(ApplicationWindow, IsPaintedInTheOrderInWhichItIsHit) {
     DeskPicture picture = withWindow();
-    picture.accessibilityPane = withPane().accessibilityPane;
+    picture.settingsPane = withPane().settingsPane;
     picture.windows[0].frame = {450, 250, 612, 600};
     picture.windows[0].scene = {};
     DeskHitTest hitTest;

@@ -1,8 +1,8 @@
 #include "desk/paint/DeskHitTest.h"
 
-#include "desk/paint/AccessibilityPaneLayout.h"
 #include "desk/paint/AlertLayout.h"
 #include "desk/paint/MenuLayout.h"
+#include "desk/paint/SettingsPaneLayout.h"
 #include "desk/paint/ToolTipPainter.h"
 #include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/SystemPictures.h"
@@ -24,8 +24,8 @@ protected:
     AlertLayout dialog(const DeskPicture& picture) {
         return *alertLayout(measure_, DeskLayout::of(picture, TestWindow), picture, TestWindow);
     }
-    AccessibilityPaneLayout pane(const DeskPicture& picture) {
-        return *accessibilityPaneLayout(DeskLayout::of(picture, TestWindow), picture, TestWindow);
+    SettingsPaneLayout pane(const DeskPicture& picture) {
+        return *settingsPaneLayout(DeskLayout::of(picture, TestWindow), picture, TestWindow);
     }
 
     DeskHitTest hitTest_;
@@ -86,7 +86,7 @@ TEST_F(HitTest, FindsTheButtonsOfTheDialog) {
 
 TEST_F(HitTest, FindsThePartsOfThePane) {
     DeskPicture picture = withPane();
-    const AccessibilityPaneLayout layout = pane(picture);
+    const SettingsPaneLayout layout = pane(picture);
     for (const std::size_t row : {0U, 1U}) {
         EXPECT_EQ(at(picture, centerOf(layout.rows[row].toggle)), DeskTarget(PaneSwitchTarget{row}));
         EXPECT_EQ(at(picture, centerOf(layout.rows[row].area)), DeskTarget(PaneRowTarget{row}));
@@ -95,7 +95,7 @@ TEST_F(HitTest, FindsThePartsOfThePane) {
     EXPECT_EQ(at(picture, centerOf(layout.addButton)), DeskTarget(PaneTarget{}));
     EXPECT_EQ(at(picture, centerOf(layout.sentence)), DeskTarget(PaneTarget{}));
     EXPECT_EQ(at(picture, centerOf(layout.removeButton)), DeskTarget(PaneTarget{}));
-    picture.accessibilityPane->rows[0].selected = true;
+    picture.settingsPane->rows[0].selected = true;
     EXPECT_EQ(at(picture, centerOf(layout.removeButton)), DeskTarget(PaneRemoveTarget{}));
     EXPECT_FALSE(at(picture, {layout.frame.minX() - 1, layout.frame.minY() + 60}));
 }
@@ -120,13 +120,13 @@ TEST_F(HitTest, PrefersTheMenuToTheDialogToThePaneToTheMenuBar) {
     EXPECT_TRUE(std::holds_alternative<PaneRowTarget>(*at(picture, shared)) ||
                 std::holds_alternative<PaneSwitchTarget>(*at(picture, shared)) ||
                 std::holds_alternative<PaneTarget>(*at(picture, shared)));
-    picture.accessibilityPane.reset();
+    picture.settingsPane.reset();
     EXPECT_FALSE(at(picture, shared));
 }
 
 TEST_F(HitTest, LetsToolTipsThrough) {
     DeskPicture picture = withPane();
-    picture.accessibilityPane->rows.assign(9, {.name = "Application", .iconPath = std::nullopt});
+    picture.settingsPane->rows.assign(9, {.name = "Application", .iconPath = std::nullopt});
     picture.toolTip = ToolTipPicture{0, 0, "Kestrune"};
     const std::optional<Rect> tip =
         toolTipArea(measure_, DeskLayout::of(picture, TestWindow), picture, TestWindow);
@@ -175,7 +175,7 @@ TEST_F(AreaOf, IsWhereTheControlsOfDialogAndPaneAreFound) {
     expectFound(withDialog(), DialogButtonTarget{DialogButton::deny});
     expectFound(withDialog(), DialogButtonTarget{DialogButton::openSystemSettings});
     DeskPicture picture = withPane();
-    picture.accessibilityPane->rows[1].selected = true;
+    picture.settingsPane->rows[1].selected = true;
     for (const std::size_t row : {0U, 1U}) {
         expectFound(picture, PaneSwitchTarget{row});
         expectFound(picture, PaneRowTarget{row});

@@ -65,6 +65,29 @@ TEST(ScenePainter, KeepsThePressedButtonsLabelAsWhiteAsItWas) {
     EXPECT_GE(brightest({.pressedElement = Main}), 254);
 }
 
+TEST(ScenePainter, PaintsASwitchWhoseKnobIsUnderWay) {
+    const ui::Scene scene = sceneWithControls();
+    const auto moved = [&scene](double position, std::size_t element = Switch) {
+        return painted(scene, {.movingSwitch = MovingSwitch{element, position}});
+    };
+    constexpr Point KnobOff{31, 111};
+    constexpr Point KnobHalfway{39, 111};
+    constexpr Point KnobOn{47, 111};
+    const auto isKnob = [](const PaintedCanvas& canvas, Point place) {
+        return isNear(canvas.at(place), 0xFF, 0xFF, 0xFF, 1);
+    };
+    EXPECT_TRUE(isKnob(moved(0), KnobOff));
+    EXPECT_FALSE(isKnob(moved(0), KnobOn));
+    EXPECT_TRUE(isKnob(moved(0.5), KnobHalfway));
+    EXPECT_FALSE(difference(moved(1), painted(scene), scene.size)) << "the switch is on";
+    EXPECT_FALSE(difference(moved(0, Push), painted(scene), scene.size));
+    // The track's colour is on its way, too.
+    constexpr Point BeforeKnob{25, 111};
+    constexpr Point BehindKnob{53, 111};
+    EXPECT_GT(moved(0).at(BehindKnob).red, moved(0.5).at(BehindKnob).red);
+    EXPECT_GT(moved(0.5).at(BeforeKnob).red, moved(1).at(BeforeKnob).red);
+}
+
 TEST(ScenePainter, ChangesThePressedControlOnly) {
     const ui::Scene scene = sceneWithControls();
     const PaintedCanvas atRest = painted(scene);

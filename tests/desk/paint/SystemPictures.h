@@ -76,10 +76,10 @@ inline DeskPicture withDialog() {
 
 inline DeskPicture withPane() {
     DeskPicture picture = withStatusItem();
-    picture.accessibilityPane =
-        AccessibilityPanePicture{0,
-                                 {{.name = "Kestrune", .iconPath = std::nullopt, .isOn = true},
-                                  {.name = "Terminal", .iconPath = std::nullopt, .isOn = false}}};
+    picture.settingsPane =
+        SettingsPanePicture{0,
+                            {{.name = "Kestrune", .iconPath = std::nullopt, .isOn = true},
+                             {.name = "Terminal", .iconPath = std::nullopt, .isOn = false}}};
     return picture;
 }
 

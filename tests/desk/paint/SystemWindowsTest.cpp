@@ -1,5 +1,5 @@
-#include "desk/paint/AccessibilityPaneLayout.h"
 #include "desk/paint/AlertLayout.h"
+#include "desk/paint/SettingsPaneLayout.h"
 #include "desk/paint/ToolTipPainter.h"
 #include "tests/base/Overlap.h"
 #include "tests/desk/paint/SystemPictures.h"
@@ -14,8 +14,8 @@ AlertLayout dialogOf(const DeskPicture& picture, Size window = TestWindow) {
     return *alertLayout(measure, DeskLayout::of(picture, window), picture, window);
 }
 
-AccessibilityPaneLayout paneOf(const DeskPicture& picture, Size window = TestWindow) {
-    return *accessibilityPaneLayout(DeskLayout::of(picture, window), picture, window);
+SettingsPaneLayout paneOf(const DeskPicture& picture, Size window = TestWindow) {
+    return *settingsPaneLayout(DeskLayout::of(picture, window), picture, window);
 }
 
 std::optional<Rect> toolTipOf(const DeskPicture& picture, Size window = TestWindow) {
@@ -101,9 +101,9 @@ TEST(PermissionDialog, ShowsTheApplicationsIconOrAGeneralOne) {
     EXPECT_TRUE(isNear(PaintedPicture{picture}.at(center), 0, 255, 0, 4));
 }
 
-TEST(AccessibilityPane, ListsEachApplicationWithItsSwitch) {
+TEST(SettingsPane, ListsEachApplicationWithItsSwitch) {
     const DeskPicture picture = withPane();
-    const AccessibilityPaneLayout pane = paneOf(picture);
+    const SettingsPaneLayout pane = paneOf(picture);
     ASSERT_EQ(pane.rows.size(), 2U);
     EXPECT_TRUE(encloses(pane.frame, pane.box));
     EXPECT_TRUE(encloses(pane.titleBar, pane.closeButton));
@@ -119,9 +119,9 @@ TEST(AccessibilityPane, ListsEachApplicationWithItsSwitch) {
     EXPECT_TRUE(encloses(pane.box, pane.removeButton));
 }
 
-TEST(AccessibilityPane, ShowsWhichSwitchesAreOn) {
+TEST(SettingsPane, ShowsWhichSwitchesAreOn) {
     const DeskPicture picture = withPane();
-    const AccessibilityPaneLayout pane = paneOf(picture);
+    const SettingsPaneLayout pane = paneOf(picture);
     const PaintedPicture painted{picture};
     // The half of the switch that its knob leaves free.
     const auto track = [&](std::size_t row, double part) {
@@ -134,9 +134,9 @@ TEST(AccessibilityPane, ShowsWhichSwitchesAreOn) {
     EXPECT_TRUE(isNear(track(1, 0.28), 255, 255, 255, 4));
 }
 
-TEST(AccessibilityPane, EnablesRemovingOnlyWithASelectedRow) {
+TEST(SettingsPane, EnablesRemovingOnlyWithASelectedRow) {
     DeskPicture picture = withPane();
-    EXPECT_FALSE(canRemove(*picture.accessibilityPane));
+    EXPECT_FALSE(canRemove(*picture.settingsPane));
     const Rect minus = paneOf(picture).removeButton;
     const auto darkest = [&] {
         int value = 255;
@@ -147,15 +147,15 @@ TEST(AccessibilityPane, EnablesRemovingOnlyWithASelectedRow) {
         return value;
     };
     const int disabled = darkest();
-    picture.accessibilityPane->rows[1].selected = true;
-    EXPECT_TRUE(canRemove(*picture.accessibilityPane));
+    picture.settingsPane->rows[1].selected = true;
+    EXPECT_TRUE(canRemove(*picture.settingsPane));
     EXPECT_LT(darkest(), disabled - 60);
 }
 
-TEST(AccessibilityPane, ShowsWhatIsHeldDown) {
+TEST(SettingsPane, ShowsWhatIsHeldDown) {
     DeskPicture picture = withPane();
-    picture.accessibilityPane->rows[0].selected = true;
-    const AccessibilityPaneLayout pane = paneOf(picture);
+    picture.settingsPane->rows[0].selected = true;
+    const SettingsPaneLayout pane = paneOf(picture);
     const PaintedPicture released{picture};
     const std::vector<std::pair<DeskTarget, Rect>> parts{{PaneSwitchTarget{1}, pane.rows[1].toggle},
                                                          {PaneCloseTarget{}, pane.closeButton},
@@ -168,10 +168,10 @@ TEST(AccessibilityPane, ShowsWhatIsHeldDown) {
     }
 }
 
-TEST(AccessibilityPane, SaysThatItsListIsEmpty) {
+TEST(SettingsPane, SaysThatItsListIsEmpty) {
     DeskPicture picture = withPane();
-    picture.accessibilityPane->rows.clear();
-    const AccessibilityPaneLayout pane = paneOf(picture);
+    picture.settingsPane->rows.clear();
+    const SettingsPaneLayout pane = paneOf(picture);
     EXPECT_TRUE(pane.rows.empty());
     const Point middle = centerOf(pane.list);
     EXPECT_GT(PaintedPicture{picture}.count({middle.x - 40, middle.y - 8, 80, 16},
@@ -181,13 +181,13 @@ TEST(AccessibilityPane, SaysThatItsListIsEmpty) {
 
 TEST(SystemWindows, StayInsideTheWindow) {
     DeskPicture picture = withDialog();
-    picture.accessibilityPane = withPane().accessibilityPane;
+    picture.settingsPane = withPane().settingsPane;
     for (const Size window : {Size{1440, 900}, Size{900, 600}, Size{720, 450}}) {
         for (const std::size_t rows : {0U, 2U, 80U}) {
-            picture.accessibilityPane->rows.assign(rows, {.name = "Application", .iconPath = std::nullopt});
+            picture.settingsPane->rows.assign(rows, {.name = "Application", .iconPath = std::nullopt});
             for (const std::size_t display : {0U, 1U, 5U}) {
                 picture.permissionDialog->display = display;
-                picture.accessibilityPane->display = display;
+                picture.settingsPane->display = display;
                 const Rect all{0, 0, window.width, window.height};
                 EXPECT_TRUE(encloses(all, dialogOf(picture, window).frame)) << window.width;
                 EXPECT_TRUE(encloses(all, paneOf(picture, window).frame)) << window.width << " " << rows;
@@ -201,7 +201,7 @@ TEST(SystemWindows, HaveTheDialogInFrontOfThePane) {
     picture.permissionDialog->display = 0;
     const Point inDialog = centerOf(dialogOf(picture).message);
     const Pixel alone = PaintedPicture{picture}.at(inDialog);
-    picture.accessibilityPane = withPane().accessibilityPane;
+    picture.settingsPane = withPane().settingsPane;
     ASSERT_TRUE(paneOf(picture).frame.contains(inDialog));
     EXPECT_EQ(PaintedPicture{picture}.at(inDialog), alone);
 }

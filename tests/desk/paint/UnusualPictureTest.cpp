@@ -111,7 +111,7 @@ DeskPicture crowdedPicture() {
     DeskPicture picture = withMenu();
     picture.toolTip = ToolTipPicture{0, 0, "A tool tip"};
     picture.permissionDialog = withDialog().permissionDialog;
-    picture.accessibilityPane = withPane().accessibilityPane;
+    picture.settingsPane = withPane().settingsPane;
     picture.mainMenuTitles = {"Kestrune", "File"};
     return picture;
 }
@@ -132,7 +132,7 @@ TEST(UnusualPicture, WithTheSystemsPartsButNoDisplayShowsTheWindowsInTheMiddle) 
     picture.displays.clear();
     const PaintedPicture painted{picture};
     DeskPicture without = picture;
-    without.accessibilityPane.reset();
+    without.settingsPane.reset();
     without.permissionDialog.reset();
     const std::optional<Rect> windows = differenceOf(painted, PaintedPicture{without});
     ASSERT_TRUE(windows);
@@ -144,7 +144,7 @@ TEST(UnusualPicture, WithPartsOfTheSystemThatDoNotExistPaints) {
     picture.menu->anchor = StatusItemAnchor{99};
     picture.toolTip->item = 99;
     picture.permissionDialog->display = 99;
-    picture.accessibilityPane->display = 99;
+    picture.settingsPane->display = 99;
     picture.pressed = PaneSwitchTarget{99};
     EXPECT_EQ(statusAfterPainting(picture), CAIRO_STATUS_SUCCESS);
     picture.menu->anchor = StatusItemAnchor{0};

@@ -68,7 +68,13 @@ class LiveDesk(WindowTest):
         self.assertEqual(report["dockDisplay"], 2)
         stored = plistlib.loads(defaults.read_bytes())
         self.assertEqual(
-            stored, {"hasCompletedOnboarding": True, "isEnabled": True, "pinnedScreenUUID": SECOND_UUID}
+            stored,
+            {
+                "SUAutomaticallyUpdate": False,
+                "hasCompletedOnboarding": True,
+                "isEnabled": True,
+                "pinnedScreenUUID": SECOND_UUID,
+            },
         )
         self.assertEqual(run("identify", "-format", "%m %w %h", str(screenshot)), "PNG 1440 900")
         self.assertGreater(int(run("identify", "-format", "%k", str(screenshot))), 1000)

@@ -73,21 +73,44 @@ void printParts(LiveDesk& desk) {
     printTarget(desk, "remove", PaneRemoveTarget{});
 }
 
-// The first-run wizard, if it is shown: its title bar, its close button and its buttons by their titles.
-void printWizard(LiveDesk& desk) {
-    desk.advance(std::chrono::seconds(1));
+// The frontmost window, if there is one: its title bar, its close button and its controls by their titles.
+void printWindow(LiveDesk& desk, const std::string& kind) {
     const DeskPicture picture = pictureOf(desk);
     if (picture.windows.empty()) {
         return;
     }
-    const WindowPicture& wizard = picture.windows.front();
-    printTarget(desk, "wizard title", WindowTitleTarget{wizard.number});
-    printTarget(desk, "wizard close", WindowCloseTarget{wizard.number});
-    for (std::size_t element = 0; element < wizard.scene.elements.size(); ++element) {
-        if (const auto title = titleOfControl(wizard.scene.elements[element])) {
-            printTarget(desk, "wizard: " + *title, WindowControlTarget{wizard.number, element});
+    const WindowPicture& window = picture.windows.front();
+    printTarget(desk, kind + " title", WindowTitleTarget{window.number});
+    printTarget(desk, kind + " close", WindowCloseTarget{window.number});
+    for (std::size_t element = 0; element < window.scene.elements.size(); ++element) {
+        if (const auto title = titleOfControl(window.scene.elements[element])) {
+            printTarget(desk, kind + ": " + *title, WindowControlTarget{window.number, element});
         }
     }
+}
+
+void printWizard(LiveDesk& desk) {
+    desk.advance(std::chrono::seconds(1));
+    printWindow(desk, "wizard");
+}
+
+// The Settings window, unless the setup is not complete, and what it leads to.
+void printSettings(LiveDesk& desk) {
+    desk.openStatusMenu();
+    desk.openStatusMenu(); // The first one was built before the setup was noted.
+    desk.pressEquivalent(",", false);
+    desk.advance(std::chrono::seconds(1));
+    printWindow(desk, "settings");
+    for (int step = 0; step < 2; ++step) {
+        desk.navigate(NavigationKey::tab);
+    }
+    desk.navigate(NavigationKey::space);
+    desk.advance(std::chrono::seconds(1));
+    printWindow(desk, "alert");
+    desk.navigate(NavigationKey::enter);
+    desk.navigate(NavigationKey::tab);
+    desk.navigate(NavigationKey::space);
+    printTarget(desk, "mail close", MailCloseTarget{});
 }
 
 int refuse(const InputError& error) {
@@ -109,8 +132,12 @@ int run(const std::vector<std::string_view>& words) {
         LiveDesk desk(std::get<LiveDeskSetup>(setup));
         printParts(desk);
     }
+    {
+        LiveDesk desk(std::get<LiveDeskSetup>(setup));
+        printWizard(desk);
+    }
     LiveDesk desk(std::get<LiveDeskSetup>(setup));
-    printWizard(desk);
+    printSettings(desk);
     return 0;
 }
 

@@ -1,4 +1,5 @@
-// Where the Accessibility pane and its parts stand, in window coordinates, for painting and for the pointer.
+// Where a pane of System Settings and its parts stand, in window coordinates, for painting and for the
+// pointer.
 //
 // Like menus, windows keep the size in which they can be read, whatever the displays' scale.
 #pragma once
@@ -20,7 +21,7 @@ struct PaneRowPlace {
     friend bool operator==(const PaneRowPlace&, const PaneRowPlace&) = default;
 };
 
-struct AccessibilityPaneLayout {
+struct SettingsPaneLayout {
     Rect frame;
     Rect titleBar;
     Rect closeButton;
@@ -31,14 +32,14 @@ struct AccessibilityPaneLayout {
     Rect addButton;
     Rect removeButton;
 
-    friend bool operator==(const AccessibilityPaneLayout&, const AccessibilityPaneLayout&) = default;
+    friend bool operator==(const SettingsPaneLayout&, const SettingsPaneLayout&) = default;
 };
 
-// Absent without an Accessibility pane.
-std::optional<AccessibilityPaneLayout> accessibilityPaneLayout(const DeskLayout& layout,
-                                                               const DeskPicture& picture, Size window);
+// Absent without a pane.
+std::optional<SettingsPaneLayout> settingsPaneLayout(const DeskLayout& layout, const DeskPicture& picture,
+                                                     Size window);
 
 // Whether the − button can be pressed: it needs a selected row.
-bool canRemove(const AccessibilityPanePicture& pane);
+bool canRemove(const SettingsPanePicture& pane);
 
 } // namespace kestrune::desk

@@ -1,4 +1,4 @@
-#include "desk/paint/AccessibilityPanePainter.h"
+#include "desk/paint/SettingsPanePainter.h"
 
 #include "desk/paint/ApplicationIcon.h"
 #include "desk/paint/ControlPainter.h"
@@ -16,12 +16,12 @@ void paintHairline(const Canvas& canvas, double left, double right, double y) {
                          canvas.palette.system.separator);
 }
 
-void paintTitleBar(const Canvas& canvas, const AccessibilityPaneLayout& layout, bool isClosePressed) {
+void paintTitleBar(const Canvas& canvas, const SettingsPaneLayout& layout, const std::string& title,
+                   bool isClosePressed) {
     constexpr double TitleGap = 18; // after the buttons
     paintWindowButtons(canvas, layout.closeButton, {.isClosePressed = isClosePressed});
     canvas.text.paint(
-        "Accessibility",
-        {layout.closeButton.minX() + 40 + WindowButtonSide + TitleGap, middleOf(layout.titleBar)},
+        title, {layout.closeButton.minX() + 40 + WindowButtonSide + TitleGap, middleOf(layout.titleBar)},
         {.size = 15, .weight = FontWeight::semibold, .color = canvas.palette.system.text});
 }
 
@@ -46,8 +46,8 @@ void paintRow(const Canvas& canvas, ImageStore& images, const PaneRowPlace& plac
     paintSwitch(canvas, place.toggle, {.isOn = row.isOn, .isPressed = isSwitchPressed});
 }
 
-void paintList(const Canvas& canvas, ImageStore& images, const AccessibilityPaneLayout& layout,
-               const AccessibilityPanePicture& pane, const std::optional<DeskTarget>& pressed) {
+void paintList(const Canvas& canvas, ImageStore& images, const SettingsPaneLayout& layout,
+               const SettingsPanePicture& pane, const std::optional<DeskTarget>& pressed) {
     for (std::size_t index = 0; index < layout.rows.size(); ++index) {
         const PaneRowPlace& place = layout.rows[index];
         if (index > 0) {
@@ -64,17 +64,16 @@ void paintList(const Canvas& canvas, ImageStore& images, const AccessibilityPane
 
 } // namespace
 
-void paintAccessibilityPane(const Canvas& canvas, ImageStore& images, const AccessibilityPaneLayout& layout,
-                            const AccessibilityPanePicture& pane, const std::optional<DeskTarget>& pressed) {
+void paintSettingsPane(const Canvas& canvas, ImageStore& images, const SettingsPaneLayout& layout,
+                       const SettingsPanePicture& pane, const std::optional<DeskTarget>& pressed) {
     constexpr double BoxRadius = 7;
     const SystemColors& colors = canvas.palette.system;
-    paintTitleBar(canvas, layout, pressed == DeskTarget{PaneCloseTarget{}});
+    paintTitleBar(canvas, layout, pane.title, pressed == DeskTarget{PaneCloseTarget{}});
 
     fillRoundedRectangle(canvas.context, layout.box, BoxRadius, colors.groupBox);
     strokeRoundedRectangle(canvas.context, layout.box, BoxRadius, 0.5, colors.groupBoxEdge);
-    canvas.text.paint("Allow the applications below to control your computer.",
-                      {layout.sentence.minX(), middleOf(layout.sentence)},
-                      {.size = 13, .color = colors.text});
+    canvas.text.paint(pane.sentence, {layout.sentence.minX(), middleOf(layout.sentence)},
+                      {.size = 13, .color = colors.text, .maximumWidth = layout.sentence.width()});
     paintHairline(canvas, layout.sentence.minX(), layout.sentence.maxX(), layout.list.minY());
     paintList(canvas, images, layout, pane, pressed);
 

@@ -1,4 +1,4 @@
-#include "desk/paint/AccessibilityPaneLayout.h"
+#include "desk/paint/SettingsPaneLayout.h"
 
 #include "desk/paint/ControlPainter.h"
 #include "desk/paint/PanelPainter.h"
@@ -41,18 +41,18 @@ PaneRowPlace placeRow(const Rect& list, std::size_t index) {
 
 } // namespace
 
-std::optional<AccessibilityPaneLayout> accessibilityPaneLayout(const DeskLayout& layout,
-                                                               const DeskPicture& picture, Size window) {
-    if (!picture.accessibilityPane) {
+std::optional<SettingsPaneLayout> settingsPaneLayout(const DeskLayout& layout, const DeskPicture& picture,
+                                                     Size window) {
+    if (!picture.settingsPane) {
         return std::nullopt;
     }
-    const std::size_t rowsInPicture = picture.accessibilityPane->rows.size();
+    const std::size_t rowsInPicture = picture.settingsPane->rows.size();
     const std::size_t rows = listRows(rowsInPicture, window);
     const double listHeight = static_cast<double>(rows) * RowHeight;
     const double height = HeightWithoutList + listHeight;
-    const Rect screen = screenOrContent(layout, picture.accessibilityPane->display);
+    const Rect screen = screenOrContent(layout, picture.settingsPane->display);
 
-    AccessibilityPaneLayout result;
+    SettingsPaneLayout result;
     result.frame = keptInside({std::round(screen.minX() + (screen.width() - Width) / 2),
                                std::round(screen.minY() + screen.height() * HeightOnDisplay - height / 2),
                                Width, height},
@@ -76,7 +76,7 @@ std::optional<AccessibilityPaneLayout> accessibilityPaneLayout(const DeskLayout&
     return result;
 }
 
-bool canRemove(const AccessibilityPanePicture& pane) {
+bool canRemove(const SettingsPanePicture& pane) {
     return std::any_of(pane.rows.begin(), pane.rows.end(),
                        [](const PaneRowPicture& row) { return row.selected; });
 }

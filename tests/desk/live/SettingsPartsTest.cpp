@@ -1,0 +1,328 @@
+// A user with mouse and keyboard at the Settings window, and at what it leads to.
+
+#include "desk/live/LivePicture.h"
+#include "desk/live/TourHand.h"
+#include "desk/live/WindowParts.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace kestrune::desk {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+constexpr const char* SettingsTitle = "Kestrune Settings";
+
+class SettingsOnTheDesk : public testing::Test {
+protected:
+    SettingsOnTheDesk() {
+        // The menu that opens first is the one that was built before the setup was known to be complete.
+        desk.openStatusMenu();
+        desk.navigate(NavigationKey::escape);
+    }
+
+    static LiveDeskSetup setup() { return std::get<LiveDeskSetup>(setupOf({})); }
+
+    void open() {
+        hand.openMenu(1);
+        hand.clickRow("Settings…");
+        desk.advance(1s);
+    }
+
+    DeskPicture picture() { return pictureOf(desk); }
+
+    std::vector<std::string> windowTitles() {
+        std::vector<std::string> titles;
+        for (const WindowPicture& window : picture().windows) {
+            titles.push_back(window.title);
+        }
+        return titles;
+    }
+
+    // The frontmost one of that title.
+    WindowPicture window(const std::string& title = SettingsTitle) {
+        for (const WindowPicture& candidate : picture().windows) {
+            if (candidate.title == title) {
+                return candidate;
+            }
+        }
+        ADD_FAILURE() << "no window " << title;
+        return {};
+    }
+
+    WindowControlTarget control(std::string_view title, const std::string& windowTitle = SettingsTitle) {
+        const WindowPicture shown = window(windowTitle);
+        for (std::size_t element = 0; element < shown.scene.elements.size(); ++element) {
+            if (titleOfControl(shown.scene.elements[element]) == title) {
+                return {shown.number, element};
+            }
+        }
+        ADD_FAILURE() << "no control " << title;
+        return {};
+    }
+
+    WindowControlTarget toggle() { return control("Launch at login"); }
+
+    bool isSwitchOn() {
+        return std::get<ui::ToggleElement>(window().scene.elements.at(toggle().element)).isOn;
+    }
+
+    AppServiceStatus loginItem() { return desk.session().loginItem().status(); }
+
+    std::optional<std::string> focusedTitle() {
+        const WindowPicture shown = window();
+        return shown.focusedElement ? titleOfControl(shown.scene.elements.at(*shown.focusedElement))
+                                    : std::nullopt;
+    }
+
+    // Presses the switch, and moves the hand by that much before it lets go.
+    void dragSwitch(double distance) {
+        hand.pointAt(toggle());
+        desk.pressButton(toggle());
+        desk.placeHand({hand.place().x + distance, hand.place().y});
+        desk.hover(std::nullopt);
+        desk.releaseButton(std::nullopt);
+    }
+
+    LiveDesk desk{setup()};
+    TourHand hand{desk};
+};
+
+TEST_F(SettingsOnTheDesk, OpenFromTheStatusMenuWithTheMouse) {
+    open();
+    const WindowPicture shown = window();
+    EXPECT_TRUE(shown.isKey);
+    EXPECT_TRUE(shown.isClosable);
+    EXPECT_TRUE(shown.isMiniaturizable);
+    EXPECT_FALSE(shown.isResizable);
+    EXPECT_EQ(shown.frame.width(), 440);
+    EXPECT_EQ(shown.frame.height(), shown.scene.size.height + shown.titleBarHeight);
+    EXPECT_EQ(desk.news().text, "Kestrune opened its window “Kestrune Settings”");
+}
+
+TEST_F(SettingsOnTheDesk, OpenFromTheStatusMenuWithTheKeyboard) {
+    desk.openStatusMenu();
+    // Both displays, Disable, and then Settings.
+    for (int row = 0; row < 3; ++row) {
+        desk.navigate(NavigationKey::down);
+    }
+    desk.navigate(NavigationKey::enter);
+    EXPECT_THAT(windowTitles(), ElementsAre(SettingsTitle));
+}
+
+TEST_F(SettingsOnTheDesk, ComeForwardFromTheMainMenuByMouseAndKey) {
+    open();
+    ASSERT_FALSE(picture().mainMenuTitles.empty());
+    hand.click(MainMenuTitleTarget{0, 0});
+    hand.clickRow("Settings…");
+    EXPECT_THAT(windowTitles(), ElementsAre(SettingsTitle));
+    EXPECT_EQ(desk.news().text, "“Settings…” brings “Kestrune Settings” to the front");
+    desk.announce({});
+    desk.pressEquivalent(",", false);
+    EXPECT_EQ(desk.news().text, "“⌘,” brings “Kestrune Settings” to the front");
+}
+
+TEST_F(SettingsOnTheDesk, ShowVersionAndCopyrightOfTheBundle) {
+    open();
+    std::vector<std::string> texts;
+    for (const ui::Element& element : window().scene.elements) {
+        if (const auto* const text = std::get_if<ui::TextElement>(&element)) {
+            texts.push_back(text->text.string());
+        }
+    }
+    const sim::BundleContents& bundle = desk.session().bundle();
+    const std::string version =
+        *bundle.infoString("CFBundleShortVersionString") + " (" + *bundle.infoString("CFBundleVersion") + ")";
+    EXPECT_THAT(texts, ElementsAre("Launch at login", "Kestrune " + version,
+                                   *bundle.infoString("NSHumanReadableCopyright")));
+}
+
+TEST_F(SettingsOnTheDesk, FlipTheSwitchWithAClickAndSlideItsKnob) {
+    open();
+    EXPECT_FALSE(window().movingSwitch);
+    hand.click(toggle());
+    EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
+    EXPECT_EQ(desk.news().text, "Kestrune will open when the user logs in");
+    EXPECT_EQ(window().movingSwitch, (MovingSwitch{toggle().element, 0}));
+    desk.advance(60ms);
+    const double position = window().movingSwitch.value().position;
+    EXPECT_GT(position, 0.5);
+    EXPECT_LT(position, 1);
+    desk.advance(120ms);
+    EXPECT_FALSE(window().movingSwitch);
+    EXPECT_TRUE(isSwitchOn());
+    hand.click(toggle());
+    EXPECT_EQ(window().movingSwitch->position, 1);
+    desk.advance(1s);
+    EXPECT_FALSE(isSwitchOn());
+    EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
+    EXPECT_EQ(desk.news().text, "Kestrune will not open when the user logs in");
+}
+
+TEST_F(SettingsOnTheDesk, DragTheKnobToTheOtherSide) {
+    open();
+    hand.pointAt(toggle());
+    desk.pressButton(toggle());
+    EXPECT_FALSE(window().movingSwitch);
+    desk.placeHand({hand.place().x + 5, hand.place().y + 40});
+    desk.hover(std::nullopt);
+    EXPECT_GT(window().movingSwitch.value().position, 0.3);
+    EXPECT_EQ(window().pressedElement, toggle().element) << "a knob is held wherever the hand goes";
+    EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
+    desk.placeHand({hand.place().x + 12, hand.place().y + 40});
+    desk.releaseButton(std::nullopt);
+    EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
+    EXPECT_FALSE(window().pressedElement);
+    desk.advance(1s);
+    EXPECT_TRUE(isSwitchOn());
+    dragSwitch(-30);
+    EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
+}
+
+TEST_F(SettingsOnTheDesk, LetTheKnobGoBackToTheNearerSide) {
+    open();
+    dragSwitch(5);
+    EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
+    EXPECT_GT(window().movingSwitch.value().position, 0.3);
+    desk.advance(1s);
+    EXPECT_FALSE(window().movingSwitch);
+    // To the wrong side there is nowhere to go.
+    dragSwitch(-30);
+    EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
+}
+
+TEST_F(SettingsOnTheDesk, DropAKnobWhoseWindowHasGone) {
+    open();
+    hand.pointAt(toggle());
+    desk.pressButton(toggle());
+    desk.placeHand({hand.place().x + 12, hand.place().y});
+    desk.quitOrLaunch();
+    desk.releaseButton(std::nullopt);
+    EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
+    EXPECT_TRUE(picture().windows.empty());
+}
+
+TEST_F(SettingsOnTheDesk, GoThroughTheControlsWithTabAndPressThemWithSpace) {
+    open();
+    EXPECT_FALSE(focusedTitle());
+    for (const char* const title :
+         {"Launch at login", "Check for Updates…", "Report a Bug…", "Launch at login"}) {
+        desk.navigate(NavigationKey::tab);
+        EXPECT_EQ(focusedTitle(), title);
+    }
+    desk.navigate(NavigationKey::space);
+    EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
+    EXPECT_TRUE(window().movingSwitch);
+    desk.navigate(NavigationKey::backTab);
+    desk.navigate(NavigationKey::space);
+    EXPECT_TRUE(picture().mail);
+}
+
+TEST_F(SettingsOnTheDesk, CloseAndGiveTheMainMenuAway) {
+    open();
+    hand.click(WindowCloseTarget{window().number});
+    EXPECT_TRUE(picture().windows.empty());
+    EXPECT_TRUE(picture().mainMenuTitles.empty());
+    EXPECT_EQ(desk.news().text, "Kestrune's window “Kestrune Settings” is closed");
+}
+
+TEST_F(SettingsOnTheDesk, ShowTheMailThatTheBugReportOpens) {
+    open();
+    hand.clickControl("Report a Bug…");
+    const MailPicture mail = picture().mail.value();
+    EXPECT_THAT(mail.recipient, HasSubstr("@"));
+    EXPECT_EQ(mail.subject, "Kestrune bug report");
+    const sim::BundleContents& bundle = desk.session().bundle();
+    EXPECT_EQ(mail.body, "Describe what went wrong:\n\n\n---\nApp version: " +
+                             *bundle.infoString("CFBundleShortVersionString") + " (" +
+                             *bundle.infoString("CFBundleVersion") + ")\nmacOS: 14.5.0\nLocale: en_US");
+    EXPECT_EQ(desk.news().text, "Mail shows the mail that Kestrune composed; nothing is sent");
+    // The mail program is in front, and Kestrune's window behind it.
+    EXPECT_FALSE(window().isKey);
+    EXPECT_EQ(window().depth, WindowDepth::behindSystemWindows);
+}
+
+TEST_F(SettingsOnTheDesk, CloseTheMailByMouseAndKey) {
+    open();
+    hand.clickControl("Report a Bug…");
+    hand.click(MailTarget{});
+    EXPECT_TRUE(picture().mail);
+    hand.click(MailCloseTarget{});
+    EXPECT_FALSE(picture().mail);
+    EXPECT_TRUE(window().isKey);
+    desk.pressEquivalent("w", false);
+    hand.clickControl("Report a Bug…");
+    ASSERT_TRUE(picture().mail);
+    desk.pressEquivalent("w", false);
+    EXPECT_FALSE(picture().mail);
+}
+
+TEST_F(SettingsOnTheDesk, LeaveTheMailOpenBehindTheWindowThatIsClicked) {
+    open();
+    hand.clickControl("Report a Bug…");
+    hand.click(WindowTitleTarget{window().number});
+    EXPECT_TRUE(window().isKey);
+    EXPECT_EQ(window().depth, WindowDepth::beforePane);
+    EXPECT_TRUE(picture().mail);
+}
+
+TEST_F(SettingsOnTheDesk, ShowLaunchAtLoginAmongTheLoginItems) {
+    desk.openLoginItems();
+    ASSERT_TRUE(picture().settingsPane);
+    EXPECT_EQ(picture().settingsPane->title, "Login Items");
+    EXPECT_TRUE(picture().settingsPane->rows.empty());
+    open();
+    hand.click(toggle());
+    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
+    EXPECT_EQ(picture().settingsPane->rows[0].name, "Kestrune");
+    EXPECT_TRUE(picture().settingsPane->rows[0].isOn);
+    hand.click(toggle());
+    EXPECT_TRUE(picture().settingsPane->rows.empty());
+}
+
+TEST_F(SettingsOnTheDesk, RevokeAndAllowTheLoginItem) {
+    desk.session().loginItem().setStatus(AppServiceStatus::enabled);
+    desk.openLoginItems();
+    hand.click(PaneSwitchTarget{0});
+    EXPECT_EQ(loginItem(), AppServiceStatus::requiresApproval);
+    EXPECT_EQ(desk.news().text, "Kestrune may not open at login until System Settings allows it");
+    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
+    EXPECT_FALSE(picture().settingsPane->rows[0].isOn);
+    open();
+    EXPECT_FALSE(isSwitchOn()) << "what waits for approval counts as off";
+    hand.click(PaneSwitchTarget{0});
+    EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
+    hand.click(PaneRowTarget{0});
+    EXPECT_TRUE(picture().settingsPane->rows[0].selected);
+    hand.click(PaneRemoveTarget{});
+    EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
+    EXPECT_TRUE(picture().settingsPane->rows.empty());
+    hand.click(PaneCloseTarget{});
+    EXPECT_FALSE(picture().settingsPane);
+    EXPECT_TRUE(window().isKey);
+}
+
+TEST_F(SettingsOnTheDesk, ShowOnePaneOfSystemSettingsAtATime) {
+    desk.session().accessibility().showPane();
+    desk.openLoginItems();
+    EXPECT_EQ(picture().settingsPane->title, "Login Items");
+    EXPECT_FALSE(desk.session().accessibility().isPaneShown());
+    desk.session().accessibility().showPane();
+    EXPECT_EQ(picture().settingsPane->title, "Accessibility");
+    hand.click(PaneCloseTarget{});
+    EXPECT_FALSE(picture().settingsPane);
+}
+
+} // namespace
+} // namespace kestrune::desk
