@@ -9,15 +9,27 @@ import subprocess
 import sys
 
 
+def search(command):
+    """What the sessions have found, which sessions those were, and how it ended.
+
+    The first is None when they found nothing; the second is the name of the program without a mistake.
+    """
+    run = subprocess.run([*command, "--findings", "1"], capture_output=True, text=True, check=False)
+    lines = run.stdout.splitlines()
+    found = [line for line in lines if line.startswith("Finding at seed ")]
+    sessions = lines[0].split(" ")[0] if lines else ""
+    ending = f"exit status {run.returncode}\n{run.stdout[-2000:]}\n{run.stderr[-2000:]}"
+    return (found[0] if run.returncode == 1 and found else None), sessions, ending
+
+
 def main() -> int:
-    run = subprocess.run([*sys.argv[1:], "--findings", "1"], capture_output=True, text=True, check=False)
-    findings = [line for line in run.stdout.splitlines() if line.startswith("Finding at seed ")]
-    if run.returncode == 1 and findings:
-        print(findings[0])
+    found, _, ending = search(sys.argv[1:])
+    if found:
+        print(found)
         return 0
-    print(f"the mistake was not found; exit status {run.returncode}", file=sys.stderr)
-    print(run.stdout[-2000:], run.stderr[-2000:], sep="\n", file=sys.stderr)
+    print(f"the mistake was not found; {ending}", file=sys.stderr)
     return 1
 
 
-sys.exit(main())
+if __name__ == "__main__":
+    sys.exit(main())

@@ -32,9 +32,9 @@ MenuLine deadEditLine(const char* title, std::string_view action, std::string_vi
 
 } // namespace
 
-std::string MenuModel::text(std::string_view english) const {
-    const auto translation = translations_.find(english);
-    return translation == translations_.end() ? std::string(english) : translation->second;
+std::string translated(const Translations& translations, std::string_view english) {
+    const auto translation = translations.find(english);
+    return translation == translations.end() ? std::string(english) : translation->second;
 }
 
 MenuLine MenuModel::displayLine(const KnownDisplay& display, const StatusMenuFacts& facts) const {

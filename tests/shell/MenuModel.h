@@ -17,6 +17,9 @@ namespace kestrune::simulate {
 // What the bundle's string table has for each English text that it translates.
 using Translations = std::map<std::string, std::string, std::less<>>;
 
+// What the user reads.
+std::string translated(const Translations& translations, std::string_view english);
+
 struct MenuLine {
     std::string title;
     std::string_view action = {}; // the selector's name, empty for a line that does nothing
@@ -57,7 +60,7 @@ public:
     static constexpr int MainMenuObjects = 3 + 2 + 3 + 7;
 
 private:
-    std::string text(std::string_view english) const;
+    std::string text(std::string_view english) const { return translated(translations_, english); }
     MenuLine displayLine(const KnownDisplay& display, const StatusMenuFacts& facts) const;
 
     Translations translations_;

@@ -9,15 +9,14 @@ namespace kestrune::simulate {
 namespace {
 
 constexpr sim::Duration WatcherInterval = std::chrono::seconds(1);
-constexpr const char* Subsystem = "org.kestrune.Kestrune";
 
 sim::LogRecord refusedStart() {
-    return {sim::LogLevel::error, Subsystem, "dockGuard",
+    return {sim::LogLevel::error, ApplicationSubsystem, "dockGuard",
             "Failed to create event tap. Accessibility permission required."};
 }
 
 sim::LogRecord skippedWizard() {
-    return {sim::LogLevel::debug, Subsystem, "app",
+    return {sim::LogLevel::debug, ApplicationSubsystem, "app",
             "scheduleWelcomeDecision: skipping wizard, already onboarded"};
 }
 
@@ -25,9 +24,14 @@ sim::LogRecord skippedWizard() {
 
 ShellModel::ShellModel(const ShellBeginning& beginning)
     : menus_(beginning.translations),
+      translations_(beginning.translations),
+      bundle_(beginning.bundle),
+      supportAddress_(beginning.supportAddress),
       displays_(beginning.displays),
       permission_(beginning.permission),
-      entries_(beginning.entries) {}
+      entries_(beginning.entries) {
+    updatesWorld_.framework = beginning.framework;
+}
 
 bool ShellModel::isTrusted() const {
     return permission_ == sim::Permission::granted || permission_ == sim::Permission::rowDeleted;
@@ -41,16 +45,18 @@ void ShellModel::listApplication() {
 }
 
 void ShellModel::launch() {
-    process_.emplace();
+    process_.emplace([this](WindowModel& window) { becameKey(window); });
     counts_.add(Happening::launches);
+    startUpdater();
     rebuild(); // by the controller's construction
     startIfAllowed();
     rebuild();
     if (!isTrusted()) {
         counts_.add(Happening::launchesWithoutPermission);
         listApplication();
-        process_->watcher = WatcherModel{now_ + WatcherInterval};
+        process_->watcher = thread_.repeat(WatcherInterval, [this] { tick(); });
     }
+    thread_.enqueue([this] { decideOnWelcome(); });
 }
 
 void ShellModel::terminate() {
@@ -73,6 +79,7 @@ void ShellModel::kill() {
 void ShellModel::endProcess() {
     guardRanAtTheEnd_ = process_->guardRuns;
     process_.reset();
+    thread_.clear();
     // What it still had after its row was removed goes with it.
     if (permission_ == sim::Permission::rowDeleted) {
         permission_ = sim::Permission::notListed;
@@ -82,15 +89,32 @@ void ShellModel::endProcess() {
 void ShellModel::letGoOfDelegate(bool controllerStays) {
     counts_.add(Happening::delegatesLetGo);
     process_->hasDelegate = false;
-    process_->wizard.reset();
     process_->hasController = controllerStays;
+    if (process_->wizard) {
+        process_->windows.remove(process_->wizard->window);
+        process_->wizard.reset();
+    }
+    if (process_->settings) {
+        process_->windows.remove(process_->settings->window);
+        process_->settings.reset();
+    }
 }
 
-// There is no Settings window yet.
 void ShellModel::openSettings() {
-    if (!isSetUp()) {
+    if (isSetUp()) {
+        openSettingsWindow();
+    } else {
         showWelcome();
     }
+}
+
+// The system takes its time, and may refuse.
+void ShellModel::activate() {
+    thread_.enqueue([this] {
+        if (!desktop_.refusesActivation) {
+            setActive(true);
+        }
+    });
 }
 
 void ShellModel::refresh() {
@@ -163,14 +187,12 @@ void ShellModel::endWatcher(Happening how) {
 }
 
 void ShellModel::tick() {
-    WatcherModel& watcher = *process_->watcher;
-    counts_.add(watcher.missed ? Happening::lateTicks : Happening::ticksWithoutPermission);
+    counts_.add(process_->watcher->isLate ? Happening::lateTicks : Happening::ticksWithoutPermission);
     if (!process_->hasDelegate) {
         endWatcher(Happening::watchersEndedWithoutTheDelegate);
         return;
     }
     if (!isTrusted()) {
-        reschedule(watcher);
         return;
     }
     endWatcher(Happening::watchersEndedByATick);
@@ -178,15 +200,7 @@ void ShellModel::tick() {
     rebuild();
 }
 
-void ShellModel::reschedule(WatcherModel& watcher) const {
-    watcher.missed = false;
-    while (watcher.due <= now_) {
-        watcher.due += WatcherInterval;
-    }
-}
-
 void ShellModel::decideOnWelcome() {
-    process_->decisionPending = false;
     if (!process_->hasDelegate) {
         counts_.add(Happening::decisionsWithoutTheDelegate);
         return;
@@ -199,44 +213,6 @@ void ShellModel::decideOnWelcome() {
     counts_.add(Happening::decisionsWithPermission);
     storeOnboarding({sim::PropertyList{true}, true});
     log_.push_back(skippedWizard());
-}
-
-void ShellModel::advance(sim::Duration duration) {
-    const sim::Duration end = now_ + duration;
-    runMainQueue();
-    runTimersUntil(end);
-    showPage();
-    now_ = end;
-}
-
-// Of the two timers neither changes what the other one does.
-void ShellModel::runTimersUntil(sim::Duration end) {
-    for (WatcherModel* next = nextDue(); next != nullptr && next->due <= end; next = nextDue()) {
-        now_ = next->due;
-        if (process_->open) {
-            next->missed = true;
-        } else if (process_->watcher && next == &*process_->watcher) {
-            tick();
-        } else {
-            tickOfWizard();
-        }
-    }
-}
-
-// Null when no timer waits for its time.
-WatcherModel* ShellModel::nextDue() {
-    if (!process_) {
-        return nullptr;
-    }
-    WatcherModel* next = nullptr;
-    if (process_->watcher && !process_->watcher->missed) {
-        next = &*process_->watcher;
-    }
-    if (process_->wizard && !process_->wizard->watcher.missed &&
-        (next == nullptr || process_->wizard->watcher.due < next->due)) {
-        next = &process_->wizard->watcher;
-    }
-    return next;
 }
 
 void ShellModel::changeDisplays(std::vector<sim::Display> displays, bool announced) {
@@ -295,6 +271,16 @@ std::int64_t ShellModel::liveObjects() const {
     }
     if (process_->wizard) {
         count += 1 + 1 + 1 + 1; // its controller, the window, what the window hosts, and the timer
+    }
+    if (process_->settings) {
+        count += 1 + 1 + 1; // their controller, the window and what it hosts
+    }
+    count += 1; // the manager of updates
+    if (process_->updates.hasUpdater) {
+        count += 1 + 1; // the updater and its user driver
+    }
+    if (process_->updates.window) {
+        count += 1 + 1; // the window and what it hosts
     }
     if (process_->guardRuns) {
         count += 2; // the tap and its source

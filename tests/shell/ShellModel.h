@@ -3,8 +3,13 @@
 #pragma once
 
 #include "sim/Session.h"
+#include "tests/shell/LoginItemModel.h"
+#include "tests/shell/MainThreadModel.h"
 #include "tests/shell/MenuModel.h"
+#include "tests/shell/SettingsModel.h"
 #include "tests/shell/ShellCounts.h"
+#include "tests/shell/UpdatesModel.h"
+#include "tests/shell/WindowsModel.h"
 #include "tests/shell/WizardModel.h"
 #include "tests/simulate/Oracle.h"
 #include "tests/simulate/StoredValue.h"
@@ -12,6 +17,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +28,12 @@ namespace kestrune::simulate {
 
 constexpr std::string_view OnboardingEntry = "hasCompletedOnboarding";
 
+// The updater's own.
+constexpr std::string_view DownloadsEntry = "SUAutomaticallyUpdate";
+
+// What every log line is written under.
+constexpr const char* ApplicationSubsystem = "org.kestrune.Kestrune";
+
 // Reads as boolForKey:.
 using StoredFlag = StoredValue<bool>;
 
@@ -28,6 +41,7 @@ struct ShellEntries {
     StoredSwitch isEnabled = absentSwitch();
     StoredChoice choice = absentChoice();
     StoredFlag onboarding{std::nullopt, false};
+    std::optional<sim::PropertyList> downloads = std::nullopt; // nobody here reads it
 };
 
 // All that a session of the application begins with.
@@ -36,6 +50,9 @@ struct ShellBeginning {
     sim::Permission permission;
     ShellEntries entries;
     Translations translations;
+    BundleFacts bundle;
+    sim::UpdateFramework framework;
+    std::string supportAddress;
 };
 
 struct OpenMenuModel {
@@ -45,18 +62,20 @@ struct OpenMenuModel {
 
 // The application's process.
 struct ProcessModel {
+    explicit ProcessModel(std::function<void(WindowModel&)> becameKey) : windows(std::move(becameKey)) {}
+
     bool hasDelegate = true;
     bool hasController = true;
-    bool decisionPending = true;
     bool guardRuns = false;
-    std::vector<KnownDisplay> guardDisplays = {};
-    std::optional<KnownDisplay> guardPinned = std::nullopt;
-    std::optional<WatcherModel> watcher = std::nullopt;
-    std::vector<MenuLine> statusMenu = {};
-    std::optional<OpenMenuModel> open = std::nullopt;
-    std::optional<WizardModel> wizard = std::nullopt;
-    bool activationPending = false;
-    bool isActive = false;
+    std::vector<KnownDisplay> guardDisplays;
+    std::optional<KnownDisplay> guardPinned;
+    std::shared_ptr<TimerModel> watcher; // null unless it polls
+    std::vector<MenuLine> statusMenu;
+    std::optional<OpenMenuModel> open;
+    WindowsModel windows;
+    std::shared_ptr<WizardModel> wizard;     // null unless it is going on
+    std::shared_ptr<SettingsModel> settings; // null until the user has wanted them
+    UpdatesModel updates;
     bool isRegular = false;
 };
 
@@ -64,7 +83,7 @@ struct ProcessModel {
 struct DesktopModel {
     bool isDialogShown = false;
     bool isPaneShown = false;
-    std::size_t openedURLs = 0;
+    std::vector<std::string> openedURLs;
     bool refusesActivation = false;
 };
 
@@ -86,15 +105,25 @@ public:
     bool press(std::string_view key, EventModifierFlags modifiers);
     void closeMenu();
 
-    // The user at the wizard and at what the system shows. The first two answer what the session must answer.
-    bool pressWizardButton(std::size_t index);
+    // The user at the windows on the screen, which count from the frontmost. Those with an answer say what
+    // the session must answer.
+    bool pressButton(std::size_t place, std::size_t button);
+    bool flipSwitch(std::size_t place);
     bool pressReturn();
-    void clickWizard();
-    void closeWizard();
+    bool pressEscape();
+    void clickWindow(std::size_t place);
+    void closeWindow(std::size_t place);
+
+    // The user at what the system shows.
     void openSettingsFromDialog();
     void denyInDialog();
     void closePane();
     void refuseActivation(bool refuse) { desktop_.refusesActivation = refuse; }
+
+    // Login items and updates.
+    void changeLoginItem(const LoginItemModel& item) { loginItem_ = item; }
+    void changeUpdates(const UpdatesWorld& updates) { updatesWorld_ = updates; }
+    void checkAsScheduled();
 
     // Everything around the application. Displays change with or, for a moment, without the announcement.
     void changeDisplays(std::vector<sim::Display> displays, bool announced);
@@ -106,7 +135,7 @@ public:
     void storeOnboarding(const StoredFlag& completed);
     void setPermission(sim::Permission permission) { permission_ = permission; }
     void refuseTapCreation(bool refuse) { refusesTaps_ = refuse; }
-    void advance(sim::Duration duration);
+    void advance(sim::Duration duration) { thread_.advance(duration); }
 
     // Absent while the application does not run.
     const std::optional<ProcessModel>& process() const { return process_; }
@@ -114,6 +143,8 @@ public:
     const std::vector<sim::Display>& connected() const { return displays_.connected(); }
     const ShellEntries& entries() const { return entries_; }
     const DesktopModel& desktop() const { return desktop_; }
+    const LoginItemModel& loginItem() const { return loginItem_; }
+    const UpdatesWorld& updatesWorld() const { return updatesWorld_; }
     sim::Permission permission() const { return permission_; }
     bool isSetUp() const { return isTrusted() && entries_.onboarding.reading; }
 
@@ -132,10 +163,23 @@ public:
     // The menu bar's titles while the application shows them.
     std::vector<std::string> mainMenuTitles() const;
 
+    // The windows on the screen, the frontmost first; and the titles of a window's buttons.
+    std::vector<WindowsModel::Window> shownWindows() const;
+    std::vector<std::string> buttonsOf(const WindowModel& window) const;
+
+    // Of the Settings form, outside of its buttons.
+    std::vector<std::string> settingsTexts() const;
+
+    // Nobody can do anything at other windows until it is closed.
+    bool isAlertShown() const { return process_ && process_->updates.stage == UpdateStage::alert; }
+
     // Platform objects that the application and the system hold for it.
     std::int64_t liveObjects() const;
 
     const ShellCounts& counts() const { return counts_; }
+
+    // What was there to be seen when a step was over.
+    void countStep();
 
 private:
     bool isTrusted() const;
@@ -148,38 +192,64 @@ private:
     void stop();
     void rebuild();
     void countMark(const StatusMenuFacts& facts);
-    void runMainQueue();
-    void runTimersUntil(sim::Duration end);
-    WatcherModel* nextDue();
+    void activate();
     void tick();
-    void reschedule(WatcherModel& watcher) const;
-    bool hasKeys() const;
-    bool isWizardVisible() const;
-    void tellNewKeyWindow(bool hadKeys);
-    void publishTrust();
-    void systemCameForward(bool isInFront);
-    void showWelcome();
-    void askUser();
-    void pressTitled(const std::string& title);
-    void finishWelcome();
-    void tickOfWizard();
-    void showPage();
-    void showPane();
     void endWatcher(Happening how);
     void decideOnWelcome();
+    void listApplication();
+
+    // Menus.
     void toggle();
     void select(const std::string& identifier);
     bool finishTracking(const MenuLine& line, bool inMainMenu);
     bool act(const MenuLine& line, bool inMainMenu);
-    void leaveTracking();
-    void listApplication();
+
+    // Windows.
+    void becameKey(WindowModel& window);
+    void pressTitled(const WindowModel& window, const std::string& title);
+    bool pressKeyWindow(bool isReturn);
+
+    // The wizard.
+    void showWelcome();
+    void publishTrust();
+    void publishInWizard();
+    void systemCameForward(bool isInFront);
+    void askUser();
+    void pressInWizard(const std::string& title);
+    void finishWelcome();
+    void tickOfWizard();
+    void showPane();
+
+    // Settings.
+    void openSettingsWindow();
+    void setLaunchAtLogin(bool isOn);
+    void toggleLoginItem(bool isOn);
+    void pressInSettings(const std::string& title);
+    void checkForUpdates();
+
+    // Updates.
+    void startUpdater();
+    void beginUpdateSession();
+    void endUpdateSession();
+    void raiseUpdatersWindows();
+    void check(bool isByUser);
+    void finishCheck(bool isByUser);
+    void announce();
+    void showOfUpdater(std::string title, std::string className, bool asKey);
+    void hideOfUpdater();
+    void dismiss();
 
     MenuModel menus_;
+    Translations translations_;
+    BundleFacts bundle_;
+    std::string supportAddress_;
     sim::Displays displays_;
     sim::Permission permission_;
     ShellEntries entries_;
+    LoginItemModel loginItem_;
+    UpdatesWorld updatesWorld_;
     bool refusesTaps_ = false;
-    sim::Duration now_{0};
+    MainThreadModel thread_;
     std::optional<ProcessModel> process_;
     DesktopModel desktop_;
     std::uint64_t writes_ = 0;

@@ -13,7 +13,7 @@ bool isStatusItem(const sim::MenuPlace& place) { return std::holds_alternative<s
 } // namespace
 
 std::vector<std::string> ShellModel::mainMenuTitles() const {
-    if (!process_ || !process_->isActive || !process_->isRegular) {
+    if (!process_ || !process_->windows.isActive() || !process_->isRegular) {
         return {};
     }
     return {"Kestrune", "Edit"};
@@ -37,6 +37,7 @@ bool ShellModel::openMenu(const sim::MenuPlace& place) {
         }
         counts_.add(Happening::mainMenusOpened);
         process_->open = OpenMenuModel{place, {}};
+        thread_.pauseTimers();
         return true;
     }
     if (!process_ || !process_->hasController || std::get<sim::StatusItemIndex>(place).value > 0) {
@@ -44,6 +45,7 @@ bool ShellModel::openMenu(const sim::MenuPlace& place) {
     }
     counts_.add(Happening::menusOpened);
     process_->open = OpenMenuModel{place, process_->statusMenu};
+    thread_.pauseTimers();
     if (isTrusted() && !process_->guardRuns && process_->hasDelegate) {
         counts_.add(Happening::permissionsFoundByTheMenu);
         startIfAllowed();
@@ -53,20 +55,11 @@ bool ShellModel::openMenu(const sim::MenuPlace& place) {
     return true;
 }
 
+// What fell due while the menu was open happens now.
 void ShellModel::closeMenu() {
     if (process_ && process_->open) {
-        leaveTracking();
-    }
-}
-
-// What fell due while the menu was open happens now.
-void ShellModel::leaveTracking() {
-    process_->open.reset();
-    if (process_->watcher && process_->watcher->missed) {
-        tick();
-    }
-    if (process_->wizard && process_->wizard->watcher.missed) {
-        tickOfWizard();
+        process_->open.reset();
+        thread_.resumeTimers();
     }
 }
 
@@ -79,7 +72,7 @@ bool ShellModel::choose(std::size_t row) {
 }
 
 bool ShellModel::press(std::string_view key, EventModifierFlags modifiers) {
-    if (!process_ || (!process_->open && !process_->isActive)) {
+    if (!process_ || (!process_->open && !process_->windows.isActive())) {
         return false;
     }
     const bool inMainMenu = !process_->open || !isStatusItem(process_->open->place);
@@ -101,7 +94,7 @@ bool ShellModel::finishTracking(const MenuLine& line, bool inMainMenu) {
     std::optional<OpenMenuModel> closed = std::exchange(process_->open, std::nullopt);
     const bool reached = act(line, inMainMenu);
     if (process_ && closed) {
-        leaveTracking();
+        thread_.resumeTimers();
     }
     return reached;
 }
@@ -131,6 +124,8 @@ bool ShellModel::act(const MenuLine& line, bool inMainMenu) {
         select(*line.identifier);
     } else if (line.action == "showWelcome" && process_->hasDelegate) {
         showWelcome();
+    } else if (line.action == "showSettings" && process_->hasDelegate) {
+        openSettingsWindow();
     }
     return true;
 }

@@ -1,4 +1,4 @@
-// What the user does at the wizard, and what it must come to.
+// What the user does at the wizard and at what the system shows, and what it must come to.
 #include "tests/shell/ShellModel.h"
 
 namespace kestrune::simulate {
@@ -6,39 +6,37 @@ namespace kestrune::simulate {
 namespace {
 
 constexpr sim::Duration PollingInterval = std::chrono::seconds(1);
+constexpr const char* PrivacyPane =
+    "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
 
 } // namespace
 
-bool ShellModel::hasKeys() const {
-    return process_ && process_->isActive && process_->wizard && process_->wizard->isVisible;
-}
-
-// The window with the keys looks at the permission, whatever it knew.
-void ShellModel::tellNewKeyWindow(bool hadKeys) {
-    if (!hadKeys && hasKeys()) {
-        counts_.add(Happening::windowsBecomeKey);
-        publishTrust();
+// The page is laid out anew a turn later, once for all that changes until then.
+void ShellModel::publishInWizard() {
+    WizardModel& wizard = *process_->wizard;
+    ++wizard.publications;
+    if (wizard.isLayoutPending) {
+        return;
     }
+    wizard.isLayoutPending = true;
+    thread_.enqueue([reference = std::weak_ptr(process_->wizard)] {
+        if (const auto alive = reference.lock()) {
+            alive->isLayoutPending = false;
+            alive->shownPage = alive->page;
+        }
+    });
 }
 
 void ShellModel::publishTrust() {
-    ++process_->wizard->publications;
+    publishInWizard();
     process_->wizard->page.isTrusted = isTrusted();
-}
-
-void ShellModel::setActive(bool isActive) {
-    if (process_) {
-        const bool hadKeys = hasKeys();
-        process_->isActive = isActive;
-        tellNewKeyWindow(hadKeys);
-    }
 }
 
 // Of the system's own, which takes the keys; afterwards they go back to whoever shows a window.
 void ShellModel::systemCameForward(bool isInFront) {
     if (isInFront) {
         setActive(false);
-    } else if (process_ && process_->isRegular && process_->wizard && process_->wizard->isVisible) {
+    } else if (process_ && process_->isRegular && !process_->windows.shown().empty()) {
         setActive(true);
     }
 }
@@ -47,61 +45,43 @@ void ShellModel::showWelcome() {
     counts_.add(Happening::wizardsShown);
     if (!process_->wizard) {
         const WizardPage page{true, isTrusted(), false};
-        process_->wizard = WizardModel{.page = page, .shownPage = page, .watcher = {now_ + PollingInterval}};
+        process_->wizard = std::make_shared<WizardModel>();
+        process_->wizard->page = page;
+        process_->wizard->shownPage = page;
+        process_->wizard->window = process_->windows.add(
+            {WindowKind::wizard, translated(translations_, "Welcome to Kestrune"), "NSWindow", true});
+        process_->wizard->watcher = thread_.repeat(PollingInterval, [this] { tickOfWizard(); });
     }
     WizardModel& wizard = *process_->wizard;
     publishTrust();
     if (wizard.page.isIntro && !isTrusted()) {
         counts_.add(Happening::introductionsSkipped);
-        ++wizard.publications;
+        publishInWizard();
         wizard.page.isIntro = false;
     }
     if (!isTrusted()) {
         listApplication();
     }
-    wizard.isFloating = wizard.page.isIntro;
+    wizard.window->isFloating = wizard.page.isIntro;
     process_->isRegular = true;
-    const bool hadKeys = hasKeys();
-    wizard.isVisible = true;
-    tellNewKeyWindow(hadKeys);
-    process_->activationPending = true;
+    process_->windows.makeKeyAndOrderFront(wizard.window);
+    activate();
 }
 
-bool ShellModel::isWizardVisible() const {
-    return process_ && process_->wizard && process_->wizard->isVisible;
-}
-
-bool ShellModel::pressWizardButton(std::size_t index) {
-    if (!isWizardVisible() || index >= process_->wizard->shownPage.buttons().size()) {
-        return false;
-    }
-    clickWizard();
-    pressTitled(process_->wizard->shownPage.buttons()[index]);
-    return true;
-}
-
-bool ShellModel::pressReturn() {
-    if (!hasKeys() || process_->wizard->shownPage.defaultButton().empty()) {
-        return false;
-    }
-    pressTitled(process_->wizard->shownPage.defaultButton());
-    return true;
-}
-
-void ShellModel::pressTitled(const std::string& title) {
+void ShellModel::pressInWizard(const std::string& title) {
     counts_.add(Happening::wizardButtonsPressed);
     WizardModel& wizard = *process_->wizard;
     if (title == "Get started") {
-        ++wizard.publications;
+        publishInWizard();
         wizard.page.isIntro = false;
-        wizard.isFloating = false;
+        wizard.window->isFloating = false;
     } else if (title == "Request permission") {
         counts_.add(Happening::permissionsRequested);
-        ++wizard.publications;
+        publishInWizard();
         wizard.page.hasRequested = true;
         askUser();
     } else if (title == "Open System Settings") {
-        ++desktop_.openedURLs;
+        desktop_.openedURLs.emplace_back(PrivacyPane);
         showPane();
     } else {
         finishWelcome();
@@ -121,54 +101,21 @@ void ShellModel::askUser() {
 void ShellModel::finishWelcome() {
     counts_.add(Happening::wizardsFinished);
     storeOnboarding({sim::PropertyList{true}, true});
+    process_->windows.orderOut(process_->wizard->window);
     process_->isRegular = false;
+    process_->windows.remove(process_->wizard->window);
     process_->wizard.reset();
     startIfAllowed();
     endWatcher(Happening::watchersEndedByTheWizard);
     rebuild();
 }
 
-void ShellModel::closeWizard() {
-    if (isWizardVisible()) {
-        counts_.add(Happening::wizardsClosed);
-        process_->isRegular = false;
-        process_->wizard->isVisible = false;
-    }
-}
-
-void ShellModel::clickWizard() {
-    if (isWizardVisible()) {
-        setActive(true);
-    }
-}
-
 void ShellModel::tickOfWizard() {
     WizardModel& wizard = *process_->wizard;
-    counts_.add(wizard.watcher.missed ? Happening::lateWizardTicks : Happening::wizardTicks);
-    reschedule(wizard.watcher);
+    counts_.add(wizard.watcher->isLate ? Happening::lateWizardTicks : Happening::wizardTicks);
     if (wizard.page.isTrusted != isTrusted()) {
         counts_.add(Happening::wizardTicksThatFindSomethingNew);
         publishTrust();
-    }
-}
-
-// What waited for the main thread to be free.
-void ShellModel::runMainQueue() {
-    if (process_ && process_->decisionPending) {
-        decideOnWelcome();
-    }
-    if (process_ && process_->activationPending) {
-        process_->activationPending = false;
-        if (!desktop_.refusesActivation) {
-            setActive(true);
-        }
-    }
-    showPage();
-}
-
-void ShellModel::showPage() {
-    if (process_ && process_->wizard) {
-        process_->wizard->shownPage = process_->wizard->page;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Application.h"
 
+#include <chrono>
 #include <utility>
 
 namespace kestrune::simulate {
@@ -33,7 +34,15 @@ sim::SessionOptions ShellSession::options(const ShellBeginning& beginning) {
     put(result.defaults, SwitchEntry, beginning.entries.isEnabled.stored);
     put(result.defaults, ChoiceEntry, beginning.entries.choice.stored);
     put(result.defaults, OnboardingEntry, beginning.entries.onboarding.stored);
+    put(result.defaults, DownloadsEntry, beginning.entries.downloads);
+    sim::PropertyListDictionary& info = result.bundle.infoDictionary;
+    put(info, "CFBundleShortVersionString", beginning.bundle.version);
+    put(info, "CFBundleVersion", beginning.bundle.build);
+    put(info, "NSHumanReadableCopyright", beginning.bundle.copyright);
+    put(info, "SUFeedURL", beginning.bundle.feed);
     result.bundle.localizedStrings = beginning.translations;
+    result.surroundings = {beginning.bundle.system, beginning.bundle.locale};
+    result.updateFramework = beginning.framework;
     result.recordJournal = false;
     return result;
 }
@@ -190,6 +199,8 @@ void ShellSession::advance(sim::Duration duration) {
 
 void ShellSession::finish() {
     kill();
+    // What waited for the main thread goes while there still is a session.
+    advance(std::chrono::seconds(1));
     checkNothingIsLeft();
 }
 

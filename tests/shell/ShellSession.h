@@ -38,11 +38,20 @@ public:
     void press(std::string_view key, EventModifierFlags modifiers);
     void closeMenu();
 
-    // The user at the wizard and at what the system shows.
-    void pressWizardButton(std::size_t index);
+    // The user at the windows on the screen, which count from the frontmost.
+    void pressButton(std::size_t place, std::size_t button);
+    void flipSwitch(std::size_t place);
     void pressReturn();
-    void clickWizard();
-    void closeWizard();
+    void pressEscape();
+    void clickWindow(std::size_t place);
+    void closeWindow(std::size_t place);
+
+    // Login items and updates.
+    void changeLoginItem(const LoginItemModel& item);
+    void changeUpdates(const UpdatesWorld& updates);
+    void checkAsScheduled();
+
+    // The user at what the system shows.
     void openSettingsFromDialog();
     void denyInDialog();
     void closePane();
@@ -81,12 +90,19 @@ private:
     void checkStatusItem(const ProcessModel& process);
     void checkOpenMenu();
     void checkDesktop();
+    void checkWindows(const ProcessModel& process);
+    void checkKeyWindow(const ProcessModel& process);
+    void checkContent(const ProcessModel& process, const WindowModel& expected, const Window::State& window);
     void checkWizard(const ProcessModel& process);
     void checkWizardsModel(const WizardModel& expected, const WelcomeWindowController& controller);
-    void checkWizardsWindow(const WizardModel& expected, const Window::State& window);
-    void observePublications();
-    std::shared_ptr<Window::State> shownWindow();
-    bool pressButtonOfWindow(std::size_t index);
+    void checkWizardsPage(const WizardModel& expected, const Window::State& window);
+    void checkSettings(const ProcessModel& process);
+    void checkSettingsForm(const SettingsModel& expected, const Window::State& window);
+    void checkUpdates(const ProcessModel& process);
+    void checkLoginItem();
+    void observeWizard();
+    void observeSettings();
+    std::shared_ptr<Window::State> shownWindow(std::size_t place);
     void checkEntries();
     void checkLog();
     void buryProcess();
@@ -100,9 +116,13 @@ private:
     std::uint64_t writes_ = 0; // of defaults entries, by anybody
     std::uint64_t writesWithTap_ = 0;
     std::size_t checkedRecords_ = 0;
-    std::weak_ptr<WelcomeViewModel> observedModel_;
-    ui::Observation observation_;
-    std::uint64_t publications_ = 0;
+    std::weak_ptr<WelcomeViewModel> observedWizard_;
+    ui::Observation wizardsObservation_;
+    std::uint64_t wizardsPublications_ = 0;
+    std::weak_ptr<SettingsViewModel> observedSettings_;
+    std::weak_ptr<SettingsModel> expectedSettings_; // for which they were first observed
+    ui::Observation settingsObservation_;
+    std::uint64_t settingsPublications_ = 0;
 };
 
 } // namespace kestrune::simulate

@@ -78,6 +78,8 @@ void ShellSession::check() {
     require(session_.accessibility().permission() == model_.permission(),
             "the application is not listed as its attempts at taps make it");
     checkDesktop();
+    checkLoginItem();
+    model_.countStep();
 }
 
 void ShellSession::checkProcess(const ProcessModel& process) {
@@ -85,13 +87,17 @@ void ShellSession::checkProcess(const ProcessModel& process) {
     checkWatcher(process);
     checkStatusItem(process);
     checkOpenMenu();
+    checkWindows(process);
     checkWizard(process);
-    require(session_.observers().count() == 1, "not exactly one observer while the process runs");
+    checkSettings(process);
+    checkUpdates(process);
     require(session_.menus().mainMenuTitles() == model_.mainMenuTitles(),
             "the menu bar does not show the main menu's titles");
     require(session_.application().policy ==
                 (process.isRegular ? ActivationPolicy::regular : ActivationPolicy::accessory),
-            "the application is not in the Dock exactly while the wizard is shown");
+            "the application is in the Dock when it should not be, or not when it should");
+    require(session_.application().isActive == process.windows.isActive(),
+            "the application is active when it should not be, or not when it should");
     require(session_.liveObjects() == model_.liveObjects(),
             "the number of retained platform objects is wrong");
     if (app_) {
@@ -115,7 +121,7 @@ void ShellSession::checkWatcher(const ProcessModel& process) {
     require(session_.timers().count() == (process.watcher ? 1U : 0U) + (process.wizard ? 1U : 0U),
             "not exactly one timer for the watcher and one for the wizard");
     if (app_) {
-        require(app_->isWatchingAccessibility() == process.watcher.has_value(),
+        require(app_->isWatchingAccessibility() == (process.watcher != nullptr),
                 "accessibilityWatcher does not hold the timer exactly while it runs");
     }
 }
@@ -157,8 +163,10 @@ void ShellSession::checkEntries() {
             "the stored choice is not what the last writer had to leave");
     require(holdsExactly(defaults.find(OnboardingEntry), entries.onboarding.stored),
             "hasCompletedOnboarding is not what the last writer had to leave");
+    require(holdsExactly(defaults.find(DownloadsEntry), entries.downloads),
+            "updates are downloaded of themselves, or it was never said that they are not");
     const std::size_t expected = (entries.isEnabled.stored ? 1U : 0U) + (entries.choice.stored ? 1U : 0U) +
-                                 (entries.onboarding.stored ? 1U : 0U);
+                                 (entries.onboarding.stored ? 1U : 0U) + (entries.downloads ? 1U : 0U);
     require(defaults.entries().size() == expected, "an entry was stored that nobody should store");
 }
 
@@ -187,7 +195,9 @@ void ShellSession::checkNothingIsLeft() {
     require(session_.observers().count() == 0, "the process is gone and left an observer behind");
     require(session_.statusItems().shown().empty(), "the process is gone and left a status item behind");
     require(!session_.menus().place(), "the process is gone and left a menu open");
-    require(session_.windows().shown().empty(), "the process is gone and left a window behind");
+    require(session_.windows().all().empty(), "the process is gone and left a window behind");
+    require(!session_.updates().isShowingUpdate() && !session_.updates().isShowingAlert(),
+            "the process is gone and left an update or an alert behind");
     require(session_.liveObjects() == 0, "the process is gone and left platform objects behind");
 }
 
@@ -200,6 +210,10 @@ std::vector<std::string> ShellSession::description() const {
                                    (process->watcher ? ", permission polled" : "") +
                                    (process->hasDelegate ? "" : ", delegate gone") +
                                    (process->open ? ", a menu is open" : "")};
+    for (const WindowsModel::Window& window : process->windows.shown()) {
+        lines.push_back("[" + window->title + "]" + (window->isFloating ? " floats" : "") +
+                        (window == process->windows.key() ? ", has the keys" : ""));
+    }
     for (const MenuLine& line : process->statusMenu) {
         lines.push_back((line.isMarked ? "* " : "  ") + (line.isSeparator ? "----" : line.title) +
                         (line.isEnabled ? "" : " (disabled)"));

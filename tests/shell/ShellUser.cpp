@@ -1,5 +1,7 @@
 #include "tests/shell/ShellUser.h"
 
+#include "Kestrune/BugReport.h"
+
 #include <array>
 #include <chrono>
 #include <utility>
@@ -23,6 +25,15 @@ const Translations Foreign{
     {"Edit", "Bearbeiten"},
     {"Undo", "Widerrufen"},
     {"Display 1", "Bildschirm 1"},
+    {"Welcome to Kestrune", "Willkommen bei Kestrune"},
+    // Whatever has this word in its title is taken for the updater's.
+    {"Kestrune Settings", "Kestrune: Einstellungen und Updates"},
+    {"Launch at login", "Bei der Anmeldung \xC3\xB6\x66\x66nen"},
+    {"Check for Updates\xE2\x80\xA6", "Nach Updates suchen\xE2\x80\xA6"},
+    {"Report a Bug\xE2\x80\xA6", "Fehler melden\xE2\x80\xA6"},
+    {"Kestrune %@", "Kestrune, Fassung %@"},
+    {"Kestrune bug report", "Fehler & W\xC3\xBCnsche: 100 % + mehr?"},
+    {"Describe what went wrong:", "Was ging schief? #1 = \"Problem\""},
 };
 
 } // namespace
@@ -43,19 +54,24 @@ ShellBeginning ShellUser::beginning() {
     const StoredChoice initialChoice = choice(displays);
     const StoredFlag initialOnboarding = onboarding();
     const Translations translations = random_.chance(0.3) ? Foreign : Translations();
+    const BundleFacts facts = bundle();
+    const sim::UpdateFramework initialFramework = framework();
     return {std::move(displays),
             initialPermission,
             {initialSwitch, initialChoice, initialOnboarding},
-            translations};
+            translations,
+            facts,
+            initialFramework,
+            std::string(SupportAddress)};
 }
 
 const std::vector<ShellUser::Choice>& ShellUser::choices() {
     static const std::vector<Choice> all{
         {3, &ShellUser::launch},
-        {0.7, &ShellUser::terminate},
-        {0.7, &ShellUser::kill},
+        {0.4, &ShellUser::terminate},
+        {0.4, &ShellUser::kill},
         {0.4, &ShellUser::letGoOfDelegate},
-        {0.5, &ShellUser::openSettingsByAction},
+        {1.5, &ShellUser::openSettingsByAction},
         {2, &ShellUser::activate},
         {9, &ShellUser::openMenu},
         {1, &ShellUser::openMainMenu},
@@ -63,10 +79,17 @@ const std::vector<ShellUser::Choice>& ShellUser::choices() {
         {9, &ShellUser::openAndChoose},
         {3, &ShellUser::closeMenu},
         {2, &ShellUser::press},
-        {6, &ShellUser::pressWizardButton},
+        {9, &ShellUser::pressButton},
+        {3, &ShellUser::flipSwitch},
         {3, &ShellUser::pressReturn},
-        {2, &ShellUser::clickWizard},
-        {1, &ShellUser::closeWizard},
+        {1, &ShellUser::pressEscape},
+        {2, &ShellUser::clickWindow},
+        {1.5, &ShellUser::closeWindow},
+        {3, &ShellUser::changeLoginItem},
+        {2.5, &ShellUser::changeUpdates},
+        {3, &ShellUser::checkAsScheduled},
+        {2, &ShellUser::checkInSettings},
+        {5, &ShellUser::waitForUpdates},
         {2, &ShellUser::answerDialog},
         {1.5, &ShellUser::closePane},
         {0.5, &ShellUser::refuseActivation},
@@ -90,11 +113,35 @@ const std::vector<ShellUser::Choice>& ShellUser::choices() {
     return all;
 }
 
+const std::vector<ShellUser::Choice>& ShellUser::choicesDuringAnAlert() {
+    static const std::vector<Choice> all{
+        {5, &ShellUser::pressButton},
+        {3, &ShellUser::pressReturn},
+        {2, &ShellUser::leaveAlert},
+        {0.2, &ShellUser::terminate},
+        {0.2, &ShellUser::kill},
+        {2, &ShellUser::activate},
+        {2, &ShellUser::clickWindow},
+        {1, &ShellUser::closeMenu},
+        {1, &ShellUser::closePane},
+        {0.5, &ShellUser::refuseActivation},
+        {1, &ShellUser::changeLoginItem},
+        {2, &ShellUser::checkAsScheduled},
+        {1, &ShellUser::plug},
+        {1, &ShellUser::unplug},
+        {1, &ShellUser::storeOnboarding},
+        {3, &ShellUser::changePermission},
+        {3, &ShellUser::wait},
+    };
+    return all;
+}
+
 std::string ShellUser::act() {
     if (!session_->model().process() && random_.chance(0.4)) {
         return launch();
     }
-    return (this->*random_.weighted(choices()).action)();
+    const bool isAlertShown = session_->model().isAlertShown();
+    return (this->*random_.weighted(isAlertShown ? choicesDuringAnAlert() : choices()).action)();
 }
 
 std::vector<std::string> ShellUser::takeTrace() {

@@ -36,6 +36,9 @@ private:
 
     static const std::vector<Choice>& choices();
 
+    // Behind a modal alert.
+    static const std::vector<Choice>& choicesDuringAnAlert();
+
     // The application's process.
     std::string launch();
     std::string terminate();
@@ -52,14 +55,24 @@ private:
     std::string closeMenu();
     std::string press();
 
-    // The wizard, and what the system shows.
-    std::string pressWizardButton();
+    // The windows on the screen, and what the system shows.
+    std::string pressButton();
+    std::string flipSwitch();
     std::string pressReturn();
-    std::string clickWizard();
-    std::string closeWizard();
+    std::string pressEscape();
+    std::string clickWindow();
+    std::string closeWindow();
     std::string answerDialog();
     std::string closePane();
     std::string refuseActivation();
+
+    // Login items and updates.
+    std::string changeLoginItem();
+    std::string changeUpdates();
+    std::string checkAsScheduled();
+    std::string checkInSettings();
+    std::string leaveAlert();
+    std::string waitForUpdates();
 
     // The displays.
     std::string plug();
@@ -82,6 +95,10 @@ private:
     std::string wait();
 
     ShellBeginning beginning();
+    BundleFacts bundle();
+    sim::UpdateFramework framework();
+    std::size_t windowPlace();
+    std::optional<std::size_t> placeOf(WindowKind kind) const;
     sim::Permission permission();
     StoredSwitch enabled();
     StoredChoice choice(const std::vector<sim::Display>& displays);

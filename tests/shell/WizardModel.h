@@ -1,19 +1,15 @@
 // The first-run wizard as it must be, worked out from the rules a second time and without its code.
 #pragma once
 
-#include "sim/VirtualClock.h"
+#include "tests/shell/MainThreadModel.h"
+#include "tests/shell/WindowsModel.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace kestrune::simulate {
-
-// A repeated look at the permission.
-struct WatcherModel {
-    sim::Duration due;
-    bool missed = false; // fell due while a menu was open
-};
 
 // All that a page of the wizard depends on.
 struct WizardPage {
@@ -35,10 +31,10 @@ struct WizardPage {
 struct WizardModel {
     WizardPage page;
     WizardPage shownPage; // as it was laid out last
-    bool isVisible = false;
-    bool isFloating = true;
+    bool isLayoutPending = false;
     std::uint64_t publications = 0; // of anything, since the window was made
-    WatcherModel watcher;
+    WindowsModel::Window window;
+    std::shared_ptr<TimerModel> watcher;
 };
 
 } // namespace kestrune::simulate
