@@ -30,15 +30,16 @@ ctest --test-dir $(DIR) $(1) --no-tests=error --max-width 90 --output-on-failure
 status=$$?; tools/count-tests $(DIR)/tests.xml && exit $$status
 endef
 
-.PHONY: help run test check bench simulate first-run soak fuzz coverage clean
+.PHONY: help run app test check bench simulate first-run soak fuzz coverage clean
 .NOTPARALLEL:
 .DEFAULT_GOAL := help
 
 help:
 	@echo "make run                 build Kestrune and start it on a simulated Mac (on Linux)"
+	@echo "make app                 Kestrune.app with Sparkle inside and signed, on a Mac"
 	@echo "make test                build everything and run every test"
 	@echo "make check               format, include rules, unbuilt files, strings, contract tests, clang-tidy"
-	@echo "make bench               the event path against its floor, the simulation and the wizard"
+	@echo "make bench               the event path against its floor, the simulation, the wizard, a launch"
 	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
 	@echo "make first-run           the wizard's story on the simulated Mac and on GNUstep, step by step"
 	@echo "make soak                RUNS=$(RUNS) times all tests on GNUstep, four runs at a time"
@@ -60,6 +61,19 @@ run:
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then $(DIR)/desk/kestrune-desk; \
 	else $(DIR)/desk/kestrune-desk --tour out/tour && \
 	    echo "No display server: the tour's pictures and its report are in out/tour"; fi
+endif
+
+# The parameters go through the environment: names of certificates have spaces and parentheses. IDENTITY=- is
+# an ad-hoc signature; SPARKLE is the path of a Sparkle.framework or "none".
+export IDENTITY ?= -
+export SPARKLE FEED_URL PUBLIC_KEY
+ifeq ($(shell uname -s),Darwin)
+app:
+	@tools/setup build
+	@tools/app --identity "$$IDENTITY" --sparkle "$$SPARKLE" --feed-url "$$FEED_URL" --public-key "$$PUBLIC_KEY"
+else
+app:
+	@echo "make app needs a Mac; tools/app --dry-run prints what it does there" >&2; exit 1
 endif
 
 ifeq ($(shell uname -s),Darwin)

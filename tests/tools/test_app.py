@@ -1,0 +1,275 @@
+"""tools/app puts Kestrune.app together and signs it, seen with stand-ins for a Mac's programs."""
+
+import plistlib
+import re
+import subprocess
+import unittest
+
+from releases import FEED_URL, PUBLIC_KEY, REAL_IDENTITY, ReleaseTest
+from trees import REPOSITORY
+
+BUNDLE = "build/mac/Kestrune.app"
+FRAMEWORK = f"{BUNDLE}/Contents/Frameworks/Sparkle.framework"
+VERIFICATION = ["codesign", "--verify", "--strict", "--deep", "--verbose=2", BUNDLE]
+
+
+class AppTest(ReleaseTest):
+    def app(self, *arguments):
+        return self.call("tools/app", *arguments)
+
+    def dry_run(self, *arguments):
+        result = self.app("--dry-run", *arguments)
+        self.assertEqual((result.returncode, result.stderr, self.calls()), (0, "", []))
+        return self.commands(result.stdout)
+
+    def build(self, *arguments):
+        result = self.app(*arguments)
+        self.assertEqual((result.returncode, result.stderr), (0, ""), result.stdout)
+        return plistlib.loads((self.checkout / BUNDLE / "Contents/Info.plist").read_bytes())
+
+    def path(self, name):
+        return self.checkout / name
+
+
+class DryRun(AppTest):
+    def test_shows_every_command_in_order(self):
+        archive = "build/sparkle/Sparkle-2.10.1.tar.xz"
+        address = "https://github.com/sparkle-project/Sparkle/releases/download/2.10.1/Sparkle-2.10.1.tar.xz"
+        self.assertEqual(
+            [command for command in self.dry_run() if command[0] != "codesign"],
+            [
+                ["cmake", "--preset", "mac"],
+                ["cmake", "--build", "--preset", "mac", "--parallel"],
+                ["rm", "-rf", BUNDLE],
+                ["ditto", "build/mac/mac/Kestrune.app", BUNDLE],
+                ["mkdir", "-p", "build/sparkle/2.10.1"],
+                ["curl", "--fail", "--location", "--proto", "=https", "--output", archive, address],
+                ["tar", "-xf", archive, "-C", "build/sparkle/2.10.1"],
+                ["mkdir", "-p", f"{BUNDLE}/Contents/Frameworks"],
+                ["ditto", "--noextattr", "--noqtn", "build/sparkle/2.10.1/Sparkle.framework", FRAMEWORK],
+                ["rm", "-rf", f"{FRAMEWORK}/XPCServices", f"{FRAMEWORK}/Versions/B/XPCServices"],
+            ],
+        )
+
+    def test_says_that_the_checksum_is_missing(self):
+        self.write({"checkout/tools/sparkle.ini": "[sparkle]\nversion = 2.10.1\nsha256 =\n"})
+        self.assertIn("which has none yet", self.app("--dry-run").stdout)
+        self.pin_archive()
+        self.assertNotIn("which has none yet", self.app("--dry-run").stdout)
+
+    def test_fetches_nothing_that_is_there(self):
+        self.write({"checkout/build/sparkle/Sparkle-2.10.1.tar.xz": ""})
+        self.assertNotIn("curl", [command[0] for command in self.dry_run()])
+
+    def test_fetches_nothing_when_sparkle_is_given(self):
+        commands = self.dry_run("--sparkle", self.framework)
+        self.assertFalse({"curl", "tar"} & {command[0] for command in commands})
+        self.assertIn(["ditto", "--noextattr", "--noqtn", str(self.framework), FRAMEWORK], commands)
+
+    def test_touches_no_framework_without_sparkle(self):
+        for command in self.dry_run("--sparkle", "none"):
+            self.assertNotIn("Sparkle", " ".join(command))
+
+
+class Signing(AppTest):
+    def signing(self, *arguments):
+        return [command for command in self.dry_run(*arguments) if command[0] == "codesign"]
+
+    def test_goes_from_the_inside_out_and_is_verified(self):
+        commands = self.signing("--identity", REAL_IDENTITY)
+        version = f"{FRAMEWORK}/Versions/B"
+        signed = [f"{version}/Autoupdate", f"{version}/Updater.app", version, BUNDLE]
+        self.assertEqual([command[-1] for command in commands[:-1]], signed)
+        self.assertEqual(commands[-1], VERIFICATION)
+
+    def test_has_a_time_stamp_and_no_entitlements_with_a_certificate(self):
+        sign = ["codesign", "--force", "--sign", REAL_IDENTITY, "--options", "runtime", "--timestamp"]
+        for command in self.signing("--identity", REAL_IDENTITY)[:-1]:
+            self.assertEqual(command[:-1], sign)
+
+    def test_turns_library_validation_off_for_an_ad_hoc_application_only(self):
+        sign = ["codesign", "--force", "--sign", "-", "--options", "runtime", "--timestamp=none"]
+        *nested, application, _ = self.signing("--identity", "-")
+        for command in nested:
+            self.assertEqual(command[:-1], sign)
+        path = "tools/releasing/ad-hoc.entitlements"
+        self.assertEqual(application, [*sign, "--entitlements", path, BUNDLE])
+        entitlements = plistlib.loads(self.path(path).read_bytes())
+        self.assertEqual(entitlements, {"com.apple.security.cs.disable-library-validation": True})
+
+    def test_is_ad_hoc_unless_told_otherwise(self):
+        self.assertEqual(self.signing(), self.signing("--identity", "-"))
+        self.assertEqual(self.signing("--identity", ""), self.signing("--identity", "-"))
+
+    def test_signs_the_application_alone_without_sparkle(self):
+        self.assertEqual([command[-1] for command in self.signing("--sparkle", "none")], [BUNDLE, BUNDLE])
+
+
+class Build(AppTest):
+    def setUp(self):
+        super().setUp()
+        self.use_mac()
+
+    def test_runs_what_the_dry_run_shows(self):
+        self.pin_archive()
+        arguments = ["--identity", REAL_IDENTITY, "--feed-url", FEED_URL, "--public-key", PUBLIC_KEY]
+        shown = self.logged(self.dry_run(*arguments))
+        self.build(*arguments)
+        self.assertEqual(self.calls(), shown)
+        self.assertEqual(len(shown), 10)
+
+    def test_leaves_the_bundle_with_its_framework(self):
+        self.build("--sparkle", self.framework)
+        self.assertTrue(self.path(f"{BUNDLE}/Contents/MacOS/Kestrune").is_file())
+        self.assertTrue(self.path(f"{FRAMEWORK}/Versions/B/Autoupdate").is_file())
+        self.assertTrue(self.path(f"{FRAMEWORK}/Autoupdate").is_symlink())
+
+    def test_removes_the_services_for_sandboxed_applications(self):
+        self.build("--sparkle", self.framework)
+        self.assertFalse(self.path(f"{FRAMEWORK}/XPCServices").is_symlink())
+        self.assertFalse(self.path(f"{FRAMEWORK}/Versions/B/XPCServices").exists())
+        self.assertTrue((self.framework / "XPCServices").exists())
+
+    def test_keeps_nothing_of_the_build_before(self):
+        self.build("--sparkle", self.framework)
+        self.build("--sparkle", "none")
+        self.assertFalse(self.path(f"{BUNDLE}/Contents/Frameworks").exists())
+
+    def test_fetches_once(self):
+        self.pin_archive()
+        self.build()
+        self.build()
+        self.assertEqual([call[0] for call in self.calls()].count("curl"), 1)
+
+    def test_ends_when_a_program_fails(self):
+        self.use_mac(codesign="exit 3")
+        result = self.app("--sparkle", self.framework)
+        beginning = "tools/app: failed with exit status 3: codesign --force --sign -"
+        self.assert_fails(result, beginning, "Autoupdate")
+
+
+class Checksum(AppTest):
+    def setUp(self):
+        super().setUp()
+        self.use_mac()
+
+    def test_is_wanted_before_anything_is_built_or_fetched(self):
+        self.write({"checkout/tools/sparkle.ini": "[sparkle]\nversion = 2.10.1\nsha256 =\n"})
+        self.assert_fails(self.app(), "tools/sparkle.ini has no SHA-256 for Sparkle 2.10.1", "shasum -a 256")
+        self.assertEqual(self.calls(), [])
+
+    def test_of_another_archive_ends_the_build_and_deletes_it(self):
+        self.pin_archive(sha256="0" * 64)
+        self.assert_fails(self.app(), "not the one in tools/sparkle.ini; it is deleted")
+        self.assertEqual([call[0] for call in self.calls()], ["cmake", "cmake", "ditto", "curl"])
+        self.assertFalse(self.path("build/sparkle/Sparkle-2.10.1.tar.xz").exists())
+
+    def test_has_to_look_like_one(self):
+        self.pin_archive(sha256="abc")
+        self.assert_fails(self.app(), "'abc' is no SHA-256")
+        self.write({"checkout/tools/sparkle.ini": "[sparkle]\nversion = ../2\nsha256 =\n"})
+        self.assert_fails(self.app(), "'../2' is no version")
+        self.write({"checkout/tools/sparkle.ini": "version = 2\n"})
+        self.assertIn("does not say version and sha256", self.app().stderr)
+
+
+class Information(AppTest):
+    def setUp(self):
+        super().setUp()
+        self.use_mac()
+
+    def test_has_the_feed_and_the_key_that_are_given(self):
+        properties = self.build("--sparkle", "none", "--feed-url", FEED_URL, "--public-key", PUBLIC_KEY)
+        self.assertEqual((properties["SUFeedURL"], properties["SUPublicEDKey"]), (FEED_URL, PUBLIC_KEY))
+
+    def test_lacks_them_when_they_are_not_given(self):
+        properties = self.build("--sparkle", "none", "--feed-url", "", "--public-key", "")
+        self.assertEqual([key for key in properties if key.startswith("SU")], [])
+        self.assertEqual(self.build("--sparkle", "none"), properties)
+
+    def test_is_otherwise_that_of_the_resources(self):
+        shipped = plistlib.loads((REPOSITORY / "Kestrune/Resources/Info.plist").read_bytes())
+        self.assertEqual(self.build("--sparkle", "none"), shipped)
+        texts = (
+            "CFBundleIdentifier",
+            "CFBundleShortVersionString",
+            "CFBundleVersion",
+            "LSMinimumSystemVersion",
+            "NSHumanReadableCopyright",
+        )
+        for key in texts:
+            self.assertIsInstance(shipped[key], str, key)
+
+    def test_goes_through_cmake_as_it_is(self):
+        """CMake fills in the Info.plist of a bundle as configure_file does, and would replace what it takes
+        for names of its own."""
+        script, copy = self.root / "copy.cmake", self.root / "Info.plist"
+        script.write_text(f'configure_file("{self.information_path}" "{copy}")', encoding="utf-8")
+        subprocess.run(["cmake", "-P", script], check=True)
+        self.assertEqual(copy.read_bytes(), self.information_path.read_bytes())
+
+    def test_with_a_version_that_is_no_text_is_refused(self):
+        self.change_information(CFBundleVersion=1)
+        self.assert_fails(self.app("--sparkle", "none"), "CFBundleVersion is 1; make it a string")
+
+    def test_has_the_version_that_the_build_has(self):
+        shipped = plistlib.loads((REPOSITORY / "Kestrune/Resources/Info.plist").read_bytes())
+        project = re.search(r"project\(Kestrune VERSION (\S+)", (REPOSITORY / "CMakeLists.txt").read_text())
+        self.assertEqual(shipped["CFBundleShortVersionString"], project[1])
+
+
+class Parameters(AppTest):
+    def test_that_are_wrong_are_named_in_one_line(self):
+        for arguments, parts in (
+            (["--sparkle", "/nowhere"], ["--sparkle", "/nowhere", "Sparkle.framework"]),
+            (["--feed-url", "http://example.org/"], ["--feed-url 'http://example.org/' is no https address"]),
+            (["--public-key", "c2hvcnQ="], ["--public-key 'c2hvcnQ='", "base64 of 32 bytes"]),
+            (["--public-key", "é"], ["--public-key 'é'"]),
+            (["--identity", "A $B"], ["--identity 'A $B' holds a dollar sign"]),
+            (["--identity"], ["--identity: expected one argument"]),
+            (["--feed"], ["--feed"]),
+            (["again"], ["unrecognized arguments: again"]),
+        ):
+            with self.subTest(arguments=arguments):
+                self.assert_fails(self.app("--dry-run", *arguments), "tools/app: ", *parts)
+
+    def test_of_a_framework_that_is_none_are_found_before_the_build(self):
+        self.use_mac()
+        (self.root / "other/Sparkle.framework").mkdir(parents=True)
+        result = self.app("--sparkle", self.root / "other/Sparkle.framework")
+        self.assert_fails(result, "--sparkle", "no framework of Sparkle 2")
+        self.assertEqual(self.calls(), [])
+
+    def test_do_not_help_where_there_is_no_mac(self):
+        self.assert_fails(self.app(), "tools/app: needs a Mac: codesign and ditto not found", "--dry-run")
+
+
+class Make(AppTest):
+    def make(self, *arguments, **environment):
+        return self.call("make", "--silent", "app", *arguments, **environment)
+
+    def test_says_on_linux_that_it_needs_a_mac(self):
+        self.use_programs({"uname": "echo Linux"})
+        result = self.make()
+        self.assertEqual(result.returncode, 2)
+        self.assertEqual(result.stderr.splitlines()[0][:21], "make app needs a Mac;")
+        self.assertEqual(result.stdout, "")
+
+    def test_hands_its_parameters_on(self):
+        self.use_mac()
+        values = {"SPARKLE": self.framework, "FEED_URL": FEED_URL, "PUBLIC_KEY": PUBLIC_KEY}
+        result = self.make(f"IDENTITY={REAL_IDENTITY}", *(f"{key}={value}" for key, value in values.items()))
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertIn(VERIFICATION, self.calls())
+        self.assertIn(REAL_IDENTITY, self.calls()[-2])
+        properties = plistlib.loads(self.path(f"{BUNDLE}/Contents/Info.plist").read_bytes())
+        self.assertEqual((properties["SUFeedURL"], properties["SUPublicEDKey"]), (FEED_URL, PUBLIC_KEY))
+
+    def test_is_ad_hoc_without_parameters(self):
+        self.use_mac()
+        self.assertEqual(self.make(SPARKLE="none").returncode, 0)
+        self.assertEqual(self.calls()[-2][:4], ["codesign", "--force", "--sign", "-"])
+
+
+if __name__ == "__main__":
+    unittest.main()
