@@ -8,6 +8,7 @@
 #include "platform/URLComponents.h"
 
 #include <optional>
+#include <vector>
 
 namespace kestrune {
 
@@ -15,7 +16,9 @@ URL makeBugReportURL() {
     URLComponents components;
     components.setScheme("mailto");
     components.setPath(SupportAddress);
-    const URLQueryItem items[] = {{"subject", localized("Kestrune bug report")}, {"body", bugReportBody()}};
+    std::vector<URLQueryItem> items;
+    items.push_back({"subject", localized("Kestrune bug report")});
+    items.push_back({"body", bugReportBody()});
     components.setQueryItems(items);
     const std::optional<URL> link = components.url();
     if (!link) {

@@ -6,6 +6,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kestrune {
@@ -24,12 +25,16 @@ constexpr double Unbounded = std::numeric_limits<double>::infinity();
 } // namespace
 
 View SettingsView::body() const {
-    const View launch = ui::Toggle("Launch at login", model->launchAtLogin,
-                                   [model = model](bool isOn) { model->launchAtLogin = isOn; });
-    const View update = Button("Check for Updates…", [model = model] { model->checkForUpdates(); });
-    const View report = Button("Report a Bug…", [model = model] { model->reportBug(); });
-    const View form =
-        ui::Form({ui::Section({launch}), ui::Section({update, report})}).formStyle(ui::FormStyle::grouped);
+    std::vector<View> startUp;
+    startUp.push_back(ui::Toggle("Launch at login", model->launchAtLogin,
+                                 [model = model](bool isOn) { model->launchAtLogin = isOn; }));
+    std::vector<View> maintenance;
+    maintenance.push_back(Button("Check for Updates…", [model = model] { model->checkForUpdates(); }));
+    maintenance.push_back(Button("Report a Bug…", [model = model] { model->reportBug(); }));
+    std::vector<View> sections;
+    sections.push_back(ui::Section(std::move(startUp)));
+    sections.push_back(ui::Section(std::move(maintenance)));
+    const View form = ui::Form(std::move(sections)).formStyle(ui::FormStyle::grouped);
     return ui::VStack({.spacing = 0}, form, SettingsFooter().body())
         .frame({.width = FormWidth})
         .fixedSize(false, true);
@@ -37,7 +42,7 @@ View SettingsView::body() const {
 
 View SettingsFooter::body() const {
     std::vector<View> lines;
-    lines.push_back(ui::Text("Kestrune %@", {appVersionString()})
+    lines.push_back(ui::Text("Kestrune %@", std::vector<std::string>(1, appVersionString()))
                         .font(Font::preferred(TextStyle::callout))
                         .foregroundStyle(Color::secondary));
     const std::optional<std::string> copyright =

@@ -8,6 +8,7 @@
 #include "platform/ProcessLifetime.h"
 
 #include <string>
+#include <utility>
 
 namespace kestrune {
 
@@ -115,24 +116,24 @@ void UpdaterManager::endSession() {
     }
 }
 
-void UpdaterManager::startTask(void (UpdaterManager::*work)()) {
-    MainActor::startTask(whileAlive(weak_from_this(), [this, work] { (this->*work)(); }));
+void UpdaterManager::startTask(std::function<void()> work) {
+    MainActor::startTask(whileAlive(weak_from_this(), std::move(work)));
 }
 
 void UpdaterManager::standardUserDriverWillHandleShowingUpdate() noexcept {
-    startTask(&UpdaterManager::beginSession);
+    startTask([this] { beginSession(); });
 }
 
 void UpdaterManager::standardUserDriverWillFinishUpdateSession() noexcept {
-    startTask(&UpdaterManager::endSession);
+    startTask([this] { endSession(); });
 }
 
 void UpdaterManager::standardUserDriverWillShowModalAlert() noexcept {
-    startTask(&UpdaterManager::raiseUpdaterWindows);
+    startTask([this] { raiseUpdaterWindows(); });
 }
 
 void UpdaterManager::standardUserDriverDidShowModalAlert() noexcept {
-    startTask(&UpdaterManager::raiseUpdaterWindows);
+    startTask([this] { raiseUpdaterWindows(); });
 }
 
 } // namespace kestrune

@@ -5,6 +5,7 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Updater.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -52,7 +53,7 @@ private:
     void start();
     void beginSession();
     void endSession();
-    void startTask(void (UpdaterManager::*work)());
+    void startTask(std::function<void()> work);
 
     std::optional<Updater> updater_;
     std::optional<ActivationPolicy> savedActivationPolicy_; // present during a session that was announced

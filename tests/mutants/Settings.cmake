@@ -52,13 +52,17 @@ set(SETTINGS_VIEW FILE Kestrune/SettingsView.cpp DRIVER kestrune_shell_driver SE
 kestrune_mutant(LoginSwitchFlipsTheOtherWay ${SETTINGS_VIEW}
     FROM "model->launchAtLogin = isOn;" TO "model->launchAtLogin = !isOn;")
 kestrune_mutant(SettingsHaveTheirButtonsInTheOtherOrder ${SETTINGS_VIEW}
-    FROM "{update, report}" TO "{report, update}")
+    FROM "    maintenance.push_back(Button(\"Check for Updates…\", [model = model] { model->checkForUpdates(); }));
+    maintenance.push_back(Button(\"Report a Bug…\", [model = model] { model->reportBug(); }));
+" TO "    maintenance.push_back(Button(\"Report a Bug…\", [model = model] { model->reportBug(); }));
+    maintenance.push_back(Button(\"Check for Updates…\", [model = model] { model->checkForUpdates(); }));
+")
 kestrune_mutant(BothButtonsReportABug ${SETTINGS_VIEW}
     FROM "model->checkForUpdates();" TO "model->reportBug();")
 kestrune_mutant(ButtonEndsInFullStops ${SETTINGS_VIEW}
     FROM "Check for Updates…" TO "Check for Updates...")
 kestrune_mutant(FooterIsNotTranslated ${SETTINGS_VIEW}
-    FROM "ui::Text(\"Kestrune %@\", {appVersionString()})"
+    FROM "ui::Text(\"Kestrune %@\", std::vector<std::string>(1, appVersionString()))"
     TO "ui::VerbatimText(\"Kestrune \" + appVersionString())")
 kestrune_mutant(FooterHasNoCopyright ${SETTINGS_VIEW}
     FROM "    if (copyright) {" TO "    if (copyright && copyright->empty()) {")
@@ -178,15 +182,15 @@ kestrune_mutant(PolicyIsNotForgotten ${UPDATER}
 kestrune_mutant(PolicyIsAlwaysAccessory ${UPDATER}
     FROM "setActivationPolicy(*savedActivationPolicy_)" TO "setActivationPolicy(ActivationPolicy::accessory)")
 kestrune_mutant(SessionEndsAtOnce ${UPDATER}
-    FROM "startTask(&UpdaterManager::endSession);" TO "endSession();")
+    FROM "startTask([this] { endSession(); });" TO "endSession();")
 # One of the two alone is enough: both tasks wait until the alert is closed.
 kestrune_mutant(NothingIsRaisedAroundAnAlert ${UPDATER}
     FROM "standardUserDriverWillShowModalAlert() noexcept {
-    startTask(&UpdaterManager::raiseUpdaterWindows);
+    startTask([this] { raiseUpdaterWindows(); });
 }
 
 void UpdaterManager::standardUserDriverDidShowModalAlert() noexcept {
-    startTask(&UpdaterManager::raiseUpdaterWindows);
+    startTask([this] { raiseUpdaterWindows(); });
 }" TO "standardUserDriverWillShowModalAlert() noexcept {}
 
 void UpdaterManager::standardUserDriverDidShowModalAlert() noexcept {}")
@@ -194,8 +198,11 @@ void UpdaterManager::standardUserDriverDidShowModalAlert() noexcept {}")
 set(BUG_REPORT FILE Kestrune/BugReport.cpp DRIVER kestrune_shell_driver SEEDS 400)
 
 kestrune_mutant(MailHasItsPartsInTheOtherOrder ${BUG_REPORT}
-    FROM "{{\"subject\", localized(\"Kestrune bug report\")}, {\"body\", bugReportBody()}}"
-    TO "{{\"body\", bugReportBody()}, {\"subject\", localized(\"Kestrune bug report\")}}")
+    FROM "    items.push_back({\"subject\", localized(\"Kestrune bug report\")});
+    items.push_back({\"body\", bugReportBody()});
+" TO "    items.push_back({\"body\", bugReportBody()});
+    items.push_back({\"subject\", localized(\"Kestrune bug report\")});
+")
 kestrune_mutant(MailIsToNobody ${BUG_REPORT}
     FROM "    components.setPath(SupportAddress);
 " TO "")
