@@ -3,14 +3,11 @@
 namespace kestrune::ui {
 
 Size switchSize(ControlSize size) {
-    switch (size) {
-    case ControlSize::mini:
+    if (size == ControlSize::mini) {
         return {26, 15};
-    case ControlSize::small:
+    }
+    if (size == ControlSize::small) {
         return {32, 18};
-    case ControlSize::regular:
-    case ControlSize::large:
-        break;
     }
     return {38, 22};
 }
