@@ -52,11 +52,8 @@ set(SETTINGS_VIEW FILE Kestrune/SettingsView.cpp DRIVER kestrune_shell_driver SE
 kestrune_mutant(LoginSwitchFlipsTheOtherWay ${SETTINGS_VIEW}
     FROM "model->launchAtLogin = isOn;" TO "model->launchAtLogin = !isOn;")
 kestrune_mutant(SettingsHaveTheirButtonsInTheOtherOrder ${SETTINGS_VIEW}
-    FROM "    maintenance.push_back(Button(\"Check for Updates…\", [model = model] { model->checkForUpdates(); }));
-    maintenance.push_back(Button(\"Report a Bug…\", [model = model] { model->reportBug(); }));
-" TO "    maintenance.push_back(Button(\"Report a Bug…\", [model = model] { model->reportBug(); }));
-    maintenance.push_back(Button(\"Check for Updates…\", [model = model] { model->checkForUpdates(); }));
-")
+    FROM "maintenance.push_back(Button(\"Report a Bug…\""
+    TO "maintenance.insert(maintenance.begin(), Button(\"Report a Bug…\"")
 kestrune_mutant(BothButtonsReportABug ${SETTINGS_VIEW}
     FROM "model->checkForUpdates();" TO "model->reportBug();")
 kestrune_mutant(ButtonEndsInFullStops ${SETTINGS_VIEW}
