@@ -43,9 +43,10 @@ Size PictureSheet::size() const {
 Rect PictureSheet::areaOf(std::size_t index) const {
     const double width = std::round(window_.width * scale_);
     const double height = std::round(window_.height * scale_);
+    const std::size_t row = index / columns_;
     return {PageMargin + static_cast<double>(index % columns_) * (width + Gap),
-            PageMargin + TitleHeight + static_cast<double>(index / columns_) * (height + CaptionHeight + Gap),
-            width, height};
+            PageMargin + TitleHeight + static_cast<double>(row) * (height + CaptionHeight + Gap), width,
+            height};
 }
 
 void PictureSheet::paintCell(cairo_t* context, std::size_t index) const {

@@ -13,7 +13,7 @@ namespace kestrune::gnustep {
 void installSparkle();
 
 // Puts the framework into the main bundle or takes it out, and tells whether it starts.
-void setUpdateFramework(contract::UpdateFramework framework);
+void setUpdateFramework(contract::UpdateFramework kind);
 
 // Fault: it is there and cannot be loaded, with that description; as when it is signed by somebody else.
 void refuseLoadingUpdateFramework(const std::string& description);
