@@ -82,7 +82,7 @@ void Updates::finishCheck(bool isByUser) {
         showUpdate(isByUser);
     } else if (isByUser) {
         stage_ = Stage::alert;
-        showAlert();
+        showAlert(feed);
     } else {
         stage_ = Stage::idle;
     }
@@ -107,16 +107,15 @@ void Updates::showUpdate(bool isByUser) {
 }
 
 // Modal: until it is closed the main queue is not served, as it is from there that the alert was shown.
-void Updates::showAlert() {
+void Updates::showAlert(UpdateFeed feed) {
     tell("standardUserDriverWillShowModalAlert",
          &StandardUserDriverDelegate::standardUserDriverWillShowModalAlert);
-    const bool isReachable =
-        session_.bundle().infoString("SUFeedURL").has_value() && feed_ != UpdateFeed::unreachable;
     const ui::View ok =
         ui::Button("OK", [this] { dismiss(); }).keyboardShortcut(ui::KeyboardShortcut::defaultAction);
     show("", "_NSAlertPanel",
-         isReachable ? page("You’re up to date!", "Kestrune is the newest version available.", {ok})
-                     : page("Update Error!", "An error occurred in retrieving update information.", {ok}),
+         feed == UpdateFeed::nothingNew
+             ? page("You’re up to date!", "Kestrune is the newest version available.", {ok})
+             : page("Update Error!", "An error occurred in retrieving update information.", {ok}),
          true);
     session_.beginModalAlert();
 }

@@ -72,7 +72,7 @@ private:
     void finishCheck(bool isByUser);
     void announce();
     void showUpdate(bool isByUser);
-    void showAlert();
+    void showAlert(UpdateFeed feed);
     void show(std::string_view title, std::string_view className, const ui::View& content, bool asKey);
     void hide();
     void tell(std::string_view selector, void (StandardUserDriverDelegate::*method)());
