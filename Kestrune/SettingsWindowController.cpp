@@ -50,7 +50,10 @@ void checkForUpdates() {
     });
 }
 
-void reportBug() { Workspace::sharedWorkspace().openURL(makeBugReportURL()); }
+void reportBug() {
+    const URL link = makeBugReportURL();
+    Workspace::sharedWorkspace().openURL(link);
+}
 
 } // namespace
 

@@ -1,6 +1,9 @@
 #include "benchmarks/CountArgument.h"
 
 #include <charconv>
+#include <cstdio>
+#include <filesystem>
+#include <string>
 
 namespace kestrune::benchmarks {
 
@@ -17,6 +20,20 @@ std::optional<std::uint64_t> countFrom(std::span<char*> arguments, std::string_v
     const auto parsed = std::from_chars(text.data(), text.data() + text.size(), count);
     const bool isWhole = parsed.ec == std::errc() && parsed.ptr == text.data() + text.size();
     return isWhole && count > 0 ? std::optional(count) : std::nullopt;
+}
+
+int measureAsAsked(std::span<char*> command, std::string_view option, std::uint64_t usual,
+                   int (*measure)(std::uint64_t count, bool isTimed)) {
+    if (const auto timed = countFrom(command.subspan(1), option, usual)) {
+        return measure(*timed, true);
+    }
+    if (const auto untimed = countFrom(command.subspan(1), "--untimed", usual)) {
+        return measure(*untimed, false);
+    }
+    const std::string name = std::filesystem::path(command.front()).filename().string();
+    std::fprintf(stderr, "usage: %s [%s N | --untimed N], N above 0\n", name.c_str(),
+                 std::string(option).c_str());
+    return 2;
 }
 
 } // namespace kestrune::benchmarks

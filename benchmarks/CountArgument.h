@@ -12,4 +12,9 @@ namespace kestrune::benchmarks {
 std::optional<std::uint64_t> countFrom(std::span<char*> arguments, std::string_view option,
                                        std::uint64_t usual);
 
+// The status of a program, whose command this is, that takes "option N" and "--untimed N": what `measure`
+// makes of it, or 2 and a word on the usage.
+int measureAsAsked(std::span<char*> command, std::string_view option, std::uint64_t usual,
+                   int (*measure)(std::uint64_t count, bool isTimed));
+
 } // namespace kestrune::benchmarks

@@ -39,7 +39,7 @@ std::optional<double> launchTime() {
     return hasMenu ? std::optional(time) : std::nullopt;
 }
 
-int measure(std::size_t launches, bool isTimed) {
+int measure(std::uint64_t launches, bool isTimed) {
     std::vector<double> times;
     while (times.size() < launches) {
         const auto time = launchTime();
@@ -65,12 +65,6 @@ int measure(std::size_t launches, bool isTimed) {
 
 // NOLINTNEXTLINE(bugprone-exception-escape): without memory there is nothing to measure.
 int main(int count, char** arguments) {
-    const std::span<char*> all(arguments, static_cast<std::size_t>(count));
-    const auto timed = kestrune::benchmarks::countFrom(all.subspan(1), "--launches", 1000);
-    const auto untimed = kestrune::benchmarks::countFrom(all.subspan(1), "--untimed", 1000);
-    if (!timed && !untimed) {
-        std::fputs("usage: kestrune-start-up [--launches N | --untimed N], N above 0\n", stderr);
-        return 2;
-    }
-    return kestrune::benchmarks::measure(timed ? *timed : *untimed, timed.has_value());
+    return kestrune::benchmarks::measureAsAsked({arguments, static_cast<std::size_t>(count)}, "--launches",
+                                                1000, kestrune::benchmarks::measure);
 }

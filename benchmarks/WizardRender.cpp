@@ -76,7 +76,7 @@ bool turnsPages(TurningWizard& wizard) {
     return true;
 }
 
-int measure(std::size_t renders, bool isTimed) {
+int measure(std::uint64_t renders, bool isTimed) {
     TurningWizard wizard;
     const bool isDifferent = turnsPages(wizard);
     // Whole rounds, so that the last page is the first one again.
@@ -115,12 +115,6 @@ int measure(std::size_t renders, bool isTimed) {
 
 // NOLINTNEXTLINE(bugprone-exception-escape): without memory there is nothing to measure.
 int main(int count, char** arguments) {
-    const std::span<char*> all(arguments, static_cast<std::size_t>(count));
-    const auto timed = kestrune::benchmarks::countFrom(all.subspan(1), "--renders", 10'000);
-    const auto untimed = kestrune::benchmarks::countFrom(all.subspan(1), "--untimed", 10'000);
-    if (!timed && !untimed) {
-        std::fputs("usage: kestrune-wizard-render [--renders N | --untimed N], N above 0\n", stderr);
-        return 2;
-    }
-    return kestrune::benchmarks::measure(timed ? *timed : *untimed, timed.has_value());
+    return kestrune::benchmarks::measureAsAsked({arguments, static_cast<std::size_t>(count)}, "--renders",
+                                                10'000, kestrune::benchmarks::measure);
 }

@@ -24,12 +24,19 @@ namespace {
 // As every Bundle is the main one.
 id theMainBundle() { return mac::ns_bundle::mainBundle(mac::ns_bundle::type.object()); }
 
-// In the Frameworks folder of the bundle, where the framework lies if it does; loaded already when it is
-// asked for again. The program is not linked with it, so that it starts without.
+// In the Frameworks folder of the bundle, where it lies if it does.
+id bundleOfFramework() {
+    const id folder = mac::ns_bundle::privateFrameworksPath(theMainBundle());
+    if (folder == nullptr) {
+        return nullptr;
+    }
+    const mac::Retained path = mac::nsString(mac::textOf(folder) + "/Sparkle.framework");
+    return mac::ns_bundle::bundleWithPath(mac::ns_bundle::type.object(), path.get());
+}
+
+// Loaded already when it is asked for again. The program is not linked with it, so that it starts without.
 std::optional<Error> loadFramework() {
-    const std::string folder = mac::textOf(mac::ns_bundle::privateFrameworksPath(theMainBundle()));
-    const id framework = mac::ns_bundle::bundleWithPath(mac::ns_bundle::type.object(),
-                                                        mac::nsString(folder + "/Sparkle.framework").get());
+    const id framework = bundleOfFramework();
     if (framework == nullptr) {
         return Error{std::string(MissingUpdateFramework)};
     }

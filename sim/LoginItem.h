@@ -17,17 +17,18 @@ public:
     // The user allows the item, or revokes it; or nothing is known of it.
     void setStatus(AppServiceStatus status) { status_ = status; }
 
-    // Registering leaves the item waiting for the user's approval.
+    // Whoever registers anew waits for the user's approval.
     void requireApproval(bool require) { requiresApproval_ = require; }
 
     // Fault: the system refuses to register and to unregister, with that description; absent: it does not.
     void refuse(std::optional<std::string> description) { refusal_ = std::move(description); }
 
-    // What the application asks for.
+    // What the application asks for. An item that is registered already stays as the user has it.
     std::optional<Error> registerItem();
     std::optional<Error> unregisterItem();
 
 private:
+    bool isRegistered() const;
     std::optional<Error> answer(AppServiceStatus granted);
 
     AppServiceStatus status_ = AppServiceStatus::notRegistered;

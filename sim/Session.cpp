@@ -172,11 +172,15 @@ void Session::endModalAlert() {
     }
 }
 
-void Session::openURL(const std::string& text) {
+bool Session::openURL(const std::string& text) {
+    if (refusesOpeningURLs_) {
+        return false;
+    }
     openedURLs_.push_back(text);
     if (text == Accessibility::PaneAddress) {
         accessibility_.showPane();
     }
+    return true;
 }
 
 // Whoever puts away what was in front comes back to the application, if it has something to show.

@@ -158,7 +158,12 @@ public:
 
     // The URLs that were opened, in order.
     const std::vector<std::string>& openedURLs() const { return openedURLs_; }
-    void openURL(const std::string& text);
+
+    // Whether somebody opens it.
+    bool openURL(const std::string& text);
+
+    // Fault: no application is responsible for any URL.
+    void refuseOpeningURLs(bool refuse) { refusesOpeningURLs_ = refuse; }
 
     // Fault: no text is a URL.
     void refuseURLs(bool refuse) { refusesURLs_ = refuse; }
@@ -232,6 +237,7 @@ private:
     std::uint64_t processNumber_ = 0;
     std::vector<std::string> openedURLs_;
     bool refusesURLs_ = false;
+    bool refusesOpeningURLs_ = false;
     bool isOnMainThread_ = true;
     bool cursorFollowsEvents_;
     bool refusesTapCreation_ = false;

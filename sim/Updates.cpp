@@ -11,6 +11,8 @@ namespace kestrune::sim {
 
 namespace {
 
+constexpr std::string_view AlertClass = "_NSAlertPanel";
+
 constexpr double Margin = 20;
 constexpr double ContentWidth = 380;
 
@@ -112,7 +114,7 @@ void Updates::showAlert(UpdateFeed feed) {
          &StandardUserDriverDelegate::standardUserDriverWillShowModalAlert);
     const ui::View ok =
         ui::Button("OK", [this] { dismiss(); }).keyboardShortcut(ui::KeyboardShortcut::defaultAction);
-    show("", "_NSAlertPanel",
+    show("", AlertClass,
          feed == UpdateFeed::nothingNew
              ? page("You’re up to date!", "Kestrune is the newest version available.", {ok})
              : page("Update Error!", "An error occurred in retrieving update information.", {ok}),
@@ -141,6 +143,7 @@ void Updates::show(std::string_view title, std::string_view className, const ui:
     window_->title = title;
     window_->styleMask = WindowStyleMask::titled;
     window_->isReleasedWhenClosed = false;
+    window_->hidesOnDeactivate = windowsHide_ && className != AlertClass;
     window_->content = HostedView::make({[content] { return content; }, nullptr});
     window_->content->enter(window_);
     session_.windows().add(window_);

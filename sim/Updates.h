@@ -44,6 +44,9 @@ public:
     void setFeed(UpdateFeed feed) { feed_ = feed; }
     void setWindowClass(std::string name) { windowClass_ = std::move(name); }
 
+    // Its windows leave the screen while the application is not active, as panels do.
+    void setWindowsHide(bool hide) { windowsHide_ = hide; }
+
     // The time for a scheduled check has come.
     void checkAsScheduled();
 
@@ -81,6 +84,7 @@ private:
     UpdateFramework framework_;
     UpdateFeed feed_ = UpdateFeed::nothingNew;
     std::string windowClass_ = "NSWindow";
+    bool windowsHide_ = false;
     std::weak_ptr<StandardUserDriverDelegate> delegate_;
     bool isStarted_ = false;
     Stage stage_ = Stage::idle;

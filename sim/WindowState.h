@@ -35,6 +35,7 @@ struct Window::State {
     bool isReleasedWhenClosed = true;
     bool hidesOnDeactivate = false;
     bool isVisible = false;
+    bool isMiniaturized = false;              // in the Dock, and so not visible
     bool isReleased = false;                  // by its closing
     std::shared_ptr<sim::HostedView> content; // null until there is one
     std::weak_ptr<WindowDelegate> delegate;

@@ -53,6 +53,12 @@ std::vector<Windows::WindowState> Windows::all() const {
     return result;
 }
 
+std::vector<Windows::WindowState> Windows::miniaturized() const {
+    std::vector<WindowState> result = all();
+    std::erase_if(result, [](const WindowState& window) { return !window->isMiniaturized; });
+    return result;
+}
+
 void Windows::add(const WindowState& window) {
     std::erase_if(all_, [](const auto& reference) { return reference.expired(); });
     all_.push_back(window);
@@ -96,14 +102,20 @@ void Windows::orderFront(const WindowState& window) {
     takeOut(*window);
     ordered_.insert(ordered_.begin(), window);
     window->isVisible = true;
+    window->isMiniaturized = false;
 }
 
 void Windows::orderOut(const WindowState& window) {
     requireUnreleased(*window);
     const WindowState before = keyWindow();
-    takeOut(*window);
-    window->isVisible = false;
+    hide(*window);
     tellNewKeyWindow(before);
+}
+
+void Windows::hide(Window::State& window) {
+    takeOut(window);
+    window.isVisible = false;
+    window.isMiniaturized = false;
 }
 
 void Windows::takeOut(const Window::State& window) {
@@ -143,6 +155,16 @@ void Windows::closeByUser(const WindowState& window) {
     }
     orderOut(window);
     window->isReleased = window->isReleasedWhenClosed;
+}
+
+void Windows::miniaturizeByUser(const WindowState& window) {
+    if (!window->has(WindowStyleMask::miniaturizable) || !window->isVisible) {
+        return;
+    }
+    const WindowState before = keyWindow();
+    hide(*window);
+    window->isMiniaturized = true;
+    tellNewKeyWindow(before);
 }
 
 void Windows::moveTo(const WindowState& window, Point topLeft) const {
@@ -208,10 +230,8 @@ void Windows::requireUnreleased(const Window::State& window) {
 
 // What is left of them has no effect any more.
 void Windows::clear() {
-    for (const auto& reference : ordered_) {
-        if (const auto window = reference.lock()) {
-            window->isVisible = false;
-        }
+    for (const WindowState& window : all()) {
+        hide(*window);
     }
     ordered_.clear();
     all_.clear();

@@ -29,6 +29,9 @@ public:
     // was ordered front last.
     std::vector<WindowState> shown() const;
 
+    // Those in the Dock, in the order in which they were made.
+    std::vector<WindowState> miniaturized() const;
+
     // Every one of the process, on screen or not, from the first to the latest.
     std::vector<WindowState> all() const;
     void add(const WindowState& window);
@@ -43,16 +46,20 @@ public:
     // In the middle of the main display: halfway across its room, and with twice as much room below as above.
     void center(Window::State& window) const;
 
-    // In front of its level; only the first one asks for the keys.
+    // In front of its level, also from the Dock; only the first one asks for the keys.
     void makeKeyAndOrderFront(const WindowState& window);
     void orderFront(const WindowState& window);
     void orderOut(const WindowState& window);
 
-    // The user clicks into a window: the application becomes active and the window key.
+    // The user clicks into a window, or on its tile in the Dock: the application becomes active and the
+    // window key.
     void click(const WindowState& window);
 
     // The user presses the close button, if there is one.
     void closeByUser(const WindowState& window);
+
+    // The user presses the minimise button, if there is one: the window goes into the Dock.
+    void miniaturizeByUser(const WindowState& window);
 
     // The user drags the window; the top left corner in global display coordinates.
     void moveTo(const WindowState& window, Point topLeft) const;
@@ -82,6 +89,7 @@ public:
 
 private:
     void takeOut(const Window::State& window);
+    void hide(Window::State& window);
     void tellNewKeyWindow(const WindowState& before) const;
     static void requireUnreleased(const Window::State& window);
 

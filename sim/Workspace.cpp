@@ -13,8 +13,7 @@ Workspace Workspace::sharedWorkspace() {
 bool Workspace::openURL(const URL& url) {
     sim::Session& session = sim::Session::current();
     session.journal().record("-[NSWorkspace openURL:] ", url.state()->text);
-    session.openURL(url.state()->text);
-    return true;
+    return session.openURL(url.state()->text);
 }
 
 } // namespace kestrune

@@ -30,6 +30,8 @@ struct Environment {
 
     bool isInGroupedForm = false;
 
+    bool isAccessibilityHidden = false;
+
     // The font with the weight that was asked for apart from it.
     Font effectiveFont() const {
         Font effective = font ? *font : Font{};

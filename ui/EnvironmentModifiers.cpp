@@ -75,4 +75,8 @@ View View::keyboardShortcut(KeyboardShortcut shortcut) const {
     return with(*this, [shortcut](Environment& environment) { environment.keyboardShortcut = shortcut; });
 }
 
+View View::accessibilityHidden() const {
+    return with(*this, [](Environment& environment) { environment.isAccessibilityHidden = true; });
+}
+
 } // namespace kestrune::ui

@@ -48,6 +48,7 @@ struct StyledSymbol {
 struct TextElement {
     Rect frame;
     StyledText text;
+    bool isAccessibilityHidden = false; // VoiceOver passes it over
 
     friend bool operator==(const TextElement&, const TextElement&) = default;
 };

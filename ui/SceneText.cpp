@@ -70,7 +70,8 @@ std::string line(const TextElement& element) {
         line += quoted(run.text);
     }
     return line + fontText(text.font) + unlessUsual(text.color, Color::primary) +
-           unlessUsual(text.alignment, TextAlignment::leading);
+           unlessUsual(text.alignment, TextAlignment::leading) +
+           (element.isAccessibilityHidden ? " accessibilityHidden" : "");
 }
 
 std::string line(const SymbolElement& element) {

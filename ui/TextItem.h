@@ -11,7 +11,7 @@ namespace kestrune::ui {
 
 class TextItem final : public LeafItem {
 public:
-    TextItem(StyledText text, MeasuredTexts& texts);
+    TextItem(StyledText text, bool isAccessibilityHidden, MeasuredTexts& texts);
 
 private:
     // A text is never cut: it takes the height of its lines, whatever height it is offered.
@@ -19,6 +19,7 @@ private:
     void show(const Rect& frame, Rendering& rendering) override;
 
     StyledText text_;
+    bool isAccessibilityHidden_;
     std::shared_ptr<MeasuredText> measured_;
 };
 

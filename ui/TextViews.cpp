@@ -18,7 +18,7 @@ struct TextNode final : Node {
 
     LayoutItemPointer resolve(const Environment& environment, LayoutPass& pass) const override {
         return std::make_unique<TextItem>(localizedText(key, arguments, environment, pass.context),
-                                          pass.texts);
+                                          environment.isAccessibilityHidden, pass.texts);
     }
 
     std::string key;
@@ -29,7 +29,8 @@ struct VerbatimTextNode final : Node {
     explicit VerbatimTextNode(std::string_view shown) : text(shown) {}
 
     LayoutItemPointer resolve(const Environment& environment, LayoutPass& pass) const override {
-        return std::make_unique<TextItem>(verbatimText(text, environment, pass.context), pass.texts);
+        return std::make_unique<TextItem>(verbatimText(text, environment, pass.context),
+                                          environment.isAccessibilityHidden, pass.texts);
     }
 
     std::string text;

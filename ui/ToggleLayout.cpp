@@ -57,7 +57,8 @@ struct SwitchNode final : Node {
 
 struct ToggleNode final : Node {
     ToggleNode(std::string_view titleKey, bool isOn, std::function<void(bool)> set)
-        : label(Text(titleKey)), control(std::make_shared<SwitchNode>(titleKey, isOn, std::move(set))) {}
+        : label(Text(titleKey).accessibilityHidden()),
+          control(std::make_shared<SwitchNode>(titleKey, isOn, std::move(set))) {}
 
     LayoutItemPointer resolve(const Environment& environment, LayoutPass& pass) const override {
         std::vector<View> row;
@@ -70,7 +71,7 @@ struct ToggleNode final : Node {
                            environment, pass);
     }
 
-    View label;
+    View label; // whose text the switch reads out itself
     View control;
 };
 

@@ -61,6 +61,7 @@ public:
     View buttonStyle(std::shared_ptr<const ButtonStyle> style) const;
     View formStyle(FormStyle style) const;
     View keyboardShortcut(KeyboardShortcut shortcut) const;
+    View accessibilityHidden() const; // texts alone
 
     const Node& node() const { return *node_; }
 

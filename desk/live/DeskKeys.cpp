@@ -11,6 +11,7 @@ const std::vector<KeyHint>& keyLegend() {
         {"P", "plug in"},
         {"A", "ask for permission"},
         {"I", "Login Items"},
+        {"W", "login approval"},
         {"F", "update feed"},
         {"C", "scheduled check"},
         {"T", "tap timeout"},
@@ -50,6 +51,9 @@ bool pressDeskKey(LiveDesk& desk, char key) {
         return true;
     case 'i':
         desk.openLoginItems();
+        return true;
+    case 'w':
+        desk.changeLoginApproval();
         return true;
     case 'f':
         desk.changeUpdateFeed();

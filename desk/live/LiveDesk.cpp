@@ -197,6 +197,9 @@ Standing LiveDesk::standing() {
     for (const auto& window : session_.windows().shown()) {
         result.windows.push_back(window->title);
     }
+    for (const auto& window : session_.windows().miniaturized()) {
+        result.miniaturized.push_back(window->title);
+    }
     return result;
 }
 
@@ -208,6 +211,12 @@ bool LiveDesk::isEnabled() {
 void LiveDesk::openLoginItems() {
     parts_.openLoginItems();
     news_ = {"System Settings shows the login items", Occurrence::neutral};
+}
+
+void LiveDesk::changeLoginApproval() {
+    doLoginItemsWait_ = !doLoginItemsWait_;
+    session_.loginItem().requireApproval(doLoginItemsWait_);
+    news_ = newsOfLoginApproval(doLoginItemsWait_);
 }
 
 void LiveDesk::changeUpdateFeed() {

@@ -73,6 +73,9 @@ public:
     // System Settings with the login items.
     void openLoginItems();
 
+    // Whether an application that becomes a login item waits for the user's approval.
+    void changeLoginApproval();
+
     // What a check for updates finds: in turn nothing, a new version, and no answer.
     void changeUpdateFeed();
 
@@ -143,6 +146,7 @@ private:
     sim::Session session_;
     ApplicationHost host_{session_};
     ScreenParts parts_{session_};
+    bool doLoginItemsWait_ = false;
     sim::UpdateFeed feed_ = sim::UpdateFeed::nothingNew;
     Plugs plugs_{session_};
     Report report_;

@@ -132,6 +132,13 @@ std::optional<News> newsOfLoginItem(AppServiceStatus before, AppServiceStatus af
 }
 
 std::optional<News> newsOfWindows(const Standing& before, const Standing& after) {
+    if (const auto minimized = missingIn(before.miniaturized, after.miniaturized)) {
+        return News{"Kestrune's window “" + *minimized + "” is in the Dock", Occurrence::neutral};
+    }
+    const auto taken = missingIn(after.miniaturized, before.miniaturized);
+    if (taken && missingIn(before.windows, after.windows) == taken) {
+        return News{"Kestrune's window “" + *taken + "” is back from the Dock", Occurrence::neutral};
+    }
     if (const auto opened = missingIn(before.windows, after.windows); opened && isTitled(*opened)) {
         return News{"Kestrune opened its window “" + *opened + "”", Occurrence::neutral};
     }
@@ -211,6 +218,12 @@ News newsOfUnplugging(const std::string& display, const Whereabouts& before, con
 
 News newsOfPlugging(const std::string& display, bool isPrimary) {
     return {display + " was plugged in" + (isPrimary ? " as the primary display" : ""), Occurrence::neutral};
+}
+
+News newsOfLoginApproval(bool isAwaited) {
+    return {isAwaited ? "From now on a new login item waits for the user's approval"
+                      : "From now on a new login item is allowed at once",
+            Occurrence::neutral};
 }
 
 News newsOfFeed(sim::UpdateFeed feed) {

@@ -35,8 +35,9 @@ struct Standing {
     bool pinnedHasDock = false;
     std::optional<std::string> choice; // the stored identifier
     AppServiceStatus loginItem = AppServiceStatus::notRegistered;
-    std::size_t mails = 0;            // that the mail program was asked for
-    std::vector<std::string> windows; // by their titles, the frontmost first
+    std::size_t mails = 0;                 // that the mail program was asked for
+    std::vector<std::string> windows;      // by their titles, the frontmost first
+    std::vector<std::string> miniaturized; // by their titles
 };
 
 News newsOfHeldPointer(const sim::Delivery& delivery, const std::string& display);
@@ -67,6 +68,9 @@ News newsOfClosedMenu(const Standing& standing);
 
 News newsOfUnplugging(const std::string& display, const Whereabouts& before, const Whereabouts& after);
 News newsOfPlugging(const std::string& display, bool isPrimary);
+
+// Whether what becomes a login item waits for the user.
+News newsOfLoginApproval(bool isAwaited);
 
 // What the next check for updates will find.
 News newsOfFeed(sim::UpdateFeed feed);

@@ -2,7 +2,6 @@
 
 #include "desk/live/LongTexts.h"
 #include "desk/live/SettingsTour.h"
-#include "desk/live/WindowAlbum.h"
 
 #include <iterator>
 #include <utility>
@@ -33,15 +32,8 @@ std::vector<SettingsShot> allShots(const LiveDeskSetup& setup) {
 
 } // namespace
 
-std::optional<InputError> writeSettingsPictures(const std::string& folder, const Options& options) {
-    if (auto error = makeFolder(folder)) {
-        return error;
-    }
-    auto setup = setupOf(options);
-    if (auto* error = std::get_if<InputError>(&setup)) {
-        return std::move(*error);
-    }
-    const std::vector<SettingsShot> shots = allShots(std::get<LiveDeskSetup>(setup));
+std::variant<WindowAlbum, InputError> settingsAlbum(const LiveDeskSetup& setup) {
+    const std::vector<SettingsShot> shots = allShots(setup);
     if (shots.size() != States) {
         return InputError{"--settings: not every state came about"};
     }
@@ -51,7 +43,18 @@ std::optional<InputError> writeSettingsPictures(const std::string& folder, const
             album.pages.push_back({shot.name, shot.caption, shot.window, dark});
         }
     }
-    return writeAlbum(folder, album);
+    return album;
+}
+
+std::optional<InputError> writeSettingsPictures(const std::string& folder, const Options& options) {
+    if (auto error = makeFolder(folder)) {
+        return error;
+    }
+    auto setup = setupOf(options);
+    if (auto* error = std::get_if<InputError>(&setup)) {
+        return std::move(*error);
+    }
+    return writeAlbum(folder, settingsAlbum(std::get<LiveDeskSetup>(setup)));
 }
 
 } // namespace kestrune::desk

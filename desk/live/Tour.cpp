@@ -75,7 +75,11 @@ std::optional<InputError> runTour(const std::string& folder, const Options& opti
     for (const TourScenes::Scene& scene : TourScenes::all()) {
         const Report before = desk.report();
         desk.advance(Pause);
-        const std::string story = (scenes.*scene.play)();
+        const auto outcome = scenes.perform(scene);
+        if (const auto* error = std::get_if<InputError>(&outcome)) {
+            return *error;
+        }
+        const auto& story = std::get<std::string>(outcome);
         DeskPicture picture = pictureOf(desk);
         picture.story = story;
         picture.dark = options.dark;

@@ -4,6 +4,7 @@
 #include "desk/paint/DeskLayout.h"
 
 #include <cmath>
+#include <variant>
 
 namespace kestrune::desk {
 
@@ -22,6 +23,25 @@ DeskPicture pictureWithStory(LiveDesk& desk) {
     picture.story = " ";
     return picture;
 }
+
+std::string quoted(std::string_view title) { return "“" + std::string(title) + "”"; }
+
+std::string nameOfRow(std::string_view title) { return "the menu row " + quoted(title); }
+
+std::string nameOfControl(std::string_view title) { return "the button or switch " + quoted(title); }
+
+struct NameOfTarget {
+    std::string operator()(const StatusItemTarget&) const { return "a status item"; }
+    std::string operator()(const DialogButtonTarget&) const { return "a button of the permission dialog"; }
+    std::string operator()(const PaneSwitchTarget&) const { return "a switch in System Settings"; }
+    std::string operator()(const PaneCloseTarget&) const { return "the close button of System Settings"; }
+    std::string operator()(const MailCloseTarget&) const { return "the close button of the mail"; }
+
+    template <typename OtherTarget>
+    std::string operator()(const OtherTarget&) const {
+        return "a part of the screen";
+    }
+};
 
 } // namespace
 
@@ -56,6 +76,7 @@ void TourHand::glideTo(Point target, EventType type) {
 void TourHand::push(DisplayID number, EventType type) {
     const std::optional<Point> edge = bottomEdge(number);
     if (!edge) {
+        miss("a free bottom edge of display " + std::to_string(number));
         return;
     }
     glideTo({edge->x, onDisplay(number, 0, 0.5).y}, type);
@@ -65,26 +86,46 @@ void TourHand::push(DisplayID number, EventType type) {
     }
 }
 
-void TourHand::pointAt(const DeskTarget& target) {
-    const DeskPicture picture = pictureWithStory(desk_);
-    if (const auto area = hitTest_.areaOf(picture, UsualWindow, target)) {
-        const Point middle{area->minX() + area->width() / 2, area->minY() + area->height() / 2};
-        glideTo(DeskLayout::of(picture, UsualWindow).toGlobal(middle));
-        place_ = middle;
-        desk_.placeHand(place_);
+void TourHand::miss(const std::string& name) {
+    if (!missing_) {
+        missing_ = name;
     }
-    desk_.hover(target);
 }
 
-void TourHand::click(const DeskTarget& target) {
-    pointAt(target);
-    desk_.pressButton(target);
-    desk_.releaseButton(target);
+// Only what is on the screen can be reached.
+bool TourHand::reach(const std::optional<DeskTarget>& target, const std::string& name) {
+    const DeskPicture picture = pictureWithStory(desk_);
+    const auto area = target ? hitTest_.areaOf(picture, UsualWindow, *target) : std::nullopt;
+    if (!area) {
+        miss(name);
+        return false;
+    }
+    const Point middle{area->minX() + area->width() / 2, area->minY() + area->height() / 2};
+    glideTo(DeskLayout::of(picture, UsualWindow).toGlobal(middle));
+    place_ = middle;
+    desk_.placeHand(place_);
+    desk_.hover(target);
+    return true;
 }
+
+void TourHand::use(const std::optional<DeskTarget>& target, const std::string& name) {
+    if (reach(target, name)) {
+        desk_.pressButton(target);
+        desk_.releaseButton(target);
+    }
+}
+
+void TourHand::pointAt(const DeskTarget& target) { reach(target, std::visit(NameOfTarget{}, target)); }
+
+void TourHand::click(const DeskTarget& target) { use(target, std::visit(NameOfTarget{}, target)); }
 
 void TourHand::openMenu(DisplayID number) {
     const auto& connected = desk_.session().displays().connected();
     const sim::Display* display = desk_.session().displays().withID(number);
+    if (display == nullptr) {
+        miss("display " + std::to_string(number));
+        return;
+    }
     click(StatusItemTarget{static_cast<std::size_t>(display - connected.data()), 0});
 }
 
@@ -98,17 +139,9 @@ std::optional<DeskTarget> TourHand::rowWith(std::string_view title) {
     return std::nullopt;
 }
 
-void TourHand::pointAtRow(std::string_view title) {
-    if (const auto row = rowWith(title)) {
-        pointAt(*row);
-    }
-}
+void TourHand::pointAtRow(std::string_view title) { reach(rowWith(title), nameOfRow(title)); }
 
-void TourHand::clickRow(std::string_view title) {
-    if (const auto row = rowWith(title)) {
-        click(*row);
-    }
-}
+void TourHand::clickRow(std::string_view title) { use(rowWith(title), nameOfRow(title)); }
 
 std::optional<DeskTarget> TourHand::controlWith(std::string_view title) {
     const DeskPicture picture = pictureOf(desk_);
@@ -122,25 +155,18 @@ std::optional<DeskTarget> TourHand::controlWith(std::string_view title) {
     return std::nullopt;
 }
 
-void TourHand::pointAtControl(std::string_view title) {
-    if (const auto control = controlWith(title)) {
-        pointAt(*control);
-    }
-}
+void TourHand::pointAtControl(std::string_view title) { reach(controlWith(title), nameOfControl(title)); }
+
+void TourHand::clickControl(std::string_view title) { use(controlWith(title), nameOfControl(title)); }
 
 void TourHand::closeWindow(std::string_view title) {
+    std::optional<DeskTarget> button;
     for (const WindowPicture& window : pictureOf(desk_).windows) {
-        if (window.title == title) {
-            click(WindowCloseTarget{window.number});
-            return;
+        if (!button && window.title == title) {
+            button = WindowCloseTarget{window.number};
         }
     }
-}
-
-void TourHand::clickControl(std::string_view title) {
-    if (const auto control = controlWith(title)) {
-        click(*control);
-    }
+    use(button, "the window " + quoted(title));
 }
 
 } // namespace kestrune::desk

@@ -1,4 +1,5 @@
 // The hand that plays the tour: it moves in small steps, pushes against edges and uses what is on the screen.
+// It leaves alone what is not there, and tells of it.
 #pragma once
 
 #include "desk/live/LiveDesk.h"
@@ -14,6 +15,9 @@ class TourHand {
 public:
     // `desk` must outlive the hand.
     explicit TourHand(LiveDesk& desk) : desk_(desk) {}
+
+    // What it was to use first of all that was not there, as in: the menu row “Disable”.
+    const std::optional<std::string>& missing() const { return missing_; }
 
     // Where the pointer can be pushed against a display's bottom edge, absent where other displays are below
     // all of it.
@@ -52,10 +56,14 @@ public:
 private:
     std::optional<DeskTarget> rowWith(std::string_view title);
     std::optional<DeskTarget> controlWith(std::string_view title);
+    void miss(const std::string& name);
+    bool reach(const std::optional<DeskTarget>& target, const std::string& name);
+    void use(const std::optional<DeskTarget>& target, const std::string& name);
 
     LiveDesk& desk_;
     DeskHitTest hitTest_;
     Point place_;
+    std::optional<std::string> missing_;
 };
 
 } // namespace kestrune::desk

@@ -65,6 +65,14 @@ const std::vector<TourScenes::Scene>& TourScenes::all() {
     return scenes;
 }
 
+std::variant<std::string, InputError> TourScenes::perform(const Scene& scene) {
+    std::string story = (this->*scene.play)();
+    if (const auto& missing = hand_.missing()) {
+        return InputError{"--tour: the scene " + inQuotes(scene.name) + " expected " + *missing};
+    }
+    return story;
+}
+
 std::string TourScenes::firstLaunch() {
     hand_.glideTo(hand_.onDisplay(first_, 0.62, 0.55));
     return "Kestrune runs for the first time. Its wizard is open; nothing keeps the Dock yet.";
@@ -212,7 +220,7 @@ std::string TourScenes::timeOut() {
 
 std::string TourScenes::openSettings() {
     unplugAllBut(2);
-    hand_.openMenu(first_);
+    hand_.openMenu(desk_.session().displays().connected().front().displayID);
     hand_.clickRow("Settings…");
     hand_.pointAtControl("Launch at login");
     return "While its Settings are open, Kestrune is an application with a menu bar of its own.";

@@ -3,9 +3,11 @@
 
 #include "desk/live/LiveDesk.h"
 #include "desk/live/TourHand.h"
+#include "desk/recording/InputError.h"
 
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace kestrune::desk {
@@ -25,6 +27,9 @@ public:
         std::string (TourScenes::*play)(); // tells in a sentence what was played
     };
     static const std::vector<Scene>& all();
+
+    // Plays a scene after those before it. Its story, or what was not there that it needs.
+    std::variant<std::string, InputError> perform(const Scene& scene);
 
 private:
     std::string firstLaunch();

@@ -24,7 +24,12 @@ std::optional<InputError> makeFolder(const std::string& folder) {
     return std::nullopt;
 }
 
-std::optional<InputError> writeAlbum(const std::string& folder, const WindowAlbum& album) {
+std::optional<InputError> writeAlbum(const std::string& folder,
+                                     const std::variant<WindowAlbum, InputError>& made) {
+    if (const auto* const error = std::get_if<InputError>(&made)) {
+        return *error;
+    }
+    const auto& album = std::get<WindowAlbum>(made);
     const std::filesystem::path root(folder);
     ContactSheet sheet{album.title, album.columns, {}};
     for (const AlbumPage& page : album.pages) {

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace kestrune::desk {
@@ -28,7 +29,8 @@ struct WindowAlbum {
 std::optional<InputError> makeFolder(const std::string& folder);
 
 // For each page a PNG named after it and its appearance, as in "waiting-dark.png", and "all.png". The folder
-// must be there.
-std::optional<InputError> writeAlbum(const std::string& folder, const WindowAlbum& album);
+// must be there. An album that could not be made is not written.
+std::optional<InputError> writeAlbum(const std::string& folder,
+                                     const std::variant<WindowAlbum, InputError>& made);
 
 } // namespace kestrune::desk

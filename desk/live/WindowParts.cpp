@@ -16,6 +16,8 @@ namespace {
 // The number of the window that a target belongs to.
 struct WindowNumber {
     std::optional<std::size_t> operator()(const WindowCloseTarget& target) const { return target.window; }
+    std::optional<std::size_t> operator()(const WindowMinimizeTarget& target) const { return target.window; }
+    std::optional<std::size_t> operator()(const DockTileTarget& target) const { return target.window; }
     std::optional<std::size_t> operator()(const WindowControlTarget& target) const { return target.window; }
     std::optional<std::size_t> operator()(const WindowTitleTarget& target) const { return target.window; }
     std::optional<std::size_t> operator()(const WindowTarget& target) const { return target.window; }
@@ -53,8 +55,10 @@ void WindowParts::press(const std::optional<DeskTarget>& target) {
     }
     pressed_ = target;
     isOverPressed_ = true;
-    // A window in the background can be closed without coming forward.
-    if (std::holds_alternative<WindowCloseTarget>(*target)) {
+    // A window in the background can be closed without coming forward. A tile acts like a button.
+    if (std::holds_alternative<WindowCloseTarget>(*target) ||
+        std::holds_alternative<WindowMinimizeTarget>(*target) ||
+        std::holds_alternative<DockTileTarget>(*target)) {
         return;
     }
     session_.windows().click(window);
@@ -82,6 +86,10 @@ std::optional<std::string> WindowParts::release(const std::optional<DeskTarget>&
     }
     if (std::holds_alternative<WindowCloseTarget>(*target)) {
         session_.windows().closeByUser(window);
+    } else if (std::holds_alternative<WindowMinimizeTarget>(*target)) {
+        session_.windows().miniaturizeByUser(window);
+    } else if (std::holds_alternative<DockTileTarget>(*target)) {
+        session_.windows().click(window);
     } else if (control && isStillThere(control, window)) {
         return act(*control);
     }
@@ -264,7 +272,8 @@ std::size_t WindowParts::numberOf(const WindowState& window) {
 WindowParts::WindowState WindowParts::windowOf(const std::optional<DeskTarget>& target) const {
     const auto number = target ? std::visit(WindowNumber{}, *target) : std::nullopt;
     const WindowState window = number && *number < numbered_.size() ? numbered_[*number].lock() : nullptr;
-    return window && window->isVisible ? window : nullptr;
+    const bool isTile = target && std::holds_alternative<DockTileTarget>(*target);
+    return window && (isTile ? window->isMiniaturized : window->isVisible) ? window : nullptr;
 }
 
 Rect WindowParts::globalFrame(const Window::State& window) const {
@@ -299,14 +308,26 @@ WindowPicture WindowParts::pictureOf(const WindowState& window) {
     }
     picture.movingSwitch = movingSwitchIn(window);
     const DeskTarget close = WindowCloseTarget{picture.number};
-    picture.isCloseButtonPressed = isOverPressed_ && pressed_ == close;
-    picture.isCloseButtonHovered = hovered_ == close && (!pressed_ || pressed_ == close);
+    picture.isCloseButtonPressed = isPressed(close);
+    picture.isCloseButtonHovered = isHovered(close);
+    const DeskTarget minimize = WindowMinimizeTarget{picture.number};
+    picture.isMinimizeButtonPressed = isPressed(minimize);
+    picture.isMinimizeButtonHovered = isHovered(minimize);
     return picture;
+}
+
+bool WindowParts::isPressed(const DeskTarget& button) const { return isOverPressed_ && pressed_ == button; }
+
+bool WindowParts::isHovered(const DeskTarget& button) const {
+    return hovered_ == button && (!pressed_ || pressed_ == button);
 }
 
 void WindowParts::addTo(DeskPicture& picture) {
     for (const WindowState& window : session_.windows().shown()) {
         picture.windows.push_back(pictureOf(window));
+    }
+    for (const WindowState& window : session_.windows().miniaturized()) {
+        picture.miniaturized.push_back(pictureOf(window));
     }
 }
 

@@ -20,7 +20,8 @@ std::optional<std::string> titleOfControl(const ui::Element& element);
 
 // Works like macOS with keyboard navigation switched on: a click brings a window to the front and makes it
 // key; buttons and switches act when the press is released over them, and a switch also goes where its knob
-// is dragged; Tab goes from control to control. While a modal alert is shown, no other window takes a click.
+// is dragged; a minimised window comes back with a click on its tile in the Dock; Tab goes from control to
+// control. While a modal alert is shown, no other window takes a click.
 class WindowParts {
 public:
     // `session` must outlive the parts.
@@ -86,6 +87,8 @@ private:
     std::size_t numberOf(const WindowState& window);
     WindowState windowOf(const std::optional<DeskTarget>& target) const;
     WindowPicture pictureOf(const WindowState& window);
+    bool isPressed(const DeskTarget& button) const;
+    bool isHovered(const DeskTarget& button) const;
     WindowDepth depthOf(const Window::State& window) const;
     Rect globalFrame(const Window::State& window) const;
 

@@ -1,7 +1,6 @@
 #include "desk/live/WizardPictures.h"
 
 #include "desk/live/LongTexts.h"
-#include "desk/live/WindowAlbum.h"
 #include "desk/live/WizardTour.h"
 
 #include <algorithm>
@@ -75,16 +74,19 @@ std::optional<InputError> addLooks(WindowAlbum& album, const std::vector<WizardS
     return std::nullopt;
 }
 
-std::optional<InputError> writeAll(const std::string& folder, const LiveDeskSetup& setup) {
+} // namespace
+
+std::variant<WindowAlbum, InputError> wizardAlbum(const LiveDeskSetup& setup) {
     WindowAlbum album{"Welcome to Kestrune: every state of the first-run wizard",
                       2 * States.size(), // light, then dark
                       {}};
     auto error = addLooks(album, takeWizardTour(setup), Looks);
     error = error ? error : addLooks(album, takeWizardTour(withLongTexts(setup)), LongLooks);
-    return error ? error : writeAlbum(folder, album);
+    if (error) {
+        return *std::move(error);
+    }
+    return album;
 }
-
-} // namespace
 
 std::optional<InputError> writeWizardPictures(const std::string& folder, const Options& options) {
     if (auto error = makeFolder(folder)) {
@@ -94,7 +96,7 @@ std::optional<InputError> writeWizardPictures(const std::string& folder, const O
     if (auto* error = std::get_if<InputError>(&setup)) {
         return std::move(*error);
     }
-    return writeAll(folder, std::get<LiveDeskSetup>(setup));
+    return writeAlbum(folder, wizardAlbum(std::get<LiveDeskSetup>(setup)));
 }
 
 } // namespace kestrune::desk

@@ -97,12 +97,13 @@ void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state) {
 }
 
 void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowButtons& buttons) {
-    constexpr double Distance = 20; // from centre to centre
     const double radius = WindowButtonSide / 2;
     const Point center = centerOf(close);
-    const bool isInUse = buttons.isClosable && (buttons.isClosePressed || buttons.isCloseHovered);
+    const bool isInUse =
+        (buttons.isClosable && (buttons.isClosePressed || buttons.isCloseHovered)) ||
+        (buttons.isMiniaturizable && (buttons.isMinimizePressed || buttons.isMinimizeHovered));
     const auto paintButton = [&](double steps, bool isEnabled, bool isPressed, const Color& color) {
-        const Point middle{center.x + steps * Distance, center.y};
+        const Point middle{center.x + steps * WindowButtonDistance, center.y};
         if (!isEnabled || !(buttons.isActive || isInUse)) {
             fillCircle(canvas.context, middle, radius, canvas.palette.system.windowButton);
             return;
@@ -113,15 +114,19 @@ void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowBut
                                radius, 0.5, rgb(0x000000, 0.16));
     };
     paintButton(0, buttons.isClosable, buttons.isClosePressed, rgb(0xFF5F57));
-    paintButton(1, buttons.isMiniaturizable, false, rgb(0xFEBC2E));
+    paintButton(1, buttons.isMiniaturizable, buttons.isMinimizePressed, rgb(0xFEBC2E));
     paintButton(2, buttons.isZoomable, false, rgb(0x28C840));
-    if (isInUse) {
-        constexpr double Arm = 2.4;
-        const Color cross = rgb(0x000000, 0.6);
+    constexpr double Arm = 2.4;
+    const Color sign = rgb(0x000000, 0.6);
+    if (isInUse && buttons.isClosable) {
         strokeLine(canvas.context, {center.x - Arm, center.y - Arm}, {center.x + Arm, center.y + Arm}, 1.2,
-                   cross);
+                   sign);
         strokeLine(canvas.context, {center.x - Arm, center.y + Arm}, {center.x + Arm, center.y - Arm}, 1.2,
-                   cross);
+                   sign);
+    }
+    if (isInUse && buttons.isMiniaturizable) {
+        const double middle = center.x + WindowButtonDistance;
+        strokeLine(canvas.context, {middle - 3, center.y}, {middle + 3, center.y}, 1.2, sign);
     }
 }
 

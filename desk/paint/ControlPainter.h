@@ -55,8 +55,11 @@ struct WindowButtons {
     bool isActive = true; // without it the buttons are grey while the pointer is elsewhere
     bool isClosePressed = false;
     bool isCloseHovered = false;
+    bool isMinimizePressed = false;
+    bool isMinimizeHovered = false;
 };
 inline constexpr double WindowButtonSide = 12;
+inline constexpr double WindowButtonDistance = 20; // from centre to centre
 
 // `close` is the area of the first.
 void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowButtons& buttons);

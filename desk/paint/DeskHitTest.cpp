@@ -2,6 +2,7 @@
 
 #include "desk/paint/AlertLayout.h"
 #include "desk/paint/DeskLayout.h"
+#include "desk/paint/DockPainter.h"
 #include "desk/paint/MailLayout.h"
 #include "desk/paint/MenuBarLayout.h"
 #include "desk/paint/MenuLayout.h"
@@ -83,6 +84,9 @@ std::optional<DeskTarget> targetInWindow(const WindowLayout& layout, const Windo
     if (shown.isTitled() && shown.isClosable && isCloseTo(layout.closeButton, place)) {
         return WindowCloseTarget{shown.number};
     }
+    if (shown.isTitled() && shown.isMiniaturizable && isCloseTo(layout.minimizeButton, place)) {
+        return WindowMinimizeTarget{shown.number};
+    }
     if (layout.titleBar.contains(place)) {
         return WindowTitleTarget{shown.number};
     }
@@ -119,6 +123,13 @@ std::optional<DeskTarget> targetInMenuBar(const MenuBarLayout& bar, std::size_t 
         }
     }
     return std::nullopt;
+}
+
+// Where the tiles of the minimised windows are; none without a Dock.
+std::vector<Rect> dockTiles(const DeskLayout& layout, const DeskPicture& picture) {
+    const DisplayPlace* const place = picture.dockDisplay ? layout.place(*picture.dockDisplay) : nullptr;
+    return place != nullptr ? dockPlace(*place, layout.scale(), picture.miniaturized.size()).tiles
+                            : std::vector<Rect>();
 }
 
 template <typename Place>
@@ -193,6 +204,23 @@ struct AreaOfTarget {
                    : std::nullopt;
     }
 
+    std::optional<Rect> operator()(const WindowMinimizeTarget& target) const {
+        const WindowPicture* const shown = windowWith(target.window);
+        return shown != nullptr && shown->isTitled() && shown->isMiniaturizable
+                   ? std::optional(windowLayout(layout, *shown, window).minimizeButton)
+                   : std::nullopt;
+    }
+
+    std::optional<Rect> operator()(const DockTileTarget& target) const {
+        const std::vector<Rect> tiles = dockTiles(layout, picture);
+        for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
+            if (picture.miniaturized[tile].number == target.window) {
+                return tiles[tile];
+            }
+        }
+        return std::nullopt;
+    }
+
     std::optional<Rect> operator()(const WindowControlTarget& target) const {
         const WindowPicture* const shown = windowWith(target.window);
         return shown != nullptr
@@ -256,6 +284,12 @@ std::optional<DeskTarget> DeskHitTest::targetAt(const DeskPicture& picture, Size
         if (displayPlace && menuBarArea(*displayPlace, layout.scale()).contains(place)) {
             target = targetInMenuBar(menuBarLayout(measure_, *displayPlace, layout.scale(), picture), display,
                                      place);
+        }
+    }
+    const std::vector<Rect> tiles = target ? std::vector<Rect>() : dockTiles(layout, picture);
+    for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
+        if (tiles[tile].contains(place)) {
+            target = DockTileTarget{picture.miniaturized[tile].number};
         }
     }
     return target;

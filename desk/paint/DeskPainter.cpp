@@ -33,7 +33,8 @@ void paintScreens(const Canvas& canvas, TextMeasure& measure, ImageStore& images
             paintIdleBand(canvas, *place, *display.bandTop);
         }
         if (picture.dockDisplay == index) {
-            paintDock(canvas, dockPlace(*place, layout.scale()));
+            paintDock(canvas, dockPlace(*place, layout.scale(), picture.miniaturized.size()),
+                      picture.miniaturized);
         }
         paintCaption(canvas, captionPlace(canvas, *place, layout.scale(), display), display);
     }
@@ -44,8 +45,9 @@ void paintMarks(const Canvas& canvas, const DeskLayout& layout, const DeskPictur
         const DisplayPlace* const from = layout.place(picture.dockMoveMark->from);
         const DisplayPlace* const to = layout.place(picture.dockMoveMark->to);
         if (from && to) {
-            paintDockTrail(canvas, dockPlace(*from, layout.scale()), dockPlace(*to, layout.scale()),
-                           picture.dockMoveMark->age);
+            const std::size_t tiles = picture.miniaturized.size();
+            paintDockTrail(canvas, dockPlace(*from, layout.scale(), tiles),
+                           dockPlace(*to, layout.scale(), tiles), picture.dockMoveMark->age);
         }
     }
     for (std::size_t index = 0; picture.heldMark && index < picture.displays.size(); ++index) {

@@ -91,6 +91,8 @@ struct DeskPicture {
     std::optional<SettingsPanePicture> settingsPane;
     // The application's own, from front to back, deeper ones after less deep ones.
     std::vector<WindowPicture> windows;
+    // Those that are tiles in the Dock instead, from left to right.
+    std::vector<WindowPicture> miniaturized;
     // The button, switch or close button of the system's windows that is held down.
     std::optional<DeskTarget> pressed;
 

@@ -90,6 +90,19 @@ struct WindowCloseTarget {
     friend bool operator==(const WindowCloseTarget&, const WindowCloseTarget&) = default;
 };
 
+struct WindowMinimizeTarget {
+    std::size_t window = 0;
+
+    friend bool operator==(const WindowMinimizeTarget&, const WindowMinimizeTarget&) = default;
+};
+
+// The tile of a minimised window in the Dock.
+struct DockTileTarget {
+    std::size_t window = 0;
+
+    friend bool operator==(const DockTileTarget&, const DockTileTarget&) = default;
+};
+
 // A button or switch of the scene that an application shows in its window.
 struct WindowControlTarget {
     std::size_t window = 0;
@@ -112,9 +125,10 @@ struct WindowTarget {
     friend bool operator==(const WindowTarget&, const WindowTarget&) = default;
 };
 
-using DeskTarget = std::variant<StatusItemTarget, MainMenuTitleTarget, MenuRowTarget, MenuPanelTarget,
-                                DialogButtonTarget, DialogTarget, PaneSwitchTarget, PaneRowTarget,
-                                PaneCloseTarget, PaneRemoveTarget, PaneTarget, MailCloseTarget, MailTarget,
-                                WindowCloseTarget, WindowControlTarget, WindowTitleTarget, WindowTarget>;
+using DeskTarget =
+    std::variant<StatusItemTarget, MainMenuTitleTarget, MenuRowTarget, MenuPanelTarget, DialogButtonTarget,
+                 DialogTarget, PaneSwitchTarget, PaneRowTarget, PaneCloseTarget, PaneRemoveTarget, PaneTarget,
+                 MailCloseTarget, MailTarget, WindowCloseTarget, WindowMinimizeTarget, WindowControlTarget,
+                 WindowTitleTarget, WindowTarget, DockTileTarget>;
 
 } // namespace kestrune::desk

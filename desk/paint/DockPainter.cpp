@@ -3,6 +3,7 @@
 #include "desk/paint/DockIcons.h"
 #include "desk/paint/Shapes.h"
 #include "desk/paint/SoftShadow.h"
+#include "desk/paint/WindowPainter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +15,6 @@ namespace {
 constexpr double IconGap = 0.22;
 constexpr double Padding = 0.26;
 constexpr double SeparatorWidth = 0.30;
-constexpr double PanelWidth = DockIconCount + (DockIconCount - 1) * IconGap + SeparatorWidth + 2 * Padding;
 constexpr double PanelHeight = 1 + 2 * Padding;
 constexpr double PanelRadius = 0.42;
 constexpr double BottomMargin = 0.18;
@@ -43,21 +43,39 @@ void paintArrowHead(cairo_t* context, Point tip, Point direction) {
 
 } // namespace
 
-DockPlace dockPlace(const DisplayPlace& display, double scale) {
+DockPlace dockPlace(const DisplayPlace& display, double scale, std::size_t tiles) {
+    const auto places = static_cast<double>(DockIconCount + tiles);
+    const double widthInSides = places + (places - 1) * IconGap + SeparatorWidth + 2 * Padding;
     const Rect& screen = display.screen;
     const double recognisable = std::clamp(IconSidePoints * scale, 20.0, 44.0);
-    double side = std::min({recognisable, screen.width() * 0.92 / PanelWidth, screen.height() * 0.18});
+    double side = std::min({recognisable, screen.width() * 0.92 / widthInSides, screen.height() * 0.18});
     if (side > 8) {
         side = std::floor(side);
     }
-    const double width = PanelWidth * side;
-    const double height = PanelHeight * side;
-    const double left = screen.minX() + (screen.width() - width) / 2;
-    const double top = screen.maxY() - BottomMargin * side - height;
-    return {{left, top, width, height}, side};
+    DockPlace dock;
+    dock.iconSide = side;
+    dock.panel.size = {widthInSides * side, PanelHeight * side};
+    dock.panel.origin = {screen.minX() + (screen.width() - dock.panel.width()) / 2,
+                         screen.maxY() - BottomMargin * side - dock.panel.height()};
+    double x = dock.panel.minX() + Padding * side;
+    const auto nextPlace = [&] {
+        const Rect place{x, dock.panel.minY() + Padding * side, side, side};
+        x += (1 + IconGap) * side;
+        return place;
+    };
+    while (dock.icons.size() + 1 < DockIconCount) {
+        dock.icons.push_back(nextPlace());
+    }
+    dock.separator = x + (SeparatorWidth - IconGap) * side / 2;
+    x += SeparatorWidth * side;
+    while (dock.tiles.size() < tiles) {
+        dock.tiles.push_back(nextPlace());
+    }
+    dock.icons.push_back(nextPlace());
+    return dock;
 }
 
-void paintDock(const Canvas& canvas, const DockPlace& dock) {
+void paintDock(const Canvas& canvas, const DockPlace& dock, std::span<const WindowPicture> windows) {
     const double side = dock.iconSide;
     if (side < 1) {
         return; // Too small to see; the glyphs' transformation would come close to a singular one.
@@ -68,24 +86,21 @@ void paintDock(const Canvas& canvas, const DockPlace& dock) {
     fillRoundedRectangle(canvas.context, dock.panel, radius, canvas.palette.dockPanel);
     strokeRoundedRectangle(canvas.context, dock.panel, radius, 1, canvas.palette.dockBorder);
 
-    double x = dock.panel.minX() + Padding * side;
-    const double y = dock.panel.minY() + Padding * side;
-    for (std::size_t icon = 0; icon < DockIconCount; ++icon) {
-        const bool isAfterSeparator = icon + 1 == DockIconCount;
-        if (isAfterSeparator) {
-            const double middle = x + (SeparatorWidth - IconGap) * side / 2;
-            cairo_rectangle(canvas.context, middle - 0.5, y + side * 0.06, 1, side * 0.88);
-            setColor(canvas.context, canvas.palette.menuBarText.withAlpha(0.22));
-            cairo_fill(canvas.context);
-            x += SeparatorWidth * side;
-        }
-        paintDockIcon(canvas.context, icon, {x, y, side, side});
+    cairo_rectangle(canvas.context, dock.separator - 0.5, dock.icons.front().minY() + side * 0.06, 1,
+                    side * 0.88);
+    setColor(canvas.context, canvas.palette.menuBarText.withAlpha(0.22));
+    cairo_fill(canvas.context);
+    for (std::size_t icon = 0; icon < dock.icons.size(); ++icon) {
+        paintDockIcon(canvas.context, icon, dock.icons[icon]);
         const bool isRunning = icon == 0 || icon == 2 || icon == 4;
         if (isRunning) {
-            fillCircle(canvas.context, {x + side / 2, dock.panel.maxY() - Padding * side / 2},
+            fillCircle(canvas.context,
+                       {dock.icons[icon].minX() + side / 2, dock.panel.maxY() - Padding * side / 2},
                        std::max(0.8, side * 0.045), canvas.palette.menuBarText.withAlpha(0.6));
         }
-        x += (1 + IconGap) * side;
+    }
+    for (std::size_t tile = 0; tile < std::min(dock.tiles.size(), windows.size()); ++tile) {
+        paintMiniature(canvas, dock.tiles[tile], windows[tile]);
     }
 }
 

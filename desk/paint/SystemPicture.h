@@ -140,6 +140,8 @@ struct WindowPicture {
     std::optional<MovingSwitch> movingSwitch = std::nullopt;
     bool isCloseButtonPressed = false;
     bool isCloseButtonHovered = false;
+    bool isMinimizeButtonPressed = false;
+    bool isMinimizeButtonHovered = false;
 
     bool isTitled() const { return titleBarHeight > 0; }
 

@@ -20,6 +20,8 @@ WindowLayout windowLayoutAt(Point topLeft, const WindowPicture& shown) {
     result.content = {topLeft.x, topLeft.y + titleHeight, size.width, size.height - titleHeight};
     result.closeButton = {topLeft.x + ButtonInset, topLeft.y + (titleHeight - WindowButtonSide) / 2,
                           WindowButtonSide, WindowButtonSide};
+    result.minimizeButton = result.closeButton;
+    result.minimizeButton.origin.x += WindowButtonDistance;
     return result;
 }
 

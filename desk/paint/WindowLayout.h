@@ -18,6 +18,7 @@ struct WindowLayout {
     Rect frame;
     Rect titleBar; // without height when the window has none
     Rect closeButton;
+    Rect minimizeButton;
     Rect content; // the scene's upper left corner is its own
 
     friend bool operator==(const WindowLayout&, const WindowLayout&) = default;

@@ -32,7 +32,9 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
                             .isZoomable = shown.isResizable,
                             .isActive = shown.isKey,
                             .isClosePressed = shown.isCloseButtonPressed,
-                            .isCloseHovered = shown.isCloseButtonHovered});
+                            .isCloseHovered = shown.isCloseButtonHovered,
+                            .isMinimizePressed = shown.isMinimizeButtonPressed,
+                            .isMinimizeHovered = shown.isMinimizeButtonHovered});
     }
     canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, bar.minY() + bar.height() / 2},
                       {.size = 13,
@@ -68,6 +70,24 @@ void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowP
                 .focusedElement = shown.focusedElement,
                 .movingSwitch = shown.movingSwitch,
                 .isInKeyWindow = shown.isKey});
+}
+
+void paintMiniature(const Canvas& canvas, const Rect& area, const WindowPicture& shown) {
+    constexpr double SmallestScale = 1e-3;
+    const double scale = std::min(area.width() / shown.frame.width(), area.height() / shown.frame.height());
+    if (!(scale > SmallestScale && scale < 1 / SmallestScale)) {
+        return; // Nothing to see, and the transformation would come close to a singular one.
+    }
+    const WindowLayout layout = windowLayoutAt({0, 0}, shown);
+    const PanelStyle style = applicationWindowStyle(canvas.palette, false);
+    const SavedState saved{canvas.context};
+    cairo_translate(canvas.context, area.minX() + (area.width() - shown.frame.width() * scale) / 2,
+                    area.minY() + (area.height() - shown.frame.height() * scale) / 2);
+    cairo_scale(canvas.context, scale, scale);
+    fillRoundedRectangle(canvas.context, layout.frame, style.cornerRadius, style.color);
+    paintWindow(canvas, layout, shown);
+    strokeRoundedRectangle(canvas.context, layout.frame, style.cornerRadius, 0.75 / scale,
+                           canvas.palette.dockBorder);
 }
 
 } // namespace kestrune::desk

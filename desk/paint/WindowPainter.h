@@ -14,4 +14,7 @@ PanelStyle applicationWindowStyle(const Palette& palette, bool isActive);
 // Title bar and scene; the panel is not painted with them.
 void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown);
 
+// All of it, as small as it takes to fit into the middle of the area.
+void paintMiniature(const Canvas& canvas, const Rect& area, const WindowPicture& shown);
+
 } // namespace kestrune::desk

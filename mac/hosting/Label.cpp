@@ -34,6 +34,9 @@ private:
         if (differs(next, &ui::TextElement::text)) {
             ns_control::setAttributedStringValue(view(), attributedText(next.text).get());
         }
+        if (differs(next, &ui::TextElement::isAccessibilityHidden)) {
+            ns_view::setAccessibilityElement(view(), truth(!next.isAccessibilityHidden));
+        }
     }
 };
 

@@ -54,13 +54,17 @@ TEST_F(LaunchAtLogin, RegistersWhateverIsNotEnabled) {
         EXPECT_TRUE(setLaunchAtLogin(true));
         EXPECT_THAT(calls(), ElementsAreArray(inOrder(
                                  {ReadingTheLoginItem, {"-[SMAppService registerAndReturnError:]"}})));
-        EXPECT_EQ(session.loginItem().status(), AppServiceStatus::enabled);
+        // What waits is approved by the user alone.
+        EXPECT_EQ(session.loginItem().status(), status == AppServiceStatus::requiresApproval
+                                                    ? AppServiceStatus::requiresApproval
+                                                    : AppServiceStatus::enabled);
     }
 }
 
 TEST_F(LaunchAtLogin, RegistersAgainWhatWaitsForApproval) {
     session.loginItem().requireApproval(true);
     EXPECT_TRUE(setLaunchAtLogin(true));
+    session.loginItem().requireApproval(false);
     EXPECT_TRUE(setLaunchAtLogin(true));
     EXPECT_EQ(session.loginItem().status(), AppServiceStatus::requiresApproval);
     const Calls once = inOrder({ReadingTheLoginItem, {"-[SMAppService registerAndReturnError:]"}});
@@ -95,8 +99,13 @@ TEST_F(LaunchAtLogin, LogsThatItWasNotUnregistered) {
     setStatus(AppServiceStatus::enabled);
     session.loginItem().refuse("No such process");
     EXPECT_FALSE(setLaunchAtLogin(false));
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder(
+                             {ReadingTheLoginItem,
+                              {"-[SMAppService unregisterAndReturnError:]"},
+                              openingLog("loginItem"),
+                              {"os_log_error(loginItem, LoginItem toggle failed: No such process)"}})));
     ASSERT_THAT(session.logRecords(), SizeIs(1));
-    EXPECT_EQ(session.logRecords()[0].message, "LoginItem toggle failed: No such process");
+    EXPECT_EQ(session.logRecords()[0].level, sim::LogLevel::error);
     EXPECT_EQ(session.loginItem().status(), AppServiceStatus::enabled);
 }
 

@@ -1,6 +1,7 @@
 // A session whose bundle has everything that Settings shows.
 #pragma once
 
+#include "Kestrune/BugReport.h"
 #include "platform/Application.h"
 #include "tests/Kestrune/ShellCalls.h"
 
@@ -48,6 +49,17 @@ inline const Calls ReadingTheLoginItem = {"SMAppService.mainAppService", "-[SMAp
 inline const Calls ReadingTheVersion = {"NSBundle.mainBundle",
                                         "-[NSBundle infoDictionary][CFBundleShortVersionString]",
                                         "-[NSBundle infoDictionary][CFBundleVersion]"};
+
+inline Calls makingTheBugReport() {
+    return inOrder({{"-[NSURLComponents init]", "-[NSURLComponents setScheme:] mailto",
+                     "-[NSURLComponents setPath:] " + std::string(SupportAddress)},
+                    localizing("Kestrune bug report"),
+                    localizing("Describe what went wrong:"),
+                    ReadingTheVersion,
+                    {"NSProcessInfo.processInfo", "-[NSProcessInfo operatingSystemVersion]",
+                     "NSLocale.currentLocale", "-[NSLocale localeIdentifier]",
+                     "-[NSURLComponents setQueryItems:] subject, body", "-[NSURLComponents URL]"}});
+}
 
 inline Calls openingLog(const std::string& category) {
     return {"NSBundle.mainBundle", "-[NSBundle bundleIdentifier]",

@@ -9,6 +9,7 @@
 #include "ui/SceneText.h"
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -51,7 +52,7 @@ TEST_F(SettingsForm, IsLaidOutFromTopToBottom) {
     EXPECT_EQ(ui::describe(layOut().scene), R"scene(scene 440x215
   shape 20,20 400x36 radius 10 continuous sectionBorder
   shape 21,21 398x34 radius 9 continuous sectionFill
-  text 30,30 105x16 "Launch at login" body
+  text 30,30 105x16 "Launch at login" body accessibilityHidden
   toggle 378,29 32x18 "Launch at login" off small switch 0
   shape 20,76 400x73 radius 10 continuous sectionBorder
   shape 21,77 398x71 radius 9 continuous sectionFill
@@ -70,9 +71,9 @@ TEST_F(SettingsForm, ShowsItsLabelsAndItsFooter) {
 
 TEST_F(SettingsForm, LooksUpEveryTextButTheCopyright) {
     layOut();
-    EXPECT_THAT(keys, ::testing::IsSupersetOf(
-                          {"Launch at login", "Check for Updates…", "Report a Bug…", "Kestrune %@"}));
-    EXPECT_THAT(keys, ::testing::Not(::testing::Contains("Copyright © 2026 Kestrune")));
+    EXPECT_THAT(std::set(keys.begin(), keys.end()),
+                ::testing::UnorderedElementsAre("Launch at login", "Check for Updates…", "Report a Bug…",
+                                                "Kestrune %@"));
 }
 
 TEST_F(SettingsForm, ReadsTheVersionInOrder) {

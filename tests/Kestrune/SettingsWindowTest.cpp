@@ -18,6 +18,11 @@ using namespace std::chrono_literals;
 const Calls BringingForward = {"-[NSWindow makeKeyAndOrderFront:]", "NSApp",
                                "-[NSApplication activateIgnoringOtherApps:] true"};
 
+// What the form shows of the bundle.
+const Calls ReadingTheFooter = inOrder(
+    {ReadingTheVersion, {"NSBundle.mainBundle", "-[NSBundle infoDictionary][NSHumanReadableCopyright]"}});
+const Calls RenderingTheForm = inOrder({ReadingTheFooter, {"the view changed"}});
+
 class SettingsWindow : public SettingsFixture {
 protected:
     explicit SettingsWindow(sim::UpdateFramework framework = sim::UpdateFramework::working)
@@ -73,9 +78,8 @@ TEST_F(SettingsWindow, IsMadeInOrder) {
              {"-[NSWindow setTitle:] Kestrune Settings", "-[NSWindow setReleasedWhenClosed:] false",
               "-[NSWindow center]", "-[SettingsWindowController initWithWindow:]",
               "-[NSHostingView initWithRootView:]"},
-             ReadingTheVersion,
-             {"NSBundle.mainBundle", "-[NSBundle infoDictionary][NSHumanReadableCopyright]",
-              "-[NSWindow setContentView:]", "-[NSWindow setDelegate:] SettingsWindowController"}})));
+             ReadingTheFooter,
+             {"-[NSWindow setContentView:]", "-[NSWindow setDelegate:] SettingsWindowController"}})));
     EXPECT_THAT(session.windows().shown(), IsEmpty());
     EXPECT_THAT(controller->actionMethods(), IsEmpty());
 }
@@ -127,6 +131,18 @@ TEST_F(SettingsWindow, IsOneWindowHoweverOftenItIsShown) {
     EXPECT_FALSE(isSwitchOn());
 }
 
+TEST_F(SettingsWindow, ComesBackFromTheDock) {
+    makeAndShow();
+    const auto window = onlyWindow(session);
+    session.windows().miniaturizeByUser(window);
+    EXPECT_THAT(session.windows().shown(), IsEmpty());
+    controller->show();
+    settle();
+    EXPECT_EQ(onlyWindow(session), window);
+    EXPECT_EQ(session.windows().keyWindow(), window);
+    EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
+}
+
 TEST_F(SettingsWindow, MakesTheApplicationAnAccessoryWhenItCloses) {
     session.application().policy = ActivationPolicy::regular;
     makeAndShow();
@@ -141,9 +157,15 @@ TEST_F(SettingsWindow, RegistersAndUnregistersWithItsSwitch) {
     flipSwitch();
     EXPECT_EQ(session.loginItem().status(), AppServiceStatus::enabled);
     EXPECT_TRUE(isSwitchOn());
+    EXPECT_THAT(calls(),
+                ElementsAreArray(inOrder(
+                    {ReadingTheLoginItem, {"-[SMAppService registerAndReturnError:]"}, RenderingTheForm})));
     flipSwitch();
     EXPECT_EQ(session.loginItem().status(), AppServiceStatus::notRegistered);
     EXPECT_FALSE(isSwitchOn());
+    EXPECT_THAT(calls(),
+                ElementsAreArray(inOrder(
+                    {ReadingTheLoginItem, {"-[SMAppService unregisterAndReturnError:]"}, RenderingTheForm})));
     EXPECT_THAT(session.logRecords(), SizeIs(1)); // of the updater
 }
 
@@ -153,11 +175,19 @@ TEST_F(SettingsWindow, LeavesTheSwitchWhereTheUserPutItUntilItIsShownAgain) {
     flipSwitch();
     EXPECT_TRUE(isSwitchOn());
     EXPECT_EQ(session.loginItem().status(), AppServiceStatus::notRegistered);
-    EXPECT_EQ(session.logRecords().back().message, "LoginItem toggle failed: Operation not permitted");
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder(
+                             {ReadingTheLoginItem,
+                              {"-[SMAppService registerAndReturnError:]"},
+                              openingLog("loginItem"),
+                              {"os_log_error(loginItem, LoginItem toggle failed: Operation not permitted)"},
+                              RenderingTheForm})));
     const std::size_t logged = session.logRecords().size();
     controller->show();
     settle();
     EXPECT_FALSE(isSwitchOn());
+    EXPECT_THAT(calls(),
+                ElementsAreArray(inOrder({ReadingTheLoginItem, ReadingTheLoginItem,
+                                          settingThePolicy("Regular"), BringingForward, RenderingTheForm})));
     EXPECT_EQ(session.logRecords().size(), logged);
 }
 
@@ -223,6 +253,40 @@ TEST_F(SettingsWindow, KeepsItsDockIconWhenAnUpdateIsPutAway) {
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
 }
 
+// The policy that the session found is put back whatever became of the window meanwhile.
+TEST_F(SettingsWindow, LeavesADockIconWhenItIsClosedWhileAnUpdateIsShown) {
+    session.updates().setFeed(sim::UpdateFeed::newVersion);
+    makeAndShow();
+    EXPECT_TRUE(press("Check for Updates…"));
+    session.advance(1s);
+    session.windows().closeByUser(session.windows().shown().back());
+    EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
+    session.updates().dismiss();
+    session.advance(1s);
+    EXPECT_THAT(session.windows().shown(), IsEmpty());
+    EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
+    controller->show();
+    settle();
+    session.windows().closeByUser(onlyWindow(session));
+    EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
+}
+
+TEST_F(SettingsWindow, LosesItsDockIconWithAnUpdateThatWasThereBefore) {
+    session.application().policy = ActivationPolicy::accessory;
+    session.updates().setFeed(sim::UpdateFeed::newVersion);
+    make();
+    session.updates().checkAsScheduled();
+    session.advance(1s);
+    ASSERT_TRUE(session.updates().isShowingUpdate());
+    controller->show();
+    settle();
+    EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
+    session.updates().dismiss();
+    session.advance(1s);
+    EXPECT_NE(onlyWindow(session), nullptr);
+    EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
+}
+
 TEST_F(SettingsWindowWithoutUpdater, ChangesNothingWhenItShouldCheckForUpdates) {
     makeAndShow();
     EXPECT_TRUE(press("Check for Updates…"));
@@ -243,9 +307,32 @@ TEST_F(SettingsWindow, ReportsABugInOrder) {
     makeAndShow();
     controller->model()->reportBug();
     const Calls reported = calls();
-    EXPECT_EQ(reported.at(0), "NSWorkspace.sharedWorkspace");
-    EXPECT_EQ(reported.at(1), "-[NSURLComponents init]");
-    EXPECT_TRUE(reported.back().starts_with("-[NSWorkspace openURL:] mailto:"));
+    const std::string link = session.openedURLs().at(0);
+    EXPECT_THAT(reported, ElementsAreArray(
+                              inOrder({makingTheBugReport(),
+                                       {"NSWorkspace.sharedWorkspace", "-[NSWorkspace openURL:] " + link}})));
+}
+
+TEST_F(SettingsWindow, GoesOnWhenNobodyOpensTheMail) {
+    makeAndShow();
+    session.refuseOpeningURLs(true);
+    const auto policy = session.application().policy;
+    const std::size_t logged = session.logRecords().size();
+    EXPECT_TRUE(press("Report a Bug…"));
+    EXPECT_THAT(calls().back(), ::testing::StartsWith("-[NSWorkspace openURL:] mailto:"));
+    EXPECT_THAT(session.openedURLs(), IsEmpty());
+    EXPECT_EQ(session.logRecords().size(), logged);
+    EXPECT_EQ(session.application().policy, policy);
+    EXPECT_NE(onlyWindow(session), nullptr);
+    flipSwitch();
+    EXPECT_EQ(session.loginItem().status(), AppServiceStatus::enabled);
+    EXPECT_TRUE(press("Check for Updates…"));
+    session.advance(1s);
+    ASSERT_TRUE(session.updates().isShowingAlert());
+    session.updates().dismiss();
+    session.refuseOpeningURLs(false);
+    EXPECT_TRUE(press("Report a Bug…"));
+    EXPECT_THAT(session.openedURLs(), SizeIs(1));
 }
 
 TEST_F(SettingsWindow, DoesNothingOnceTheControllerIsGone) {

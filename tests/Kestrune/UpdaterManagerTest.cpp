@@ -181,8 +181,14 @@ TEST_F(Updates, PutBackThePolicyThatTheFirstAnnouncementFound) {
     manager->standardUserDriverWillHandleShowingUpdate();
     settle();
     EXPECT_EQ(policy(), ActivationPolicy::regular);
+    calls();
     manager->standardUserDriverWillHandleShowingUpdate();
     settle();
+    EXPECT_THAT(calls(), ElementsAreArray(inOrder({{"Task on the main actor"},
+                                                   RemovingTheObserver,
+                                                   AddingTheObserver,
+                                                   settingThePolicy("Regular"),
+                                                   {"-[NSApplication activateIgnoringOtherApps:] true"}})));
     EXPECT_EQ(policy(), ActivationPolicy::regular);
     EXPECT_EQ(observers(), 1U);
     manager->standardUserDriverWillFinishUpdateSession();
@@ -305,6 +311,26 @@ TEST_F(Updates, DoNotActivateTheApplicationWhenAWindowBecomesKey) {
                                      "object_getClassName", "-[NSWindow title]",
                                      "-[NSWindow setLevel:] NSFloatingWindowLevel",
                                      "-[NSWindow setHidesOnDeactivate:] false"));
+}
+
+TEST_F(Updates, AskForTheTitleOnlyOfAWindowWhoseClassSaysNothing) {
+    start();
+    session.windows().setActive(true);
+    manager->startWindowObserver();
+    const auto becomeKey = [&](std::string_view className) {
+        Window window({0, 0, 200, 100}, WindowStyleMask::titled, BackingStoreType::buffered, false);
+        window.state()->className = className;
+        calls();
+        window.makeKeyAndOrderFront();
+        return calls();
+    };
+    const Calls looking = {"-[NSWindow makeKeyAndOrderFront:]", "-[NSNotification object]",
+                           "object_getClassName"};
+    EXPECT_THAT(becomeKey("SPUWindow"),
+                ElementsAreArray(inOrder({looking,
+                                          {"-[NSWindow setLevel:] NSFloatingWindowLevel",
+                                           "-[NSWindow setHidesOnDeactivate:] false"}})));
+    EXPECT_THAT(becomeKey("NSWindow"), ElementsAreArray(inOrder({looking, {"-[NSWindow title]"}})));
 }
 
 TEST_F(Updates, DoNotLookAtAnObjectThatIsNoWindow) {

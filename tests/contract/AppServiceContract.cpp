@@ -2,10 +2,13 @@
 #include "platform/AppService.h"
 #include "tests/contract/World.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace kestrune::contract {
 namespace {
+
+using testing::ElementsAre;
 
 class AppServiceContract : public testing::Test {
 protected:
@@ -27,8 +30,7 @@ TEST_F(AppServiceContract, IsOneForTheProcess) {
 }
 
 TEST_F(AppServiceContract, RegistersTheApplication) {
-    for (const AppServiceStatus before :
-         {AppServiceStatus::notRegistered, AppServiceStatus::notFound, AppServiceStatus::requiresApproval}) {
+    for (const AppServiceStatus before : {AppServiceStatus::notRegistered, AppServiceStatus::notFound}) {
         world_.setLoginItem(before);
         EXPECT_FALSE(service_.registerAndReturnError());
         EXPECT_EQ(world_.loginItem(), AppServiceStatus::enabled);
@@ -38,8 +40,29 @@ TEST_F(AppServiceContract, RegistersTheApplication) {
 
 TEST_F(AppServiceContract, MayHaveToWaitForTheUsersApproval) {
     world_.requireApprovalOfLoginItem();
+    for (const AppServiceStatus before : {AppServiceStatus::notRegistered, AppServiceStatus::notFound}) {
+        world_.setLoginItem(before);
+        EXPECT_FALSE(service_.registerAndReturnError());
+        EXPECT_EQ(service_.status(), AppServiceStatus::requiresApproval);
+    }
+}
+
+TEST_F(AppServiceContract, LeavesTheApprovalToTheUser) {
+    world_.setLoginItem(AppServiceStatus::requiresApproval);
     EXPECT_FALSE(service_.registerAndReturnError());
+    EXPECT_EQ(world_.loginItem(), AppServiceStatus::requiresApproval);
     EXPECT_EQ(service_.status(), AppServiceStatus::requiresApproval);
+    world_.setLoginItem(AppServiceStatus::enabled);
+    EXPECT_EQ(service_.status(), AppServiceStatus::enabled);
+}
+
+TEST_F(AppServiceContract, HandsOnWhatItIsAskedFor) {
+    service_.status();
+    EXPECT_FALSE(service_.registerAndReturnError());
+    EXPECT_FALSE(service_.unregisterAndReturnError());
+    EXPECT_THAT(world_.loginItemMessages(),
+                ElementsAre("-[SMAppService status]", "-[SMAppService registerAndReturnError:]",
+                            "-[SMAppService unregisterAndReturnError:]"));
 }
 
 TEST_F(AppServiceContract, UnregistersTheApplication) {

@@ -161,5 +161,14 @@ TEST(WorkspaceContract, OpensURLsInOrder) {
                                                 "kestrune-contract:first?a=b"));
 }
 
+TEST(WorkspaceContract, SaysThatNobodyOpensAURL) {
+    World world;
+    const auto url = URL::withString("kestrune-contract:first");
+    ASSERT_TRUE(url);
+    world.letNobodyOpenURLs();
+    EXPECT_FALSE(Workspace::sharedWorkspace().openURL(*url));
+    EXPECT_THAT(world.openedURLs(), IsEmpty());
+}
+
 } // namespace
 } // namespace kestrune::contract

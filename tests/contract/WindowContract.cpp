@@ -237,6 +237,18 @@ TEST_F(WindowContract, LeavesTheScreenWithItsLastReference) {
     EXPECT_THAT(world_.shownWindows(), IsEmpty());
 }
 
+TEST_F(WindowContract, ComesBackWhenItIsMadeKeyAfterItWasMiniaturized) {
+    Window window = makeWindow("one", WindowStyleMask::titled | WindowStyleMask::miniaturizable);
+    show(window);
+    world_.clickMinimizeButton();
+    world_.runMainQueue();
+    EXPECT_THAT(shownTitles(), IsEmpty());
+    window.makeKeyAndOrderFront();
+    world_.runMainQueue();
+    ASSERT_THAT(shownTitles(), ElementsAre("one"));
+    EXPECT_TRUE(world_.shownWindows()[0].isKey);
+}
+
 class WindowControllerContract : public WindowFixture {};
 
 TEST_F(WindowControllerContract, RetainsItsWindow) {

@@ -42,6 +42,13 @@ TEST_F(WindowListContract, HasWindowsOnScreenAndOff) {
     EXPECT_THAT(titles(), Contains("closed"));
 }
 
+TEST_F(WindowListContract, HasTheWindowsInTheDock) {
+    Window window = makeWindow("miniaturized", WindowStyleMask::titled | WindowStyleMask::miniaturizable);
+    show(window);
+    world_.clickMinimizeButton();
+    EXPECT_THAT(titles(), Contains("miniaturized"));
+}
+
 TEST_F(WindowListContract, HasNoWindowThatIsGone) {
     std::optional<Window> window = makeWindow("gone");
     EXPECT_THAT(titles(), Contains("gone"));

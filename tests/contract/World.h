@@ -180,10 +180,11 @@ public:
     // The application's windows that are to be seen, the frontmost first.
     std::vector<ShownWindow> shownWindows() const;
 
-    // The user works on one of them, by its place there: clicks into its title bar, on its close button, on a
-    // button of the view that it hosts, on a switch.
+    // The user works on one of them, by its place there: clicks into its title bar, on its close button, on
+    // its minimise button, on a button of the view that it hosts, on a switch.
     void clickTitleBar(std::size_t window = 0);
     void clickCloseButton(std::size_t window = 0);
+    void clickMinimizeButton(std::size_t window = 0);
     void clickButton(std::string_view title, std::size_t window = 0);
     void clickSwitch(std::size_t index, std::size_t window = 0);
 
@@ -193,17 +194,21 @@ public:
 
     // A framework in the process shows a window of a class of its own, which asks for the keys. It is there
     // as long as the result.
-    std::shared_ptr<void> showFrameworkWindow(std::string_view className, std::string_view title);
+    std::shared_ptr<void> showFrameworkWindow(std::string_view className, std::string_view title,
+                                              bool hidesOnDeactivate = false);
 
     // The application among the login items, as the user finds and changes it in System Settings.
     AppServiceStatus loginItem() const;
     void setLoginItem(AppServiceStatus status);
 
-    // What registers from now on waits for the user's approval.
+    // Whoever registers anew waits for the user's approval.
     void requireApprovalOfLoginItem();
 
     // The system refuses every change of the login item, with that description.
     void refuseLoginItemChanges(std::string description);
+
+    // What the service was asked for, in order: class and selector.
+    std::vector<std::string> loginItemMessages() const;
 
     // What the process runs on.
     OperatingSystemVersion operatingSystemVersion() const;
@@ -225,6 +230,9 @@ public:
 
     // The texts of the URLs that the application opened, in order.
     std::vector<std::string> openedURLs() const;
+
+    // No application is responsible for any URL.
+    void letNobodyOpenURLs();
 
 private:
     struct State;

@@ -1,102 +1,136 @@
-// The Settings window, login items, the mail and updates on GNUstep: opened from the menu and used through
-// the real binding.
-#include "tests/gnustep/ApplicationFixture.h"
-#include "tests/gnustep/standins/Sparkle.h"
+// The Settings window, the login item and the mail on GNUstep: opened from the menu and used through the real
+// binding.
+#include "Kestrune/UpdaterManager.h"
+#include "mac/objc/Pool.h"
+#include "tests/gnustep/Allocations.h"
+#include "tests/gnustep/Send.h"
+#include "tests/gnustep/SettingsFixture.h"
+#include "tests/gnustep/ShownWindows.h"
+#include "tests/gnustep/standins/LoginItem.h"
 
-#include <gmock/gmock.h>
+#include <iterator>
+#include <optional>
 
 namespace kestrune::gnustep {
 namespace {
 
 using contract::LoggedMessage;
-using contract::ShownWindow;
-using contract::UpdateFramework;
 using testing::AllOf;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 
-constexpr double SecondsForTheUpdater = 0.6; // twice what the application waits
+const std::string Status = "-[SMAppService status]";
+const std::string Register = "-[SMAppService registerAndReturnError:]";
+const std::string Unregister = "-[SMAppService unregisterAndReturnError:]";
 
-class SettingsOnGNUstep : public ApplicationFixture {
+class SettingsOnGNUstep : public SettingsFixture {
 protected:
-    void openSettings() {
-        menu(); // the next one is the one after setup
-        choose("Settings…");
-        world_.runMainQueue();
-    }
-
-    void launchAndOpen() {
-        launch();
-        openSettings();
-    }
-
-    ShownWindow settings() { return world_.shownWindows().at(0); }
-
     void flipSwitch() {
         world_.clickSwitch(0);
         world_.runMainQueue();
     }
 
-    std::vector<LoggedMessage> logged(const std::string& category) const {
-        std::vector<LoggedMessage> messages;
-        for (const LoggedMessage& message : world_.loggedMessages()) {
-            if (message.category == category) {
-                messages.push_back(message);
-            }
-        }
+    void closeAndOpen() {
+        world_.clickCloseButton();
+        openSettings();
+    }
+
+    // What the service was asked since the last time.
+    std::vector<std::string> asked() {
+        std::vector<std::string> messages = world_.loginItemMessages();
+        messages.erase(messages.begin(), std::next(messages.begin(), known_));
+        known_ += static_cast<std::ptrdiff_t>(messages.size());
         return messages;
     }
 
-    static LoggedMessage message(LoggedMessage::Level level, const std::string& category,
-                                 const std::string& text) {
-        return {level, "org.kestrune.Kestrune", category, text};
-    }
+private:
+    std::ptrdiff_t known_ = 0;
 };
 
 TEST_F(SettingsOnGNUstep, OpensFromTheMenu) {
     launchAndOpen();
     ASSERT_THAT(world_.shownWindows(), SizeIs(1));
-    EXPECT_EQ(settings().title, "Kestrune Settings");
-    EXPECT_TRUE(settings().isKey);
-    EXPECT_TRUE(settings().hasCloseButton);
-    EXPECT_FALSE(settings().isResizable);
-    EXPECT_EQ(settings().content.width(), 440);
+    EXPECT_EQ(window().title, "Kestrune Settings");
+    EXPECT_TRUE(window().isKey);
+    EXPECT_TRUE(window().hasCloseButton);
+    EXPECT_FALSE(window().isResizable);
+    EXPECT_EQ(window().content.width(), 440);
     EXPECT_EQ(world_.activationPolicy(), ActivationPolicy::regular);
     EXPECT_TRUE(world_.isActive());
 }
 
 TEST_F(SettingsOnGNUstep, HasItsControlsAndItsFooter) {
     launchAndOpen();
-    EXPECT_THAT(settings().switches, ElementsAre(false));
-    EXPECT_THAT(settings().buttons, ElementsAre("Check for Updates…", "Report a Bug…"));
-    EXPECT_THAT(settings().texts,
+    EXPECT_THAT(window().switches, ElementsAre(false));
+    EXPECT_THAT(window().buttons, ElementsAre("Check for Updates…", "Report a Bug…"));
+    EXPECT_THAT(window().texts,
                 ElementsAre("Launch at login", "Kestrune 0.1.0 (1)", "© 2026 Kestrune contributors"));
+}
+
+TEST_F(SettingsOnGNUstep, ReadsTheLoginItemAndAsksForNoChange) {
+    launchAndOpen();
+    EXPECT_THAT(asked(), ElementsAre(Status, Status, Status)) << "made, shown, compared";
+    world_.setLoginItem(AppServiceStatus::enabled);
+    closeAndOpen();
+    EXPECT_THAT(asked(), ElementsAre(Status, Status));
+    EXPECT_THAT(window().switches, ElementsAre(true));
 }
 
 TEST_F(SettingsOnGNUstep, RegistersTheLoginItemWithItsSwitch) {
     launchAndOpen();
+    asked();
     flipSwitch();
+    EXPECT_THAT(asked(), ElementsAre(Status, Register));
     EXPECT_EQ(world_.loginItem(), AppServiceStatus::enabled);
-    EXPECT_THAT(settings().switches, ElementsAre(true));
+    EXPECT_THAT(window().switches, ElementsAre(true));
     flipSwitch();
+    EXPECT_THAT(asked(), ElementsAre(Status, Unregister));
     EXPECT_EQ(world_.loginItem(), AppServiceStatus::notRegistered);
-    EXPECT_THAT(settings().switches, ElementsAre(false));
+    EXPECT_THAT(window().switches, ElementsAre(false));
+}
+
+TEST_F(SettingsOnGNUstep, RegistersAgainWhatWaitsForTheUsersApproval) {
+    world_.setLoginItem(AppServiceStatus::requiresApproval);
+    launchAndOpen();
+    EXPECT_THAT(window().switches, ElementsAre(false));
+    asked();
+    flipSwitch();
+    EXPECT_THAT(asked(), ElementsAre(Status, Register));
+    EXPECT_EQ(world_.loginItem(), AppServiceStatus::requiresApproval);
+    EXPECT_THAT(window().switches, ElementsAre(true));
+    closeAndOpen();
+    EXPECT_THAT(asked(), ElementsAre(Status, Status));
+    EXPECT_THAT(window().switches, ElementsAre(false));
 }
 
 TEST_F(SettingsOnGNUstep, LogsWhyTheLoginItemWasNotRegistered) {
     world_.refuseLoginItemChanges("Operation not permitted");
     launchAndOpen();
+    asked();
     flipSwitch();
+    EXPECT_THAT(asked(), ElementsAre(Status, Register));
     EXPECT_EQ(world_.loginItem(), AppServiceStatus::notRegistered);
-    EXPECT_THAT(settings().switches, ElementsAre(true));
+    EXPECT_THAT(window().switches, ElementsAre(true));
     EXPECT_THAT(logged("loginItem"),
                 ElementsAre(message(LoggedMessage::Level::error, "loginItem",
                                     "LoginItem toggle failed: Operation not permitted")));
+}
+
+TEST_F(SettingsOnGNUstep, LogsWhyTheLoginItemWasNotUnregistered) {
+    world_.setLoginItem(AppServiceStatus::enabled);
+    world_.refuseLoginItemChanges("No such process");
+    launchAndOpen();
+    asked();
+    flipSwitch();
+    EXPECT_THAT(asked(), ElementsAre(Status, Unregister));
+    EXPECT_EQ(world_.loginItem(), AppServiceStatus::enabled);
+    EXPECT_THAT(logged("loginItem"), ElementsAre(message(LoggedMessage::Level::error, "loginItem",
+                                                         "LoginItem toggle failed: No such process")));
+    closeAndOpen();
+    EXPECT_THAT(window().switches, ElementsAre(true));
 }
 
 TEST_F(SettingsOnGNUstep, IsTheSameWindowWithTheSwitchReadAnewWhenItIsOpenedAgain) {
@@ -109,7 +143,7 @@ TEST_F(SettingsOnGNUstep, IsTheSameWindowWithTheSwitchReadAnewWhenItIsOpenedAgai
     openSettings();
     ASSERT_THAT(world_.shownWindows(), SizeIs(1));
     EXPECT_EQ(Application::nsApp()->windows().size(), count);
-    EXPECT_THAT(settings().switches, ElementsAre(true));
+    EXPECT_THAT(window().switches, ElementsAre(true));
     EXPECT_EQ(world_.activationPolicy(), ActivationPolicy::regular);
 }
 
@@ -124,77 +158,60 @@ TEST_F(SettingsOnGNUstep, OpensTheMailOfABugReport) {
                                            "0.1.0%20(1)%0AmacOS:%2014.5.2%0ALocale:%20en_US_POSIX"))));
 }
 
-TEST_F(SettingsOnGNUstep, StartsTheUpdaterAtLaunch) {
-    launch();
-    EXPECT_THAT(
-        world_.updateMessages(),
-        ElementsAre("-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, UpdaterManager",
-                    "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] main bundle, "
-                    "main bundle, UpdaterManager",
-                    "-[SPUUpdater startUpdater:]", "-[SPUUpdater setAutomaticallyDownloadsUpdates:] false"));
-    EXPECT_EQ(world_.asksForGentleReminders(), false);
-    EXPECT_THAT(logged("updater"), ElementsAre(message(LoggedMessage::Level::info, "updater",
-                                                       "Sparkle initialized — feed: NOT SET")));
-}
-
-TEST_F(SettingsOnGNUstep, ChecksForUpdatesAndRaisesTheirWindows) {
+TEST_F(SettingsOnGNUstep, GoesOnWhenNobodyOpensTheMail) {
     launchAndOpen();
+    world_.letNobodyOpenURLs();
+    const auto logBefore = world_.loggedMessages();
+    world_.clickButton("Report a Bug…");
+    world_.runMainQueue();
+    EXPECT_THAT(world_.openedURLs(), IsEmpty());
+    EXPECT_EQ(world_.loggedMessages(), logBefore);
+    EXPECT_THAT(titles(), ElementsAre("Kestrune Settings"));
+    EXPECT_EQ(world_.activationPolicy(), ActivationPolicy::regular);
+    flipSwitch();
+    EXPECT_EQ(world_.loginItem(), AppServiceStatus::enabled);
     world_.clickButton("Check for Updates…");
     EXPECT_EQ(world_.updateMessages().back(), "-[SPUUpdater checkForUpdates]");
-    const auto status = world_.showFrameworkWindow("SPUStatusWindow", "Updating Kestrune");
-    const auto update = world_.showFrameworkWindow("NSWindow", "Software Update");
-    const auto other = world_.showFrameworkWindow("NSWindow", "Other");
-    EXPECT_EQ(settings().title, "Software Update");
-    EXPECT_EQ(settings().level, WindowLevel::floating);
-    world_.letTimePass(SecondsForTheUpdater);
-    for (const ShownWindow& window : world_.shownWindows()) {
-        const bool isUpdaters = window.title.find("Updat") != std::string::npos;
-        EXPECT_EQ(window.level, isUpdaters ? WindowLevel::floating : WindowLevel::normal) << window.title;
-    }
 }
 
-TEST_F(SettingsOnGNUstep, IsRegularWhileAnUpdateIsShown) {
-    launch();
-    ASSERT_EQ(world_.activationPolicy(), ActivationPolicy::accessory);
-    world_.announceUpdate();
-    world_.runMainQueue();
-    EXPECT_EQ(world_.activationPolicy(), ActivationPolicy::regular);
-    const auto update = world_.showFrameworkWindow("NSWindow", "Software Update");
-    EXPECT_EQ(settings().level, WindowLevel::floating);
-    world_.finishUpdateSession();
-    world_.runMainQueue();
-    EXPECT_EQ(world_.activationPolicy(), ActivationPolicy::accessory);
-}
-
-TEST_F(SettingsOnGNUstep, DoesWithoutAnUpdaterWhenTheFrameworkIsMissing) {
-    world_.setUpdateFramework(UpdateFramework::missing);
+TEST_F(SettingsOnGNUstep, IsUsedFiveHundredTimesWithoutKeepingAnObject) {
     launchAndOpen();
-    EXPECT_THAT(logged("updater"),
-                ElementsAre(message(LoggedMessage::Level::error, "updater",
-                                    "Sparkle init failed: Sparkle.framework is not in the application's "
-                                    "Frameworks folder.")));
-    world_.clickButton("Check for Updates…");
-    world_.letTimePass(SecondsForTheUpdater);
-    EXPECT_THAT(world_.updateMessages(), IsEmpty());
-}
-
-TEST_F(SettingsOnGNUstep, LogsWhyTheFrameworkWasNotLoaded) {
-    refuseLoadingUpdateFramework("mapping process and mapped file have different Team IDs");
-    launch();
-    EXPECT_THAT(logged("updater"),
-                ElementsAre(message(LoggedMessage::Level::error, "updater",
-                                    "Sparkle init failed: mapping process and mapped file have different "
-                                    "Team IDs")));
-    EXPECT_THAT(world_.updateMessages(), IsEmpty());
-}
-
-TEST_F(SettingsOnGNUstep, LogsWhyTheUpdaterDidNotStart) {
-    world_.setUpdateFramework(UpdateFramework::refusing);
-    launchAndOpen();
-    EXPECT_THAT(logged("updater"), ElementsAre(message(LoggedMessage::Level::error, "updater",
-                                                       "Sparkle init failed: The updater failed to start.")));
-    world_.clickButton("Check for Updates…");
-    EXPECT_THAT(world_.updateMessages(), Not(Contains("-[SPUUpdater checkForUpdates]")));
+    const std::shared_ptr<UpdaterManager> updates = UpdaterManager::shared();
+    const auto useOnce = [&] {
+        const mac::Pool pool;
+        app_->openSettingsWindow();
+        world_.clickSwitch(0);
+        loginItem().refusal = "Operation not permitted";
+        world_.clickSwitch(0);
+        loginItem().refusal.reset();
+        app_->settingsWindowController()->model()->reportBug();
+        updates->startWindowObserver();
+        updates->raiseUpdaterWindows();
+        updates->stopWindowObserver();
+        world_.clickCloseButton();
+        world_.runMainQueue();
+        forgetEvents();
+    };
+    const auto use = [&](int times) {
+        for (int time = 0; time < times; ++time) {
+            useOnce();
+        }
+    };
+    // To the window, which stays. What was kept for later goes meanwhile.
+    const auto references = [this] {
+        const mac::Pool pool;
+        app_->openSettingsWindow();
+        world_.letTimePass(0.5);
+        return send<mac::Unsigned>(visibleWindows().at(0), "retainCount");
+    };
+    countAllocations();
+    use(20);
+    const mac::Unsigned referencesBefore = references();
+    const AllocatedObjects before = allocatedObjects();
+    use(500);
+    EXPECT_EQ(references(), referencesBefore);
+    // GNUstep never lets go of an observation.
+    EXPECT_THAT(growth(before, allocatedObjects()), ElementsAre("GSNotificationObserver: 500 more"));
 }
 
 } // namespace

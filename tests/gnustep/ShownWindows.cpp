@@ -11,6 +11,8 @@
 
 // NOLINTNEXTLINE(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)
 extern "C" id NSApp;
+// NOLINTNEXTLINE(readability-identifier-naming)
+extern "C" const id NSDefaultRunLoopMode;
 
 namespace kestrune::gnustep {
 
@@ -56,7 +58,9 @@ std::vector<id> visibleWindows() {
     std::vector<id> windows;
     for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
         const id window = mac::ns_array::objectAtIndex(list, index);
-        if (send<BOOL>(window, "isVisible") != 0 && !isKindOf(window, "NSPanel")) {
+        // A miniaturized window has another one in its place, which is its tile.
+        const bool isOrdinary = !isKindOf(window, "NSPanel") && !isKindOf(window, "NSMiniWindow");
+        if (send<BOOL>(window, "isVisible") != 0 && isOrdinary) {
             windows.push_back(window);
         }
     }
@@ -124,6 +128,14 @@ void pressKeyInWindow(std::string_view character, EventModifierFlags modifiers) 
                           send<mac::Integer>(window, "windowNumber"), id{}, characters, characters,
                           mac::truth(false), static_cast<unsigned short>(0));
     send<void>(NSApp, "sendEvent:", event);
+}
+
+void forgetEvents() {
+    constexpr auto AnyEvent = ~mac::Unsigned{0};
+    const id past = send(classObject("NSDate"), "distantPast");
+    while (send(NSApp, "nextEventMatchingMask:untilDate:inMode:dequeue:", AnyEvent, past,
+                NSDefaultRunLoopMode, mac::truth(true)) != nullptr) {
+    }
 }
 
 } // namespace kestrune::gnustep

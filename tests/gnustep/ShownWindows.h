@@ -29,4 +29,7 @@ void click(id view);
 // An event of the keyboard, for the key window.
 void pressKeyInWindow(std::string_view character, EventModifierFlags modifiers);
 
+// What the X server tells of windows, and what nobody took of a user's presses.
+void forgetEvents();
+
 } // namespace kestrune::gnustep

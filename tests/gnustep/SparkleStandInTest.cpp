@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 namespace kestrune::gnustep {
 namespace {
 
@@ -19,6 +21,9 @@ void finishSession(id, SEL) {}
 void handleShowingUpdate(id, SEL, mac::Integer, id, id) {}
 
 BOOL supportsReminders(id, SEL) { return mac::truth(false); }
+
+void showAlert(id, SEL) {}
+void handleShowingAnUpdate(id, SEL, BOOL, id, id) {}
 
 // An instance of a class with these methods of the user driver's delegate.
 id delegateWith(const std::function<void(Class)>& addMethods) {
@@ -40,6 +45,13 @@ protected:
 
     static void makeUserDriver(id hostBundle, id delegate) {
         send(send(classObject("SPUStandardUserDriver"), "alloc"), "initWithHostBundle:delegate:", hostBundle,
+             delegate);
+    }
+
+    // Without a user driver.
+    static void makeUpdater(id delegate) {
+        send(send(classObject("SPUUpdater"), "alloc"),
+             "initWithHostBundle:applicationBundle:userDriver:delegate:", mainBundle(), mainBundle(), id{},
              delegate);
     }
 
@@ -67,11 +79,41 @@ TEST_F(SparkleStandInDeathTest, RefusesADelegateWithAMethodOfAnotherSignature) {
                  "standardUserDriverWillHandleShowingUpdate:forUpdate:state: is v@:q@@, not");
 }
 
+TEST_F(SparkleStandInDeathTest, RefusesADelegateThatDoesNotAdoptItsProtocol) {
+    const auto addMethods = [](Class type) {
+        addMethod(type, "supportsGentleScheduledUpdateReminders", supportsReminders);
+        addMethod(type, "standardUserDriverWillHandleShowingUpdate:forUpdate:state:", handleShowingAnUpdate);
+        addMethod(type, "standardUserDriverWillFinishUpdateSession", finishSession);
+        addMethod(type, "standardUserDriverWillShowModalAlert", showAlert);
+        addMethod(type, "standardUserDriverDidShowModalAlert", showAlert);
+    };
+    const id delegate = delegateWith(addMethods);
+    class_addProtocol(object_getClass(delegate), objc_getProtocol("SPUUpdaterDelegate"));
+    EXPECT_DEATH(makeUserDriver(mainBundle(), delegate),
+                 "the delegate does not adopt SPUStandardUserDriverDelegate");
+}
+
+TEST_F(SparkleStandInDeathTest, RefusesAnUpdatersDelegateThatDoesNotAdoptItsProtocol) {
+    const id delegate = delegateWith([](Class) {});
+    class_addProtocol(object_getClass(delegate), objc_getProtocol("SPUStandardUserDriverDelegate"));
+    EXPECT_DEATH(makeUpdater(delegate), "the delegate does not adopt SPUUpdaterDelegate");
+}
+
 TEST_F(SparkleStandInDeathTest, RefusesAnUpdaterWithoutItsDriver) {
-    EXPECT_DEATH(send(send(classObject("SPUUpdater"), "alloc"),
-                      "initWithHostBundle:applicationBundle:userDriver:delegate:", mainBundle(), mainBundle(),
-                      id{}, id{}),
-                 "the user driver is not the one that was made");
+    EXPECT_DEATH(makeUpdater(nullptr), "the user driver is not the one that was made");
+}
+
+TEST_F(SparkleStandInDeathTest, RefusesAnotherThread) {
+    const auto makeElsewhere = [] {
+        std::thread elsewhere([] { makeUserDriver(mainBundle(), nullptr); });
+        elsewhere.join();
+    };
+    EXPECT_DEATH(makeElsewhere(), "it comes from another thread than the main one");
+}
+
+TEST_F(SparkleStandInDeathTest, IsLookedForInTheMainBundleAlone) {
+    EXPECT_DEATH(send(classObject("NSBundle"), "bundleWithPath:", objectFor("/Sparkle.framework")),
+                 "it is looked for at /Sparkle.framework");
 }
 
 } // namespace

@@ -31,7 +31,8 @@ void tellUserDriverDelegate(const char* selector) {
 
 } // namespace
 
-std::shared_ptr<void> World::showFrameworkWindow(std::string_view className, std::string_view title) {
+std::shared_ptr<void> World::showFrameworkWindow(std::string_view className, std::string_view title,
+                                                 bool hidesOnDeactivate) {
     const mac::Pool pool;
     constexpr Rect Content(0, 0, 300, 120);
     const id window = mac::ns_window::initWithContentRect(
@@ -39,6 +40,7 @@ std::shared_ptr<void> World::showFrameworkWindow(std::string_view className, std
         static_cast<mac::Unsigned>(WindowStyleMask::titled),
         static_cast<mac::Unsigned>(BackingStoreType::buffered), mac::truth(false));
     mac::ns_window::setReleasedWhenClosed(window, mac::truth(false));
+    mac::ns_window::setHidesOnDeactivate(window, mac::truth(hidesOnDeactivate));
     mac::ns_window::setTitle(window, objectFor(std::string(title)));
     mac::ns_window::makeKeyAndOrderFront(window, nullptr);
     return {static_cast<void*>(window), [window](void*) {
@@ -57,6 +59,8 @@ void World::requireApprovalOfLoginItem() { gnustep::loginItem().requiresApproval
 void World::refuseLoginItemChanges(std::string description) {
     gnustep::loginItem().refusal = std::move(description);
 }
+
+std::vector<std::string> World::loginItemMessages() const { return gnustep::loginItem().messages; }
 
 OperatingSystemVersion World::operatingSystemVersion() const { return SystemVersion; }
 

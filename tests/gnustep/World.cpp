@@ -143,6 +143,7 @@ World::World(const BundleFiles& bundle) : state_(new State) {
     resetActivationPolicy();
     gnustep::loggedMessages().clear();
     gnustep::openedURLs().clear();
+    refuseOpeningURLs(false);
     removeRunLoopSources();
     setUUIDStringsFail(false);
     connectDisplays({connectedDisplay(1, {0, 0, 1512, 982})});
@@ -313,6 +314,11 @@ void World::clickCloseButton(std::size_t window) {
     send<void>(visibleWindows().at(window), "performClose:", id{});
 }
 
+void World::clickMinimizeButton(std::size_t window) {
+    const mac::Pool pool;
+    send<void>(visibleWindows().at(window), "performMiniaturize:", id{});
+}
+
 void World::clickButton(std::string_view title, std::size_t window) {
     const mac::Pool pool;
     send<void>(buttonNamed(visibleWindows().at(window), title), "performClick:", id{});
@@ -332,5 +338,7 @@ void World::constructFromWindow(std::string_view className) {
 }
 
 std::vector<std::string> World::openedURLs() const { return gnustep::openedURLs(); }
+
+void World::letNobodyOpenURLs() { refuseOpeningURLs(true); }
 
 } // namespace kestrune::contract

@@ -1,16 +1,54 @@
 // Holds the binding's vocabulary against the platform that this process runs on. Ends with a message that
 // names every difference, or prints how much there was to check.
+//
+// What belongs to a framework that is not loaded is left out, and named. With the path of a framework as an
+// argument that one is loaded first, and then nothing may be left out.
 #include "mac/objc/SelfCheck.h"
 
+#include "mac/ReportedError.h"
 #include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
+#include "mac/objc/Text.h"
 
 #include <cstdio>
+#include <cstdlib>
 
-int main() {
-    const kestrune::mac::Pool pool;
-    kestrune::mac::requireVocabulary();
-    const auto result = kestrune::mac::checkVocabulary();
+namespace {
+
+using namespace kestrune;
+
+bool loadFramework(const char* path) {
+    const id framework =
+        mac::ns_bundle::bundleWithPath(mac::ns_bundle::type.object(), mac::nsString(path).get());
+    if (framework == nullptr) {
+        std::fprintf(stderr, "There is no framework at %s.\n", path);
+        return false;
+    }
+    id error = nullptr;
+    const BOOL isLoaded = mac::ns_bundle::loadAndReturnError(framework, &error);
+    if (const auto failure = mac::errorUnless(isLoaded, error)) {
+        std::fprintf(stderr, "%s is not loaded: %s\n", path, failure->localizedDescription.c_str());
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const mac::Pool pool;
+    const bool shouldBeComplete = argc > 1;
+    if (shouldBeComplete && !loadFramework(argv[1])) {
+        return EXIT_FAILURE;
+    }
+    const auto result = mac::checkVocabulary();
+    for (const std::string& name : result.classesNotLoaded) {
+        std::fprintf(stderr, "The class %s is not loaded; it is left out.\n", name.c_str());
+    }
+    if (shouldBeComplete && !result.classesNotLoaded.empty()) {
+        return EXIT_FAILURE;
+    }
+    mac::requireVocabulary();
     std::printf("%zu classes and %zu messages are as the binding expects them\n", result.classes,
                 result.messages);
 }

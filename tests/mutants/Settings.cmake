@@ -149,6 +149,9 @@ kestrune_mutant(OnlyOnePartOfAClassCounts ${UPDATER}
 kestrune_mutant(WindowsAreRaisedByTheirTitle ${UPDATER}
     FROM "        if (isOfUpdatersClass(window)) {"
     TO "        if (isOfUpdatersClass(window) || hasUpdatersTitle(window)) {")
+kestrune_mutant(UpdatersWindowsHide ${UPDATER}
+    FROM "    window.setHidesOnDeactivate(false);
+" TO "")
 kestrune_mutant(RaisingDoesNotActivate ${UPDATER}
     FROM "        }
     }

@@ -10,7 +10,7 @@ namespace kestrune::simulate {
 
 struct LoginItemModel {
     AppServiceStatus status = AppServiceStatus::notRegistered;
-    bool requiresApproval = false;
+    bool requiresApproval = false; // of whoever registers anew
     std::optional<std::string> refusal = std::nullopt;
 
     bool isEnabled() const { return status == AppServiceStatus::enabled; }

@@ -85,6 +85,7 @@ struct DesktopModel {
     bool isPaneShown = false;
     std::vector<std::string> openedURLs;
     bool refusesActivation = false;
+    bool opensURLs = true;
 };
 
 class ShellModel {
@@ -119,6 +120,7 @@ public:
     void denyInDialog();
     void closePane();
     void refuseActivation(bool refuse) { desktop_.refusesActivation = refuse; }
+    void refuseOpeningURLs(bool refuse) { desktop_.opensURLs = !refuse; }
 
     // Login items and updates.
     void changeLoginItem(const LoginItemModel& item) { loginItem_ = item; }
@@ -219,6 +221,7 @@ private:
     void finishWelcome();
     void tickOfWizard();
     void showPane();
+    bool open(const std::string& address);
 
     // Settings.
     void openSettingsWindow();

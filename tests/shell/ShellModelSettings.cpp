@@ -61,11 +61,14 @@ void ShellModel::toggleLoginItem(bool isOn) {
     } else if (!isOn) {
         counts_.add(Happening::loginItemsUnregistered);
         loginItem_.status = AppServiceStatus::notRegistered;
+    } else if (loginItem_.status == AppServiceStatus::requiresApproval) {
+        counts_.add(Happening::loginItemsStillWaiting);
+    } else if (loginItem_.requiresApproval) {
+        counts_.add(Happening::loginItemsWithoutApproval);
+        loginItem_.status = AppServiceStatus::requiresApproval;
     } else {
-        counts_.add(loginItem_.requiresApproval ? Happening::loginItemsWithoutApproval
-                                                : Happening::loginItemsRegistered);
-        loginItem_.status =
-            loginItem_.requiresApproval ? AppServiceStatus::requiresApproval : AppServiceStatus::enabled;
+        counts_.add(Happening::loginItemsRegistered);
+        loginItem_.status = AppServiceStatus::enabled;
     }
 }
 
@@ -83,7 +86,7 @@ bool ShellModel::flipSwitch(std::size_t place) {
 void ShellModel::pressInSettings(const std::string& title) {
     if (title == translated(translations_, "Report a Bug\xE2\x80\xA6")) {
         counts_.add(Happening::bugsReported);
-        desktop_.openedURLs.push_back(bugReportLink(bundle_, translations_, supportAddress_));
+        open(bugReportLink(bundle_, translations_, supportAddress_));
     } else {
         checkForUpdates();
     }

@@ -98,8 +98,9 @@ void ShellModel::endUpdateSession() {
     if (updates.savedIsRegular) {
         counts_.add(*updates.savedIsRegular == process_->isRegular ? Happening::policiesKept
                                                                    : Happening::policiesRestored);
-        if (!*updates.savedIsRegular && !process_->windows.shown().empty()) {
-            counts_.add(Happening::accessoriesWithWindows);
+        const bool hasWindows = !process_->windows.shown().empty();
+        if (*updates.savedIsRegular != hasWindows) {
+            counts_.add(hasWindows ? Happening::accessoriesWithWindows : Happening::regularWithoutWindows);
         }
         process_->isRegular = *updates.savedIsRegular;
         updates.savedIsRegular.reset();
@@ -110,7 +111,11 @@ void ShellModel::raiseUpdatersWindows() {
     for (const WindowsModel::Window& window : process_->windows.all()) {
         if (isOfUpdatersClass(*window)) {
             counts_.add(Happening::windowsRaised);
+            if (window->hides) {
+                counts_.add(Happening::windowsKeptFromHiding);
+            }
             window->isFloating = true;
+            window->hides = false;
         }
     }
     activate();
@@ -118,7 +123,9 @@ void ShellModel::raiseUpdatersWindows() {
 
 void ShellModel::showOfUpdater(std::string title, std::string className, bool asKey) {
     WindowsModel& windows = process_->windows;
-    process_->updates.window = windows.add({WindowKind::updates, std::move(title), std::move(className)});
+    const bool hides = updatesWorld_.windowsHide && className == updatesWorld_.windowClass;
+    process_->updates.window =
+        windows.add({WindowKind::updates, std::move(title), std::move(className), false, hides});
     if (asKey) {
         windows.makeKeyAndOrderFront(process_->updates.window);
     } else {

@@ -45,6 +45,7 @@ void ShellModel::becameKey(WindowModel& window) {
         counts_.add(window.kind == WindowKind::updates ? Happening::updatersWindowsFloated
                                                        : Happening::otherWindowsFloated);
         window.isFloating = true;
+        window.hides = false;
     }
 }
 

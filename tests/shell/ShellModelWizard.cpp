@@ -81,11 +81,22 @@ void ShellModel::pressInWizard(const std::string& title) {
         wizard.page.hasRequested = true;
         askUser();
     } else if (title == "Open System Settings") {
-        desktop_.openedURLs.emplace_back(PrivacyPane);
-        showPane();
+        if (open(PrivacyPane)) {
+            showPane();
+        }
     } else {
         finishWelcome();
     }
+}
+
+// Whether somebody opens it. Nobody here minds if not.
+bool ShellModel::open(const std::string& address) {
+    if (!desktop_.opensURLs) {
+        counts_.add(Happening::addressesOpenedByNobody);
+        return false;
+    }
+    desktop_.openedURLs.push_back(address);
+    return true;
 }
 
 // Whoever has the permission is not asked.

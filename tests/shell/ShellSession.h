@@ -56,6 +56,7 @@ public:
     void denyInDialog();
     void closePane();
     void refuseActivation(bool refuse);
+    void refuseOpeningURLs(bool refuse);
 
     // Everything around the application.
     void changeDisplays(const std::vector<sim::Display>& displays, bool announced);

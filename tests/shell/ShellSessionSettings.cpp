@@ -24,6 +24,7 @@ void ShellSession::changeUpdates(const UpdatesWorld& updates) {
     session_.updates().setFramework(updates.framework);
     session_.updates().setFeed(updates.feed);
     session_.updates().setWindowClass(updates.windowClass);
+    session_.updates().setWindowsHide(updates.windowsHide);
     model_.changeUpdates(updates);
     check();
 }

@@ -45,6 +45,11 @@ void ShellSession::refuseActivation(bool refuse) {
     model_.refuseActivation(refuse);
 }
 
+void ShellSession::refuseOpeningURLs(bool refuse) {
+    session_.refuseOpeningURLs(refuse);
+    model_.refuseOpeningURLs(refuse);
+}
+
 void ShellSession::checkDesktop() {
     const DesktopModel& desktop = model_.desktop();
     require(session_.accessibility().isDialogShown() == desktop.isDialogShown,

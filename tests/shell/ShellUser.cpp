@@ -93,6 +93,7 @@ const std::vector<ShellUser::Choice>& ShellUser::choices() {
         {2, &ShellUser::answerDialog},
         {1.5, &ShellUser::closePane},
         {0.5, &ShellUser::refuseActivation},
+        {0.5, &ShellUser::refuseOpeningURLs},
         {2, &ShellUser::plug},
         {1.7, &ShellUser::unplug},
         {0.3, &ShellUser::unplugAll},

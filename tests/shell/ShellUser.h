@@ -65,6 +65,7 @@ private:
     std::string answerDialog();
     std::string closePane();
     std::string refuseActivation();
+    std::string refuseOpeningURLs();
 
     // Login items and updates.
     std::string changeLoginItem();

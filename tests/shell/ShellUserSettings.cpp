@@ -72,10 +72,12 @@ std::string ShellUser::changeUpdates() {
     updates.feed = random_.chance(0.5) ? sim::UpdateFeed::newVersion : random_.pick(Feeds);
     updates.framework = framework();
     updates.windowClass = random_.pick(Classes);
+    updates.windowsHide = random_.chance(0.5);
     session_->changeUpdates(updates);
     return std::string("the feed ") +
            (updates.feed == sim::UpdateFeed::newVersion ? "has" : "does not have") +
-           " a new version, the updater's windows are of the class " + updates.windowClass;
+           " a new version, the updater's windows are of the class " + updates.windowClass +
+           (updates.windowsHide ? " and hide" : "");
 }
 
 std::string ShellUser::checkAsScheduled() {

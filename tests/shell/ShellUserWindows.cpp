@@ -78,4 +78,10 @@ std::string ShellUser::refuseActivation() {
     return refuse ? "the system refuses activation" : "the system allows activation";
 }
 
+std::string ShellUser::refuseOpeningURLs() {
+    const bool refuse = random_.chance(0.3);
+    session_->refuseOpeningURLs(refuse);
+    return refuse ? "nobody opens addresses" : "addresses are opened";
+}
+
 } // namespace kestrune::simulate

@@ -37,6 +37,7 @@ struct UpdatesWorld {
     sim::UpdateFramework framework = sim::UpdateFramework::working;
     sim::UpdateFeed feed = sim::UpdateFeed::nothingNew;
     std::string windowClass = "NSWindow";
+    bool windowsHide = false;
 };
 
 // Whether a window is taken for the updater's by its class alone, or by its title too.

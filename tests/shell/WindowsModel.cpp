@@ -6,6 +6,7 @@ namespace kestrune::simulate {
 
 std::vector<WindowsModel::Window> WindowsModel::shown() const {
     std::vector<Window> result = ordered_;
+    std::erase_if(result, [this](const Window& window) { return window->hides && !isActive_; });
     std::stable_partition(result.begin(), result.end(),
                           [](const Window& window) { return window->isFloating; });
     return result;

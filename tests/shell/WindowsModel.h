@@ -16,6 +16,7 @@ struct WindowModel {
     std::string title;
     std::string className = "NSWindow";
     bool isFloating = false;
+    bool hides = false; // while the application is not active
     bool isVisible = false;
 };
 

@@ -26,6 +26,28 @@ TEST(LoginItem, MayWaitForApproval) {
     EXPECT_EQ(item.status(), AppServiceStatus::enabled);
 }
 
+TEST(LoginItem, IsApprovedByTheUserAlone) {
+    LoginItem item;
+    item.setStatus(AppServiceStatus::requiresApproval);
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_EQ(item.status(), AppServiceStatus::requiresApproval);
+    item.setStatus(AppServiceStatus::enabled);
+    item.requireApproval(true);
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_EQ(item.status(), AppServiceStatus::enabled);
+}
+
+TEST(LoginItem, IsRegisteredAlsoWhenTheSystemDidNotKnowOfIt) {
+    LoginItem item;
+    item.setStatus(AppServiceStatus::notFound);
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_EQ(item.status(), AppServiceStatus::enabled);
+    item.setStatus(AppServiceStatus::notFound);
+    item.requireApproval(true);
+    EXPECT_FALSE(item.registerItem());
+    EXPECT_EQ(item.status(), AppServiceStatus::requiresApproval);
+}
+
 TEST(LoginItem, StaysAsItIsWhenTheSystemRefuses) {
     LoginItem item;
     item.refuse("No");

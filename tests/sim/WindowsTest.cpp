@@ -81,6 +81,53 @@ TEST_F(WindowsTest, AreNotClosedByAUserWithoutAButtonForIt) {
     EXPECT_THAT(session.windows().shown(), SizeIs(1));
 }
 
+TEST_F(WindowsTest, GoIntoTheDockAndComeBackWithAClickOnTheirTile) {
+    Window small(Rect(0, 0, 300, 100), WindowStyleMask::miniaturizable, BackingStoreType::buffered, false);
+    show();
+    small.makeKeyAndOrderFront();
+    session.windows().miniaturizeByUser(small.state());
+    EXPECT_THAT(session.windows().shown(), ElementsAre(window.state()));
+    EXPECT_THAT(session.windows().miniaturized(), ElementsAre(small.state()));
+    EXPECT_EQ(session.windows().keyWindow(), window.state());
+    session.windows().setActive(false);
+    session.windows().click(small.state());
+    EXPECT_THAT(session.windows().shown(), ElementsAre(small.state(), window.state()));
+    EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
+    EXPECT_EQ(session.windows().keyWindow(), small.state());
+}
+
+TEST_F(WindowsTest, TellTheNextKeyWindowWhenOneGoesIntoTheDock) {
+    const auto delegate = std::make_shared<RecordingWindowDelegate>();
+    show();
+    Window small(Rect(0, 0, 300, 100), WindowStyleMask::miniaturizable, BackingStoreType::buffered, false);
+    small.makeKeyAndOrderFront();
+    window.setDelegate(delegate);
+    session.windows().miniaturizeByUser(small.state());
+    EXPECT_THAT(delegate->received(), ElementsAre("windowDidBecomeKey:"));
+}
+
+TEST_F(WindowsTest, AreNotMiniaturizedWithoutAButtonForItNorFromOffTheScreen) {
+    show();
+    session.windows().miniaturizeByUser(window.state());
+    Window hidden(Rect(0, 0, 300, 100), WindowStyleMask::miniaturizable, BackingStoreType::buffered, false);
+    session.windows().miniaturizeByUser(hidden.state());
+    EXPECT_THAT(session.windows().shown(), SizeIs(1));
+    EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
+}
+
+TEST_F(WindowsTest, LeaveTheDockWhenTheyAreOrderedOutAndWithTheirProcess) {
+    Window small(Rect(0, 0, 300, 100), WindowStyleMask::miniaturizable, BackingStoreType::buffered, false);
+    small.makeKeyAndOrderFront();
+    session.windows().miniaturizeByUser(small.state());
+    small.orderOut();
+    EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
+    small.makeKeyAndOrderFront();
+    session.windows().miniaturizeByUser(small.state());
+    session.endApplication();
+    EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
+    EXPECT_FALSE(small.state()->isMiniaturized);
+}
+
 TEST_F(WindowsTest, AreNotClosedTwice) {
     const auto delegate = std::make_shared<RecordingWindowDelegate>();
     window.setReleasedWhenClosed(false);

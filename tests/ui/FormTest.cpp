@@ -24,7 +24,7 @@ TEST_F(AGroupedForm, HasABoxWithAMarginAroundEachSection) {
               "scene 440x76\n"
               "  shape 20,20 400x36 radius 10 continuous sectionBorder\n"
               "  shape 21,21 398x34 radius 9 continuous sectionFill\n"
-              "  text 30,30 42x16 \"Launch\" body\n"
+              "  text 30,30 42x16 \"Launch\" body accessibilityHidden\n"
               "  toggle 378,29 32x18 \"Launch\" on small switch 0\n");
 }
 
@@ -60,7 +60,7 @@ TEST_F(AGroupedForm, IsAsWideAsItsWidestRowWhenNothingIsOffered) {
               "  shape 21,77 118x71 radius 9 continuous sectionFill\n"
               "  text 30,86 7x16 \"a\" body\n"
               "  shape 30,112 100x1 separator\n"
-              "  text 30,123 42x16 \"Launch\" body\n"
+              "  text 30,123 42x16 \"Launch\" body accessibilityHidden\n"
               "  toggle 98,122 32x18 \"Launch\" on small switch 0\n");
 }
 
@@ -85,7 +85,7 @@ TEST_F(APlainForm, StandsItsRowsUnderOneAnother) {
                            {.width = 440}),
               "scene 88x88\n"
               "  text 0,0 7x16 \"a\" body\n"
-              "  text 0,27 42x16 \"Launch\" body\n"
+              "  text 0,27 42x16 \"Launch\" body accessibilityHidden\n"
               "  toggle 50,24 38x22 \"Launch\" on switch 0\n"
               "  button 0,66 49x22 \"One\" bordered action 0\n");
 }

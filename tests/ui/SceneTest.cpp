@@ -54,6 +54,7 @@ TEST(Scene, DiffersByEverythingOfAText) {
         [](TextElement& text) { text.text.font.style = TextStyle::callout; },
         [](TextElement& text) { text.text.color = Color::secondary; },
         [](TextElement& text) { text.text.alignment = TextAlignment::trailing; },
+        [](TextElement& text) { text.isAccessibilityHidden = true; },
     });
 }
 

@@ -41,6 +41,12 @@ TEST(SceneText, HasALineForAText) {
               "text 1,2 3x4 \"a\" body bold green center\n");
 }
 
+TEST(SceneText, SaysThatATextIsPassedOver) {
+    TextElement hidden = text({{{"a", FontWeight::regular}}, {}});
+    hidden.isAccessibilityHidden = true;
+    EXPECT_EQ(lineOf(hidden), "text 1,2 3x4 \"a\" body accessibilityHidden\n");
+}
+
 TEST(SceneText, NamesTheWeightOfAPartOfAText) {
     EXPECT_EQ(lineOf(text({{{"a ", FontWeight::regular}, {"b", FontWeight::bold}}, {}})),
               "text 1,2 3x4 \"a \" bold:\"b\" body\n");

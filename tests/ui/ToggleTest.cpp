@@ -21,7 +21,7 @@ View toggle(bool isOn = false) {
 
 TEST_F(AToggle, IsALabelAndASwitchBesideIt) {
     EXPECT_EQ(describeView(toggle(), {.width = 400}), "scene 88x22\n"
-                                                      "  text 0,3 42x16 \"Launch\" body\n"
+                                                      "  text 0,3 42x16 \"Launch\" body accessibilityHidden\n"
                                                       "  toggle 50,0 38x22 \"Launch\" off switch 0\n");
 }
 
@@ -39,7 +39,7 @@ TEST_F(AToggle, IsAsLargeAsItsControlSizeSays) {
 TEST_F(AToggle, WrapsItsLabelBesideTheSwitch) {
     EXPECT_EQ(describeView(Toggle("The Dock stays", true, [](bool) {}), {.width = 106}),
               "scene 106x32\n"
-              "  text 0,0 60x32 \"The Dock stays\" body\n"
+              "  text 0,0 60x32 \"The Dock stays\" body accessibilityHidden\n"
               "  toggle 68,5 38x22 \"The Dock stays\" on switch 0\n");
 }
 

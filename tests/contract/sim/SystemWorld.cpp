@@ -23,6 +23,16 @@ sim::UpdateFramework simulated(UpdateFramework framework) {
     return sim::UpdateFramework::working;
 }
 
+std::vector<std::string> journalLines(std::string_view beginning) {
+    std::vector<std::string> lines;
+    for (const std::string& line : sim::Session::current().journal().lines()) {
+        if (line.starts_with(beginning)) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
 void tell(void (StandardUserDriverDelegate::*method)()) {
     if (const auto delegate = sim::Session::current().updates().delegate()) {
         (delegate.get()->*method)();
@@ -31,13 +41,15 @@ void tell(void (StandardUserDriverDelegate::*method)()) {
 
 } // namespace
 
-std::shared_ptr<void> World::showFrameworkWindow(std::string_view className, std::string_view title) {
+std::shared_ptr<void> World::showFrameworkWindow(std::string_view className, std::string_view title,
+                                                 bool hidesOnDeactivate) {
     sim::Windows& windows = sim::Session::current().windows();
     auto window = std::make_shared<Window::State>();
     window->className = className;
     window->title = title;
     window->styleMask = WindowStyleMask::titled;
     window->isReleasedWhenClosed = false;
+    window->hidesOnDeactivate = hidesOnDeactivate;
     windows.add(window);
     windows.makeKeyAndOrderFront(window);
     return {window.get(), [window, &windows](void*) { windows.orderOut(window); }};
@@ -50,6 +62,8 @@ void World::setLoginItem(AppServiceStatus status) { item().setStatus(status); }
 void World::requireApprovalOfLoginItem() { item().requireApproval(true); }
 
 void World::refuseLoginItemChanges(std::string description) { item().refuse(std::move(description)); }
+
+std::vector<std::string> World::loginItemMessages() const { return journalLines("-[SMAppService "); }
 
 OperatingSystemVersion World::operatingSystemVersion() const {
     return sim::Session::current().surroundings().operatingSystemVersion;
@@ -65,14 +79,8 @@ void World::setUpdateFramework(UpdateFramework framework) {
 
 // The journal has what the seam was asked for, also when there is nobody to ask.
 std::vector<std::string> World::updateMessages() const {
-    sim::Session& session = sim::Session::current();
-    std::vector<std::string> messages;
-    for (const std::string& line : session.journal().lines()) {
-        if (line.starts_with("-[SPU") && session.updates().framework() != sim::UpdateFramework::missing) {
-            messages.push_back(line);
-        }
-    }
-    return messages;
+    const bool isThere = sim::Session::current().updates().framework() != sim::UpdateFramework::missing;
+    return isThere ? journalLines("-[SPU") : std::vector<std::string>();
 }
 
 std::optional<bool> World::asksForGentleReminders() const {

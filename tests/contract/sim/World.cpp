@@ -259,6 +259,11 @@ void World::clickCloseButton(std::size_t window) {
     windows.closeByUser(windows.shown().at(window));
 }
 
+void World::clickMinimizeButton(std::size_t window) {
+    sim::Windows& windows = state_->session.windows();
+    windows.miniaturizeByUser(windows.shown().at(window));
+}
+
 void World::clickButton(std::string_view title, std::size_t window) {
     sim::Windows& windows = state_->session.windows();
     const auto clicked = windows.shown().at(window);
@@ -284,5 +289,7 @@ void World::constructFromWindow(std::string_view className) {
 }
 
 std::vector<std::string> World::openedURLs() const { return state_->session.openedURLs(); }
+
+void World::letNobodyOpenURLs() { state_->session.refuseOpeningURLs(true); }
 
 } // namespace kestrune::contract

@@ -25,6 +25,7 @@ TEST(DeskKeys, DoWhatTheLegendSays) {
     EXPECT_EQ(newsAfter('u').substr(0, 30), "Built-in Display was unplugged");
     EXPECT_EQ(newsAfter('a').substr(0, 23), "The system does not ask");
     EXPECT_EQ(newsAfter('i'), "System Settings shows the login items");
+    EXPECT_EQ(newsAfter('w'), "From now on a new login item waits for the user's approval");
     EXPECT_EQ(newsAfter('f'), "The update feed has a new version");
     EXPECT_EQ(newsAfter('c'), "The updater checks the feed by itself and finds nothing to show");
     EXPECT_EQ(newsAfter('l'), "Kestrune has quit: the Dock goes wherever the pointer pushes it");
@@ -65,7 +66,7 @@ TEST(DeskKeys, AreAllInTheLegend) {
         EXPECT_FALSE(hint.action.empty());
         keys += hint.key + " ";
     }
-    EXPECT_EQ(keys, "1–9 G M U P A I F C T + − L D S H Q ");
+    EXPECT_EQ(keys, "1–9 G M U P A I W F C T + − L D S H Q ");
 }
 
 } // namespace

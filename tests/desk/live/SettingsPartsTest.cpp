@@ -1,8 +1,6 @@
 // A user with mouse and keyboard at the Settings window, and at what it leads to.
 
-#include "desk/live/LivePicture.h"
-#include "desk/live/TourHand.h"
-#include "desk/live/WindowParts.h"
+#include "tests/desk/live/SettingsOnTheDesk.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,7 +8,6 @@
 #include <chrono>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -20,84 +17,6 @@ namespace {
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::StartsWith;
-
-constexpr const char* SettingsTitle = "Kestrune Settings";
-
-class SettingsOnTheDesk : public testing::Test {
-protected:
-    SettingsOnTheDesk() {
-        // The menu that opens first is the one that was built before the setup was known to be complete.
-        desk.openStatusMenu();
-        desk.navigate(NavigationKey::escape);
-    }
-
-    static LiveDeskSetup setup() { return std::get<LiveDeskSetup>(setupOf({})); }
-
-    void open() {
-        hand.openMenu(1);
-        hand.clickRow("Settings…");
-        desk.advance(1s);
-    }
-
-    DeskPicture picture() { return pictureOf(desk); }
-
-    std::vector<std::string> windowTitles() {
-        std::vector<std::string> titles;
-        for (const WindowPicture& window : picture().windows) {
-            titles.push_back(window.title);
-        }
-        return titles;
-    }
-
-    // The frontmost one of that title.
-    WindowPicture window(const std::string& title = SettingsTitle) {
-        for (const WindowPicture& candidate : picture().windows) {
-            if (candidate.title == title) {
-                return candidate;
-            }
-        }
-        ADD_FAILURE() << "no window " << title;
-        return {};
-    }
-
-    WindowControlTarget control(std::string_view title, const std::string& windowTitle = SettingsTitle) {
-        const WindowPicture shown = window(windowTitle);
-        for (std::size_t element = 0; element < shown.scene.elements.size(); ++element) {
-            if (titleOfControl(shown.scene.elements[element]) == title) {
-                return {shown.number, element};
-            }
-        }
-        ADD_FAILURE() << "no control " << title;
-        return {};
-    }
-
-    WindowControlTarget toggle() { return control("Launch at login"); }
-
-    bool isSwitchOn() {
-        return std::get<ui::ToggleElement>(window().scene.elements.at(toggle().element)).isOn;
-    }
-
-    AppServiceStatus loginItem() { return desk.session().loginItem().status(); }
-
-    std::optional<std::string> focusedTitle() {
-        const WindowPicture shown = window();
-        return shown.focusedElement ? titleOfControl(shown.scene.elements.at(*shown.focusedElement))
-                                    : std::nullopt;
-    }
-
-    // Presses the switch, and moves the hand by that much before it lets go.
-    void dragSwitch(double distance) {
-        hand.pointAt(toggle());
-        desk.pressButton(toggle());
-        desk.placeHand({hand.place().x + distance, hand.place().y});
-        desk.hover(std::nullopt);
-        desk.releaseButton(std::nullopt);
-    }
-
-    LiveDesk desk{setup()};
-    TourHand hand{desk};
-};
 
 TEST_F(SettingsOnTheDesk, OpenFromTheStatusMenuWithTheMouse) {
     open();
@@ -229,6 +148,37 @@ TEST_F(SettingsOnTheDesk, GoThroughTheControlsWithTabAndPressThemWithSpace) {
     EXPECT_TRUE(picture().mail);
 }
 
+TEST_F(SettingsOnTheDesk, GoIntoTheDockAndComeBackFromItsTile) {
+    open();
+    const std::size_t number = window().number;
+    hand.pointAt(WindowMinimizeTarget{number});
+    EXPECT_TRUE(window().isMinimizeButtonHovered);
+    desk.pressButton(WindowMinimizeTarget{number});
+    EXPECT_TRUE(window().isMinimizeButtonPressed);
+    desk.releaseButton(WindowMinimizeTarget{number});
+    EXPECT_TRUE(picture().windows.empty());
+    ASSERT_EQ(picture().miniaturized.size(), 1U);
+    EXPECT_EQ(picture().miniaturized[0].title, SettingsTitle);
+    EXPECT_FALSE(picture().mainMenuTitles.empty()) << "the application stays in front";
+    EXPECT_EQ(desk.news().text, "Kestrune's window “Kestrune Settings” is in the Dock");
+    hand.click(DockTileTarget{number});
+    EXPECT_FALSE(hand.missing()) << *hand.missing();
+    EXPECT_TRUE(window().isKey);
+    EXPECT_TRUE(picture().miniaturized.empty());
+    EXPECT_EQ(desk.news().text, "Kestrune's window “Kestrune Settings” is back from the Dock");
+}
+
+TEST_F(SettingsOnTheDesk, ComeBackFromTheDockThroughTheMenu) {
+    open();
+    hand.click(WindowMinimizeTarget{window().number});
+    open();
+    EXPECT_TRUE(window().isKey);
+    EXPECT_TRUE(picture().miniaturized.empty());
+    hand.click(WindowMinimizeTarget{window().number});
+    desk.quitOrLaunch();
+    EXPECT_TRUE(picture().miniaturized.empty());
+}
+
 TEST_F(SettingsOnTheDesk, CloseAndGiveTheMainMenuAway) {
     open();
     hand.click(WindowCloseTarget{window().number});
@@ -275,53 +225,6 @@ TEST_F(SettingsOnTheDesk, LeaveTheMailOpenBehindTheWindowThatIsClicked) {
     EXPECT_TRUE(window().isKey);
     EXPECT_EQ(window().depth, WindowDepth::beforePane);
     EXPECT_TRUE(picture().mail);
-}
-
-TEST_F(SettingsOnTheDesk, ShowLaunchAtLoginAmongTheLoginItems) {
-    desk.openLoginItems();
-    ASSERT_TRUE(picture().settingsPane);
-    EXPECT_EQ(picture().settingsPane->title, "Login Items");
-    EXPECT_TRUE(picture().settingsPane->rows.empty());
-    open();
-    hand.click(toggle());
-    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
-    EXPECT_EQ(picture().settingsPane->rows[0].name, "Kestrune");
-    EXPECT_TRUE(picture().settingsPane->rows[0].isOn);
-    hand.click(toggle());
-    EXPECT_TRUE(picture().settingsPane->rows.empty());
-}
-
-TEST_F(SettingsOnTheDesk, RevokeAndAllowTheLoginItem) {
-    desk.session().loginItem().setStatus(AppServiceStatus::enabled);
-    desk.openLoginItems();
-    hand.click(PaneSwitchTarget{0});
-    EXPECT_EQ(loginItem(), AppServiceStatus::requiresApproval);
-    EXPECT_EQ(desk.news().text, "Kestrune may not open at login until System Settings allows it");
-    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
-    EXPECT_FALSE(picture().settingsPane->rows[0].isOn);
-    open();
-    EXPECT_FALSE(isSwitchOn()) << "what waits for approval counts as off";
-    hand.click(PaneSwitchTarget{0});
-    EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
-    hand.click(PaneRowTarget{0});
-    EXPECT_TRUE(picture().settingsPane->rows[0].selected);
-    hand.click(PaneRemoveTarget{});
-    EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
-    EXPECT_TRUE(picture().settingsPane->rows.empty());
-    hand.click(PaneCloseTarget{});
-    EXPECT_FALSE(picture().settingsPane);
-    EXPECT_TRUE(window().isKey);
-}
-
-TEST_F(SettingsOnTheDesk, ShowOnePaneOfSystemSettingsAtATime) {
-    desk.session().accessibility().showPane();
-    desk.openLoginItems();
-    EXPECT_EQ(picture().settingsPane->title, "Login Items");
-    EXPECT_FALSE(desk.session().accessibility().isPaneShown());
-    desk.session().accessibility().showPane();
-    EXPECT_EQ(picture().settingsPane->title, "Accessibility");
-    hand.click(PaneCloseTarget{});
-    EXPECT_FALSE(picture().settingsPane);
 }
 
 } // namespace

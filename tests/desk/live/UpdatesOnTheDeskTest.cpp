@@ -99,7 +99,8 @@ TEST_F(UpdatesOnTheDesk, KeepClicksAwayFromOtherWindowsWhileAnAlertIsOpen) {
     EXPECT_TRUE(front().isKey);
     // From another application a click brings the alert forward.
     desk.session().windows().setActive(false);
-    hand.click(WindowTarget{settings().number});
+    desk.pressButton(WindowTarget{settings().number});
+    desk.releaseButton(WindowTarget{settings().number});
     EXPECT_TRUE(front().isKey);
     EXPECT_EQ(front().number, alert);
     hand.clickControl("OK");

@@ -79,6 +79,36 @@ TEST(ApplicationWindow, TellsItsPartsApart) {
     EXPECT_FALSE(hitTest.targetAt(picture, TestWindow, {frame.maxX() + 1, centerOf(frame).y}));
 }
 
+TEST(ApplicationWindow, IsATileInTheDockOnceItIsMinimized) {
+    DeskPicture picture = withWindow();
+    DeskHitTest hitTest;
+    picture.windows[0].isMiniaturizable = true;
+    const auto button = hitTest.areaOf(picture, TestWindow, WindowMinimizeTarget{7});
+    ASSERT_TRUE(button);
+    EXPECT_EQ(targetAt(picture, centerOf(*button)), DeskTarget{WindowMinimizeTarget{7}});
+    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, DockTileTarget{7}));
+
+    picture.windows.clear();
+    picture.dockDisplay = 0;
+    const PaintedPicture without{picture};
+    picture.miniaturized = {windowWithControls(), windowWithControls()};
+    picture.miniaturized[1].number = 8;
+    std::vector<Rect> tiles;
+    for (const std::size_t number : {7U, 8U}) {
+        const auto tile = hitTest.areaOf(picture, TestWindow, DockTileTarget{number});
+        ASSERT_TRUE(tile);
+        EXPECT_EQ(targetAt(picture, centerOf(*tile)), DeskTarget{DockTileTarget{number}});
+        tiles.push_back(*tile);
+    }
+    EXPECT_GT(tiles[1].minX(), tiles[0].maxX());
+    const auto changed = differenceOf(PaintedPicture{picture}, without);
+    ASSERT_TRUE(changed);
+    EXPECT_TRUE(encloses(*changed, tiles[1]));
+    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, DockTileTarget{9}));
+    picture.dockDisplay.reset();
+    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, DockTileTarget{7}));
+}
+
 TEST(ApplicationWindow, HasNoPlaceForPartsThatItDoesNotHave) {
     DeskPicture picture = withWindow();
     DeskHitTest hitTest;
@@ -90,6 +120,8 @@ TEST(ApplicationWindow, HasNoPlaceForPartsThatItDoesNotHave) {
     }
     picture.windows[0].isClosable = false;
     EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowCloseTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowMinimizeTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowMinimizeTarget{8}));
     EXPECT_EQ(targetAt(picture, centerOf(layoutOf(picture).closeButton)), DeskTarget{WindowTitleTarget{7}});
 }
 
@@ -167,8 +199,11 @@ TEST(ApplicationWindow, HasARedCloseButtonWhileItIsKeyAndGreyOnesForWhatItCannot
     EXPECT_GT(buttons()[2].green, buttons()[2].red + 100);
     picture.windows[0].isCloseButtonPressed = true;
     EXPECT_LT(buttons()[0].red, 200);
-    picture.windows[0].isKey = false;
     picture.windows[0].isCloseButtonPressed = false;
+    picture.windows[0].isMinimizeButtonPressed = true;
+    EXPECT_LT(buttons()[1].red, 200);
+    picture.windows[0].isMinimizeButtonPressed = false;
+    picture.windows[0].isKey = false;
     for (const Pixel pixel : buttons()) {
         EXPECT_TRUE(isGrey(pixel));
     }
@@ -187,6 +222,17 @@ TEST(ApplicationWindow, ShowsACrossInTheCloseButtonUnderThePointerInTheBackgroun
         EXPECT_GT(PaintedPicture{picture}.at(close).red, 160);
         picture.windows[0].isClosable = true;
     }
+}
+
+TEST(ApplicationWindow, ShowsALineInTheMinimizeButtonUnderThePointer) {
+    DeskPicture picture = withWindow();
+    picture.windows[0].isMiniaturizable = true;
+    const Point minimize = centerOf(layoutOf(picture).minimizeButton);
+    EXPECT_TRUE(isNear(PaintedPicture{picture}.at(minimize), 0xFE, 0xBC, 0x2E, 3));
+    picture.windows[0].isMinimizeButtonHovered = true;
+    const PaintedPicture hovered{picture};
+    EXPECT_LT(hovered.at(minimize).red, 180);
+    EXPECT_TRUE(isNear(hovered.at({minimize.x, minimize.y + 3}), 0xFE, 0xBC, 0x2E, 3));
 }
 
 TEST(ApplicationWindow, ShowsItsTitleInTheMiddleAndPalerInTheBackground) {

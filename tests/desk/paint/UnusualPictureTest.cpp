@@ -155,6 +155,20 @@ TEST(UnusualPicture, WithPartsOfTheSystemThatDoNotExistPaints) {
     EXPECT_EQ(statusAfterPainting(picture), CAIRO_STATUS_SUCCESS);
 }
 
+TEST(UnusualPicture, WithWindowsOfAnySizeInTheDockPaints) {
+    DeskPicture picture = twoDisplays();
+    picture.dockDisplay = 0;
+    for (const double length : {0.0, -5.0, NotANumber, Infinity, 1e9, 0.5, 1.0, 30.0, 200.0}) {
+        WindowPicture window;
+        window.frame.size = {length, 100};
+        picture.miniaturized.push_back(window);
+        window.frame.size = {length, length};
+        picture.miniaturized.push_back(window);
+        EXPECT_EQ(statusAfterPainting(picture), CAIRO_STATUS_SUCCESS) << length;
+        EXPECT_EQ(statusAfterPainting(picture, {30, 200}), CAIRO_STATUS_SUCCESS) << length;
+    }
+}
+
 TEST(UnusualPicture, WithIllFormedTextPaints) {
     DeskPicture picture = twoDisplays();
     picture.displays[0].name = "\xC3\x28 \xFF";

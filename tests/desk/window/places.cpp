@@ -73,7 +73,7 @@ void printParts(LiveDesk& desk) {
     printTarget(desk, "remove", PaneRemoveTarget{});
 }
 
-// The frontmost window, if there is one: its title bar, its close button and its controls by their titles.
+// The frontmost window, if there is one: its title bar, its buttons there and its controls by their titles.
 void printWindow(LiveDesk& desk, const std::string& kind) {
     const DeskPicture picture = pictureOf(desk);
     if (picture.windows.empty()) {
@@ -82,11 +82,28 @@ void printWindow(LiveDesk& desk, const std::string& kind) {
     const WindowPicture& window = picture.windows.front();
     printTarget(desk, kind + " title", WindowTitleTarget{window.number});
     printTarget(desk, kind + " close", WindowCloseTarget{window.number});
+    printTarget(desk, kind + " minimize", WindowMinimizeTarget{window.number});
     for (std::size_t element = 0; element < window.scene.elements.size(); ++element) {
         if (const auto title = titleOfControl(window.scene.elements[element])) {
             printTarget(desk, kind + ": " + *title, WindowControlTarget{window.number, element});
         }
     }
+}
+
+// Where the frontmost window is once it is minimised.
+void printTile(LiveDesk& desk) {
+    const DeskPicture picture = pictureOf(desk);
+    if (picture.windows.empty()) {
+        return;
+    }
+    const std::size_t number = picture.windows.front().number;
+    const auto click = [&desk](const DeskTarget& target) {
+        desk.pressButton(target);
+        desk.releaseButton(target);
+    };
+    click(WindowMinimizeTarget{number});
+    printTarget(desk, "tile", DockTileTarget{number});
+    click(DockTileTarget{number});
 }
 
 void printWizard(LiveDesk& desk) {
@@ -101,6 +118,7 @@ void printSettings(LiveDesk& desk) {
     desk.pressEquivalent(",", false);
     desk.advance(std::chrono::seconds(1));
     printWindow(desk, "settings");
+    printTile(desk);
     for (int step = 0; step < 2; ++step) {
         desk.navigate(NavigationKey::tab);
     }

@@ -1,6 +1,7 @@
 // The workspace's openURL:, which on GNUstep asks other programs, and the user when there is none.
 //
-// This is what we believe the Mac does, and no proof of it: some application is responsible for every URL.
+// This is what we believe the Mac does, and no proof of it: some application is responsible for every URL,
+// unless a test has it otherwise; then nobody is told.
 #include "tests/gnustep/standins/OpenedURLs.h"
 
 #include "mac/objc/Text.h"
@@ -10,7 +11,12 @@ namespace kestrune::gnustep {
 
 namespace {
 
+bool refusesOpening = false; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
 BOOL openURL(id, SEL, id url) {
+    if (refusesOpening) {
+        return mac::truth(false);
+    }
     openedURLs().push_back(mac::textOf(send(url, "absoluteString")));
     return mac::truth(true);
 }
@@ -23,5 +29,7 @@ std::vector<std::string>& openedURLs() {
     static std::vector<std::string> urls;
     return urls;
 }
+
+void refuseOpeningURLs(bool refuse) { refusesOpening = refuse; }
 
 } // namespace kestrune::gnustep

@@ -11,4 +11,7 @@ void installOpenedURLs();
 // In order.
 std::vector<std::string>& openedURLs();
 
+// Fault: no application is responsible for any URL.
+void refuseOpeningURLs(bool refuse);
+
 } // namespace kestrune::gnustep

@@ -1,18 +1,20 @@
-// Sparkle: a folder in the main bundle that NSBundle is asked to load, and the two classes that are there
-// from then on.
+// Sparkle: a folder in the main bundle that NSBundle is asked to load, and the two classes and protocols that
+// are there from then on.
 //
 // This is what we believe of Sparkle, and no proof of it: delegates are held weakly, the driver is retained
-// by its updater, and the delegate is looked at for its methods by those encodings.
+// by its updater, and the delegate is looked at for its methods by those encodings. That it adopts the
+// protocols, Sparkle leaves to the compiler; here it is required.
 //
 // Source: Sparkle 2, SPUStandardUserDriver.h, SPUStandardUserDriverDelegate.h, SPUUpdater.h.
 #include "tests/gnustep/standins/Sparkle.h"
 
-#include "base/Fatal.h"
 #include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/standins/Deallocation.h"
+#include "tests/gnustep/standins/Expectations.h"
+#include "tests/gnustep/standins/Protocols.h"
 #include "tests/gnustep/standins/Subclass.h"
 
 #include <filesystem>
@@ -25,6 +27,9 @@ using contract::World;
 
 namespace {
 
+constexpr const char* UserDriverDelegate = "SPUStandardUserDriverDelegate";
+constexpr const char* UpdaterDelegate = "SPUUpdaterDelegate";
+
 struct UpdaterVariables {
     mac::Retained driver;
 };
@@ -32,6 +37,7 @@ struct UpdaterVariables {
 struct Framework {
     bool refusesToStart = false;
     bool hasStarted = false;
+    bool hasPlace = true;
     std::optional<std::string> loadingFault;
     id driver = nullptr; // not retained here
     id delegate = nullptr;
@@ -43,10 +49,12 @@ Framework& framework() {
     return only;
 }
 
-void require(bool holds, const std::string& otherwise) {
-    if (!holds) {
-        fatal("A message that Sparkle would not expect: " + otherwise);
-    }
+void require(bool holds, const std::string& otherwise) { expect("Sparkle", holds, otherwise); }
+
+// Where its objects are used.
+void receive(std::string message) {
+    expectMainThread("Sparkle");
+    updateMessages().push_back(std::move(message));
 }
 
 std::string nameOf(id delegate) { return delegate != nullptr ? object_getClassName(delegate) : "nil"; }
@@ -60,7 +68,12 @@ void requireMethod(id delegate, const char* selector, const std::string& encodin
             std::string("the delegate's ") + selector + " is " + found + ", not " + encoding);
 }
 
-void requireDelegate(id delegate) {
+void requireAdoption(id delegate, const char* protocol) {
+    require(delegate == nullptr || adopts(object_getClass(delegate), protocol),
+            std::string("the delegate does not adopt ") + protocol);
+}
+
+void requireMethods(id delegate) {
     if (delegate == nullptr) {
         return;
     }
@@ -77,34 +90,35 @@ void requireMainBundle(id bundle) {
 }
 
 id initUserDriver(id driver, SEL, id hostBundle, id delegate) {
+    receive("-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, " + nameOf(delegate));
     requireMainBundle(hostBundle);
-    requireDelegate(delegate);
+    requireMethods(delegate);
+    requireAdoption(delegate, UserDriverDelegate);
     framework().driver = driver;
     framework().delegate = delegate;
     if (delegate != nullptr) {
         whenDeallocated(delegate, &framework(), [] { framework().delegate = nullptr; });
     }
     whenDeallocated(driver, &framework(), [] { framework().driver = nullptr; });
-    updateMessages().push_back("-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, " +
-                               nameOf(delegate));
     return driver;
 }
 
 id initUpdater(id updater, SEL, id hostBundle, id applicationBundle, id driver, id delegate) {
+    receive(
+        "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] main bundle, main bundle, " +
+        nameOf(delegate));
     requireMainBundle(hostBundle);
     requireMainBundle(applicationBundle);
+    requireAdoption(delegate, UpdaterDelegate);
     require(driver != nullptr && driver == framework().driver,
             "the user driver is not the one that was made");
     Subclass<UpdaterVariables>::give(updater, {mac::Retained::retaining(driver)});
-    updateMessages().push_back(
-        "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] main bundle, main bundle, " +
-        nameOf(delegate));
     return updater;
 }
 
 BOOL startUpdater(id, SEL, id* error) {
     require(error != nullptr, "there is no place for the error");
-    updateMessages().emplace_back("-[SPUUpdater startUpdater:]");
+    receive("-[SPUUpdater startUpdater:]");
     if (framework().refusesToStart) {
         *error = errorFor("SUSparkleErrorDomain", std::string(World::UpdateFailure));
         return mac::truth(false);
@@ -114,16 +128,18 @@ BOOL startUpdater(id, SEL, id* error) {
 }
 
 void setAutomaticallyDownloadsUpdates(id, SEL, BOOL downloads) {
-    updateMessages().push_back(std::string("-[SPUUpdater setAutomaticallyDownloadsUpdates:] ") +
-                               (downloads != 0 ? "true" : "false"));
+    receive(std::string("-[SPUUpdater setAutomaticallyDownloadsUpdates:] ") +
+            (downloads != 0 ? "true" : "false"));
 }
 
 void checkForUpdates(id, SEL) {
     require(framework().hasStarted, "a check before the updater has started");
-    updateMessages().emplace_back("-[SPUUpdater checkForUpdates]");
+    receive("-[SPUUpdater checkForUpdates]");
 }
 
 void makeClasses() {
+    makeProtocol(UserDriverDelegate);
+    makeProtocol(UpdaterDelegate);
     Subclass<NoValue>("SPUStandardUserDriver").method("initWithHostBundle:delegate:", initUserDriver);
     Subclass<UpdaterVariables>("SPUUpdater")
         .method("initWithHostBundle:applicationBundle:userDriver:delegate:", initUpdater)
@@ -138,11 +154,32 @@ std::filesystem::path place() {
            "Sparkle.framework";
 }
 
-Method<BOOL, id*> loadBefore = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+// GNUstep's own.
+struct BundleMethods {
+    Method<BOOL, id*> load = nullptr;
+    Method<id, id> bundleWithPath = nullptr;
+    Method<id> privateFrameworksPath = nullptr;
+};
+
+BundleMethods& before() {
+    static BundleMethods methods;
+    return methods;
+}
+
+id bundleWithPath(id type, SEL selector, id path) {
+    const std::filesystem::path wanted = mac::textOf(path);
+    require(wanted.filename() != place().filename() || wanted == place(),
+            "it is looked for at " + wanted.string());
+    return before().bundleWithPath(type, selector, path);
+}
+
+id privateFrameworksPath(id bundle, SEL selector) {
+    return framework().hasPlace ? before().privateFrameworksPath(bundle, selector) : nullptr;
+}
 
 BOOL load(id bundle, SEL selector, id* error) {
     if (mac::textOf(send(bundle, "bundlePath")) != place()) {
-        return loadBefore(bundle, selector, error);
+        return before().load(bundle, selector, error);
     }
     if (framework().loadingFault) {
         *error = errorFor("NSCocoaErrorDomain", *framework().loadingFault);
@@ -156,7 +193,12 @@ BOOL load(id bundle, SEL selector, id* error) {
 
 } // namespace
 
-void installSparkle() { loadBefore = replaceMethod(classNamed("NSBundle"), "loadAndReturnError:", load); }
+void installSparkle() {
+    const Class bundle = classNamed("NSBundle");
+    before().load = replaceMethod(bundle, "loadAndReturnError:", load);
+    before().privateFrameworksPath = replaceMethod(bundle, "privateFrameworksPath", privateFrameworksPath);
+    before().bundleWithPath = replaceMethod(classOf(bundle), "bundleWithPath:", bundleWithPath);
+}
 
 void setUpdateFramework(UpdateFramework kind) {
     const mac::Pool pool;
@@ -170,6 +212,8 @@ void setUpdateFramework(UpdateFramework kind) {
 }
 
 void refuseLoadingUpdateFramework(const std::string& description) { framework().loadingFault = description; }
+
+void takeAwayFrameworksFolder() { framework().hasPlace = false; }
 
 std::vector<std::string>& updateMessages() { return framework().messages; }
 

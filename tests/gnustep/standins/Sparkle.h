@@ -9,7 +9,7 @@
 
 namespace kestrune::gnustep {
 
-// Whoever loads the framework from then on makes its classes.
+// Whoever loads the framework from then on makes its classes and protocols.
 void installSparkle();
 
 // Puts the framework into the main bundle or takes it out, and tells whether it starts.
@@ -17,6 +17,9 @@ void setUpdateFramework(contract::UpdateFramework kind);
 
 // Fault: it is there and cannot be loaded, with that description; as when it is signed by somebody else.
 void refuseLoadingUpdateFramework(const std::string& description);
+
+// Fault: the main bundle has no place for frameworks.
+void takeAwayFrameworksFolder();
 
 // What its objects were asked for, in order. A message that they would not expect ends the process.
 std::vector<std::string>& updateMessages();

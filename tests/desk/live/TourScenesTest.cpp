@@ -1,0 +1,239 @@
+// What each scene of the tour leaves on the desk.
+
+#include "desk/live/TourScenes.h"
+
+#include "desk/live/LivePicture.h"
+#include "sim/WindowState.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace kestrune::desk {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+// The second display is above the first one, which leaves it no free bottom edge.
+LiveDeskSetup otherDisplays() {
+    auto setup = std::get<LiveDeskSetup>(setupOf({}));
+    setup.displays = {{0, 0, 1000, 600}, {0, -500, 800, 500}, {-900, 0, 900, 700}};
+    setup.pinned = 2;
+    setup.permission = sim::Permission::notListed;
+    return setup;
+}
+
+class ScenesOfTheTour : public testing::Test {
+protected:
+    // All of them up to that one, with it.
+    void playUntil(std::string_view name) {
+        for (const TourScenes::Scene& scene : TourScenes::all()) {
+            const auto outcome = scenes.perform(scene);
+            const auto* const story = std::get_if<std::string>(&outcome);
+            ASSERT_NE(story, nullptr) << std::get<InputError>(outcome).message;
+            stories.push_back(*story);
+            if (scene.name == name) {
+                return;
+            }
+        }
+        FAIL() << "no scene " << name;
+    }
+
+    DeskPicture picture() { return pictureOf(desk); }
+
+    std::vector<std::string> windowTitles() {
+        std::vector<std::string> titles;
+        for (const WindowPicture& window : picture().windows) {
+            titles.push_back(window.title);
+        }
+        return titles;
+    }
+
+    std::vector<std::string> rowsOfMenu() {
+        std::vector<std::string> titles;
+        for (const sim::MenuRow& row : desk.session().menus().rows()) {
+            titles.push_back(row.title);
+        }
+        return titles;
+    }
+
+    ActivationPolicy policy() { return desk.session().application().policy; }
+
+    LiveDesk desk{otherDisplays()};
+    TourScenes scenes{desk};
+    std::vector<std::string> stories;
+};
+
+TEST_F(ScenesOfTheTour, ArePlayedOnOtherDisplaysToo) {
+    ASSERT_TRUE(scenes.canBePlayed());
+    playUntil(TourScenes::all().back().name);
+    EXPECT_THAT(stories, Contains(HasSubstr("brings the Dock home to Display 3.")));
+    EXPECT_THAT(stories, Contains(HasSubstr("the bottom edge of Built-in Display")));
+    EXPECT_EQ(desk.report().dockMoves, 3U);
+    EXPECT_EQ(desk.report().violations, 0U);
+    EXPECT_GT(desk.report().changed, 100U);
+}
+
+TEST_F(ScenesOfTheTour, AskForThePermission) {
+    playUntil("permission-asked-for");
+    EXPECT_TRUE(desk.session().accessibility().isDialogShown());
+    EXPECT_FALSE(desk.host().guardIsRunning());
+}
+
+TEST_F(ScenesOfTheTour, GrantThePermission) {
+    playUntil("permission-granted");
+    ASSERT_TRUE(picture().settingsPane);
+    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
+    EXPECT_TRUE(picture().settingsPane->rows[0].isOn);
+    EXPECT_TRUE(desk.host().guardIsRunning());
+    EXPECT_THAT(windowTitles(), ElementsAre("Welcome to Kestrune"));
+}
+
+TEST_F(ScenesOfTheTour, FinishTheWizard) {
+    playUntil("the-dock-comes-home");
+    EXPECT_THAT(windowTitles(), IsEmpty());
+    EXPECT_FALSE(picture().settingsPane);
+}
+
+TEST_F(ScenesOfTheTour, OpenSettings) {
+    playUntil("settings");
+    ASSERT_THAT(windowTitles(), ElementsAre("Kestrune Settings"));
+    EXPECT_TRUE(picture().windows[0].isKey);
+    EXPECT_THAT(picture().mainMenuTitles, Contains("Kestrune"));
+    EXPECT_EQ(policy(), ActivationPolicy::regular);
+    EXPECT_EQ(desk.session().loginItem().status(), AppServiceStatus::notRegistered);
+    EXPECT_EQ(picture().displays.size(), 2U);
+}
+
+TEST_F(ScenesOfTheTour, LaunchAtLogin) {
+    playUntil("launch-at-login");
+    EXPECT_EQ(desk.session().loginItem().status(), AppServiceStatus::enabled);
+    ASSERT_TRUE(picture().settingsPane);
+    EXPECT_EQ(picture().settingsPane->title, "Login Items");
+    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
+    EXPECT_EQ(picture().settingsPane->rows[0].name, "Kestrune");
+    EXPECT_TRUE(picture().settingsPane->rows[0].isOn);
+}
+
+TEST_F(ScenesOfTheTour, FindNothingNew) {
+    playUntil("nothing-new");
+    EXPECT_TRUE(desk.session().updates().isShowingAlert());
+    EXPECT_EQ(windowTitles().size(), 2U);
+    EXPECT_FALSE(picture().settingsPane);
+}
+
+TEST_F(ScenesOfTheTour, FindANewVersion) {
+    playUntil("new-version");
+    EXPECT_TRUE(desk.session().updates().isShowingUpdate());
+    const auto shown = desk.session().windows().shown();
+    ASSERT_EQ(shown.size(), 2U);
+    EXPECT_EQ(shown[0]->title, "Software Update");
+    EXPECT_EQ(shown[0]->level, WindowLevel::floating);
+    EXPECT_EQ(shown[1]->title, "Kestrune Settings");
+    EXPECT_EQ(shown[1]->level, WindowLevel::normal);
+    EXPECT_EQ(policy(), ActivationPolicy::regular);
+}
+
+TEST_F(ScenesOfTheTour, ReportABug) {
+    playUntil("bug-report");
+    EXPECT_FALSE(desk.session().updates().isShowingUpdate());
+    EXPECT_THAT(windowTitles(), ElementsAre("Kestrune Settings"));
+    ASSERT_TRUE(picture().mail);
+    EXPECT_EQ(picture().mail->subject, "Kestrune bug report");
+    EXPECT_THAT(picture().mail->body, HasSubstr("Describe what went wrong:\n"));
+    EXPECT_THAT(picture().mail->body, HasSubstr("\nApp version: "));
+}
+
+TEST_F(ScenesOfTheTour, LeaveOneDisplay) {
+    playUntil("one-display-left");
+    EXPECT_THAT(windowTitles(), IsEmpty());
+    EXPECT_FALSE(picture().mail);
+    EXPECT_THAT(picture().mainMenuTitles, IsEmpty());
+    EXPECT_EQ(policy(), ActivationPolicy::accessory);
+    EXPECT_EQ(picture().displays.size(), 1U);
+    EXPECT_EQ(desk.session().loginItem().status(), AppServiceStatus::enabled);
+}
+
+TEST_F(ScenesOfTheTour, Quit) {
+    playUntil("quit");
+    EXPECT_FALSE(desk.host().isRunning());
+    EXPECT_THAT(picture().statusItems, IsEmpty());
+    EXPECT_EQ(desk.session().taps().enabledCount(), 0U);
+}
+
+TEST_F(ScenesOfTheTour, LaunchAgain) {
+    playUntil("launched-again");
+    EXPECT_TRUE(desk.host().isRunning());
+    EXPECT_TRUE(desk.host().guardIsRunning());
+    EXPECT_THAT(windowTitles(), IsEmpty());
+    EXPECT_THAT(rowsOfMenu(), Contains("Disable"));
+    EXPECT_THAT(rowsOfMenu(), Contains("Settings…"));
+    EXPECT_THAT(rowsOfMenu(), Not(Contains("Complete setup…")));
+}
+
+TEST(HandOfTheTour, LeavesAloneWhatIsNotThere) {
+    LiveDesk desk(otherDisplays());
+    TourHand hand(desk);
+    EXPECT_FALSE(hand.missing());
+    hand.openMenu(9);
+    EXPECT_EQ(hand.missing(), "display 9");
+    hand.clickRow("Disable");
+    EXPECT_EQ(hand.missing(), "display 9") << "only the first is told";
+
+    // Display 1 has the second one above it, and nothing below; display 2 has the first one below all of it.
+    TourHand other(desk);
+    other.push(1);
+    EXPECT_FALSE(other.missing());
+    other.push(2);
+    EXPECT_EQ(other.missing(), "a free bottom edge of display 2");
+    other.closeWindow("Kestrune Settings");
+    EXPECT_FALSE(desk.parts().isMenuOpen());
+}
+
+TEST(HandOfTheTour, NamesWhatItDidNotFind) {
+    LiveDesk desk(otherDisplays());
+    const auto missed = [&desk](const auto& use) {
+        TourHand hand(desk);
+        use(hand);
+        return hand.missing().value_or("nothing");
+    };
+    EXPECT_EQ(missed([](TourHand& hand) { hand.clickRow("Disable"); }), "the menu row “Disable”");
+    EXPECT_EQ(missed([](TourHand& hand) { hand.pointAtRow("Enable"); }), "the menu row “Enable”");
+    EXPECT_EQ(missed([](TourHand& hand) { hand.pointAtControl("OK"); }), "the button or switch “OK”");
+    EXPECT_EQ(missed([](TourHand& hand) { hand.closeWindow("Mail"); }), "the window “Mail”");
+    EXPECT_EQ(missed([](TourHand& hand) { hand.click(PaneSwitchTarget{0}); }), "a switch in System Settings");
+    EXPECT_EQ(missed([](TourHand& hand) { hand.click(PaneCloseTarget{}); }),
+              "the close button of System Settings");
+    EXPECT_EQ(missed([](TourHand& hand) { hand.click(MailCloseTarget{}); }), "the close button of the mail");
+    EXPECT_EQ(missed([](TourHand& hand) { hand.pointAt(DialogButtonTarget{}); }),
+              "a button of the permission dialog");
+    EXPECT_EQ(missed([](TourHand& hand) { hand.pointAt(WindowTarget{7}); }), "a part of the screen");
+}
+
+// The first one that expects it, and what it expected.
+TEST(SceneOfTheTour, TellsWhatItDidNotFind) {
+    LiveDeskSetup setup = otherDisplays();
+    setup.bundle.localizedStrings["Check for Updates…"] = "Look for Updates…";
+    LiveDesk desk(setup);
+    TourScenes scenes(desk);
+    std::vector<std::string> errors;
+    for (const TourScenes::Scene& scene : TourScenes::all()) {
+        const auto outcome = scenes.perform(scene);
+        if (const auto* const error = std::get_if<InputError>(&outcome); error && errors.empty()) {
+            errors.push_back(error->message);
+        }
+    }
+    EXPECT_THAT(errors, ElementsAre("--tour: the scene \"nothing-new\" expected the button or switch "
+                                    "“Check for Updates…”"));
+}
+
+} // namespace
+} // namespace kestrune::desk
