@@ -19,7 +19,7 @@ AllocatedObjects allocatedObjects() {
     AllocatedObjects objects;
     // GNUstep frees the list itself; it ends with a null.
     for (const Class* type = GSDebugAllocationClassList(); *type != nullptr; ++type) {
-        objects.emplace(class_getName(*type), static_cast<std::size_t>(GSDebugAllocationCount(*type)));
+        objects.emplace(class_getName(*type), GSDebugAllocationCount(*type));
     }
     return objects;
 }
@@ -28,7 +28,7 @@ std::vector<std::string> growth(const AllocatedObjects& before, const AllocatedO
     std::vector<std::string> grown;
     for (const auto& [name, count] : after) {
         const auto former = before.find(name);
-        const std::size_t formerCount = former != before.end() ? former->second : 0;
+        const int formerCount = former != before.end() ? former->second : 0;
         if (count > formerCount) {
             grown.push_back(name + ": " + std::to_string(count - formerCount) + " more");
         }

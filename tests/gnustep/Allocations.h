@@ -1,16 +1,15 @@
 // How many objects of each class there are.
 #pragma once
 
-#include <cstddef>
 #include <map>
 #include <string>
 #include <vector>
 
 namespace kestrune::gnustep {
 
-using AllocatedObjects = std::map<std::string, std::size_t>;
+// By class, as GNUstep counts from `countAllocations` on. Below zero when older ones have gone since.
+using AllocatedObjects = std::map<std::string, int>;
 
-// By class, as GNUstep counts from `countAllocations` on.
 AllocatedObjects allocatedObjects();
 void countAllocations();
 

@@ -118,7 +118,7 @@ const std::vector<ShellUser::Choice>& ShellUser::choicesDuringAnAlert() {
     static const std::vector<Choice> all{
         {5, &ShellUser::pressButton},
         {3, &ShellUser::pressReturn},
-        {2, &ShellUser::leaveAlert},
+        {6, &ShellUser::leaveAlert},
         {0.2, &ShellUser::terminate},
         {0.2, &ShellUser::kill},
         {2, &ShellUser::activate},
