@@ -26,6 +26,13 @@ const std::string Status = "-[SMAppService status]";
 const std::string Register = "-[SMAppService registerAndReturnError:]";
 const std::string Unregister = "-[SMAppService unregisterAndReturnError:]";
 
+// The X server's events come when it likes, and wait in GNUstep's queue.
+AllocatedObjects objectsButEvents() {
+    AllocatedObjects objects = allocatedObjects();
+    objects.erase("NSEvent");
+    return objects;
+}
+
 class SettingsOnGNUstep : public SettingsFixture {
 protected:
     void flipSwitch() {
@@ -174,7 +181,7 @@ TEST_F(SettingsOnGNUstep, GoesOnWhenNobodyOpensTheMail) {
     EXPECT_EQ(world_.updateMessages().back(), "-[SPUUpdater checkForUpdates]");
 }
 
-TEST_F(SettingsOnGNUstep, IsUsedFiveHundredTimesWithoutKeepingAnObject) {
+TEST_F(SettingsOnGNUstep, IsUsedAHundredTimesWithoutKeepingAnObject) {
     launchAndOpen();
     const std::shared_ptr<UpdaterManager> updates = UpdaterManager::shared();
     const auto useOnce = [&] {
@@ -207,11 +214,11 @@ TEST_F(SettingsOnGNUstep, IsUsedFiveHundredTimesWithoutKeepingAnObject) {
     countAllocations();
     use(20);
     const mac::Unsigned referencesBefore = references();
-    const AllocatedObjects before = allocatedObjects();
-    use(500);
+    const AllocatedObjects before = objectsButEvents();
+    use(100);
     EXPECT_EQ(references(), referencesBefore);
     // GNUstep never lets go of an observation.
-    EXPECT_THAT(growth(before, allocatedObjects()), ElementsAre("GSNotificationObserver: 500 more"));
+    EXPECT_THAT(growth(before, objectsButEvents()), ElementsAre("GSNotificationObserver: 100 more"));
 }
 
 } // namespace
