@@ -4,6 +4,7 @@
 #include "desk/live/LivePicture.h"
 #include "desk/live/TourHand.h"
 #include "desk/live/WindowParts.h"
+#include "tests/desk/live/WindowTitles.h"
 
 #include <gtest/gtest.h>
 
@@ -40,14 +41,6 @@ protected:
     }
 
     DeskPicture picture() { return pictureOf(desk); }
-
-    std::vector<std::string> windowTitles() {
-        std::vector<std::string> titles;
-        for (const WindowPicture& window : picture().windows) {
-            titles.push_back(window.title);
-        }
-        return titles;
-    }
 
     // The frontmost one of that title.
     WindowPicture window(const std::string& title = SettingsTitle) {

@@ -37,7 +37,7 @@ TEST_F(SettingsOnTheDesk, OpenFromTheStatusMenuWithTheKeyboard) {
         desk.navigate(NavigationKey::down);
     }
     desk.navigate(NavigationKey::enter);
-    EXPECT_THAT(windowTitles(), ElementsAre(SettingsTitle));
+    EXPECT_THAT(windowTitlesOn(desk), ElementsAre(SettingsTitle));
 }
 
 TEST_F(SettingsOnTheDesk, ComeForwardFromTheMainMenuByMouseAndKey) {
@@ -45,7 +45,7 @@ TEST_F(SettingsOnTheDesk, ComeForwardFromTheMainMenuByMouseAndKey) {
     ASSERT_FALSE(picture().mainMenuTitles.empty());
     hand.click(MainMenuTitleTarget{0, 0});
     hand.clickRow("Settings…");
-    EXPECT_THAT(windowTitles(), ElementsAre(SettingsTitle));
+    EXPECT_THAT(windowTitlesOn(desk), ElementsAre(SettingsTitle));
     EXPECT_EQ(desk.news().text, "“Settings…” brings “Kestrune Settings” to the front");
     desk.announce({});
     desk.pressEquivalent(",", false);

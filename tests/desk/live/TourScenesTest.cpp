@@ -4,6 +4,7 @@
 
 #include "desk/live/LivePicture.h"
 #include "sim/WindowState.h"
+#include "tests/desk/live/WindowTitles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -49,14 +50,6 @@ protected:
 
     DeskPicture picture() { return pictureOf(desk); }
 
-    std::vector<std::string> windowTitles() {
-        std::vector<std::string> titles;
-        for (const WindowPicture& window : picture().windows) {
-            titles.push_back(window.title);
-        }
-        return titles;
-    }
-
     std::vector<std::string> rowsOfMenu() {
         std::vector<std::string> titles;
         for (const sim::MenuRow& row : desk.session().menus().rows()) {
@@ -94,18 +87,18 @@ TEST_F(ScenesOfTheTour, GrantThePermission) {
     ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
     EXPECT_TRUE(picture().settingsPane->rows[0].isOn);
     EXPECT_TRUE(desk.host().guardIsRunning());
-    EXPECT_THAT(windowTitles(), ElementsAre("Welcome to Kestrune"));
+    EXPECT_THAT(windowTitlesOn(desk), ElementsAre("Welcome to Kestrune"));
 }
 
 TEST_F(ScenesOfTheTour, FinishTheWizard) {
     playUntil("the-dock-comes-home");
-    EXPECT_THAT(windowTitles(), IsEmpty());
+    EXPECT_THAT(windowTitlesOn(desk), IsEmpty());
     EXPECT_FALSE(picture().settingsPane);
 }
 
 TEST_F(ScenesOfTheTour, OpenSettings) {
     playUntil("settings");
-    ASSERT_THAT(windowTitles(), ElementsAre("Kestrune Settings"));
+    ASSERT_THAT(windowTitlesOn(desk), ElementsAre("Kestrune Settings"));
     EXPECT_TRUE(picture().windows[0].isKey);
     EXPECT_THAT(picture().mainMenuTitles, Contains("Kestrune"));
     EXPECT_EQ(policy(), ActivationPolicy::regular);
@@ -126,7 +119,7 @@ TEST_F(ScenesOfTheTour, LaunchAtLogin) {
 TEST_F(ScenesOfTheTour, FindNothingNew) {
     playUntil("nothing-new");
     EXPECT_TRUE(desk.session().updates().isShowingAlert());
-    EXPECT_EQ(windowTitles().size(), 2U);
+    EXPECT_EQ(windowTitlesOn(desk).size(), 2U);
     EXPECT_FALSE(picture().settingsPane);
 }
 
@@ -145,7 +138,7 @@ TEST_F(ScenesOfTheTour, FindANewVersion) {
 TEST_F(ScenesOfTheTour, ReportABug) {
     playUntil("bug-report");
     EXPECT_FALSE(desk.session().updates().isShowingUpdate());
-    EXPECT_THAT(windowTitles(), ElementsAre("Kestrune Settings"));
+    EXPECT_THAT(windowTitlesOn(desk), ElementsAre("Kestrune Settings"));
     ASSERT_TRUE(picture().mail);
     EXPECT_EQ(picture().mail->subject, "Kestrune bug report");
     EXPECT_THAT(picture().mail->body, HasSubstr("Describe what went wrong:\n"));
@@ -154,7 +147,7 @@ TEST_F(ScenesOfTheTour, ReportABug) {
 
 TEST_F(ScenesOfTheTour, LeaveOneDisplay) {
     playUntil("one-display-left");
-    EXPECT_THAT(windowTitles(), IsEmpty());
+    EXPECT_THAT(windowTitlesOn(desk), IsEmpty());
     EXPECT_FALSE(picture().mail);
     EXPECT_THAT(picture().mainMenuTitles, IsEmpty());
     EXPECT_EQ(policy(), ActivationPolicy::accessory);
@@ -173,7 +166,7 @@ TEST_F(ScenesOfTheTour, LaunchAgain) {
     playUntil("launched-again");
     EXPECT_TRUE(desk.host().isRunning());
     EXPECT_TRUE(desk.host().guardIsRunning());
-    EXPECT_THAT(windowTitles(), IsEmpty());
+    EXPECT_THAT(windowTitlesOn(desk), IsEmpty());
     EXPECT_THAT(rowsOfMenu(), Contains("Disable"));
     EXPECT_THAT(rowsOfMenu(), Contains("Settings…"));
     EXPECT_THAT(rowsOfMenu(), Not(Contains("Complete setup…")));
