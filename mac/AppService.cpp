@@ -8,7 +8,7 @@ namespace kestrune {
 
 namespace {
 
-id theMainAppService() { return mac::sm_app_service::mainAppService(mac::sm_app_service::type.object()); }
+id theMainAppService() { return mac::serviceManagement.appService.mainAppService(); }
 
 std::optional<Error> change(const mac::Message<BOOL(id*)>& message) {
     const mac::Pool pool;
@@ -24,15 +24,15 @@ AppService AppService::mainAppService() { return {}; }
 
 AppServiceStatus AppService::status() const {
     const mac::Pool pool;
-    return static_cast<AppServiceStatus>(mac::sm_app_service::status(theMainAppService()));
+    return static_cast<AppServiceStatus>(mac::serviceManagement.appService.status(theMainAppService()));
 }
 
 std::optional<Error> AppService::registerAndReturnError() {
-    return change(mac::sm_app_service::registerAndReturnError);
+    return change(mac::serviceManagement.appService.registerAndReturnError);
 }
 
 std::optional<Error> AppService::unregisterAndReturnError() {
-    return change(mac::sm_app_service::unregisterAndReturnError);
+    return change(mac::serviceManagement.appService.unregisterAndReturnError);
 }
 
 } // namespace kestrune

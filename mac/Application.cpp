@@ -13,7 +13,7 @@ namespace kestrune {
 
 Application Application::sharedApplication() {
     const mac::Pool pool;
-    mac::ns_application::sharedApplication(mac::ns_application::type.object());
+    mac::appKit.application.sharedApplication();
     return {};
 }
 
@@ -23,23 +23,23 @@ std::optional<Application> Application::nsApp() {
 
 void Application::setDelegate(const std::weak_ptr<ApplicationDelegate>& delegate) {
     const mac::Pool pool;
-    mac::ns_application::setDelegate(NSApp, Object::Counterpart::of(delegate));
+    mac::appKit.application.setDelegate(NSApp, Object::Counterpart::of(delegate));
 }
 
 bool Application::setActivationPolicy(ActivationPolicy policy) {
-    return mac::ns_application::setActivationPolicy(NSApp, static_cast<mac::Integer>(policy)) != 0;
+    return mac::appKit.application.setActivationPolicy(NSApp, static_cast<mac::Integer>(policy)) != 0;
 }
 
 ActivationPolicy Application::activationPolicy() const {
-    return static_cast<ActivationPolicy>(mac::ns_application::activationPolicy(NSApp));
+    return static_cast<ActivationPolicy>(mac::appKit.application.activationPolicy(NSApp));
 }
 
 std::vector<Window> Application::windows() const {
     const mac::Pool pool;
-    const id list = mac::ns_application::windows(NSApp);
+    const id list = mac::appKit.application.windows(NSApp);
     std::vector<Window> windows;
-    for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
-        const id window = mac::ns_array::objectAtIndex(list, index);
+    for (mac::Unsigned index = 0; index < mac::foundation.array.count(list); ++index) {
+        const id window = mac::foundation.array.objectAtIndex(list, index);
         windows.emplace_back(
             std::make_shared<Window::State>(Window::State{mac::Retained::retaining(window)}));
     }
@@ -48,16 +48,16 @@ std::vector<Window> Application::windows() const {
 
 void Application::setMainMenu(const Menu& menu) {
     const mac::Pool pool;
-    mac::ns_application::setMainMenu(NSApp, menu.state()->menu.get());
+    mac::appKit.application.setMainMenu(NSApp, menu.state()->menu.get());
 }
 
 void Application::activateIgnoringOtherApps(bool ignoring) {
     const mac::Pool pool;
-    mac::ns_application::activateIgnoringOtherApps(NSApp, mac::truth(ignoring));
+    mac::appKit.application.activateIgnoringOtherApps(NSApp, mac::truth(ignoring));
 }
 
-void Application::run() { mac::ns_application::run(NSApp); }
+void Application::run() { mac::appKit.application.run(NSApp); }
 
-void Application::terminate() { mac::ns_application::terminate(NSApp, nullptr); }
+void Application::terminate() { mac::appKit.application.terminate(NSApp, nullptr); }
 
 } // namespace kestrune

@@ -8,7 +8,7 @@ namespace kestrune {
 
 namespace {
 
-id theMainBundle() { return mac::ns_bundle::mainBundle(mac::ns_bundle::type.object()); }
+id theMainBundle() { return mac::foundation.bundle.mainBundle(); }
 
 } // namespace
 
@@ -17,19 +17,19 @@ Bundle Bundle::mainBundle() { return {}; }
 
 std::optional<std::string> Bundle::bundleIdentifier() const {
     const mac::Pool pool;
-    return mac::textIfString(mac::ns_bundle::bundleIdentifier(theMainBundle()));
+    return mac::textIfString(mac::foundation.bundle.bundleIdentifier(theMainBundle()));
 }
 
 std::optional<std::string> Bundle::infoDictionaryString(std::string_view key) const {
     const mac::Pool pool;
-    const id dictionary = mac::ns_bundle::infoDictionary(theMainBundle());
-    return mac::textIfString(mac::ns_dictionary::objectForKey(dictionary, mac::nsString(key).get()));
+    const id dictionary = mac::foundation.bundle.infoDictionary(theMainBundle());
+    return mac::textIfString(mac::foundation.dictionary.objectForKey(dictionary, mac::nsString(key).get()));
 }
 
 std::string Bundle::localizedString(std::string_view key) const {
     const mac::Pool pool;
-    return mac::textOf(mac::ns_bundle::localizedString(theMainBundle(), mac::nsString(key).get(),
-                                                       mac::nsString("").get(), nullptr));
+    return mac::textOf(mac::foundation.bundle.localizedString(theMainBundle(), mac::nsString(key).get(),
+                                                              mac::nsString("").get(), nullptr));
 }
 
 } // namespace kestrune

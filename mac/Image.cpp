@@ -13,7 +13,7 @@ Image::Image(std::shared_ptr<State> state) : state_(std::move(state)) {}
 
 std::optional<Image> Image::imageNamed(std::string_view name) {
     const mac::Pool pool;
-    const id image = mac::ns_image::imageNamed(mac::ns_image::type.object(), mac::nsString(name).get());
+    const id image = mac::appKit.image.imageNamed(mac::nsString(name).get());
     if (image == nullptr) {
         return std::nullopt;
     }
@@ -21,9 +21,9 @@ std::optional<Image> Image::imageNamed(std::string_view name) {
 }
 
 void Image::setTemplate(bool isTemplate) {
-    mac::ns_image::setTemplate(state_->image.get(), mac::truth(isTemplate));
+    mac::appKit.image.setTemplate(state_->image.get(), mac::truth(isTemplate));
 }
 
-void Image::setSize(Size size) { mac::ns_image::setSize(state_->image.get(), size); }
+void Image::setSize(Size size) { mac::appKit.image.setSize(state_->image.get(), size); }
 
 } // namespace kestrune

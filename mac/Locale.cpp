@@ -11,8 +11,8 @@ Locale Locale::currentLocale() { return {}; }
 
 std::string Locale::localeIdentifier() const {
     const mac::Pool pool;
-    const id locale = mac::ns_locale::currentLocale(mac::ns_locale::type.object());
-    return mac::textOf(mac::ns_locale::localeIdentifier(locale));
+    const id locale = mac::foundation.locale.currentLocale();
+    return mac::textOf(mac::foundation.locale.localeIdentifier(locale));
 }
 
 } // namespace kestrune

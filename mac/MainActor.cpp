@@ -71,6 +71,6 @@ void SleepingTask::cancel() {
     }
 }
 
-bool MainActor::isCurrent() { return mac::ns_thread::isMainThread(mac::ns_thread::type.object()) != 0; }
+bool MainActor::isCurrent() { return mac::foundation.thread.isMainThread() != 0; }
 
 } // namespace kestrune

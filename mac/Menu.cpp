@@ -3,6 +3,7 @@
 #include "mac/Handles.h"
 #include "mac/ObjectCounterpart.h"
 #include "mac/Vocabulary.h"
+#include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
 
@@ -17,8 +18,7 @@ SEL selectorOf(const std::optional<Selector>& action) {
 }
 
 mac::Retained numberOf(std::int64_t number) {
-    return mac::Retained::retaining(
-        mac::ns_number::numberWithLongLong(mac::ns_number::type.object(), number));
+    return mac::Retained::retaining(mac::foundation.number.numberWithLongLong(number));
 }
 
 struct PlatformObject {
@@ -39,77 +39,76 @@ std::shared_ptr<Menu::State> stateOfMenu(id menu) {
 MenuItem::MenuItem(std::shared_ptr<State> state) : state_(std::move(state)) {}
 
 MenuItem::MenuItem()
-    : state_(stateOf(mac::Retained::adopting(
-          mac::ns_object::init(mac::ns_object::alloc(mac::ns_menu_item::type.object()))))) {}
+    : state_(stateOf(
+          mac::Retained::adopting(mac::foundation.object.init(mac::allocate(mac::appKit.menuItem))))) {}
 
 MenuItem::MenuItem(std::string_view title, std::optional<Selector> action, std::string_view keyEquivalent) {
     const mac::Pool pool;
-    state_ = stateOf(mac::Retained::adopting(mac::ns_menu_item::initWithTitle(
-        mac::ns_object::alloc(mac::ns_menu_item::type.object()), mac::nsString(title).get(),
-        selectorOf(action), mac::nsString(keyEquivalent).get())));
+    state_ = stateOf(mac::Retained::adopting(
+        mac::appKit.menuItem.initWithTitle(mac::allocate(mac::appKit.menuItem), mac::nsString(title).get(),
+                                           selectorOf(action), mac::nsString(keyEquivalent).get())));
 }
 
 MenuItem MenuItem::separatorItem() {
     const mac::Pool pool;
-    return MenuItem(stateOf(
-        mac::Retained::retaining(mac::ns_menu_item::separatorItem(mac::ns_menu_item::type.object()))));
+    return MenuItem(stateOf(mac::Retained::retaining(mac::appKit.menuItem.separatorItem())));
 }
 
 void MenuItem::setTarget(const std::weak_ptr<Object>& target) {
-    mac::ns_menu_item::setTarget(state_->item.get(), Object::Counterpart::of(target));
+    mac::appKit.menuItem.setTarget(state_->item.get(), Object::Counterpart::of(target));
 }
 
 void MenuItem::setSubmenu(const Menu& submenu) {
-    mac::ns_menu_item::setSubmenu(state_->item.get(), submenu.state()->menu.get());
+    mac::appKit.menuItem.setSubmenu(state_->item.get(), submenu.state()->menu.get());
 }
 
 void MenuItem::setKeyEquivalentModifierMask(EventModifierFlags mask) {
-    mac::ns_menu_item::setKeyEquivalentModifierMask(state_->item.get(), static_cast<mac::Unsigned>(mask));
+    mac::appKit.menuItem.setKeyEquivalentModifierMask(state_->item.get(), static_cast<mac::Unsigned>(mask));
 }
 
 void MenuItem::setRepresentedObject(const RepresentedObject& object) {
     const mac::Pool pool;
-    mac::ns_menu_item::setRepresentedObject(state_->item.get(), std::visit(PlatformObject(), object).get());
+    mac::appKit.menuItem.setRepresentedObject(state_->item.get(), std::visit(PlatformObject(), object).get());
 }
 
 std::optional<RepresentedObject> MenuItem::representedObject() const {
     const mac::Pool pool;
-    const id object = mac::ns_menu_item::representedObject(state_->item.get());
+    const id object = mac::appKit.menuItem.representedObject(state_->item.get());
     if (auto text = mac::textIfString(object)) {
         return *std::move(text);
     }
-    const bool isNumber = mac::ns_object::isKindOfClass(object, mac::ns_number::type.find()) != 0;
-    return isNumber ? std::optional<RepresentedObject>(std::int64_t{mac::ns_number::longLongValue(object)})
-                    : std::nullopt;
+    const bool isNumber = mac::foundation.object.isKindOfClass(object, mac::foundation.number.find()) != 0;
+    return isNumber
+               ? std::optional<RepresentedObject>(std::int64_t{mac::foundation.number.longLongValue(object)})
+               : std::nullopt;
 }
 
 void MenuItem::setState(ControlState state) {
-    mac::ns_menu_item::setState(state_->item.get(), static_cast<mac::Integer>(state));
+    mac::appKit.menuItem.setState(state_->item.get(), static_cast<mac::Integer>(state));
 }
 
 void MenuItem::setEnabled(bool enabled) {
-    mac::ns_menu_item::setEnabled(state_->item.get(), mac::truth(enabled));
+    mac::appKit.menuItem.setEnabled(state_->item.get(), mac::truth(enabled));
 }
 
 Menu::Menu(std::shared_ptr<State> state) : state_(std::move(state)) {}
 
-Menu::Menu()
-    : state_(stateOfMenu(mac::ns_object::init(mac::ns_object::alloc(mac::ns_menu::type.object())))) {}
+Menu::Menu() : state_(stateOfMenu(mac::foundation.object.init(mac::allocate(mac::appKit.menu)))) {}
 
 Menu::Menu(std::string_view title)
-    : state_(stateOfMenu(mac::ns_menu::initWithTitle(mac::ns_object::alloc(mac::ns_menu::type.object()),
-                                                     mac::nsString(title).get()))) {}
+    : state_(stateOfMenu(
+          mac::appKit.menu.initWithTitle(mac::allocate(mac::appKit.menu), mac::nsString(title).get()))) {}
 
 void Menu::setAutoenablesItems(bool autoenables) {
-    mac::ns_menu::setAutoenablesItems(state_->menu.get(), mac::truth(autoenables));
+    mac::appKit.menu.setAutoenablesItems(state_->menu.get(), mac::truth(autoenables));
 }
 
 void Menu::addItem(const MenuItem& item) {
-    mac::ns_menu::addItem(state_->menu.get(), item.state()->item.get());
+    mac::appKit.menu.addItem(state_->menu.get(), item.state()->item.get());
 }
 
 void Menu::setDelegate(const std::weak_ptr<MenuDelegate>& delegate) {
-    mac::ns_menu::setDelegate(state_->menu.get(), Object::Counterpart::of(delegate));
+    mac::appKit.menu.setDelegate(state_->menu.get(), Object::Counterpart::of(delegate));
 }
 
 } // namespace kestrune

@@ -21,16 +21,14 @@ struct NotificationObserver::State {
 
 namespace {
 
-id theDefaultCenter() {
-    return mac::ns_notification_center::defaultCenter(mac::ns_notification_center::type.object());
-}
+id theDefaultCenter() { return mac::foundation.notificationCenter.defaultCenter(); }
 
 } // namespace
 
 std::optional<Window> Notification::objectAsWindow() const {
     const mac::Pool pool;
-    const id object = mac::ns_notification::object(state_.notification);
-    const bool isWindow = mac::ns_object::isKindOfClass(object, mac::ns_window::type.find()) != 0;
+    const id object = mac::foundation.notification.object(state_.notification);
+    const bool isWindow = mac::foundation.object.isKindOfClass(object, mac::appKit.window.find()) != 0;
     return isWindow ? std::optional(Window(
                           std::make_shared<Window::State>(Window::State{mac::Retained::retaining(object)})))
                     : std::nullopt;
@@ -48,8 +46,8 @@ NotificationObserver NotificationCenter::addObserver(const NotificationName& nam
         const Notification::State state{notification};
         block(Notification(state));
     });
-    const id queue = mac::ns_operation_queue::mainQueue(mac::ns_operation_queue::type.object());
-    const id token = mac::ns_notification_center::addObserver(
+    const id queue = mac::foundation.operationQueue.mainQueue();
+    const id token = mac::foundation.notificationCenter.addObserver(
         theDefaultCenter(), mac::nsString(name.name()).get(), nullptr, queue, observed.get());
     return NotificationObserver(std::make_shared<NotificationObserver::State>(
         NotificationObserver::State{mac::Retained::retaining(token)}));
@@ -57,7 +55,7 @@ NotificationObserver NotificationCenter::addObserver(const NotificationName& nam
 
 void NotificationCenter::removeObserver(const NotificationObserver& observer) {
     const mac::Pool pool;
-    mac::ns_notification_center::removeObserver(theDefaultCenter(), observer.state()->token.get());
+    mac::foundation.notificationCenter.removeObserver(theDefaultCenter(), observer.state()->token.get());
 }
 
 } // namespace kestrune

@@ -4,6 +4,7 @@
 #include "mac/ObjectClass.h"
 #include "mac/ObjectCounterpart.h"
 #include "mac/Vocabulary.h"
+#include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 
@@ -13,20 +14,18 @@ namespace kestrune {
 
 namespace {
 
-id allocate(const Object& represented) {
-    return mac::ns_object::alloc(reinterpret_cast<id>(mac::classOf(represented)));
-}
+id allocate(const Object& represented) { return mac::allocate(mac::classOf(represented)); }
 
 // The initializer of a subclass that does not let others call it.
 id initializeWithWindow(id controller, const Window& window) {
-    return mac::ns_window_controller::initWithWindow.asImplementedBy(
-        mac::ns_window_controller::type.find(), controller, window.state()->window.get());
+    return mac::appKit.windowController.initWithWindow.asImplementedBy(
+        mac::appKit.windowController.find(), controller, window.state()->window.get());
 }
 
 } // namespace
 
 Object::Counterpart::Counterpart(const Object& represented)
-    : instance(mac::Retained::adopting(mac::ns_object::init(allocate(represented)))) {
+    : instance(mac::Retained::adopting(mac::foundation.object.init(allocate(represented)))) {
     mac::RuntimeClass::setTarget(instance.get(), this);
 }
 

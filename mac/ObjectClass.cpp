@@ -86,7 +86,7 @@ void willHandleShowingUpdate(id instance, SEL selector, BOOL, id /*update*/, id 
 // The delegate may let go of the window, which is still closing.
 void windowWillClose(id instance, SEL selector, id notification) noexcept {
     const Pool pool;
-    keepForThisTurn(ns_notification::object(notification));
+    keepForThisTurn(foundation.notification.object(notification));
     hearOf<WindowDelegate, &WindowDelegate::windowWillClose>(instance, selector, notification);
 }
 
@@ -156,7 +156,7 @@ void addDelegateMethods(RuntimeClass& made, const Object& object) {
 Class makeClass(const std::string& name, const Object& object) {
     const auto* const controller = dynamic_cast<const WindowController*>(&object);
     RuntimeClass made(name.c_str(),
-                      controller != nullptr ? ns_window_controller::type.find() : ns_object::type.find());
+                      controller != nullptr ? appKit.windowController.find() : foundation.object.find());
     addActions(made, object);
     addDelegateMethods(made, object);
     if (controller == nullptr) {

@@ -10,8 +10,8 @@ ProcessInfo ProcessInfo::processInfo() { return {}; }
 
 OperatingSystemVersion ProcessInfo::operatingSystemVersion() const {
     const mac::Pool pool;
-    const id information = mac::ns_process_info::processInfo(mac::ns_process_info::type.object());
-    return mac::ns_process_info::operatingSystemVersion(information);
+    const id information = mac::foundation.processInfo.processInfo();
+    return mac::foundation.processInfo.operatingSystemVersion(information);
 }
 
 } // namespace kestrune

@@ -7,7 +7,7 @@ namespace kestrune::mac {
 
 std::optional<Error> errorUnless(BOOL isDone, id reported) {
     return isDone != 0 ? std::nullopt
-                       : std::optional(Error{textOf(ns_error::localizedDescription(reported))});
+                       : std::optional(Error{textOf(foundation.error.localizedDescription(reported))});
 }
 
 } // namespace kestrune::mac

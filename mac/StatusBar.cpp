@@ -9,21 +9,21 @@ namespace kestrune {
 
 void StatusBarButton::setImage(const std::optional<Image>& image) {
     const mac::Pool pool;
-    mac::ns_button::setImage(state_->button.get(), image ? image->state()->image.get() : nullptr);
+    mac::appKit.button.setImage(state_->button.get(), image ? image->state()->image.get() : nullptr);
 }
 
 void StatusBarButton::setImageScaling(ImageScaling scaling) {
-    mac::ns_button::setImageScaling(state_->button.get(), static_cast<mac::Unsigned>(scaling));
+    mac::appKit.button.setImageScaling(state_->button.get(), static_cast<mac::Unsigned>(scaling));
 }
 
 void StatusBarButton::setToolTip(std::string_view toolTip) {
     const mac::Pool pool;
-    mac::ns_button::setToolTip(state_->button.get(), mac::nsString(toolTip).get());
+    mac::appKit.button.setToolTip(state_->button.get(), mac::nsString(toolTip).get());
 }
 
 std::optional<StatusBarButton> StatusItem::button() const {
     const mac::Pool pool;
-    const id button = mac::ns_status_item::button(state_->item.get());
+    const id button = mac::appKit.statusItem.button(state_->item.get());
     if (button == nullptr) {
         return std::nullopt;
     }
@@ -33,17 +33,17 @@ std::optional<StatusBarButton> StatusItem::button() const {
 
 void StatusItem::setMenu(const Menu& menu) {
     const mac::Pool pool;
-    mac::ns_status_item::setMenu(state_->item.get(), menu.state()->menu.get());
+    mac::appKit.statusItem.setMenu(state_->item.get(), menu.state()->menu.get());
 }
 
 StatusBar StatusBar::systemStatusBar() { return {}; }
 
 StatusItem StatusBar::statusItem(double length) {
     const mac::Pool pool;
-    const id bar = mac::ns_status_bar::systemStatusBar(mac::ns_status_bar::type.object());
+    const id bar = mac::appKit.statusBar.systemStatusBar();
     // Nobody else retains a status item.
-    return StatusItem(std::make_shared<StatusItem::State>(
-        StatusItem::State{mac::Retained::retaining(mac::ns_status_bar::statusItemWithLength(bar, length))}));
+    return StatusItem(std::make_shared<StatusItem::State>(StatusItem::State{
+        mac::Retained::retaining(mac::appKit.statusBar.statusItemWithLength(bar, length))}));
 }
 
 } // namespace kestrune

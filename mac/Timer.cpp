@@ -19,11 +19,10 @@ Timer Timer::scheduledTimer(double interval, bool repeats, std::function<void(Ti
         Timer handle(std::make_shared<State>(State{mac::Retained::retaining(timer)}));
         block(handle);
     });
-    const id timer = mac::ns_timer::scheduledTimer(mac::ns_timer::type.object(), interval,
-                                                   mac::truth(repeats), fired.get());
+    const id timer = mac::foundation.timer.scheduledTimer(interval, mac::truth(repeats), fired.get());
     return Timer(std::make_shared<State>(State{mac::Retained::retaining(timer)}));
 }
 
-void Timer::invalidate() { mac::ns_timer::invalidate(state_->timer.get()); }
+void Timer::invalidate() { mac::foundation.timer.invalidate(state_->timer.get()); }
 
 } // namespace kestrune

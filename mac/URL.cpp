@@ -7,12 +7,12 @@ namespace kestrune {
 
 std::optional<URL> URL::withString(std::string_view text) {
     const mac::Pool pool;
-    return State::handle(mac::ns_url::urlWithString(mac::ns_url::type.object(), mac::nsString(text).get()));
+    return State::handle(mac::foundation.url.urlWithString(mac::nsString(text).get()));
 }
 
 std::string URL::absoluteString() const {
     const mac::Pool pool;
-    return mac::textOf(mac::ns_url::absoluteString(state_->url.get()));
+    return mac::textOf(mac::foundation.url.absoluteString(state_->url.get()));
 }
 
 } // namespace kestrune

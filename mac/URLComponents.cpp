@@ -17,37 +17,36 @@ namespace {
 // Borrowed from the innermost pool.
 id queryItem(const URLQueryItem& item) {
     const mac::Retained value = item.value ? mac::nsString(*item.value) : mac::Retained();
-    return mac::ns_url_query_item::queryItemWithName(mac::ns_url_query_item::type.object(),
-                                                     mac::nsString(item.name).get(), value.get());
+    return mac::foundation.urlQueryItem.queryItemWithName(mac::nsString(item.name).get(), value.get());
 }
 
 } // namespace
 
 URLComponents::URLComponents()
-    : state_(std::make_shared<State>(State{mac::newObject(mac::ns_url_components::type)})) {}
+    : state_(std::make_shared<State>(State{mac::newObject(mac::foundation.urlComponents)})) {}
 
 void URLComponents::setScheme(std::string_view scheme) {
     const mac::Pool pool;
-    mac::ns_url_components::setScheme(state_->components.get(), mac::nsString(scheme).get());
+    mac::foundation.urlComponents.setScheme(state_->components.get(), mac::nsString(scheme).get());
 }
 
 void URLComponents::setPath(std::string_view path) {
     const mac::Pool pool;
-    mac::ns_url_components::setPath(state_->components.get(), mac::nsString(path).get());
+    mac::foundation.urlComponents.setPath(state_->components.get(), mac::nsString(path).get());
 }
 
 void URLComponents::setQueryItems(std::span<const URLQueryItem> items) {
     const mac::Pool pool;
-    const mac::Retained list = mac::newObject(mac::ns_mutable_array::type);
+    const mac::Retained list = mac::newObject(mac::foundation.mutableArray);
     for (const URLQueryItem& item : items) {
-        mac::ns_mutable_array::addObject(list.get(), queryItem(item));
+        mac::foundation.mutableArray.addObject(list.get(), queryItem(item));
     }
-    mac::ns_url_components::setQueryItems(state_->components.get(), list.get());
+    mac::foundation.urlComponents.setQueryItems(state_->components.get(), list.get());
 }
 
 std::optional<URL> URLComponents::url() const {
     const mac::Pool pool;
-    return URL::State::handle(mac::ns_url_components::url(state_->components.get()));
+    return URL::State::handle(mac::foundation.urlComponents.url(state_->components.get()));
 }
 
 } // namespace kestrune

@@ -3,6 +3,7 @@
 #include "mac/ObjectCounterpart.h"
 #include "mac/ReportedError.h"
 #include "mac/Vocabulary.h"
+#include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
 #include "mac/objc/SelfCheck.h"
@@ -22,16 +23,16 @@ struct Updater::State {
 namespace {
 
 // As every Bundle is the main one.
-id theMainBundle() { return mac::ns_bundle::mainBundle(mac::ns_bundle::type.object()); }
+id theMainBundle() { return mac::foundation.bundle.mainBundle(); }
 
 // In the Frameworks folder of the bundle, where it lies if it does.
 id bundleOfFramework() {
-    const id folder = mac::ns_bundle::privateFrameworksPath(theMainBundle());
+    const id folder = mac::foundation.bundle.privateFrameworksPath(theMainBundle());
     if (folder == nullptr) {
         return nullptr;
     }
     const mac::Retained path = mac::nsString(mac::textOf(folder) + "/Sparkle.framework");
-    return mac::ns_bundle::bundleWithPath(mac::ns_bundle::type.object(), path.get());
+    return mac::foundation.bundle.bundleWithPath(path.get());
 }
 
 // Loaded already when it is asked for again. The program is not linked with it, so that it starts without.
@@ -41,13 +42,8 @@ std::optional<Error> loadFramework() {
         return Error{std::string(MissingUpdateFramework)};
     }
     id error = nullptr;
-    const BOOL isLoaded = mac::ns_bundle::loadAndReturnError(framework, &error);
+    const BOOL isLoaded = mac::foundation.bundle.loadAndReturnError(framework, &error);
     return mac::errorUnless(isLoaded, error);
-}
-
-// Nil when the framework is not there, as is what comes of a message to it.
-id allocate(const mac::ClassReference& type) {
-    return mac::ns_object::alloc(reinterpret_cast<id>(type.find()));
 }
 
 // A protocol exists at run time once the framework is loaded, and only if that keeps it.
@@ -72,8 +68,8 @@ StandardUserDriver::StandardUserDriver(const Bundle& /*hostBundle*/,
 #endif
     const id instance = Object::Counterpart::of(delegate);
     adopt(instance, "SPUStandardUserDriverDelegate");
-    state_->driver = mac::Retained::adopting(mac::spu_standard_user_driver::initWithHostBundle(
-        allocate(mac::spu_standard_user_driver::type), theMainBundle(), instance));
+    state_->driver = mac::Retained::adopting(mac::sparkle.standardUserDriver.initWithHostBundle(
+        mac::allocate(mac::sparkle.standardUserDriver.find()), theMainBundle(), instance));
 }
 
 Updater::Updater(const Bundle& /*hostBundle*/, const Bundle& /*applicationBundle*/,
@@ -87,8 +83,8 @@ Updater::Updater(const Bundle& /*hostBundle*/, const Bundle& /*applicationBundle
     const id instance = Object::Counterpart::of(delegate);
     adopt(instance, "SPUUpdaterDelegate");
     state_->updater = mac::Retained::adopting(
-        mac::spu_updater::initWithHostBundle(allocate(mac::spu_updater::type), theMainBundle(),
-                                             theMainBundle(), userDriver.state()->driver.get(), instance));
+        mac::sparkle.updater.initWithHostBundle(mac::allocate(mac::sparkle.updater.find()), theMainBundle(),
+                                                theMainBundle(), userDriver.state()->driver.get(), instance));
 }
 
 std::optional<Error> Updater::startUpdater() {
@@ -97,18 +93,18 @@ std::optional<Error> Updater::startUpdater() {
     }
     const mac::Pool pool;
     id error = nullptr;
-    const BOOL hasStarted = mac::spu_updater::startUpdater(state_->updater.get(), &error);
+    const BOOL hasStarted = mac::sparkle.updater.startUpdater(state_->updater.get(), &error);
     return mac::errorUnless(hasStarted, error);
 }
 
 void Updater::setAutomaticallyDownloadsUpdates(bool downloads) {
     const mac::Pool pool;
-    mac::spu_updater::setAutomaticallyDownloadsUpdates(state_->updater.get(), mac::truth(downloads));
+    mac::sparkle.updater.setAutomaticallyDownloadsUpdates(state_->updater.get(), mac::truth(downloads));
 }
 
 void Updater::checkForUpdates() {
     const mac::Pool pool;
-    mac::spu_updater::checkForUpdates(state_->updater.get());
+    mac::sparkle.updater.checkForUpdates(state_->updater.get());
 }
 
 } // namespace kestrune

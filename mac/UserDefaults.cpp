@@ -46,38 +46,39 @@ UserDefaults::UserDefaults(std::unique_ptr<State> state) : state_(std::move(stat
 UserDefaults::~UserDefaults() = default;
 
 std::shared_ptr<UserDefaults> UserDefaults::standardUserDefaults() {
-    const id defaults = mac::ns_user_defaults::standardUserDefaults(mac::ns_user_defaults::type.object());
+    const id defaults = mac::foundation.userDefaults.standardUserDefaults();
     return std::shared_ptr<UserDefaults>(
         new UserDefaults(std::make_unique<State>(State{mac::Retained::retaining(defaults)})));
 }
 
 const UserDefaults::Object* UserDefaults::objectForKey(const UserDefaultsKey& key) const {
     return reinterpret_cast<const Object*>(
-        mac::ns_user_defaults::objectForKey(state_->defaults.get(), stringFor(key)));
+        mac::foundation.userDefaults.objectForKey(state_->defaults.get(), stringFor(key)));
 }
 
 bool UserDefaults::boolForKey(const UserDefaultsKey& key) const {
-    return mac::ns_user_defaults::boolForKey(state_->defaults.get(), stringFor(key)) != 0;
+    return mac::foundation.userDefaults.boolForKey(state_->defaults.get(), stringFor(key)) != 0;
 }
 
 double UserDefaults::doubleForKey(const UserDefaultsKey& key) const {
-    return mac::ns_user_defaults::doubleForKey(state_->defaults.get(), stringFor(key));
+    return mac::foundation.userDefaults.doubleForKey(state_->defaults.get(), stringFor(key));
 }
 
 std::optional<std::string> UserDefaults::stringForKey(const UserDefaultsKey& key) const {
     const mac::Pool pool;
-    return mac::textIfString(mac::ns_user_defaults::stringForKey(state_->defaults.get(), stringFor(key)));
+    return mac::textIfString(
+        mac::foundation.userDefaults.stringForKey(state_->defaults.get(), stringFor(key)));
 }
 
 void UserDefaults::setBool(bool value, const UserDefaultsKey& key) {
     const mac::Pool pool;
-    mac::ns_user_defaults::setBool(state_->defaults.get(), mac::truth(value), stringFor(key));
+    mac::foundation.userDefaults.setBool(state_->defaults.get(), mac::truth(value), stringFor(key));
 }
 
 void UserDefaults::setObject(std::optional<std::string_view> value, const UserDefaultsKey& key) {
     const mac::Pool pool;
     const mac::Retained object = value ? mac::nsString(*value) : mac::Retained();
-    mac::ns_user_defaults::setObject(state_->defaults.get(), object.get(), stringFor(key));
+    mac::foundation.userDefaults.setObject(state_->defaults.get(), object.get(), stringFor(key));
 }
 
 } // namespace kestrune

@@ -10,8 +10,8 @@ Workspace Workspace::sharedWorkspace() { return {}; }
 
 bool Workspace::openURL(const URL& url) {
     const mac::Pool pool;
-    const id workspace = mac::ns_workspace::sharedWorkspace(mac::ns_workspace::type.object());
-    return mac::ns_workspace::openURL(workspace, url.state()->url.get()) != 0;
+    const id workspace = mac::appKit.workspace.sharedWorkspace();
+    return mac::appKit.workspace.openURL(workspace, url.state()->url.get()) != 0;
 }
 
 } // namespace kestrune

@@ -93,8 +93,7 @@ public:
         guard_.setPreferences(preferences_);
         guard_.refreshScreens();
         guard_.start();
-        floor_.defaults = mac::Retained::retaining(
-            mac::ns_user_defaults::standardUserDefaults(mac::ns_user_defaults::type.object()));
+        floor_.defaults = mac::Retained::retaining(mac::foundation.userDefaults.standardUserDefaults());
         floor_.isEnabledKey = mac::nsString(Preferences::IsEnabledKey.name());
         floor_.blockMarginKey = mac::nsString(Preferences::BlockMarginKey.name());
         floor_.width = Width;

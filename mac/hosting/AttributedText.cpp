@@ -36,21 +36,20 @@ Integer platformAlignment(ui::TextAlignment alignment) {
 } // namespace
 
 Retained attributedText(const ui::StyledText& text, double opacity) {
-    const Retained style = newObject(ns_mutable_paragraph_style::type);
-    ns_mutable_paragraph_style::setAlignment(style.get(), platformAlignment(text.alignment));
-    Retained result = newObject(ns_mutable_attributed_string::type);
+    const Retained style = newObject(appKit.mutableParagraphStyle);
+    appKit.mutableParagraphStyle.setAlignment(style.get(), platformAlignment(text.alignment));
+    Retained result = newObject(appKit.mutableAttributedString);
     for (const ui::TextRun& run : text.runs) {
-        const Retained attributes = newObject(ns_mutable_dictionary::type);
+        const Retained attributes = newObject(foundation.mutableDictionary);
         const auto set = [&attributes](id key, id value) {
-            ns_mutable_dictionary::setObject(attributes.get(), value, key);
+            foundation.mutableDictionary.setObject(attributes.get(), value, key);
         };
         set(NSFontAttributeName, platformFont(text.font, run.weight));
         set(NSForegroundColorAttributeName, colorWithOpacity(text.color, opacity));
         set(NSParagraphStyleAttributeName, style.get());
-        const Retained part = Retained::adopting(
-            ns_attributed_string::initWithString(ns_object::alloc(ns_attributed_string::type.object()),
-                                                 nsString(run.text).get(), attributes.get()));
-        ns_mutable_attributed_string::appendAttributedString(result.get(), part.get());
+        const Retained part = Retained::adopting(appKit.attributedString.initWithString(
+            allocate(appKit.attributedString), nsString(run.text).get(), attributes.get()));
+        appKit.mutableAttributedString.appendAttributedString(result.get(), part.get());
     }
     return result;
 }

@@ -20,18 +20,19 @@ Unsigned platformSize(ui::ControlSize size) {
 }
 
 void setButtonSize(id button, ui::ControlSize size) {
-    const id fonts = ns_font::type.object();
-    ns_control::setControlSize(button, platformSize(size));
-    ns_control::setFont(button, ns_font::systemFontOfSize(
-                                    fonts, ns_font::systemFontSizeForControlSize(fonts, platformSize(size))));
+    appKit.control.setControlSize(button, platformSize(size));
+    appKit.control.setFont(
+        button, appKit.font.systemFontOfSize(appKit.font.systemFontSizeForControlSize(platformSize(size))));
 }
 
 void setAccessibilityLabel(id control, std::string_view label) {
-    ns_view::setAccessibilityLabel(control, nsString(label).get());
+    appKit.view.setAccessibilityLabel(control, nsString(label).get());
 }
 
-void setAction(id control, std::size_t action) { ns_control::setTag(control, static_cast<Integer>(action)); }
+void setAction(id control, std::size_t action) {
+    appKit.control.setTag(control, static_cast<Integer>(action));
+}
 
-std::size_t actionOf(id control) { return static_cast<std::size_t>(ns_control::tag(control)); }
+std::size_t actionOf(id control) { return static_cast<std::size_t>(appKit.control.tag(control)); }
 
 } // namespace kestrune::mac

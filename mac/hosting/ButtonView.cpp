@@ -24,17 +24,17 @@ const char* keyOf(ui::KeyboardShortcut shortcut) {
 } // namespace
 
 void ButtonView::connect(id target) {
-    ns_control::setTarget(view(), target);
-    ns_control::setAction(view(), sel_registerName("pressButton:"));
+    appKit.control.setTarget(view(), target);
+    appKit.control.setAction(view(), sel_registerName("pressButton:"));
 }
 
 void ButtonView::update(const ui::ButtonElement& next) {
     if (differs(next, &ui::ButtonElement::title)) {
-        ns_button::setTitle(view(), nsString(next.title).get());
+        appKit.button.setTitle(view(), nsString(next.title).get());
         setAccessibilityLabel(view(), next.title);
     }
     if (differs(next, &ui::ButtonElement::shortcut)) {
-        ns_button::setKeyEquivalent(view(), nsString(keyOf(next.shortcut)).get());
+        appKit.button.setKeyEquivalent(view(), nsString(keyOf(next.shortcut)).get());
     }
     mac::setAction(view(), next.action);
 }

@@ -18,8 +18,8 @@ struct Painter {
     double opacity;
 
     void operator()(const ui::TextElement& element) const {
-        ns_attributed_string::drawWithRect(attributedText(element.text, opacity).get(),
-                                           movedBy(element.frame, origin), TextLayoutOptions);
+        appKit.attributedString.drawWithRect(attributedText(element.text, opacity).get(),
+                                             movedBy(element.frame, origin), TextLayoutOptions);
     }
 
     void operator()(const ui::SymbolElement& element) const {
@@ -27,7 +27,7 @@ struct Painter {
     }
 
     void operator()(const ui::ShapeElement& element) const {
-        ns_color::set(colorWithOpacity(element.fill, element.opacity * opacity));
+        appKit.color.set(colorWithOpacity(element.fill, element.opacity * opacity));
         fillMask(element, origin);
     }
 };
@@ -43,8 +43,8 @@ void draw(const std::vector<ui::Drawing>& drawings, Point origin, double opacity
 // A path has no continuous corners. At the radii of controls they are the circular ones within a fraction of
 // a pixel.
 void fillMask(const ui::ShapeElement& shape, Point origin) {
-    ns_bezier_path::fill(ns_bezier_path::bezierPathWithRoundedRect(
-        ns_bezier_path::type.object(), movedBy(shape.frame, origin), shape.cornerRadius, shape.cornerRadius));
+    appKit.bezierPath.fill(appKit.bezierPath.bezierPathWithRoundedRect(
+        movedBy(shape.frame, origin), shape.cornerRadius, shape.cornerRadius));
 }
 
 BOOL alwaysFlipped(id, SEL) noexcept { return truth(true); }

@@ -4,6 +4,7 @@
 #include "mac/hosting/ButtonView.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/hosting/ElementViews.h"
+#include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 
@@ -18,13 +19,11 @@ constexpr double PressedLinkOpacity = 0.55;
 class DrawnButton : public ButtonView {
 public:
     explicit DrawnButton(id target)
-        : ButtonView(Retained::adopting(
-              ns_view::initWithFrame(ns_object::alloc(reinterpret_cast<id>(buttonClass())), Rect()))) {
-        const Retained cell =
-            Retained::adopting(ns_object::init(ns_object::alloc(reinterpret_cast<id>(cellClass()))));
-        ns_control::setCell(view(), cell.get());
-        ns_button::setButtonType(view(), MomentaryPushIn);
-        ns_button::setBordered(view(), truth(false));
+        : ButtonView(Retained::adopting(appKit.view.initWithFrame(allocate(buttonClass()), Rect()))) {
+        const Retained cell = Retained::adopting(foundation.object.init(allocate(cellClass())));
+        appKit.control.setCell(view(), cell.get());
+        appKit.button.setButtonType(view(), MomentaryPushIn);
+        appKit.button.setBordered(view(), truth(false));
         connect(target);
         RuntimeClass::setTarget(view(), this);
     }
@@ -34,10 +33,10 @@ private:
     void update(const ui::ButtonElement& next) override {
         ButtonView::update(next);
         if (differs(next, &ui::ButtonElement::frame)) {
-            ns_view::setFrame(view(), next.frame);
+            appKit.view.setFrame(view(), next.frame);
         }
         if (differs(next, &ui::ButtonElement::body) || differs(next, &ui::ButtonElement::pressedBody)) {
-            ns_view::setNeedsDisplay(view(), truth(true));
+            appKit.view.setNeedsDisplay(view(), truth(true));
         }
     }
 
@@ -50,7 +49,7 @@ private:
     static void drawCell(id cell, SEL, Rect /*frame*/, id view) noexcept {
         const Pool pool;
         if (const DrawnButton* const self = of(view)) {
-            drawElement(*self->shown(), ns_cell::isHighlighted(cell) != 0);
+            drawElement(*self->shown(), appKit.cell.isHighlighted(cell) != 0);
         }
     }
 
@@ -63,7 +62,7 @@ private:
         }
     }
 
-    static Rect focusRingMaskBounds(id view, SEL) noexcept { return ns_view::bounds(view); }
+    static Rect focusRingMaskBounds(id view, SEL) noexcept { return appKit.view.bounds(view); }
 
     // Around the shape behind the label, or around all of it.
     static void drawFocusRingMask(id view, SEL) noexcept {
@@ -87,7 +86,7 @@ private:
 
     static Class buttonClass() {
         static const Class made = [] {
-            RuntimeClass type("KestruneDrawnButton", ns_button::type.find());
+            RuntimeClass type("KestruneDrawnButton", appKit.button.find());
             type.addMethod("isFlipped", alwaysFlipped);
             type.addMethod("wantsUpdateLayer", wantsUpdateLayer);
             type.addMethod("focusRingMaskBounds", focusRingMaskBounds);
@@ -99,7 +98,7 @@ private:
 
     static Class cellClass() {
         static const Class made = [] {
-            RuntimeClass type("KestruneDrawnButtonCell", ns_button_cell::type.find());
+            RuntimeClass type("KestruneDrawnButtonCell", appKit.buttonCell.find());
             type.addMethod("drawWithFrame:inView:", drawCell);
             return type.finish();
         }();

@@ -29,7 +29,7 @@ double platformWeight(ui::FontWeight weight) {
 }
 
 id platformFont(const ui::Font& font, ui::FontWeight weight) {
-    return ns_font::systemFontOfSizeWeight(ns_font::type.object(), font.size, platformWeight(weight));
+    return appKit.font.systemFontOfSizeWeight(font.size, platformWeight(weight));
 }
 
 } // namespace kestrune::mac

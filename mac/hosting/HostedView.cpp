@@ -4,6 +4,7 @@
 #include "mac/hosting/ButtonSettings.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/objc/Lifetime.h"
+#include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 #include "mac/objc/Text.h"
@@ -23,13 +24,13 @@ std::string localize(std::string_view key) { return Bundle::mainBundle().localiz
 
 std::string uppercase(std::string_view text) {
     const Pool pool;
-    return textOf(ns_string::localizedUppercaseString(nsString(text).get()));
+    return textOf(foundation.string.localizedUppercaseString(nsString(text).get()));
 }
 
 // What the action lets go of, the window among it, stays until AppKit has finished with the event.
 HostedView& hostOf(id view, id control) {
     keepForThisTurn(control);
-    keepForThisTurn(ns_view::window(view));
+    keepForThisTurn(appKit.view.window(view));
     return HostedView::of(view);
 }
 
@@ -40,25 +41,25 @@ void pressButton(id view, SEL, id button) noexcept {
 
 void flipSwitch(id view, SEL, id control) noexcept {
     const Pool pool;
-    hostOf(view, control).flip(actionOf(control), ns_switch::state(control) != 0);
+    hostOf(view, control).flip(actionOf(control), appKit.switchControl.state(control) != 0);
 }
 
 // Otherwise the window would order the controls by their places.
 void viewDidMoveToWindow(id view, SEL) noexcept {
     const Pool pool;
-    ns_window::setInitialFirstResponder(ns_view::window(view), view);
+    appKit.window.setInitialFirstResponder(appKit.view.window(view), view);
 }
 
 void dealloc(id view, SEL) noexcept {
     const Pool pool;
     std::unique_ptr<HostedView> host(static_cast<HostedView*>(RuntimeClass::target(view)));
     host.reset();
-    ns_object::dealloc.asImplementedBy(ns_view::type.find(), view);
+    foundation.object.dealloc.asImplementedBy(appKit.view.find(), view);
 }
 
 Class viewClass() {
     static const Class made = [] {
-        RuntimeClass type("KestruneHostingView", ns_view::type.find());
+        RuntimeClass type("KestruneHostingView", appKit.view.find());
         type.addMethod("isFlipped", alwaysFlipped);
         type.addMethod("pressButton:", pressButton);
         type.addMethod("flipSwitch:", flipSwitch);
@@ -69,10 +70,7 @@ Class viewClass() {
     return made;
 }
 
-Retained newView() {
-    return Retained::adopting(
-        ns_view::initWithFrame(ns_object::alloc(reinterpret_cast<id>(viewClass())), Rect()));
-}
+Retained newView() { return Retained::adopting(appKit.view.initWithFrame(allocate(viewClass()), Rect())); }
 
 } // namespace
 
@@ -135,16 +133,16 @@ void HostedView::showScene() { shown_.show(host_.scene()); }
 
 void HostedView::fitWindow() const {
     const Size size = host_.scene().size;
-    const id window = ns_view::window(view());
+    const id window = appKit.view.window(view());
     if (window == nullptr) {
-        ns_view::setFrame(view(), {0, 0, size.width, size.height});
+        appKit.view.setFrame(view(), {0, 0, size.width, size.height});
         return;
     }
-    const Rect now = ns_window::frame(window);
-    const Size fitting = ns_window::frameRectForContentRect(window, {0, 0, size.width, size.height}).size;
+    const Rect now = appKit.window.frame(window);
+    const Size fitting = appKit.window.frameRectForContentRect(window, {0, 0, size.width, size.height}).size;
     const Rect next(now.origin.x, now.maxY() - fitting.height, fitting.width, fitting.height);
     if (next != now) {
-        ns_window::setFrame(window, next, truth(true));
+        appKit.window.setFrame(window, next, truth(true));
     }
 }
 

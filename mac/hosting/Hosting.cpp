@@ -3,6 +3,7 @@
 #include "mac/Vocabulary.h"
 #include "mac/hosting/HostedView.h"
 #include "mac/hosting/HostingState.h"
+#include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 
 #include <utility>
@@ -11,10 +12,10 @@ namespace kestrune {
 
 HostingController::HostingController(ui::RootView rootView) {
     const mac::Pool pool;
-    mac::Retained controller = mac::Retained::adopting(mac::ns_view_controller::initWithNibName(
-        mac::ns_object::alloc(mac::ns_view_controller::type.object()), nullptr, nullptr));
+    mac::Retained controller = mac::Retained::adopting(mac::appKit.viewController.initWithNibName(
+        mac::allocate(mac::appKit.viewController), nullptr, nullptr));
     mac::Retained view = mac::HostedView::make(std::move(rootView));
-    mac::ns_view_controller::setView(controller.get(), view.get());
+    mac::appKit.viewController.setView(controller.get(), view.get());
     state_ = std::make_shared<State>(State{std::move(controller), std::move(view)});
 }
 

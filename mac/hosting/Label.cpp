@@ -2,6 +2,7 @@
 #include "mac/Vocabulary.h"
 #include "mac/hosting/AttributedText.h"
 #include "mac/hosting/ElementViews.h"
+#include "mac/objc/NewObject.h"
 
 namespace kestrune::mac {
 
@@ -16,26 +17,24 @@ Rect fieldFrame(const Rect& text) {
 
 class Label : public ViewOf<ui::TextElement> {
 public:
-    Label()
-        : ViewOf(Retained::adopting(
-              ns_view::initWithFrame(ns_object::alloc(ns_text_field::type.object()), Rect()))) {
-        ns_text_field::setEditable(view(), truth(false));
-        ns_text_field::setSelectable(view(), truth(false));
-        ns_text_field::setBezeled(view(), truth(false));
-        ns_text_field::setDrawsBackground(view(), truth(false));
-        ns_cell::setWraps(ns_control::cell(view()), truth(true));
+    Label() : ViewOf(Retained::adopting(appKit.view.initWithFrame(allocate(appKit.textField), Rect()))) {
+        appKit.textField.setEditable(view(), truth(false));
+        appKit.textField.setSelectable(view(), truth(false));
+        appKit.textField.setBezeled(view(), truth(false));
+        appKit.textField.setDrawsBackground(view(), truth(false));
+        appKit.cell.setWraps(appKit.control.cell(view()), truth(true));
     }
 
 private:
     void update(const ui::TextElement& next) override {
         if (differs(next, &ui::TextElement::frame)) {
-            ns_view::setFrame(view(), fieldFrame(next.frame));
+            appKit.view.setFrame(view(), fieldFrame(next.frame));
         }
         if (differs(next, &ui::TextElement::text)) {
-            ns_control::setAttributedStringValue(view(), attributedText(next.text).get());
+            appKit.control.setAttributedStringValue(view(), attributedText(next.text).get());
         }
         if (differs(next, &ui::TextElement::isAccessibilityHidden)) {
-            ns_view::setAccessibilityElement(view(), truth(!next.isAccessibilityHidden));
+            appKit.view.setAccessibilityElement(view(), truth(!next.isAccessibilityHidden));
         }
     }
 };

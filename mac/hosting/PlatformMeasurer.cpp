@@ -18,29 +18,30 @@ constexpr double Unbounded = 1e6; // points; more than any text has
 
 Size PlatformMeasurer::measureText(const ui::StyledText& text, std::optional<double> width) const {
     const Pool pool;
-    return ns_attributed_string::boundingRectWithSize(
-               attributedText(text).get(), {width.value_or(Unbounded), Unbounded}, TextLayoutOptions)
+    return appKit.attributedString
+        .boundingRectWithSize(attributedText(text).get(), {width.value_or(Unbounded), Unbounded},
+                              TextLayoutOptions)
         .size;
 }
 
 Size PlatformMeasurer::measureSymbol(const ui::StyledSymbol& symbol) const {
     const Pool pool;
-    return ns_image::size(symbolImage(symbol).get());
+    return appKit.image.size(symbolImage(symbol).get());
 }
 
 Size PlatformMeasurer::measurePushButton(std::string_view title, ui::ControlSize size) const {
     const Pool pool;
     const Retained button = newPushButton();
-    ns_button::setTitle(button.get(), nsString(title).get());
+    appKit.button.setTitle(button.get(), nsString(title).get());
     setButtonSize(button.get(), size);
-    return ns_view::intrinsicContentSize(button.get());
+    return appKit.view.intrinsicContentSize(button.get());
 }
 
 Size PlatformMeasurer::measureSwitch(ui::ControlSize size) const {
     const Pool pool;
     const Retained control = newSwitch();
-    ns_control::setControlSize(control.get(), platformSize(size));
-    return ns_view::intrinsicContentSize(control.get());
+    appKit.control.setControlSize(control.get(), platformSize(size));
+    return appKit.view.intrinsicContentSize(control.get());
 }
 
 } // namespace kestrune::mac

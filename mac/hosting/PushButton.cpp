@@ -20,10 +20,10 @@ private:
             setButtonSize(view(), next.size);
         }
         if (differs(next, &ui::ButtonElement::role)) {
-            ns_button::setHasDestructiveAction(view(), truth(next.role == ui::ButtonRole::destructive));
+            appKit.button.setHasDestructiveAction(view(), truth(next.role == ui::ButtonRole::destructive));
         }
         if (differs(next, &ui::ButtonElement::frame)) {
-            ns_view::setFrame(view(), ns_view::frameForAlignmentRect(view(), next.frame));
+            appKit.view.setFrame(view(), appKit.view.frameForAlignmentRect(view(), next.frame));
         }
     }
 };

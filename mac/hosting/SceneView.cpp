@@ -59,22 +59,22 @@ void SceneView::keepRemoved(const Views& views) {
 // Views are in front of each other, and read out, in the order of the elements. Those that stay are not taken
 // out on the way, so the focus stays where it is.
 void SceneView::arrangeSubviews() const {
-    const Retained list = newObject(ns_mutable_array::type);
+    const Retained list = newObject(foundation.mutableArray);
     for (const auto& view : views_) {
-        ns_mutable_array::addObject(list.get(), view->view());
+        foundation.mutableArray.addObject(list.get(), view->view());
     }
-    ns_view::setSubviews(view_, list.get());
+    appKit.view.setSubviews(view_, list.get());
 }
 
 void SceneView::connectKeyViews() const {
     id latest = view_;
     for (const auto& view : views_) {
         if (view->isControl()) {
-            ns_view::setNextKeyView(latest, view->view());
+            appKit.view.setNextKeyView(latest, view->view());
             latest = view->view();
         }
     }
-    ns_view::setNextKeyView(latest, view_);
+    appKit.view.setNextKeyView(latest, view_);
 }
 
 } // namespace kestrune::mac

@@ -2,6 +2,7 @@
 #include "mac/Vocabulary.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/hosting/ElementViews.h"
+#include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 
@@ -11,9 +12,7 @@ namespace {
 
 class ShapeView : public ViewOf<ui::ShapeElement> {
 public:
-    ShapeView()
-        : ViewOf(Retained::adopting(
-              ns_view::initWithFrame(ns_object::alloc(reinterpret_cast<id>(shapeViewClass())), Rect()))) {
+    ShapeView() : ViewOf(Retained::adopting(appKit.view.initWithFrame(allocate(shapeViewClass()), Rect()))) {
         RuntimeClass::setTarget(view(), this);
     }
     ~ShapeView() override { RuntimeClass::setTarget(view(), nullptr); }
@@ -23,8 +22,8 @@ private:
         if (shown() == next) {
             return;
         }
-        ns_view::setFrame(view(), next.frame);
-        ns_view::setNeedsDisplay(view(), truth(true));
+        appKit.view.setFrame(view(), next.frame);
+        appKit.view.setNeedsDisplay(view(), truth(true));
     }
 
     static void drawRect(id instance, SEL, Rect /*dirty*/) noexcept {
@@ -37,7 +36,7 @@ private:
 
     static Class shapeViewClass() {
         static const Class made = [] {
-            RuntimeClass type("KestruneShapeView", ns_view::type.find());
+            RuntimeClass type("KestruneShapeView", appKit.view.find());
             type.addMethod("isFlipped", alwaysFlipped);
             type.addMethod("drawRect:", drawRect);
             return type.finish();

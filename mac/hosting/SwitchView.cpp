@@ -11,9 +11,9 @@ namespace {
 class SwitchView : public ViewOf<ui::ToggleElement> {
 public:
     explicit SwitchView(id target) : ViewOf(newSwitch()) {
-        ns_control::setTarget(view(), target);
-        ns_control::setAction(view(), sel_registerName("flipSwitch:"));
-        ns_control::setEnabled(view(), truth(true));
+        appKit.control.setTarget(view(), target);
+        appKit.control.setAction(view(), sel_registerName("flipSwitch:"));
+        appKit.control.setEnabled(view(), truth(true));
     }
 
     bool isControl() const override { return true; }
@@ -28,14 +28,14 @@ private:
             setAccessibilityLabel(view(), next.title);
         }
         if (differs(next, &ui::ToggleElement::size)) {
-            ns_control::setControlSize(view(), platformSize(next.size));
+            appKit.control.setControlSize(view(), platformSize(next.size));
         }
         if (differs(next, &ui::ToggleElement::frame)) {
-            ns_view::setFrame(view(), ns_view::frameForAlignmentRect(view(), next.frame));
+            appKit.view.setFrame(view(), appKit.view.frameForAlignmentRect(view(), next.frame));
         }
         // The user has flipped it perhaps, and the model did not follow.
-        if ((ns_switch::state(view()) != 0) != next.isOn) {
-            ns_switch::setState(view(), next.isOn ? 1 : 0);
+        if ((appKit.switchControl.state(view()) != 0) != next.isOn) {
+            appKit.switchControl.setState(view(), next.isOn ? 1 : 0);
         }
         mac::setAction(view(), next.action);
     }

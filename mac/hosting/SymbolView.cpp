@@ -3,6 +3,7 @@
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/hosting/Symbols.h"
+#include "mac/objc/NewObject.h"
 
 namespace kestrune::mac {
 
@@ -12,21 +13,19 @@ constexpr Unsigned ScaleNone = 2; // NSImageScaleNone: the symbol has its size a
 
 class SymbolView : public ViewOf<ui::SymbolElement> {
 public:
-    SymbolView()
-        : ViewOf(Retained::adopting(
-              ns_view::initWithFrame(ns_object::alloc(ns_image_view::type.object()), Rect()))) {
-        ns_image_view::setImageScaling(view(), ScaleNone);
-        ns_view::setAccessibilityElement(view(), truth(false));
+    SymbolView() : ViewOf(Retained::adopting(appKit.view.initWithFrame(allocate(appKit.imageView), Rect()))) {
+        appKit.imageView.setImageScaling(view(), ScaleNone);
+        appKit.view.setAccessibilityElement(view(), truth(false));
     }
 
 private:
     void update(const ui::SymbolElement& next) override {
         if (differs(next, &ui::SymbolElement::frame)) {
-            ns_view::setFrame(view(), next.frame);
+            appKit.view.setFrame(view(), next.frame);
         }
         if (differs(next, &ui::SymbolElement::symbol)) {
-            ns_image_view::setImage(view(), symbolImage(next.symbol).get());
-            ns_image_view::setContentTintColor(view(), platformColor(next.symbol.color));
+            appKit.imageView.setImage(view(), symbolImage(next.symbol).get());
+            appKit.imageView.setContentTintColor(view(), platformColor(next.symbol.color));
         }
     }
 };

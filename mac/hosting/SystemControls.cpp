@@ -2,6 +2,7 @@
 
 #include "mac/Vocabulary.h"
 #include "mac/hosting/ButtonView.h"
+#include "mac/objc/NewObject.h"
 
 namespace kestrune::mac {
 
@@ -12,14 +13,14 @@ constexpr Unsigned Push = 1; // NSBezelStylePush
 } // namespace
 
 Retained newPushButton() {
-    const id button = ns_view::initWithFrame(ns_object::alloc(ns_button::type.object()), Rect());
-    ns_button::setButtonType(button, MomentaryPushIn);
-    ns_button::setBezelStyle(button, Push);
+    const id button = appKit.view.initWithFrame(allocate(appKit.button), Rect());
+    appKit.button.setButtonType(button, MomentaryPushIn);
+    appKit.button.setBezelStyle(button, Push);
     return Retained::adopting(button);
 }
 
 Retained newSwitch() {
-    return Retained::adopting(ns_view::initWithFrame(ns_object::alloc(ns_switch::type.object()), Rect()));
+    return Retained::adopting(appKit.view.initWithFrame(allocate(appKit.switchControl), Rect()));
 }
 
 } // namespace kestrune::mac

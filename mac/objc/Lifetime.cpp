@@ -6,6 +6,8 @@ namespace kestrune::mac {
 
 // The receiver of a delayed message is retained until it gets it, in the default mode alone; this one has no
 // effect.
-void keepForThisTurn(id object) { ns_object::performSelector(object, sel_registerName("self"), nullptr, 0); }
+void keepForThisTurn(id object) {
+    foundation.object.performSelector(object, sel_registerName("self"), nullptr, 0);
+}
 
 } // namespace kestrune::mac

@@ -2,34 +2,29 @@
 
 #include "base/Fatal.h"
 
-namespace kestrune::mac {
+#include <string>
 
-ClassReference::ClassReference(const char* name, ClassPresence presence)
-    : name_(name), presence_(presence), next_(first_) {
-    first_ = this;
-}
+namespace kestrune::mac {
 
 Class ClassReference::find() const { return reinterpret_cast<Class>(objc_getClass(name_)); }
 
 id ClassReference::object() const {
-    if (object_ == nullptr) {
-        object_ = reinterpret_cast<id>(find());
-        if (object_ == nullptr) {
-            fatal(std::string("The platform has no class ") + name_ + ".");
-        }
+    if (const id known = object_.load(std::memory_order_relaxed); known != nullptr) {
+        return known;
     }
-    return object_;
+    const id found = reinterpret_cast<id>(find());
+    if (found == nullptr) {
+        fatal(std::string("The platform has no class ") + name_ + ".");
+    }
+    object_.store(found, std::memory_order_relaxed);
+    return found;
 }
 
-MessageDeclaration::MessageDeclaration(const ClassReference& receiver, const char* selectorName,
-                                       MethodKind kind, std::string (*encode)())
-    : receiver_(receiver),
-      selectorName_(selectorName),
-      kind_(kind),
-      encode_(encode),
-      selector_(sel_registerName(selectorName)),
-      next_(first_) {
-    first_ = this;
+// Whichever thread comes first, the runtime gives the same selector.
+SEL MessageDeclaration::registerSelector() const {
+    const SEL selector = sel_registerName(selectorName_);
+    selector_.store(selector, std::memory_order_relaxed);
+    return selector;
 }
 
 } // namespace kestrune::mac

@@ -2,29 +2,57 @@
 //
 // The signature is part of the declaration and never deduced from a call: an argument of another type is
 // converted as for any function, and one that does not convert does not compile. A message to nil gives zero.
+//
+// Declarations are constants: a framework's is one object, written out by the compiler with the lists that
+// the self-check reads, and nothing runs before main. Selectors and classes are looked up at first use.
 #pragma once
 
 #include "mac/objc/Runtime.h"
 #include "mac/objc/TypeEncoding.h"
 
-#include <string>
+#include <atomic>
 #include <type_traits>
+#include <utility>
 
 namespace kestrune::mac {
 
-// Whether a class has to be there from the start, or only once a framework is loaded that may be missing.
-enum class ClassPresence { always, onceLoaded };
+class ClassReference;
+class MessageDeclaration;
+
+// Whether a framework's classes have to be there from the start, or only once it is loaded, as it may be
+// missing.
+enum class Presence { always, onceLoaded };
+
+// Where the classes of one framework are declared.
+class Framework {
+public:
+    constexpr explicit Framework(Presence presence = Presence::always) : presence_(presence) {}
+
+    Framework(const Framework&) = delete;
+    Framework& operator=(const Framework&) = delete;
+
+    Presence presence() const { return presence_; }
+
+    // Every class that was declared, in a list.
+    const ClassReference* firstClass() const { return firstClass_; }
+
+private:
+    friend class ClassReference;
+
+    Presence presence_;
+    const ClassReference* firstClass_ = nullptr;
+};
 
 // A class of the platform's. `name` must have static storage.
 class ClassReference {
 public:
-    explicit ClassReference(const char* name, ClassPresence presence = ClassPresence::always);
+    constexpr ClassReference(Framework& framework, const char* name)
+        : name_(name), next_(std::exchange(framework.firstClass_, this)) {}
 
     ClassReference(const ClassReference&) = delete;
     ClassReference& operator=(const ClassReference&) = delete;
 
     const char* name() const { return name_; }
-    ClassPresence presence() const { return presence_; }
 
     // Null when no library that is loaded has the class.
     Class find() const;
@@ -32,57 +60,76 @@ public:
     // As the receiver of a message; stops the process when there is no such class.
     id object() const;
 
-    // Every class that was declared, in a list.
-    static const ClassReference* first() { return first_; }
+    // Every message that was declared, in a list.
+    const MessageDeclaration* firstMessage() const { return firstMessage_; }
+
     const ClassReference* next() const { return next_; }
 
 private:
-    // Filled before main, then only read.
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables, readability-identifier-naming)
-    inline static const ClassReference* first_ = nullptr;
+    friend class MessageDeclaration;
 
     const char* name_;
-    ClassPresence presence_;
     const ClassReference* next_;
-    mutable id object_ = nullptr;
+    const MessageDeclaration* firstMessage_ = nullptr;
+    mutable std::atomic<id> object_ = nullptr;
 };
 
 enum class MethodKind { ofInstances, ofClass };
 
-// What the self-check knows of a message.
+// What the self-check knows of a message. `selectorName` and `encoding` must have static storage.
 class MessageDeclaration {
 public:
     MessageDeclaration(const MessageDeclaration&) = delete;
     MessageDeclaration& operator=(const MessageDeclaration&) = delete;
 
-    const ClassReference& receiver() const { return receiver_; }
     const char* selectorName() const { return selectorName_; }
     MethodKind kind() const { return kind_; }
-    std::string encoding() const { return encode_(); }
-
-    // Every message that was declared, in a list.
-    static const MessageDeclaration* first() { return first_; }
+    const char* encoding() const { return encoding_; }
     const MessageDeclaration* next() const { return next_; }
 
 protected:
-    MessageDeclaration(const ClassReference& receiver, const char* selectorName, MethodKind kind,
-                       std::string (*encode)());
+    constexpr MessageDeclaration(ClassReference& receiver, const char* selectorName, MethodKind kind,
+                                 const char* encoding)
+        : selectorName_(selectorName),
+          kind_(kind),
+          encoding_(encoding),
+          next_(std::exchange(receiver.firstMessage_, this)) {}
     ~MessageDeclaration() = default;
 
-    SEL selector() const { return selector_; }
+    SEL selector() const {
+        const SEL known = selector_.load(std::memory_order_relaxed);
+        return known != nullptr ? known : registerSelector();
+    }
 
 private:
-    // Filled before main, then only read.
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables, readability-identifier-naming)
-    inline static const MessageDeclaration* first_ = nullptr;
+    SEL registerSelector() const;
 
-    const ClassReference& receiver_;
     const char* selectorName_;
     MethodKind kind_;
-    std::string (*encode_)();
-    SEL selector_;
+    const char* encoding_;
     const MessageDeclaration* next_;
+    mutable std::atomic<SEL> selector_ = nullptr;
 };
+
+// The function behind a message whose result is of that type.
+template <typename Result, typename Function>
+Function functionOf(id receiver, SEL selector) {
+#ifdef __APPLE__
+    static_cast<void>(receiver);
+    static_cast<void>(selector);
+#ifdef __x86_64__
+    // Not one condition, as void is no class and has no size.
+    if constexpr (std::is_class_v<Result>) {
+        if constexpr (sizeof(Result) > 16) {
+            return reinterpret_cast<Function>(objc_msgSend_stret);
+        }
+    }
+#endif
+    return reinterpret_cast<Function>(objc_msgSend);
+#else
+    return asFunction<Function>(objc_msg_lookup(receiver, selector));
+#endif
+}
 
 template <typename Signature>
 class Message;
@@ -90,37 +137,44 @@ class Message;
 template <typename Result, typename... Arguments>
 class Message<Result(Arguments...)> : public MessageDeclaration {
 public:
-    // `selectorName` must have static storage.
-    Message(const ClassReference& receiver, const char* selectorName,
-            MethodKind kind = MethodKind::ofInstances)
-        : MessageDeclaration(receiver, selectorName, kind, encodingOfMethod<Result, Arguments...>) {}
+    constexpr Message(ClassReference& receiver, const char* selectorName,
+                      MethodKind kind = MethodKind::ofInstances)
+        : MessageDeclaration(receiver, selectorName, kind, EncodingOfMethod<Result, Arguments...>.data()) {}
 
     Result operator()(id receiver, std::type_identity_t<Arguments>... arguments) const {
         using Function = Result (*)(id, SEL, Arguments...);
         if (receiver == nullptr) {
             return Result();
         }
-#if defined(__APPLE__) && defined(__x86_64__)
-        if constexpr (std::is_class_v<Result> && sizeof(Result) > 16) {
-            return reinterpret_cast<Function>(objc_msgSend_stret)(receiver, selector(), arguments...);
-        } else {
-            return reinterpret_cast<Function>(objc_msgSend)(receiver, selector(), arguments...);
-        }
-#elif defined(__APPLE__)
-        return reinterpret_cast<Function>(objc_msgSend)(receiver, selector(), arguments...);
-#else
-        return asFunction<Function>(objc_msg_lookup(receiver, selector()))(receiver, selector(),
-                                                                           arguments...);
-#endif
+        const SEL name = selector();
+        return functionOf<Result, Function>(receiver, name)(receiver, name, arguments...);
     }
 
     // As `type` implements it, whatever the receiver's own class does: what `super` is to a subclass.
     Result asImplementedBy(Class type, id receiver, std::type_identity_t<Arguments>... arguments) const {
         static_assert(!std::is_class_v<Result>, "a structure may be returned in another way");
         using Function = Result (*)(id, SEL, Arguments...);
-        return asFunction<Function>(class_getMethodImplementation(type, selector()))(receiver, selector(),
-                                                                                     arguments...);
+        const SEL name = selector();
+        return asFunction<Function>(class_getMethodImplementation(type, name))(receiver, name, arguments...);
     }
+};
+
+// A message to the very class that it is declared for.
+template <typename Signature>
+class ClassMessage;
+
+template <typename Result, typename... Arguments>
+class ClassMessage<Result(Arguments...)> : private Message<Result(Arguments...)> {
+public:
+    constexpr ClassMessage(ClassReference& receiver, const char* selectorName)
+        : Message<Result(Arguments...)>(receiver, selectorName, MethodKind::ofClass), receiver_(receiver) {}
+
+    Result operator()(std::type_identity_t<Arguments>... arguments) const {
+        return Message<Result(Arguments...)>::operator()(receiver_.object(), arguments...);
+    }
+
+private:
+    const ClassReference& receiver_;
 };
 
 } // namespace kestrune::mac

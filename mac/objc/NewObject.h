@@ -1,10 +1,16 @@
-// Objects that need no arguments.
+// Objects from their classes.
 #pragma once
 
 #include "mac/objc/Message.h"
 #include "mac/objc/Retained.h"
 
 namespace kestrune::mac {
+
+// Owned by the caller, who initializes it. Nil for no class.
+id allocate(Class type);
+
+// Stops the process when there is no such class.
+id allocate(const ClassReference& type);
 
 // Allocated and initialized with `init`.
 Retained newObject(const ClassReference& type);

@@ -8,6 +8,7 @@ void objc_autoreleasePoolPop(void* pool);
 }
 #else
 #include "mac/Vocabulary.h"
+#include "mac/objc/NewObject.h"
 #endif
 
 namespace kestrune::mac {
@@ -21,9 +22,9 @@ Pool::~Pool() { objc_autoreleasePoolPop(pool_); }
 #else
 
 // GCC's runtime leaves pools to Foundation.
-Pool::Pool() : pool_(ns_object::init(ns_object::alloc(ns_autorelease_pool::type.object()))) {}
+Pool::Pool() : pool_(foundation.object.init(allocate(foundation.autoreleasePool))) {}
 
-Pool::~Pool() { ns_autorelease_pool::drain(static_cast<id>(pool_)); }
+Pool::~Pool() { foundation.autoreleasePool.drain(static_cast<id>(pool_)); }
 
 #endif
 

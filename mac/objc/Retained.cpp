@@ -4,8 +4,8 @@
 
 namespace kestrune::mac {
 
-Retained Retained::retaining(id object) { return Retained(ns_object::retain(object)); }
+Retained Retained::retaining(id object) { return Retained(foundation.object.retain(object)); }
 
-Retained::~Retained() { ns_object::release(object_); }
+Retained::~Retained() { foundation.object.release(object_); }
 
 } // namespace kestrune::mac

@@ -21,7 +21,7 @@ void** targetVariable(id instance) {
 
 } // namespace
 
-RuntimeClass::RuntimeClass(const char* name) : RuntimeClass(name, ns_object::type.find()) {}
+RuntimeClass::RuntimeClass(const char* name) : RuntimeClass(name, foundation.object.find()) {}
 
 RuntimeClass::RuntimeClass(const char* name, Class superclass)
     : class_(objc_allocateClassPair(superclass, name, 0)) {

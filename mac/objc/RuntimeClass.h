@@ -17,7 +17,7 @@ public:
     template <typename Result, typename... Arguments>
     void addMethod(const char* selector, Result (*implementation)(id, SEL, Arguments...) noexcept) {
         add(sel_registerName(selector), asImplementation(implementation),
-            encodingOfMethod<Result, Arguments...>().c_str());
+            EncodingOfMethod<Result, Arguments...>.data());
     }
 
     // From here on instances can be made and no method can be added.

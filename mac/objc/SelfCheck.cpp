@@ -1,57 +1,60 @@
 #include "mac/objc/SelfCheck.h"
 
 #include "base/Fatal.h"
-#include "mac/objc/Message.h"
 
 namespace kestrune::mac {
 
 namespace {
 
-std::string nameOf(const MessageDeclaration& message) {
-    return std::string(message.kind() == MethodKind::ofClass ? "+[" : "-[") + message.receiver().name() +
-           " " + message.selectorName() + "]";
+std::string nameOf(const ClassReference& type, const MessageDeclaration& message) {
+    return std::string(message.kind() == MethodKind::ofClass ? "+[" : "-[") + type.name() + " " +
+           message.selectorName() + "]";
 }
 
-Method methodOf(const MessageDeclaration& message, Class type) {
+Method methodOf(Class type, const MessageDeclaration& message) {
     const SEL selector = sel_registerName(message.selectorName());
     return message.kind() == MethodKind::ofClass ? class_getClassMethod(type, selector)
                                                  : class_getInstanceMethod(type, selector);
 }
 
-bool isLoaded(const ClassReference& type) {
-    return type.presence() == ClassPresence::always || type.find() != nullptr;
+void checkMessage(const ClassReference& type, const MessageDeclaration& message, SelfCheckResult& result) {
+    ++result.messages;
+    const Class found = type.find();
+    const Method method = found != nullptr ? methodOf(found, message) : nullptr;
+    if (method == nullptr) {
+        result.missingMethods.push_back(nameOf(type, message));
+        return;
+    }
+    const char* const encoding = method_getTypeEncoding(method);
+    const std::string actual = encoding != nullptr ? encoding : "";
+    if (normalizedEncoding(actual) != normalizedEncoding(message.encoding())) {
+        result.differences.push_back(nameOf(type, message) + ": expected " + message.encoding() + ", found " +
+                                     actual);
+    }
+}
+
+void checkClass(const ClassReference& type, Presence presence, SelfCheckResult& result) {
+    const bool isThere = type.find() != nullptr;
+    if (!isThere && presence == Presence::onceLoaded) {
+        result.classesNotLoaded.emplace_back(type.name());
+        return;
+    }
+    ++result.classes;
+    if (!isThere) {
+        result.missingClasses.emplace_back(type.name());
+    }
+    for (const auto* message = type.firstMessage(); message != nullptr; message = message->next()) {
+        checkMessage(type, *message, result);
+    }
 }
 
 } // namespace
 
-SelfCheckResult checkVocabulary() {
+SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks) {
     SelfCheckResult result;
-    for (const auto* type = ClassReference::first(); type != nullptr; type = type->next()) {
-        if (!isLoaded(*type)) {
-            result.classesNotLoaded.emplace_back(type->name());
-            continue;
-        }
-        ++result.classes;
-        if (type->find() == nullptr) {
-            result.missingClasses.emplace_back(type->name());
-        }
-    }
-    for (const auto* message = MessageDeclaration::first(); message != nullptr; message = message->next()) {
-        if (!isLoaded(message->receiver())) {
-            continue;
-        }
-        ++result.messages;
-        const Class type = message->receiver().find();
-        const Method method = type != nullptr ? methodOf(*message, type) : nullptr;
-        if (method == nullptr) {
-            result.missingMethods.push_back(nameOf(*message));
-            continue;
-        }
-        const char* const encoding = method_getTypeEncoding(method);
-        const std::string actual = encoding != nullptr ? encoding : "";
-        if (normalizedEncoding(actual) != normalizedEncoding(message->encoding())) {
-            result.differences.push_back(nameOf(*message) + ": expected " + message->encoding() + ", found " +
-                                         actual);
+    for (const Framework* const framework : frameworks) {
+        for (const auto* type = framework->firstClass(); type != nullptr; type = type->next()) {
+            checkClass(*type, framework->presence(), result);
         }
     }
     return result;

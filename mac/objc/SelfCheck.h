@@ -1,7 +1,10 @@
 // Whether the platform has what the binding calls, with the signatures that the binding believes in.
 #pragma once
 
+#include "mac/Vocabulary.h"
+
 #include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -22,8 +25,8 @@ struct SelfCheckResult {
     bool isClean() const { return missingClasses.empty() && missingMethods.empty() && differences.empty(); }
 };
 
-// Holds every declared class and message against the runtime.
-SelfCheckResult checkVocabulary();
+// Holds every declared class and message of the frameworks against the runtime.
+SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks = Frameworks);
 
 // Stops the process unless that finds nothing, and names everything that it finds.
 void requireVocabulary();

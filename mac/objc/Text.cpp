@@ -1,6 +1,7 @@
 #include "mac/objc/Text.h"
 
 #include "mac/Vocabulary.h"
+#include "mac/objc/NewObject.h"
 
 namespace kestrune::mac {
 
@@ -11,20 +12,21 @@ constexpr Unsigned UTF8 = 4; // NSUTF8StringEncoding
 } // namespace
 
 Retained nsString(std::string_view text) {
-    const id string = ns_object::alloc(ns_string::type.object());
+    const id string = allocate(foundation.string);
     const char* const bytes = text.empty() ? "" : text.data();
-    Retained result = Retained::adopting(ns_string::initWithBytes(string, bytes, text.size(), UTF8));
+    Retained result = Retained::adopting(foundation.string.initWithBytes(string, bytes, text.size(), UTF8));
     return result || text.empty() ? result : nsString({});
 }
 
 std::string textOf(id string) {
-    const char* const bytes = ns_string::utf8String(string);
+    const char* const bytes = foundation.string.utf8String(string);
     // By length, because a text may have a zero character in it.
-    return bytes != nullptr ? std::string(bytes, ns_string::lengthOfBytes(string, UTF8)) : std::string();
+    return bytes != nullptr ? std::string(bytes, foundation.string.lengthOfBytes(string, UTF8))
+                            : std::string();
 }
 
 std::optional<std::string> textIfString(id object) {
-    const bool isString = ns_object::isKindOfClass(object, ns_string::type.find()) != 0;
+    const bool isString = foundation.object.isKindOfClass(object, foundation.string.find()) != 0;
     return isString ? std::optional(textOf(object)) : std::nullopt;
 }
 

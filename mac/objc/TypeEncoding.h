@@ -7,6 +7,8 @@
 #include "mac/objc/Runtime.h"
 #include "platform/ProcessInfo.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -67,14 +69,18 @@ constexpr std::string_view encodingOfType() {
     }
 }
 
+// The encodings one after the other, and a zero.
+template <typename... Types>
+constexpr auto joinedEncodings() {
+    std::array<char, (encodingOfType<Types>().size() + ... + 1)> joined{};
+    auto* end = joined.begin();
+    ((end = std::copy(encodingOfType<Types>().begin(), encodingOfType<Types>().end(), end)), ...);
+    return joined;
+}
+
 // The encoding of a method with that result and those arguments, without offsets.
 template <typename Result, typename... Arguments>
-std::string encodingOfMethod() {
-    std::string encoding(encodingOfType<Result>());
-    encoding += "@:";
-    ((encoding += encodingOfType<Arguments>()), ...);
-    return encoding;
-}
+inline constexpr auto EncodingOfMethod = joinedEncodings<Result, id, SEL, Arguments...>();
 
 // The same for every compiler and runtime that means the same method: without offsets and qualifiers, with
 // one letter for the kinds of BOOL and one for those of NSInteger, without the names of structures, and with

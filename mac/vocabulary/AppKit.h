@@ -10,243 +10,245 @@ namespace kestrune::mac {
 
 // NOLINTBEGIN(readability-identifier-naming): a message is sent by calling it, so it reads as a function.
 
-namespace ns_workspace {
-inline const ClassReference type{"NSWorkspace"};
-inline const Message<id()> sharedWorkspace{type, "sharedWorkspace", MethodKind::ofClass};
-inline const Message<BOOL(id)> openURL{type, "openURL:"};
-} // namespace ns_workspace
+struct AppKit : Framework {
+    struct NSWorkspace : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> sharedWorkspace{*this, "sharedWorkspace"};
+        Message<BOOL(id)> openURL{*this, "openURL:"};
+    } workspace{*this, "NSWorkspace"};
 
-namespace ns_screen {
-inline const ClassReference type{"NSScreen"};
-inline const Message<id()> screens{type, "screens", MethodKind::ofClass};
-inline const Message<id()> mainScreen{type, "mainScreen", MethodKind::ofClass};
-inline const Message<id()> deviceDescription{type, "deviceDescription"};
-inline const Message<id()> localizedName{type, "localizedName"};
-inline const Message<Rect()> frame{type, "frame"};
-} // namespace ns_screen
+    struct NSScreen : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> screens{*this, "screens"};
+        ClassMessage<id()> mainScreen{*this, "mainScreen"};
+        Message<id()> deviceDescription{*this, "deviceDescription"};
+        Message<id()> localizedName{*this, "localizedName"};
+        Message<Rect()> frame{*this, "frame"};
+    } screen{*this, "NSScreen"};
 
-namespace ns_application {
-inline const ClassReference type{"NSApplication"};
-inline const Message<id()> sharedApplication{type, "sharedApplication", MethodKind::ofClass};
-inline const Message<void(id)> setDelegate{type, "setDelegate:"};
-inline const Message<BOOL(Integer)> setActivationPolicy{type, "setActivationPolicy:"};
-inline const Message<Integer()> activationPolicy{type, "activationPolicy"};
-inline const Message<id()> windows{type, "windows"};
-inline const Message<void(id)> setMainMenu{type, "setMainMenu:"};
-inline const Message<void(BOOL)> activateIgnoringOtherApps{type, "activateIgnoringOtherApps:"};
-inline const Message<void()> run{type, "run"};
-inline const Message<void(id)> terminate{type, "terminate:"};
-} // namespace ns_application
+    struct NSApplication : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> sharedApplication{*this, "sharedApplication"};
+        Message<void(id)> setDelegate{*this, "setDelegate:"};
+        Message<BOOL(Integer)> setActivationPolicy{*this, "setActivationPolicy:"};
+        Message<Integer()> activationPolicy{*this, "activationPolicy"};
+        Message<id()> windows{*this, "windows"};
+        Message<void(id)> setMainMenu{*this, "setMainMenu:"};
+        Message<void(BOOL)> activateIgnoringOtherApps{*this, "activateIgnoringOtherApps:"};
+        Message<void()> run{*this, "run"};
+        Message<void(id)> terminate{*this, "terminate:"};
+    } application{*this, "NSApplication"};
 
-namespace ns_menu {
-inline const ClassReference type{"NSMenu"};
-inline const Message<id(id)> initWithTitle{type, "initWithTitle:"};
-inline const Message<void(BOOL)> setAutoenablesItems{type, "setAutoenablesItems:"};
-inline const Message<void(id)> addItem{type, "addItem:"};
-inline const Message<void(id)> setDelegate{type, "setDelegate:"};
-} // namespace ns_menu
+    struct NSMenu : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(id)> initWithTitle{*this, "initWithTitle:"};
+        Message<void(BOOL)> setAutoenablesItems{*this, "setAutoenablesItems:"};
+        Message<void(id)> addItem{*this, "addItem:"};
+        Message<void(id)> setDelegate{*this, "setDelegate:"};
+    } menu{*this, "NSMenu"};
 
-namespace ns_menu_item {
-inline const ClassReference type{"NSMenuItem"};
-inline const Message<id(id, SEL, id)> initWithTitle{type, "initWithTitle:action:keyEquivalent:"};
-inline const Message<id()> separatorItem{type, "separatorItem", MethodKind::ofClass};
-inline const Message<void(id)> setTarget{type, "setTarget:"};
-inline const Message<void(id)> setSubmenu{type, "setSubmenu:"};
-inline const Message<void(Unsigned)> setKeyEquivalentModifierMask{type, "setKeyEquivalentModifierMask:"};
-inline const Message<void(id)> setRepresentedObject{type, "setRepresentedObject:"};
-inline const Message<id()> representedObject{type, "representedObject"};
-inline const Message<void(Integer)> setState{type, "setState:"};
-inline const Message<void(BOOL)> setEnabled{type, "setEnabled:"};
-} // namespace ns_menu_item
+    struct NSMenuItem : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(id, SEL, id)> initWithTitle{*this, "initWithTitle:action:keyEquivalent:"};
+        ClassMessage<id()> separatorItem{*this, "separatorItem"};
+        Message<void(id)> setTarget{*this, "setTarget:"};
+        Message<void(id)> setSubmenu{*this, "setSubmenu:"};
+        Message<void(Unsigned)> setKeyEquivalentModifierMask{*this, "setKeyEquivalentModifierMask:"};
+        Message<void(id)> setRepresentedObject{*this, "setRepresentedObject:"};
+        Message<id()> representedObject{*this, "representedObject"};
+        Message<void(Integer)> setState{*this, "setState:"};
+        Message<void(BOOL)> setEnabled{*this, "setEnabled:"};
+    } menuItem{*this, "NSMenuItem"};
 
-namespace ns_image {
-inline const ClassReference type{"NSImage"};
-inline const Message<id(id)> imageNamed{type, "imageNamed:", MethodKind::ofClass};
-inline const Message<void(BOOL)> setTemplate{type, "setTemplate:"};
-inline const Message<void(Size)> setSize{type, "setSize:"};
-inline const Message<Size()> size{type, "size"};
-inline const Message<id(Size)> initWithSize{type, "initWithSize:"};
-inline const Message<void()> lockFocus{type, "lockFocus"};
-inline const Message<void()> unlockFocus{type, "unlockFocus"};
-inline const Message<void(Rect, Rect, Unsigned, double, BOOL, id)> drawInRect{
-    type, "drawInRect:fromRect:operation:fraction:respectFlipped:hints:"};
-inline const Message<id(id, id)> imageWithSystemSymbolName{
-    type, "imageWithSystemSymbolName:accessibilityDescription:", MethodKind::ofClass};
-inline const Message<id(id)> imageWithSymbolConfiguration{type, "imageWithSymbolConfiguration:"};
-} // namespace ns_image
+    struct NSImage : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id(id)> imageNamed{*this, "imageNamed:"};
+        Message<void(BOOL)> setTemplate{*this, "setTemplate:"};
+        Message<void(Size)> setSize{*this, "setSize:"};
+        Message<Size()> size{*this, "size"};
+        Message<id(Size)> initWithSize{*this, "initWithSize:"};
+        Message<void()> lockFocus{*this, "lockFocus"};
+        Message<void()> unlockFocus{*this, "unlockFocus"};
+        Message<void(Rect, Rect, Unsigned, double, BOOL, id)> drawInRect{
+            *this, "drawInRect:fromRect:operation:fraction:respectFlipped:hints:"};
+        ClassMessage<id(id, id)> imageWithSystemSymbolName{
+            *this, "imageWithSystemSymbolName:accessibilityDescription:"};
+        Message<id(id)> imageWithSymbolConfiguration{*this, "imageWithSymbolConfiguration:"};
+    } image{*this, "NSImage"};
 
-namespace ns_image_symbol_configuration {
-inline const ClassReference type{"NSImageSymbolConfiguration"};
-inline const Message<id(double, double, Integer)> configurationWithPointSize{
-    type, "configurationWithPointSize:weight:scale:", MethodKind::ofClass};
-} // namespace ns_image_symbol_configuration
+    struct NSImageSymbolConfiguration : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id(double, double, Integer)> configurationWithPointSize{
+            *this, "configurationWithPointSize:weight:scale:"};
+    } imageSymbolConfiguration{*this, "NSImageSymbolConfiguration"};
 
-namespace ns_status_bar {
-inline const ClassReference type{"NSStatusBar"};
-inline const Message<id()> systemStatusBar{type, "systemStatusBar", MethodKind::ofClass};
-inline const Message<id(double)> statusItemWithLength{type, "statusItemWithLength:"};
-} // namespace ns_status_bar
+    struct NSStatusBar : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> systemStatusBar{*this, "systemStatusBar"};
+        Message<id(double)> statusItemWithLength{*this, "statusItemWithLength:"};
+    } statusBar{*this, "NSStatusBar"};
 
-namespace ns_status_item {
-inline const ClassReference type{"NSStatusItem"};
-inline const Message<id()> button{type, "button"};
-inline const Message<void(id)> setMenu{type, "setMenu:"};
-} // namespace ns_status_item
+    struct NSStatusItem : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id()> button{*this, "button"};
+        Message<void(id)> setMenu{*this, "setMenu:"};
+    } statusItem{*this, "NSStatusItem"};
 
-namespace ns_button {
-inline const ClassReference type{"NSButton"};
-inline const Message<void(id)> setImage{type, "setImage:"};
-inline const Message<void(Unsigned)> setImageScaling{type, "setImageScaling:"};
-inline const Message<void(id)> setToolTip{type, "setToolTip:"};
-inline const Message<void(id)> setTitle{type, "setTitle:"};
-inline const Message<void(id)> setKeyEquivalent{type, "setKeyEquivalent:"};
-inline const Message<void(Unsigned)> setButtonType{type, "setButtonType:"};
-inline const Message<void(Unsigned)> setBezelStyle{type, "setBezelStyle:"};
-inline const Message<void(BOOL)> setBordered{type, "setBordered:"};
-inline const Message<void(BOOL)> setHasDestructiveAction{type, "setHasDestructiveAction:"};
-} // namespace ns_button
+    struct NSButton : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void(id)> setImage{*this, "setImage:"};
+        Message<void(Unsigned)> setImageScaling{*this, "setImageScaling:"};
+        Message<void(id)> setToolTip{*this, "setToolTip:"};
+        Message<void(id)> setTitle{*this, "setTitle:"};
+        Message<void(id)> setKeyEquivalent{*this, "setKeyEquivalent:"};
+        Message<void(Unsigned)> setButtonType{*this, "setButtonType:"};
+        Message<void(Unsigned)> setBezelStyle{*this, "setBezelStyle:"};
+        Message<void(BOOL)> setBordered{*this, "setBordered:"};
+        Message<void(BOOL)> setHasDestructiveAction{*this, "setHasDestructiveAction:"};
+    } button{*this, "NSButton"};
 
-namespace ns_cell {
-inline const ClassReference type{"NSCell"};
-inline const Message<BOOL()> isHighlighted{type, "isHighlighted"};
-inline const Message<void(BOOL)> setWraps{type, "setWraps:"};
-} // namespace ns_cell
+    struct NSCell : ClassReference {
+        using ClassReference::ClassReference;
+        Message<BOOL()> isHighlighted{*this, "isHighlighted"};
+        Message<void(BOOL)> setWraps{*this, "setWraps:"};
+    } cell{*this, "NSCell"};
 
-namespace ns_button_cell {
-inline const ClassReference type{"NSButtonCell"};
-} // namespace ns_button_cell
+    struct NSButtonCell : ClassReference {
+        using ClassReference::ClassReference;
+    } buttonCell{*this, "NSButtonCell"};
 
-namespace ns_view {
-inline const ClassReference type{"NSView"};
-inline const Message<id(Rect)> initWithFrame{type, "initWithFrame:"};
-inline const Message<id()> window{type, "window"};
-inline const Message<Rect()> bounds{type, "bounds"};
-inline const Message<void(Rect)> setFrame{type, "setFrame:"};
-inline const Message<void(BOOL)> setNeedsDisplay{type, "setNeedsDisplay:"};
-inline const Message<void(id)> setSubviews{type, "setSubviews:"};
-inline const Message<void(id)> setNextKeyView{type, "setNextKeyView:"};
-inline const Message<Size()> intrinsicContentSize{type, "intrinsicContentSize"};
-inline const Message<Rect(Rect)> frameForAlignmentRect{type, "frameForAlignmentRect:"};
-inline const Message<void(BOOL)> setAccessibilityElement{type, "setAccessibilityElement:"};
-inline const Message<void(id)> setAccessibilityLabel{type, "setAccessibilityLabel:"};
-} // namespace ns_view
+    struct NSView : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(Rect)> initWithFrame{*this, "initWithFrame:"};
+        Message<id()> window{*this, "window"};
+        Message<Rect()> bounds{*this, "bounds"};
+        Message<void(Rect)> setFrame{*this, "setFrame:"};
+        Message<void(BOOL)> setNeedsDisplay{*this, "setNeedsDisplay:"};
+        Message<void(id)> setSubviews{*this, "setSubviews:"};
+        Message<void(id)> setNextKeyView{*this, "setNextKeyView:"};
+        Message<Size()> intrinsicContentSize{*this, "intrinsicContentSize"};
+        Message<Rect(Rect)> frameForAlignmentRect{*this, "frameForAlignmentRect:"};
+        Message<void(BOOL)> setAccessibilityElement{*this, "setAccessibilityElement:"};
+        Message<void(id)> setAccessibilityLabel{*this, "setAccessibilityLabel:"};
+    } view{*this, "NSView"};
 
-namespace ns_control {
-inline const ClassReference type{"NSControl"};
-inline const Message<id()> cell{type, "cell"};
-inline const Message<void(id)> setCell{type, "setCell:"};
-inline const Message<void(id)> setTarget{type, "setTarget:"};
-inline const Message<void(SEL)> setAction{type, "setAction:"};
-inline const Message<Integer()> tag{type, "tag"};
-inline const Message<void(Integer)> setTag{type, "setTag:"};
-inline const Message<void(BOOL)> setEnabled{type, "setEnabled:"};
-inline const Message<void(id)> setFont{type, "setFont:"};
-inline const Message<void(Unsigned)> setControlSize{type, "setControlSize:"};
-inline const Message<void(id)> setAttributedStringValue{type, "setAttributedStringValue:"};
-} // namespace ns_control
+    struct NSControl : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id()> cell{*this, "cell"};
+        Message<void(id)> setCell{*this, "setCell:"};
+        Message<void(id)> setTarget{*this, "setTarget:"};
+        Message<void(SEL)> setAction{*this, "setAction:"};
+        Message<Integer()> tag{*this, "tag"};
+        Message<void(Integer)> setTag{*this, "setTag:"};
+        Message<void(BOOL)> setEnabled{*this, "setEnabled:"};
+        Message<void(id)> setFont{*this, "setFont:"};
+        Message<void(Unsigned)> setControlSize{*this, "setControlSize:"};
+        Message<void(id)> setAttributedStringValue{*this, "setAttributedStringValue:"};
+    } control{*this, "NSControl"};
 
-namespace ns_text_field {
-inline const ClassReference type{"NSTextField"};
-inline const Message<void(BOOL)> setEditable{type, "setEditable:"};
-inline const Message<void(BOOL)> setSelectable{type, "setSelectable:"};
-inline const Message<void(BOOL)> setBezeled{type, "setBezeled:"};
-inline const Message<void(BOOL)> setDrawsBackground{type, "setDrawsBackground:"};
-} // namespace ns_text_field
+    struct NSTextField : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void(BOOL)> setEditable{*this, "setEditable:"};
+        Message<void(BOOL)> setSelectable{*this, "setSelectable:"};
+        Message<void(BOOL)> setBezeled{*this, "setBezeled:"};
+        Message<void(BOOL)> setDrawsBackground{*this, "setDrawsBackground:"};
+    } textField{*this, "NSTextField"};
 
-namespace ns_image_view {
-inline const ClassReference type{"NSImageView"};
-inline const Message<void(id)> setImage{type, "setImage:"};
-inline const Message<void(Unsigned)> setImageScaling{type, "setImageScaling:"};
-inline const Message<void(id)> setContentTintColor{type, "setContentTintColor:"};
-} // namespace ns_image_view
+    struct NSImageView : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void(id)> setImage{*this, "setImage:"};
+        Message<void(Unsigned)> setImageScaling{*this, "setImageScaling:"};
+        Message<void(id)> setContentTintColor{*this, "setContentTintColor:"};
+    } imageView{*this, "NSImageView"};
 
-namespace ns_switch {
-inline const ClassReference type{"NSSwitch"};
-inline const Message<Integer()> state{type, "state"};
-inline const Message<void(Integer)> setState{type, "setState:"};
-} // namespace ns_switch
+    struct NSSwitch : ClassReference {
+        using ClassReference::ClassReference;
+        Message<Integer()> state{*this, "state"};
+        Message<void(Integer)> setState{*this, "setState:"};
+    } switchControl{*this, "NSSwitch"};
 
-namespace ns_view_controller {
-inline const ClassReference type{"NSViewController"};
-inline const Message<id(id, id)> initWithNibName{type, "initWithNibName:bundle:"};
-inline const Message<void(id)> setView{type, "setView:"};
-} // namespace ns_view_controller
+    struct NSViewController : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(id, id)> initWithNibName{*this, "initWithNibName:bundle:"};
+        Message<void(id)> setView{*this, "setView:"};
+    } viewController{*this, "NSViewController"};
 
-namespace ns_window {
-inline const ClassReference type{"NSWindow"};
-inline const Message<id(Rect, Unsigned, Unsigned, BOOL)> initWithContentRect{
-    type, "initWithContentRect:styleMask:backing:defer:"};
-inline const Message<id()> title{type, "title"};
-inline const Message<void(id)> setTitle{type, "setTitle:"};
-inline const Message<void(BOOL)> setReleasedWhenClosed{type, "setReleasedWhenClosed:"};
-inline const Message<void(Integer)> setLevel{type, "setLevel:"};
-inline const Message<void(BOOL)> setHidesOnDeactivate{type, "setHidesOnDeactivate:"};
-inline const Message<void(Unsigned)> setCollectionBehavior{type, "setCollectionBehavior:"};
-inline const Message<void()> center{type, "center"};
-inline const Message<void(id)> setContentView{type, "setContentView:"};
-inline const Message<void(id)> setContentViewController{type, "setContentViewController:"};
-inline const Message<void(id)> setDelegate{type, "setDelegate:"};
-inline const Message<void(id)> makeKeyAndOrderFront{type, "makeKeyAndOrderFront:"};
-inline const Message<void(id)> orderOut{type, "orderOut:"};
-inline const Message<void(id)> setInitialFirstResponder{type, "setInitialFirstResponder:"};
-inline const Message<Rect()> frame{type, "frame"};
-inline const Message<void(Rect, BOOL)> setFrame{type, "setFrame:display:"};
-inline const Message<Rect(Rect)> frameRectForContentRect{type, "frameRectForContentRect:"};
-} // namespace ns_window
+    struct NSWindow : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(Rect, Unsigned, Unsigned, BOOL)> initWithContentRect{
+            *this, "initWithContentRect:styleMask:backing:defer:"};
+        Message<id()> title{*this, "title"};
+        Message<void(id)> setTitle{*this, "setTitle:"};
+        Message<void(BOOL)> setReleasedWhenClosed{*this, "setReleasedWhenClosed:"};
+        Message<void(Integer)> setLevel{*this, "setLevel:"};
+        Message<void(BOOL)> setHidesOnDeactivate{*this, "setHidesOnDeactivate:"};
+        Message<void(Unsigned)> setCollectionBehavior{*this, "setCollectionBehavior:"};
+        Message<void()> center{*this, "center"};
+        Message<void(id)> setContentView{*this, "setContentView:"};
+        Message<void(id)> setContentViewController{*this, "setContentViewController:"};
+        Message<void(id)> setDelegate{*this, "setDelegate:"};
+        Message<void(id)> makeKeyAndOrderFront{*this, "makeKeyAndOrderFront:"};
+        Message<void(id)> orderOut{*this, "orderOut:"};
+        Message<void(id)> setInitialFirstResponder{*this, "setInitialFirstResponder:"};
+        Message<Rect()> frame{*this, "frame"};
+        Message<void(Rect, BOOL)> setFrame{*this, "setFrame:display:"};
+        Message<Rect(Rect)> frameRectForContentRect{*this, "frameRectForContentRect:"};
+    } window{*this, "NSWindow"};
 
-namespace ns_window_controller {
-inline const ClassReference type{"NSWindowController"};
-inline const Message<id(id)> initWithWindow{type, "initWithWindow:"};
-} // namespace ns_window_controller
+    struct NSWindowController : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(id)> initWithWindow{*this, "initWithWindow:"};
+    } windowController{*this, "NSWindowController"};
 
-namespace ns_font {
-inline const ClassReference type{"NSFont"};
-inline const Message<id(double)> systemFontOfSize{type, "systemFontOfSize:", MethodKind::ofClass};
-inline const Message<id(double, double)> systemFontOfSizeWeight{
-    type, "systemFontOfSize:weight:", MethodKind::ofClass};
-inline const Message<double(Unsigned)> systemFontSizeForControlSize{
-    type, "systemFontSizeForControlSize:", MethodKind::ofClass};
-} // namespace ns_font
+    struct NSFont : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id(double)> systemFontOfSize{*this, "systemFontOfSize:"};
+        ClassMessage<id(double, double)> systemFontOfSizeWeight{*this, "systemFontOfSize:weight:"};
+        ClassMessage<double(Unsigned)> systemFontSizeForControlSize{*this, "systemFontSizeForControlSize:"};
+    } font{*this, "NSFont"};
 
-namespace ns_color {
-inline const ClassReference type{"NSColor"};
-inline const Message<id()> labelColor{type, "labelColor", MethodKind::ofClass};
-inline const Message<id()> secondaryLabelColor{type, "secondaryLabelColor", MethodKind::ofClass};
-inline const Message<id()> tertiaryLabelColor{type, "tertiaryLabelColor", MethodKind::ofClass};
-inline const Message<id()> quaternaryLabelColor{type, "quaternaryLabelColor", MethodKind::ofClass};
-inline const Message<id()> controlAccentColor{type, "controlAccentColor", MethodKind::ofClass};
-inline const Message<id()> systemGreenColor{type, "systemGreenColor", MethodKind::ofClass};
-inline const Message<id()> whiteColor{type, "whiteColor", MethodKind::ofClass};
-inline const Message<id()> linkColor{type, "linkColor", MethodKind::ofClass};
-inline const Message<id()> separatorColor{type, "separatorColor", MethodKind::ofClass};
-inline const Message<double()> alphaComponent{type, "alphaComponent"};
-inline const Message<id(double)> colorWithAlphaComponent{type, "colorWithAlphaComponent:"};
-inline const Message<void()> set{type, "set"};
-} // namespace ns_color
+    struct NSColor : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> labelColor{*this, "labelColor"};
+        ClassMessage<id()> secondaryLabelColor{*this, "secondaryLabelColor"};
+        ClassMessage<id()> tertiaryLabelColor{*this, "tertiaryLabelColor"};
+        ClassMessage<id()> quaternaryLabelColor{*this, "quaternaryLabelColor"};
+        ClassMessage<id()> controlAccentColor{*this, "controlAccentColor"};
+        ClassMessage<id()> systemGreenColor{*this, "systemGreenColor"};
+        ClassMessage<id()> whiteColor{*this, "whiteColor"};
+        ClassMessage<id()> linkColor{*this, "linkColor"};
+        ClassMessage<id()> separatorColor{*this, "separatorColor"};
+        Message<double()> alphaComponent{*this, "alphaComponent"};
+        Message<id(double)> colorWithAlphaComponent{*this, "colorWithAlphaComponent:"};
+        Message<void()> set{*this, "set"};
+    } color{*this, "NSColor"};
 
-namespace ns_bezier_path {
-inline const ClassReference type{"NSBezierPath"};
-inline const Message<id(Rect, double, double)> bezierPathWithRoundedRect{
-    type, "bezierPathWithRoundedRect:xRadius:yRadius:", MethodKind::ofClass};
-inline const Message<void()> fill{type, "fill"};
-} // namespace ns_bezier_path
+    struct NSBezierPath : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id(Rect, double, double)> bezierPathWithRoundedRect{
+            *this, "bezierPathWithRoundedRect:xRadius:yRadius:"};
+        Message<void()> fill{*this, "fill"};
+    } bezierPath{*this, "NSBezierPath"};
 
-namespace ns_mutable_paragraph_style {
-inline const ClassReference type{"NSMutableParagraphStyle"};
-inline const Message<void(Integer)> setAlignment{type, "setAlignment:"};
-} // namespace ns_mutable_paragraph_style
+    struct NSMutableParagraphStyle : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void(Integer)> setAlignment{*this, "setAlignment:"};
+    } mutableParagraphStyle{*this, "NSMutableParagraphStyle"};
 
-namespace ns_attributed_string {
-inline const ClassReference type{"NSAttributedString"};
-inline const Message<id(id, id)> initWithString{type, "initWithString:attributes:"};
-inline const Message<Rect(Size, Integer)> boundingRectWithSize{type, "boundingRectWithSize:options:"};
-inline const Message<void(Rect, Integer)> drawWithRect{type, "drawWithRect:options:"};
-} // namespace ns_attributed_string
+    struct NSAttributedString : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(id, id)> initWithString{*this, "initWithString:attributes:"};
+        Message<Rect(Size, Integer)> boundingRectWithSize{*this, "boundingRectWithSize:options:"};
+        Message<void(Rect, Integer)> drawWithRect{*this, "drawWithRect:options:"};
+    } attributedString{*this, "NSAttributedString"};
 
-namespace ns_mutable_attributed_string {
-inline const ClassReference type{"NSMutableAttributedString"};
-inline const Message<void(id)> appendAttributedString{type, "appendAttributedString:"};
-} // namespace ns_mutable_attributed_string
+    struct NSMutableAttributedString : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void(id)> appendAttributedString{*this, "appendAttributedString:"};
+    } mutableAttributedString{*this, "NSMutableAttributedString"};
+};
+
+extern const AppKit appKit;
 
 // NOLINTEND(readability-identifier-naming)
 

@@ -10,147 +10,150 @@ namespace kestrune::mac {
 
 // NOLINTBEGIN(readability-identifier-naming): a message is sent by calling it, so it reads as a function.
 
-namespace ns_object {
-inline const ClassReference type{"NSObject"};
-inline const Message<id()> alloc{type, "alloc", MethodKind::ofClass};
-inline const Message<id()> init{type, "init"};
-inline const Message<id()> retain{type, "retain"};
-inline const Message<void()> release{type, "release"};
-inline const Message<void()> dealloc{type, "dealloc"};
-inline const Message<void(SEL, id, double)> performSelector{type, "performSelector:withObject:afterDelay:"};
-inline const Message<BOOL(Class)> isKindOfClass{type, "isKindOfClass:"};
-} // namespace ns_object
+struct Foundation : Framework {
+    struct NSObject : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id()> alloc{*this, "alloc", MethodKind::ofClass}; // of whichever class
+        Message<id()> init{*this, "init"};
+        Message<id()> retain{*this, "retain"};
+        Message<void()> release{*this, "release"};
+        Message<void()> dealloc{*this, "dealloc"};
+        Message<void(SEL, id, double)> performSelector{*this, "performSelector:withObject:afterDelay:"};
+        Message<BOOL(Class)> isKindOfClass{*this, "isKindOfClass:"};
+    } object{*this, "NSObject"};
 
-namespace ns_autorelease_pool {
-inline const ClassReference type{"NSAutoreleasePool"};
-inline const Message<void()> drain{type, "drain"};
-} // namespace ns_autorelease_pool
+    struct NSAutoreleasePool : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void()> drain{*this, "drain"};
+    } autoreleasePool{*this, "NSAutoreleasePool"};
 
-namespace ns_string {
-inline const ClassReference type{"NSString"};
-inline const Message<id(const void*, Unsigned, Unsigned)> initWithBytes{type,
-                                                                        "initWithBytes:length:encoding:"};
-inline const Message<const char*()> utf8String{type, "UTF8String"};
-inline const Message<Unsigned(Unsigned)> lengthOfBytes{type, "lengthOfBytesUsingEncoding:"};
-inline const Message<id()> localizedUppercaseString{type, "localizedUppercaseString"};
-} // namespace ns_string
+    struct NSString : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(const void*, Unsigned, Unsigned)> initWithBytes{*this, "initWithBytes:length:encoding:"};
+        Message<const char*()> utf8String{*this, "UTF8String"};
+        Message<Unsigned(Unsigned)> lengthOfBytes{*this, "lengthOfBytesUsingEncoding:"};
+        Message<id()> localizedUppercaseString{*this, "localizedUppercaseString"};
+    } string{*this, "NSString"};
 
-namespace ns_number {
-inline const ClassReference type{"NSNumber"};
-inline const Message<id(long long)> numberWithLongLong{type, "numberWithLongLong:", MethodKind::ofClass};
-inline const Message<long long()> longLongValue{type, "longLongValue"};
-inline const Message<double()> doubleValue{type, "doubleValue"};
-inline const Message<const char*()> objCType{type, "objCType"};
-} // namespace ns_number
+    struct NSNumber : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id(long long)> numberWithLongLong{*this, "numberWithLongLong:"};
+        Message<long long()> longLongValue{*this, "longLongValue"};
+        Message<double()> doubleValue{*this, "doubleValue"};
+        Message<const char*()> objCType{*this, "objCType"};
+    } number{*this, "NSNumber"};
 
-namespace ns_array {
-inline const ClassReference type{"NSArray"};
-inline const Message<Unsigned()> count{type, "count"};
-inline const Message<id(Unsigned)> objectAtIndex{type, "objectAtIndex:"};
-} // namespace ns_array
+    struct NSArray : ClassReference {
+        using ClassReference::ClassReference;
+        Message<Unsigned()> count{*this, "count"};
+        Message<id(Unsigned)> objectAtIndex{*this, "objectAtIndex:"};
+    } array{*this, "NSArray"};
 
-namespace ns_mutable_array {
-inline const ClassReference type{"NSMutableArray"};
-inline const Message<void(id)> addObject{type, "addObject:"};
-} // namespace ns_mutable_array
+    struct NSMutableArray : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void(id)> addObject{*this, "addObject:"};
+    } mutableArray{*this, "NSMutableArray"};
 
-namespace ns_dictionary {
-inline const ClassReference type{"NSDictionary"};
-inline const Message<id(id)> objectForKey{type, "objectForKey:"};
-} // namespace ns_dictionary
+    struct NSDictionary : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(id)> objectForKey{*this, "objectForKey:"};
+    } dictionary{*this, "NSDictionary"};
 
-namespace ns_mutable_dictionary {
-inline const ClassReference type{"NSMutableDictionary"};
-inline const Message<void(id, id)> setObject{type, "setObject:forKey:"};
-} // namespace ns_mutable_dictionary
+    struct NSMutableDictionary : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void(id, id)> setObject{*this, "setObject:forKey:"};
+    } mutableDictionary{*this, "NSMutableDictionary"};
 
-namespace ns_thread {
-inline const ClassReference type{"NSThread"};
-inline const Message<BOOL()> isMainThread{type, "isMainThread", MethodKind::ofClass};
-} // namespace ns_thread
+    struct NSThread : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<BOOL()> isMainThread{*this, "isMainThread"};
+    } thread{*this, "NSThread"};
 
-namespace ns_user_defaults {
-inline const ClassReference type{"NSUserDefaults"};
-inline const Message<id()> standardUserDefaults{type, "standardUserDefaults", MethodKind::ofClass};
-inline const Message<id(id)> objectForKey{type, "objectForKey:"};
-inline const Message<BOOL(id)> boolForKey{type, "boolForKey:"};
-inline const Message<double(id)> doubleForKey{type, "doubleForKey:"};
-inline const Message<id(id)> stringForKey{type, "stringForKey:"};
-inline const Message<void(BOOL, id)> setBool{type, "setBool:forKey:"};
-inline const Message<void(id, id)> setObject{type, "setObject:forKey:"};
-inline const Message<void(id)> removeObject{type, "removeObjectForKey:"};
-} // namespace ns_user_defaults
+    struct NSUserDefaults : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> standardUserDefaults{*this, "standardUserDefaults"};
+        Message<id(id)> objectForKey{*this, "objectForKey:"};
+        Message<BOOL(id)> boolForKey{*this, "boolForKey:"};
+        Message<double(id)> doubleForKey{*this, "doubleForKey:"};
+        Message<id(id)> stringForKey{*this, "stringForKey:"};
+        Message<void(BOOL, id)> setBool{*this, "setBool:forKey:"};
+        Message<void(id, id)> setObject{*this, "setObject:forKey:"};
+        Message<void(id)> removeObject{*this, "removeObjectForKey:"};
+    } userDefaults{*this, "NSUserDefaults"};
 
-namespace ns_bundle {
-inline const ClassReference type{"NSBundle"};
-inline const Message<id()> mainBundle{type, "mainBundle", MethodKind::ofClass};
-inline const Message<id()> bundleIdentifier{type, "bundleIdentifier"};
-inline const Message<id()> infoDictionary{type, "infoDictionary"};
-inline const Message<id(id, id, id)> localizedString{type, "localizedStringForKey:value:table:"};
-inline const Message<id()> privateFrameworksPath{type, "privateFrameworksPath"};
-inline const Message<id(id)> bundleWithPath{type, "bundleWithPath:", MethodKind::ofClass};
-inline const Message<BOOL(id*)> loadAndReturnError{type, "loadAndReturnError:"};
-} // namespace ns_bundle
+    struct NSBundle : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> mainBundle{*this, "mainBundle"};
+        Message<id()> bundleIdentifier{*this, "bundleIdentifier"};
+        Message<id()> infoDictionary{*this, "infoDictionary"};
+        Message<id(id, id, id)> localizedString{*this, "localizedStringForKey:value:table:"};
+        Message<id()> privateFrameworksPath{*this, "privateFrameworksPath"};
+        ClassMessage<id(id)> bundleWithPath{*this, "bundleWithPath:"};
+        Message<BOOL(id*)> loadAndReturnError{*this, "loadAndReturnError:"};
+    } bundle{*this, "NSBundle"};
 
-namespace ns_timer {
-inline const ClassReference type{"NSTimer"};
-inline const Message<id(double, BOOL, id)> scheduledTimer{
-    type, "scheduledTimerWithTimeInterval:repeats:block:", MethodKind::ofClass};
-inline const Message<void()> invalidate{type, "invalidate"};
-} // namespace ns_timer
+    struct NSTimer : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id(double, BOOL, id)> scheduledTimer{*this,
+                                                          "scheduledTimerWithTimeInterval:repeats:block:"};
+        Message<void()> invalidate{*this, "invalidate"};
+    } timer{*this, "NSTimer"};
 
-namespace ns_operation_queue {
-inline const ClassReference type{"NSOperationQueue"};
-inline const Message<id()> mainQueue{type, "mainQueue", MethodKind::ofClass};
-} // namespace ns_operation_queue
+    struct NSOperationQueue : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> mainQueue{*this, "mainQueue"};
+    } operationQueue{*this, "NSOperationQueue"};
 
-namespace ns_notification_center {
-inline const ClassReference type{"NSNotificationCenter"};
-inline const Message<id()> defaultCenter{type, "defaultCenter", MethodKind::ofClass};
-inline const Message<id(id, id, id, id)> addObserver{type, "addObserverForName:object:queue:usingBlock:"};
-inline const Message<void(id)> removeObserver{type, "removeObserver:"};
-} // namespace ns_notification_center
+    struct NSNotificationCenter : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> defaultCenter{*this, "defaultCenter"};
+        Message<id(id, id, id, id)> addObserver{*this, "addObserverForName:object:queue:usingBlock:"};
+        Message<void(id)> removeObserver{*this, "removeObserver:"};
+    } notificationCenter{*this, "NSNotificationCenter"};
 
-namespace ns_notification {
-inline const ClassReference type{"NSNotification"};
-inline const Message<id()> object{type, "object"};
-} // namespace ns_notification
+    struct NSNotification : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id()> object{*this, "object"};
+    } notification{*this, "NSNotification"};
 
-namespace ns_url {
-inline const ClassReference type{"NSURL"};
-inline const Message<id(id)> urlWithString{type, "URLWithString:", MethodKind::ofClass};
-inline const Message<id()> absoluteString{type, "absoluteString"};
-} // namespace ns_url
+    struct NSURL : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id(id)> urlWithString{*this, "URLWithString:"};
+        Message<id()> absoluteString{*this, "absoluteString"};
+    } url{*this, "NSURL"};
 
-namespace ns_url_components {
-inline const ClassReference type{"NSURLComponents"};
-inline const Message<void(id)> setScheme{type, "setScheme:"};
-inline const Message<void(id)> setPath{type, "setPath:"};
-inline const Message<void(id)> setQueryItems{type, "setQueryItems:"};
-inline const Message<id()> url{type, "URL"};
-} // namespace ns_url_components
+    struct NSURLComponents : ClassReference {
+        using ClassReference::ClassReference;
+        Message<void(id)> setScheme{*this, "setScheme:"};
+        Message<void(id)> setPath{*this, "setPath:"};
+        Message<void(id)> setQueryItems{*this, "setQueryItems:"};
+        Message<id()> url{*this, "URL"};
+    } urlComponents{*this, "NSURLComponents"};
 
-namespace ns_url_query_item {
-inline const ClassReference type{"NSURLQueryItem"};
-inline const Message<id(id, id)> queryItemWithName{type, "queryItemWithName:value:", MethodKind::ofClass};
-} // namespace ns_url_query_item
+    struct NSURLQueryItem : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id(id, id)> queryItemWithName{*this, "queryItemWithName:value:"};
+    } urlQueryItem{*this, "NSURLQueryItem"};
 
-namespace ns_error {
-inline const ClassReference type{"NSError"};
-inline const Message<id()> localizedDescription{type, "localizedDescription"};
-} // namespace ns_error
+    struct NSError : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id()> localizedDescription{*this, "localizedDescription"};
+    } error{*this, "NSError"};
 
-namespace ns_process_info {
-inline const ClassReference type{"NSProcessInfo"};
-inline const Message<id()> processInfo{type, "processInfo", MethodKind::ofClass};
-inline const Message<OperatingSystemVersion()> operatingSystemVersion{type, "operatingSystemVersion"};
-} // namespace ns_process_info
+    struct NSProcessInfo : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> processInfo{*this, "processInfo"};
+        Message<OperatingSystemVersion()> operatingSystemVersion{*this, "operatingSystemVersion"};
+    } processInfo{*this, "NSProcessInfo"};
 
-namespace ns_locale {
-inline const ClassReference type{"NSLocale"};
-inline const Message<id()> currentLocale{type, "currentLocale", MethodKind::ofClass};
-inline const Message<id()> localeIdentifier{type, "localeIdentifier"};
-} // namespace ns_locale
+    struct NSLocale : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> currentLocale{*this, "currentLocale"};
+        Message<id()> localeIdentifier{*this, "localeIdentifier"};
+    } locale{*this, "NSLocale"};
+};
+
+extern const Foundation foundation;
 
 // NOLINTEND(readability-identifier-naming)
 

@@ -9,13 +9,17 @@ namespace kestrune::mac {
 
 // NOLINTBEGIN(readability-identifier-naming): a message is sent by calling it, so it reads as a function.
 
-namespace sm_app_service {
-inline const ClassReference type{"SMAppService"};
-inline const Message<id()> mainAppService{type, "mainAppService", MethodKind::ofClass};
-inline const Message<Integer()> status{type, "status"};
-inline const Message<BOOL(id*)> registerAndReturnError{type, "registerAndReturnError:"};
-inline const Message<BOOL(id*)> unregisterAndReturnError{type, "unregisterAndReturnError:"};
-} // namespace sm_app_service
+struct ServiceManagement : Framework {
+    struct SMAppService : ClassReference {
+        using ClassReference::ClassReference;
+        ClassMessage<id()> mainAppService{*this, "mainAppService"};
+        Message<Integer()> status{*this, "status"};
+        Message<BOOL(id*)> registerAndReturnError{*this, "registerAndReturnError:"};
+        Message<BOOL(id*)> unregisterAndReturnError{*this, "unregisterAndReturnError:"};
+    } appService{*this, "SMAppService"};
+};
+
+extern const ServiceManagement serviceManagement;
 
 // NOLINTEND(readability-identifier-naming)
 

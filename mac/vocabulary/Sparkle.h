@@ -9,19 +9,25 @@ namespace kestrune::mac {
 
 // NOLINTBEGIN(readability-identifier-naming): a message is sent by calling it, so it reads as a function.
 
-namespace spu_standard_user_driver {
-inline const ClassReference type{"SPUStandardUserDriver", ClassPresence::onceLoaded};
-inline const Message<id(id, id)> initWithHostBundle{type, "initWithHostBundle:delegate:"};
-} // namespace spu_standard_user_driver
+struct Sparkle : Framework {
+    constexpr Sparkle() : Framework(Presence::onceLoaded) {}
 
-namespace spu_updater {
-inline const ClassReference type{"SPUUpdater", ClassPresence::onceLoaded};
-inline const Message<id(id, id, id, id)> initWithHostBundle{
-    type, "initWithHostBundle:applicationBundle:userDriver:delegate:"};
-inline const Message<BOOL(id*)> startUpdater{type, "startUpdater:"};
-inline const Message<void(BOOL)> setAutomaticallyDownloadsUpdates{type, "setAutomaticallyDownloadsUpdates:"};
-inline const Message<void()> checkForUpdates{type, "checkForUpdates"};
-} // namespace spu_updater
+    struct SPUStandardUserDriver : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(id, id)> initWithHostBundle{*this, "initWithHostBundle:delegate:"};
+    } standardUserDriver{*this, "SPUStandardUserDriver"};
+
+    struct SPUUpdater : ClassReference {
+        using ClassReference::ClassReference;
+        Message<id(id, id, id, id)> initWithHostBundle{
+            *this, "initWithHostBundle:applicationBundle:userDriver:delegate:"};
+        Message<BOOL(id*)> startUpdater{*this, "startUpdater:"};
+        Message<void(BOOL)> setAutomaticallyDownloadsUpdates{*this, "setAutomaticallyDownloadsUpdates:"};
+        Message<void()> checkForUpdates{*this, "checkForUpdates"};
+    } updater{*this, "SPUUpdater"};
+};
+
+extern const Sparkle sparkle;
 
 // NOLINTEND(readability-identifier-naming)
 

@@ -68,10 +68,10 @@ TEST_F(ApplicationOnGNUstep, HasItsMainMenu) {
     const mac::Pool pool;
     std::vector<std::string> titles;
     const id items = send(send(NSApp, "mainMenu"), "itemArray");
-    for (mac::Unsigned menu = 0; menu < mac::ns_array::count(items); ++menu) {
-        const id rows = send(send(mac::ns_array::objectAtIndex(items, menu), "submenu"), "itemArray");
-        for (mac::Unsigned row = 0; row < mac::ns_array::count(rows); ++row) {
-            const id item = mac::ns_array::objectAtIndex(rows, row);
+    for (mac::Unsigned menu = 0; menu < mac::foundation.array.count(items); ++menu) {
+        const id rows = send(send(mac::foundation.array.objectAtIndex(items, menu), "submenu"), "itemArray");
+        for (mac::Unsigned row = 0; row < mac::foundation.array.count(rows); ++row) {
+            const id item = mac::foundation.array.objectAtIndex(rows, row);
             titles.push_back(send<BOOL>(item, "isSeparatorItem") != 0
                                  ? "---"
                                  : mac::textOf(send(item, "title")) + " " +

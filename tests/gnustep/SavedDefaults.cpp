@@ -40,7 +40,7 @@ std::string nameOfProcess() {
 
 std::optional<std::string> savedDefault(std::string_view key) {
     const mac::Pool pool;
-    const id defaults = mac::ns_user_defaults::standardUserDefaults(mac::ns_user_defaults::type.object());
+    const id defaults = mac::foundation.userDefaults.standardUserDefaults();
     send<BOOL>(defaults, "synchronize");
     const Output output = outputOf("LD_PRELOAD=" KESTRUNE_HOME_LIBRARY " defaults read " + nameOfProcess() +
                                    " " + std::string(key) + " 2>/dev/null");

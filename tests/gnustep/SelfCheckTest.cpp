@@ -1,7 +1,6 @@
 // The binding's vocabulary held against GNUstep, with and without what stands in for the Mac.
 #include "mac/objc/SelfCheck.h"
 
-#include "mac/Vocabulary.h"
 #include "platform/Updater.h"
 #include "tests/gnustep/PrivateHome.h"
 #include "tests/gnustep/standins/MainBundle.h"
@@ -11,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -18,10 +18,10 @@
 namespace kestrune::gnustep {
 namespace {
 
-using testing::Contains;
+using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::SizeIs;
 using testing::StartsWith;
+using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
 
 // Classes and methods that stand-ins alone have; the check tells nothing about their encodings.
@@ -147,22 +147,45 @@ TEST_F(SelfCheckDeathTest, NamesWhatIsMissingAndWhatDiffers) {
                  "initWithBytes:length:encoding:.: expected @@:.vQQ, found ");
 }
 
-// Last, as what is declared stays declared.
+struct Mistakes : mac::Framework {
+    struct NSArray : mac::ClassReference {
+        using ClassReference::ClassReference;
+        mac::Message<int()> wrongIntegerWidth{*this, "count"};
+    } array{*this, "NSArray"};
+
+    struct NSNumber : mac::ClassReference {
+        using ClassReference::ClassReference;
+        mac::Message<float()> floatForDouble{*this, "doubleValue"};
+    } number{*this, "NSNumber"};
+
+    struct NSBundle : mac::ClassReference {
+        using ClassReference::ClassReference;
+        mac::Message<id()> misspelled{*this, "infoDictionairy"};
+        mac::ClassMessage<id()> methodOfInstances{*this, "infoDictionary"};
+    } bundle{*this, "NSBundle"};
+
+    struct NSScreen : mac::ClassReference {
+        using ClassReference::ClassReference;
+        mac::Message<Size()> structureOfAWrongSize{*this, "frame"};
+    } screen{*this, "NSScreen"};
+
+    struct NSScren : mac::ClassReference {
+        using ClassReference::ClassReference;
+    } misspelledClass{*this, "NSScren"};
+};
+
 TEST(SelfCheck, FindsDeliberateMistakes) {
-    using mac::Message;
-    const mac::SelfCheckResult before = mac::checkVocabulary();
-    static const Message<int()> WrongIntegerWidth{mac::ns_array::type, "count"};
-    static const Message<float()> FloatForDouble{mac::ns_number::type, "doubleValue"};
-    static const Message<id()> Misspelled{mac::ns_bundle::type, "infoDictionairy"};
-    static const Message<Size()> StructureOfAWrongSize{mac::ns_screen::type, "frame"};
-    const mac::SelfCheckResult after = mac::checkVocabulary();
-    EXPECT_EQ(after.messages, before.messages + 4);
-    EXPECT_THAT(after.differences, SizeIs(before.differences.size() + 3));
-    EXPECT_THAT(after.differences, Contains(StartsWith("-[NSArray count]: expected i@:, found ")));
-    EXPECT_THAT(after.differences, Contains(StartsWith("-[NSNumber doubleValue]: expected f@:, found ")));
-    EXPECT_THAT(after.differences, Contains(StartsWith("-[NSScreen frame]: expected {CGSize=dd}@:, found ")));
-    EXPECT_THAT(after.missingMethods, SizeIs(before.missingMethods.size() + 1));
-    EXPECT_THAT(after.missingMethods, Contains("-[NSBundle infoDictionairy]"));
+    static constinit const Mistakes mistakes;
+    const std::array<const mac::Framework*, 1> frameworks = {&mistakes};
+    const mac::SelfCheckResult result = mac::checkVocabulary(frameworks);
+    EXPECT_EQ(result.messages, 5U);
+    EXPECT_THAT(result.missingClasses, ElementsAre("NSScren"));
+    EXPECT_THAT(result.missingMethods,
+                UnorderedElementsAre("-[NSBundle infoDictionairy]", "+[NSBundle infoDictionary]"));
+    EXPECT_THAT(result.differences,
+                UnorderedElementsAre(StartsWith("-[NSArray count]: expected i@:, found "),
+                                     StartsWith("-[NSNumber doubleValue]: expected f@:, found "),
+                                     StartsWith("-[NSScreen frame]: expected {CGSize=dd}@:, found ")));
 }
 
 } // namespace

@@ -27,9 +27,9 @@ std::map<std::string, std::string> textsIn(const std::string& file) {
     }
     const id keys = send(dictionary, "allKeys");
     std::map<std::string, std::string> texts;
-    for (mac::Unsigned index = 0; index < mac::ns_array::count(keys); ++index) {
-        const id key = mac::ns_array::objectAtIndex(keys, index);
-        if (const auto text = mac::textIfString(mac::ns_dictionary::objectForKey(dictionary, key))) {
+    for (mac::Unsigned index = 0; index < mac::foundation.array.count(keys); ++index) {
+        const id key = mac::foundation.array.objectAtIndex(keys, index);
+        if (const auto text = mac::textIfString(mac::foundation.dictionary.objectForKey(dictionary, key))) {
             texts.emplace(mac::textOf(key), *text);
         }
     }

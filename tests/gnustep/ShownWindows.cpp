@@ -21,7 +21,7 @@ namespace {
 constexpr double BelowTheTop = 8; // points; in a title bar
 
 bool isKindOf(id object, const char* className) {
-    return mac::ns_object::isKindOfClass(object, classNamed(className)) != 0;
+    return mac::foundation.object.isKindOfClass(object, classNamed(className)) != 0;
 }
 
 bool hasStyle(id window, WindowStyleMask part) {
@@ -31,8 +31,8 @@ bool hasStyle(id window, WindowStyleMask part) {
 std::vector<id> viewsIn(id window) {
     const id list = send(send(window, "contentView"), "subviews");
     std::vector<id> views;
-    for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
-        views.push_back(mac::ns_array::objectAtIndex(list, index));
+    for (mac::Unsigned index = 0; index < mac::foundation.array.count(list); ++index) {
+        views.push_back(mac::foundation.array.objectAtIndex(list, index));
     }
     return views;
 }
@@ -56,8 +56,8 @@ void click(id window, Point location) {
 std::vector<id> visibleWindows() {
     const id list = send(NSApp, "orderedWindows");
     std::vector<id> windows;
-    for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
-        const id window = mac::ns_array::objectAtIndex(list, index);
+    for (mac::Unsigned index = 0; index < mac::foundation.array.count(list); ++index) {
+        const id window = mac::foundation.array.objectAtIndex(list, index);
         // A miniaturized window has another one in its place, which is its tile.
         const bool isOrdinary = !isKindOf(window, "NSPanel") && !isKindOf(window, "NSMiniWindow");
         if (send<BOOL>(window, "isVisible") != 0 && isOrdinary) {

@@ -35,14 +35,14 @@ std::shared_ptr<void> World::showFrameworkWindow(std::string_view className, std
                                                  bool hidesOnDeactivate) {
     const mac::Pool pool;
     constexpr Rect Content(0, 0, 300, 120);
-    const id window = mac::ns_window::initWithContentRect(
-        mac::ns_object::alloc(windowClass(std::string(className))), Content,
+    const id window = mac::appKit.window.initWithContentRect(
+        mac::foundation.object.alloc(windowClass(std::string(className))), Content,
         static_cast<mac::Unsigned>(WindowStyleMask::titled),
         static_cast<mac::Unsigned>(BackingStoreType::buffered), mac::truth(false));
-    mac::ns_window::setReleasedWhenClosed(window, mac::truth(false));
-    mac::ns_window::setHidesOnDeactivate(window, mac::truth(hidesOnDeactivate));
-    mac::ns_window::setTitle(window, objectFor(std::string(title)));
-    mac::ns_window::makeKeyAndOrderFront(window, nullptr);
+    mac::appKit.window.setReleasedWhenClosed(window, mac::truth(false));
+    mac::appKit.window.setHidesOnDeactivate(window, mac::truth(hidesOnDeactivate));
+    mac::appKit.window.setTitle(window, objectFor(std::string(title)));
+    mac::appKit.window.makeKeyAndOrderFront(window, nullptr);
     return {static_cast<void*>(window), [window](void*) {
                 const mac::Pool poolOfTheEnd;
                 const mac::Retained ending = mac::Retained::adopting(window);

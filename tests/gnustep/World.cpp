@@ -46,9 +46,7 @@ using namespace gnustep;
 
 namespace {
 
-id userDefaults() {
-    return mac::ns_user_defaults::standardUserDefaults(mac::ns_user_defaults::type.object());
-}
+id userDefaults() { return mac::foundation.userDefaults.standardUserDefaults(); }
 
 struct AsObject {
     template <typename Plain>
@@ -92,8 +90,8 @@ std::vector<id> itemsOf(id menu) {
     send<void>(menu, "update");
     const id list = send(menu, "itemArray");
     std::vector<id> items;
-    for (mac::Unsigned index = 0; index < mac::ns_array::count(list); ++index) {
-        items.push_back(mac::ns_array::objectAtIndex(list, index));
+    for (mac::Unsigned index = 0; index < mac::foundation.array.count(list); ++index) {
+        items.push_back(mac::foundation.array.objectAtIndex(list, index));
     }
     return items;
 }
@@ -171,8 +169,8 @@ void World::followTrustDialog() {
 // GNUstep hears of what other processes store only now and then, so this process does it.
 void World::store(std::string_view key, const StoredValue& value) {
     const mac::Pool pool;
-    mac::ns_user_defaults::setObject(userDefaults(), std::visit(AsObject(), value),
-                                     objectFor(std::string(key)));
+    mac::foundation.userDefaults.setObject(userDefaults(), std::visit(AsObject(), value),
+                                           objectFor(std::string(key)));
 }
 
 std::optional<Point> World::post(EventType type, Point location) { return postEvent(type, location); }

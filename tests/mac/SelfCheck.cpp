@@ -18,14 +18,13 @@ namespace {
 using namespace kestrune;
 
 bool loadFramework(const char* path) {
-    const id framework =
-        mac::ns_bundle::bundleWithPath(mac::ns_bundle::type.object(), mac::nsString(path).get());
+    const id framework = mac::foundation.bundle.bundleWithPath(mac::nsString(path).get());
     if (framework == nullptr) {
         std::fprintf(stderr, "There is no framework at %s.\n", path);
         return false;
     }
     id error = nullptr;
-    const BOOL isLoaded = mac::ns_bundle::loadAndReturnError(framework, &error);
+    const BOOL isLoaded = mac::foundation.bundle.loadAndReturnError(framework, &error);
     if (const auto failure = mac::errorUnless(isLoaded, error)) {
         std::fprintf(stderr, "%s is not loaded: %s\n", path, failure->localizedDescription.c_str());
         return false;

@@ -59,10 +59,7 @@ void hangBelowTheBar(id menu, id button) {
 }
 
 // Other processes are to see now what was stored; otherwise GNUstep writes every half minute.
-void writeDefaults() {
-    send<BOOL>(mac::ns_user_defaults::standardUserDefaults(mac::ns_user_defaults::type.object()),
-               "synchronize");
-}
+void writeDefaults() { send<BOOL>(mac::foundation.userDefaults.standardUserDefaults(), "synchronize"); }
 
 using MouseDown = Method<void, id>;
 

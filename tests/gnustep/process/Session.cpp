@@ -28,7 +28,7 @@ const std::vector<contract::ConnectedDisplay>& displays() {
 
 // In the place of the black points that the stand-in makes.
 void copyPictures() {
-    const id bundle = mac::ns_bundle::mainBundle(mac::ns_bundle::type.object());
+    const id bundle = mac::foundation.bundle.mainBundle();
     const std::filesystem::path target = mac::textOf(send(bundle, "resourcePath"));
     for (const auto& file : std::filesystem::directory_iterator(KESTRUNE_RESOURCES)) {
         if (file.path().extension() == ".png") {

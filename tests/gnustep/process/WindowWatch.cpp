@@ -18,9 +18,9 @@ namespace {
 // GNUstep draws the title bar, around the content and beside it.
 std::string placeOfCloseButton(id content) {
     const id views = send(send(content, "superview"), "subviews");
-    for (mac::Unsigned index = 0; index < mac::ns_array::count(views); ++index) {
-        const id view = mac::ns_array::objectAtIndex(views, index);
-        const bool isButton = mac::ns_object::isKindOfClass(view, classNamed("NSButton")) != 0;
+    for (mac::Unsigned index = 0; index < mac::foundation.array.count(views); ++index) {
+        const id view = mac::foundation.array.objectAtIndex(views, index);
+        const bool isButton = mac::foundation.object.isKindOfClass(view, classNamed("NSButton")) != 0;
         if (isButton && sel_getName(send<SEL>(view, "action")) == std::string_view("performClose:")) {
             return placeOf(view, send<Rect>(view, "bounds"));
         }

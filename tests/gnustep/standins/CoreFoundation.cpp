@@ -56,9 +56,9 @@ const void* valueOfKey(CFDictionaryRef dictionary, const void* key) {
 
 extern "C" {
 
-CFTypeRef CFRetain(CFTypeRef object) { return mac::ns_object::retain(objectOf(object)); }
+CFTypeRef CFRetain(CFTypeRef object) { return mac::foundation.object.retain(objectOf(object)); }
 
-void CFRelease(CFTypeRef object) { mac::ns_object::release(objectOf(object)); }
+void CFRelease(CFTypeRef object) { mac::foundation.object.release(objectOf(object)); }
 
 // Its entries are constants, which need no retaining.
 CFDictionaryRef CFDictionaryCreate(CFAllocatorRef allocator, const void** keys, const void** values,

@@ -12,7 +12,7 @@ void expect(const char* framework, bool holds, const std::string& otherwise) {
 }
 
 void expectMainThread(const char* framework) {
-    expect(framework, mac::ns_thread::isMainThread(mac::ns_thread::type.object()) != 0,
+    expect(framework, mac::foundation.thread.isMainThread() != 0,
            "it comes from another thread than the main one");
 }
 

@@ -61,7 +61,7 @@ mac::Retained dispatchedWork(void* context, void (*work)(void* context)) {
 void runOperation(id, SEL, id operation) { send<void>(operation, "start"); }
 
 void addOperation(id queue, SEL, id operation) {
-    if (mac::ns_thread::isMainThread(mac::ns_thread::type.object()) != 0) {
+    if (mac::foundation.thread.isMainThread() != 0) {
         runOperation(queue, nullptr, operation);
     } else {
         perform(queue, "kestruneRunOperation:", operation);

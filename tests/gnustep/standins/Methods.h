@@ -22,7 +22,7 @@ void addMethod(Class type, const char* selector, Method<Result, Arguments...> im
         fatal(std::string("GNUstep has the method ") + selector + " after all.");
     }
     class_addMethod(type, name, mac::asImplementation(implementation),
-                    mac::encodingOfMethod<Result, Arguments...>().c_str());
+                    mac::EncodingOfMethod<Result, Arguments...>.data());
 }
 
 // Takes the place of a method that the class has, perhaps from a superclass; gives the one before.
@@ -35,7 +35,7 @@ Method<Result, Arguments...> replaceMethod(Class type, const char* selector,
     }
     const IMP before = class_getMethodImplementation(type, name);
     class_replaceMethod(type, name, mac::asImplementation(implementation),
-                        mac::encodingOfMethod<Result, Arguments...>().c_str());
+                        mac::EncodingOfMethod<Result, Arguments...>.data());
     return mac::asFunction<Method<Result, Arguments...>>(before);
 }
 

@@ -22,7 +22,7 @@ struct EndOfProcess {};
 
 bool isEndHeldBack = false; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
-id application() { return mac::ns_application::sharedApplication(mac::ns_application::type.object()); }
+id application() { return mac::appKit.application.sharedApplication(); }
 
 // `run` looks after each event whether it is to stop.
 void stop() {
@@ -82,8 +82,8 @@ void runUntilLaunched(const std::function<void()>& work) {
     const Heartbeat heartbeat(nothing.get());
     // The loop comes after the launch, and does then what was asked for meanwhile.
     const mac::Block launched([&](id) { doSoon(nothing.get()); });
-    const id center = mac::ns_notification_center::defaultCenter(mac::ns_notification_center::type.object());
-    const id observer = mac::ns_notification_center::addObserver(
+    const id center = mac::foundation.notificationCenter.defaultCenter();
+    const id observer = mac::foundation.notificationCenter.addObserver(
         center, objectFor("NSApplicationDidFinishLaunchingNotification"), nullptr, nullptr, launched.get());
     work();
     send<void>(center, "removeObserver:", observer);
@@ -96,7 +96,7 @@ void runWork(const std::function<void()>& work) {
     doSoon(object.get());
     isEndHeldBack = true;
     try {
-        mac::ns_application::run(application());
+        mac::appKit.application.run(application());
     } catch (const EndOfProcess&) {
     }
     isEndHeldBack = false;

@@ -66,7 +66,7 @@ id listScreens(id, SEL) { return screens().list.get(); }
 id mainScreen(id, SEL) {
     const auto& [displays, list, main] = screens();
     return main && *main < displays.size()
-               ? mac::ns_array::objectAtIndex(list.get(), static_cast<mac::Unsigned>(*main))
+               ? mac::foundation.array.objectAtIndex(list.get(), static_cast<mac::Unsigned>(*main))
                : nullptr;
 }
 

@@ -85,8 +85,7 @@ void requireMethods(id delegate) {
 }
 
 void requireMainBundle(id bundle) {
-    require(bundle == mac::ns_bundle::mainBundle(mac::ns_bundle::type.object()),
-            "the bundle is not the main one");
+    require(bundle == mac::foundation.bundle.mainBundle(), "the bundle is not the main one");
 }
 
 id initUserDriver(id driver, SEL, id hostBundle, id delegate) {
@@ -149,8 +148,8 @@ void makeClasses() {
 }
 
 std::filesystem::path place() {
-    const id bundle = mac::ns_bundle::mainBundle(mac::ns_bundle::type.object());
-    return std::filesystem::path(mac::textOf(mac::ns_bundle::privateFrameworksPath(bundle))) /
+    const id bundle = mac::foundation.bundle.mainBundle();
+    return std::filesystem::path(mac::textOf(mac::foundation.bundle.privateFrameworksPath(bundle))) /
            "Sparkle.framework";
 }
 

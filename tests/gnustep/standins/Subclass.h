@@ -27,7 +27,7 @@ public:
     template <typename Result, typename... Arguments>
     Subclass& method(const char* selector, Method<Result, Arguments...> implementation) {
         class_replaceMethod(class_, sel_registerName(selector), mac::asImplementation(implementation),
-                            mac::encodingOfMethod<Result, Arguments...>().c_str());
+                            mac::EncodingOfMethod<Result, Arguments...>.data());
         return *this;
     }
 

@@ -76,7 +76,7 @@ id imageOf(const Symbol& symbol) {
     send<void>(representation.get(), "setSize:", size);
     const id image = send(send(classObject("NSImage"), "alloc"), "initWithSize:", size);
     send<void>(image, "addRepresentation:", representation.get());
-    mac::ns_image::setTemplate(image, mac::truth(!symbol.color));
+    mac::appKit.image.setTemplate(image, mac::truth(!symbol.color));
     drawings().emplace(image, drawing);
     whenDeallocated(image, &drawings(), [image] { drawings().erase(image); });
     return send(image, "autorelease");

@@ -25,7 +25,7 @@ id& blockOf(id timer) {
 
 void invalidate(id timer, SEL selector) {
     invalidateBefore(timer, selector);
-    mac::ns_object::release(std::exchange(blockOf(timer), nullptr));
+    mac::foundation.object.release(std::exchange(blockOf(timer), nullptr));
 }
 
 } // namespace

@@ -1,0 +1,10 @@
+#include "mac/Vocabulary.h"
+
+namespace kestrune::mac {
+
+constinit const AppKit appKit;
+constinit const Foundation foundation;
+constinit const ServiceManagement serviceManagement;
+constinit const Sparkle sparkle;
+
+} // namespace kestrune::mac
