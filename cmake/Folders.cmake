@@ -18,6 +18,8 @@ function(kestrune_folder name)
     cmake_parse_arguments(FOLDER "" "" "SOURCES;LINKS" ${ARGN})
     string(TOLOWER "kestrune_${name}" target)
     add_library(${target} STATIC ${FOLDER_SOURCES})
+    # For the program that it becomes part of, and for nobody beside it.
+    set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
     kestrune_include_root(${target} PUBLIC ${name})
     target_link_libraries(${target} PUBLIC kestrune_options ${FOLDER_LINKS})
 endfunction()
