@@ -5,6 +5,9 @@ import re
 
 from .result import Finding, Result
 
+# System headers, which the standard library's own include as well.
+SYSTEM_HEADERS = "mac/sdk/"
+
 
 def run(tree):
     sources, headers = tree.with_suffix(".cpp"), tree.with_suffix(".h")
@@ -26,7 +29,7 @@ def run(tree):
     findings += [
         Finding(path, 1, "nothing includes it; include it where it is needed or delete it")
         for path in headers
-        if path not in included
+        if path not in included and not path.startswith(SYSTEM_HEADERS)
     ]
     findings += [
         Finding(path, 1, "no CMakeLists.txt beside it names it; register it as a test or delete it")

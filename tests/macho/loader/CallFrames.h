@@ -1,0 +1,50 @@
+// Call frame information as DWARF has it, which GCC's unwinder reads.
+//
+// Source: DWARF 5, section 6.4; Linux Standard Base, Exception Frames; System V ABI for x86-64, numbers of
+// registers.
+#pragma once
+
+#include "tests/macho/loader/CompactUnwind.h"
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace kestrune::macho {
+
+// Writes a section .eh_frame, one function after the other.
+class CallFrames {
+public:
+    // Where a place of the image is in memory.
+    using Locate = std::function<const std::uint8_t*(std::uint32_t place)>;
+
+    explicit CallFrames(Locate locate) : locate_(std::move(locate)) {}
+
+    // For x86-64. Throws MachError, in the name of `place`, for an encoding that it does not know. One that
+    // says that nothing is to be done, or that DWARF has it already, adds nothing.
+    void add(const UnwoundFunction& function, const Bytes& place);
+
+    // With the end that the unwinder looks for.
+    std::vector<std::uint8_t> finish();
+
+private:
+    template <typename Number>
+    void put(Number number);
+    void putLengthed(std::uint32_t number);
+    std::size_t begin();
+    void end(std::size_t start);
+
+    std::size_t commonEntryFor(const std::optional<std::uint32_t>& personality);
+    void frameIs(std::uint8_t reg, std::uint32_t distance);
+    void isSaved(std::uint8_t reg, std::uint32_t words);
+    void describeWithFramePointer(std::uint32_t encoding);
+    void describeWithoutFramePointer(const UnwoundFunction& function, bool isSizeInCode, const Bytes& place);
+
+    Locate locate_;
+    std::map<std::optional<std::uint32_t>, std::size_t> commonEntries_; // by personality
+    std::vector<std::uint8_t> bytes_;
+};
+
+} // namespace kestrune::macho

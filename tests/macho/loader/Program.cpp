@@ -1,0 +1,73 @@
+#include "tests/macho/loader/Program.h"
+
+#include "tests/macho/MachFile.h"
+#include "tests/macho/loader/Unwinding.h"
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+namespace kestrune::macho {
+
+namespace {
+
+const LoadedImage* theImage = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+// With everything that it borrows from the file.
+struct Program {
+    Program(const std::string& path, MessageChecks checks)
+        : content(contentOf(path)),
+          file(content, path),
+          image(file.slice(Processor::x86_64), importsOfThisProcess(checks)) {
+        registerUnwinding(image);
+    }
+
+    static std::vector<std::uint8_t> contentOf(const std::string& path) {
+        std::ifstream file(path, std::ios::binary);
+        if (!file) {
+            throw MachError(path + ": cannot be opened");
+        }
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+
+    std::vector<std::uint8_t> content;
+    MachFile file;
+    LoadedImage image;
+};
+
+// Never destroyed: what the program gave to the platform may be called until the process has ended.
+const LoadedImage& load(const std::string& path, MessageChecks checks) {
+    try {
+        return (new Program(path, checks))->image;
+    } catch (const MachError& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        std::exit(2);
+    }
+}
+
+} // namespace
+
+// The unified log's stand-in asks whether a text lies in the program. The system knows of no such image, and
+// this definition comes before its own.
+extern "C" int dladdr(const void* address, Dl_info* information) noexcept {
+    if (theImage != nullptr && theImage->contains(address)) {
+        *information = {theImage->slice().name().c_str(), theImage->start(), nullptr, nullptr};
+        return 1;
+    }
+    static auto* const systems = reinterpret_cast<decltype(&dladdr)>(dlsym(RTLD_NEXT, "dladdr"));
+    return systems(address, information);
+}
+
+int runProgram(const std::string& path, MessageChecks checks) {
+    theImage = &load(path, checks);
+    std::string name = path;
+    char* arguments[] = {name.data(), nullptr};
+    return theImage->run(1, arguments, environ);
+}
+
+} // namespace kestrune::macho
