@@ -19,6 +19,14 @@ if(NOT APPLE)
     target_compile_options(kestrune_options INTERFACE -Werror)
 endif()
 
+# Crash reports of a Mac name addresses. The lines behind them are taken out of the program and kept; no path of
+# the machine that built it is in either.
+if(APPLE)
+    target_compile_options(kestrune_options INTERFACE
+        $<$<CONFIG:Release>:-gline-tables-only> "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
+    target_link_options(kestrune_options INTERFACE "LINKER:-oso_prefix,${PROJECT_BINARY_DIR}/")
+endif()
+
 if(KESTRUNE_SANITIZE)
     target_compile_options(kestrune_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -1,5 +1,5 @@
-# The toolchain that builds for a Mac on Linux: Debian's clang, lld and LLVM, the headers of LLVM's C++ library,
-# and the facts of macOS in mac/sdk. One processor for each build, KESTRUNE_ARCH: arm64 or x86_64.
+# The toolchain that builds for a Mac on Linux: Debian's clang, lld and LLVM, the headers of LLVM's C++
+# library, and the facts of macOS in mac/sdk. One processor for each build, KESTRUNE_ARCH: arm64 or x86_64.
 #
 # KESTRUNE_LLVM is where LLVM is installed, KESTRUNE_LIBCXX where its C++ library was unpacked.
 set(CMAKE_SYSTEM_NAME Darwin)
@@ -25,6 +25,8 @@ foreach(folder IN ITEMS "${CMAKE_OSX_SYSROOT}/libcxx" "${KESTRUNE_LIBCXX}/includ
     string(APPEND CMAKE_CXX_FLAGS_INIT " \"-isystem${folder}\"")
 endforeach()
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-fuse-ld=lld -Wl,-fatal_warnings -Wl,-adhoc_codesign")
+# The same input gives the same program: its notes for debuggers say when each object was made otherwise.
+set(CMAKE_CXX_LINKER_LAUNCHER env ZERO_AR_DATE=1)
 
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
