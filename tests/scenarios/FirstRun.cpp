@@ -1,7 +1,9 @@
 // The first run of a new user, from the launch to a Dock that is held: the same story on every implementation
 // of the seam, told in what the user sees.
-#include "Kestrune/KestruneApp.h"
+#include "Kestrune/Preferences.h"
+#include "platform/UserDefaults.h"
 #include "tests/contract/World.h"
+#include "tests/scenarios/LaunchedApplication.h"
 #include "tests/scenarios/ShippedBundle.h"
 
 #include <gmock/gmock.h>
@@ -9,7 +11,7 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,16 +46,7 @@ protected:
         world_.setTrust(Trust::notListed);
     }
 
-    ~FirstRun() override {
-        if (app_) {
-            app_->dockGuard()->stop();
-        }
-    }
-
-    void launch() {
-        world_.launch([this] { app_ = runKestrune(); });
-        world_.runMainQueue();
-    }
+    void launch() { application_.emplace(world_); }
 
     void happens(const std::string& event) { steps_.push_back(event + ": " + whatIsSeen()); }
 
@@ -82,7 +75,7 @@ protected:
     std::string firstRow() { return world_.statusMenuRows().at(0).title; }
 
     contract::World world_;
-    std::shared_ptr<KestruneApp> app_;
+    std::optional<LaunchedApplication> application_;
     std::vector<std::string> steps_;
 };
 
@@ -150,7 +143,7 @@ TEST_F(FirstRun, IsOverAtOnceForWhoeverHasThePermission) {
 TEST_F(FirstRun, BeginsWithTheIntroductionForWhoeverHasThePermissionAlready) {
     world_.setTrust(Trust::granted);
     launch();
-    app_->showWelcomeWindow();
+    world_.chooseInStatusMenu(0);
     world_.runMainQueue();
     EXPECT_EQ(world_.shownWindows().at(0).level, WindowLevel::floating);
     EXPECT_THAT(world_.shownWindows().at(0).buttons, ElementsAre("Get started"));
