@@ -63,11 +63,16 @@ extern "C" int dladdr(const void* address, Dl_info* information) noexcept {
     return systems(address, information);
 }
 
-int runProgram(const std::string& path, MessageChecks checks) {
+int runProgram(const std::string& path, MessageChecks checks, const std::vector<std::string>& arguments) {
     theImage = &load(path, checks);
-    std::string name = path;
-    char* arguments[] = {name.data(), nullptr};
-    return theImage->run(1, arguments, environ);
+    std::vector<std::string> texts = {path};
+    texts.insert(texts.end(), arguments.begin(), arguments.end());
+    std::vector<char*> pointers;
+    for (std::string& text : texts) {
+        pointers.push_back(text.data());
+    }
+    pointers.push_back(nullptr);
+    return theImage->run(static_cast<int>(texts.size()), pointers.data(), environ);
 }
 
 } // namespace kestrune::macho

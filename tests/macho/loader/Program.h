@@ -4,12 +4,13 @@
 #include "tests/macho/loader/Imports.h"
 
 #include <string>
+#include <vector>
 
 namespace kestrune::macho {
 
 // Loads the part of the file that is for this processor and runs it. Gives the result of its entry point.
 // When the file cannot be loaded the process says why in one line and ends with status 2. A process has one
 // program at a time.
-int runProgram(const std::string& path, MessageChecks checks = MessageChecks::structureReturns);
+int runProgram(const std::string& path, MessageChecks checks, const std::vector<std::string>& arguments = {});
 
 } // namespace kestrune::macho
