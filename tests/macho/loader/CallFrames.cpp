@@ -96,8 +96,7 @@ std::size_t CallFrames::commonEntryFor(const std::optional<std::uint32_t>& perso
     put(std::uint8_t{0x78}); // places on the stack in words downwards: -8 as it is written here
     put(ReturnAddress);
     if (personality) {
-        std::uint64_t function = 0;
-        std::memcpy(&function, locate_(*personality), sizeof(function));
+        const auto function = image_.little<std::uint64_t>(*personality, "the address of a personality");
         putLengthed(1 + sizeof(function) + 2);
         put(Absolute);
         put(function);
@@ -124,30 +123,33 @@ void CallFrames::isSaved(std::uint8_t reg, std::uint32_t words) {
     putLengthed(words);
 }
 
-void CallFrames::add(const UnwoundFunction& function, const Bytes& place) {
+std::uint64_t CallFrames::addressOf(std::uint32_t place) const {
+    return std::bit_cast<std::uint64_t>(image_.all().data()) + place;
+}
+
+void CallFrames::add(const UnwoundFunction& function) {
     const std::uint32_t mode = function.encoding & ModeMask;
     if (mode == NoMode || mode == InDwarf) {
         return;
     }
     if (mode > InDwarf) {
-        place.refuse("has the encoding " + hexadecimal(function.encoding));
+        image_.refuse("has a function with the encoding " + hexadecimal(function.encoding));
     }
     const std::size_t common = commonEntryFor(function.personality);
     const std::size_t start = begin();
     put(static_cast<std::uint32_t>(bytes_.size() - common));
-    put(std::bit_cast<std::uint64_t>(locate_(function.start)));
+    put(addressOf(function.start));
     put(std::uint64_t{function.end - function.start});
     if (function.personality) {
         putLengthed(sizeof(std::uint64_t));
-        put(function.languageData ? std::bit_cast<std::uint64_t>(locate_(*function.languageData))
-                                  : std::uint64_t{0});
+        put(function.languageData ? addressOf(*function.languageData) : std::uint64_t{0});
     } else {
         putLengthed(0);
     }
     if (mode == WithFramePointer) {
         describeWithFramePointer(function.encoding);
     } else {
-        describeWithoutFramePointer(function, mode == WithoutFramePointerSizeInCode, place);
+        describeWithoutFramePointer(function, mode == WithoutFramePointerSizeInCode);
     }
     end(start);
 }
@@ -164,14 +166,10 @@ void CallFrames::describeWithFramePointer(std::uint32_t encoding) {
 }
 
 // A large frame's size is in the instruction that makes it, and what the function pushed before comes on top.
-void CallFrames::describeWithoutFramePointer(const UnwoundFunction& function, bool isSizeInCode,
-                                             const Bytes& place) {
+void CallFrames::describeWithoutFramePointer(const UnwoundFunction& function, bool isSizeInCode) {
     std::uint32_t size = bits(function.encoding, 16, 8);
     if (isSizeInCode) {
-        if (function.start + size + sizeof(size) > function.end) {
-            place.refuse("has the frame's size outside the function at " + hexadecimal(function.start));
-        }
-        std::memcpy(&size, locate_(function.start + size), sizeof(size));
+        size = image_.little<std::uint32_t>(std::uint64_t{function.start} + size, "the size of a frame");
         size += WordSize * bits(function.encoding, 13, 3);
     } else {
         size *= WordSize;
@@ -179,7 +177,7 @@ void CallFrames::describeWithoutFramePointer(const UnwoundFunction& function, bo
     frameIs(StackPointer, size);
     const std::uint32_t count = bits(function.encoding, 10, 3);
     if (count > 6) {
-        place.refuse("has " + std::to_string(count) + " saved registers");
+        image_.refuse("has a function with " + std::to_string(count) + " saved registers");
     }
     std::uint32_t words = count + 1;
     for (const std::uint8_t reg : permutation(count, bits(function.encoding, 0, 10))) {

@@ -7,7 +7,6 @@
 #include "tests/macho/loader/CompactUnwind.h"
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <optional>
 #include <vector>
@@ -17,14 +16,12 @@ namespace kestrune::macho {
 // Writes a section .eh_frame, one function after the other.
 class CallFrames {
 public:
-    // Where a place of the image is in memory.
-    using Locate = std::function<const std::uint8_t*(std::uint32_t place)>;
+    // The image as it is in memory, which is borrowed.
+    explicit CallFrames(const Bytes& image) : image_(image) {}
 
-    explicit CallFrames(Locate locate) : locate_(std::move(locate)) {}
-
-    // For x86-64. Throws MachError, in the name of `place`, for an encoding that it does not know. One that
-    // says that nothing is to be done, or that DWARF has it already, adds nothing.
-    void add(const UnwoundFunction& function, const Bytes& place);
+    // For x86-64. Throws MachError for an encoding that it does not know. One that says that nothing is to be
+    // done, or that DWARF has it already, adds nothing.
+    void add(const UnwoundFunction& function);
 
     // With the end that the unwinder looks for.
     std::vector<std::uint8_t> finish();
@@ -40,9 +37,11 @@ private:
     void frameIs(std::uint8_t reg, std::uint32_t distance);
     void isSaved(std::uint8_t reg, std::uint32_t words);
     void describeWithFramePointer(std::uint32_t encoding);
-    void describeWithoutFramePointer(const UnwoundFunction& function, bool isSizeInCode, const Bytes& place);
+    void describeWithoutFramePointer(const UnwoundFunction& function, bool isSizeInCode);
 
-    Locate locate_;
+    std::uint64_t addressOf(std::uint32_t place) const;
+
+    const Bytes& image_;
     std::map<std::optional<std::uint32_t>, std::size_t> commonEntries_; // by personality
     std::vector<std::uint8_t> bytes_;
 };

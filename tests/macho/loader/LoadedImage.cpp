@@ -47,26 +47,52 @@ int protectionOf(const Segment& segment) {
            ((wanted & Segment::Executable) != 0 ? PROT_EXEC : 0);
 }
 
+// Zeros, from the first segment's start to the last one's end.
+std::span<std::uint8_t> memoryFor(const MachSlice& slice) {
+    std::uint64_t end = slice.loadAddress();
+    for (const Segment& segment : slice.segments()) {
+        if (!segment.isGuard()) {
+            end = std::max(end, segment.address + segment.size);
+        }
+    }
+    const auto size = static_cast<std::size_t>(end - slice.loadAddress());
+    void* const memory = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED) {
+        slice.content().refuse("does not fit into memory with its " + std::to_string(size) + " bytes");
+    }
+    return {static_cast<std::uint8_t*>(memory), size};
+}
+
 // Functions of the program's that take what a process gets: initializers and the entry point. The last
 // argument is the system's own list of strings.
 using Entry = int (*)(int count, char** arguments, char** environment, char** apple);
 
 } // namespace
 
-LoadedImage::LoadedImage(const MachSlice& slice, const Resolve& resolve) : slice_(slice) {
-    requireWhatIsLoadedHere(slice);
-    map();
-    writeFixups(resolve);
-    protect();
+LoadedImage::LoadedImage(const MachSlice& slice, const Resolve& resolve)
+    : slice_((requireWhatIsLoadedHere(slice), slice)), memory_(memoryFor(slice)) {
+    try {
+        for (const Segment& segment : slice_.segments()) {
+            const auto content = slice_.content().span(segment.offset, segment.fileSize, "a segment");
+            std::copy(content.begin(), content.end(), at(segment.address));
+        }
+        writeFixups(resolve);
+        protect();
+    } catch (...) {
+        munmap(memory_.data(), memory_.size());
+        throw;
+    }
 }
 
+LoadedImage::~LoadedImage() { munmap(memory_.data(), memory_.size()); }
+
 std::uint8_t* LoadedImage::at(std::uint64_t address) const {
-    return memory_ + (address - slice_.loadAddress());
+    return memory_.data() + (address - slice_.loadAddress());
 }
 
 bool LoadedImage::contains(const void* place) const {
     const auto* const byte = static_cast<const std::uint8_t*>(place);
-    return byte >= memory_ && byte < memory_ + size_;
+    return byte >= memory_.data() && byte < memory_.data() + memory_.size();
 }
 
 std::span<std::uint8_t> LoadedImage::section(std::string_view name) const {
@@ -78,25 +104,6 @@ std::span<std::uint8_t> LoadedImage::section(std::string_view name) const {
         }
     }
     return {};
-}
-
-void LoadedImage::map() {
-    std::uint64_t end = slice_.loadAddress();
-    for (const Segment& segment : slice_.segments()) {
-        if (!segment.isGuard()) {
-            end = std::max(end, segment.address + segment.size);
-        }
-    }
-    size_ = static_cast<std::size_t>(end - slice_.loadAddress());
-    void* const memory = mmap(nullptr, size_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (memory == MAP_FAILED) {
-        slice_.content().refuse("does not fit into memory with its " + std::to_string(size_) + " bytes");
-    }
-    memory_ = static_cast<std::uint8_t*>(memory);
-    for (const Segment& segment : slice_.segments()) {
-        const auto content = slice_.content().span(segment.offset, segment.fileSize, "a segment");
-        std::copy(content.begin(), content.end(), at(segment.address));
-    }
 }
 
 void LoadedImage::writeFixups(const Resolve& resolve) const {
@@ -165,7 +172,7 @@ int LoadedImage::run(int count, char** arguments, char** environment) const {
                 }
             } else if (section.type() == Section::InitializerOffsets) {
                 for (std::uint64_t place = 0; place < section.size; place += sizeof(std::uint32_t)) {
-                    call(memory_ + content.little<std::uint32_t>(place, "an initializer"));
+                    call(memory_.data() + content.little<std::uint32_t>(place, "an initializer"));
                 }
             }
         }

@@ -17,7 +17,7 @@ namespace kestrune::macho {
 // library is called by its install name, and by nothing when any may have it.
 using Resolve = std::function<void*(std::string_view library, std::string_view name)>;
 
-// Stays in memory until the process ends, as what it gave away may be called until then.
+// As long as anything that it gave to others may be called, it has to stay.
 class LoadedImage {
 public:
     // Maps the segments, writes the fixups and protects what is not to be written. The slice is needed as
@@ -25,11 +25,16 @@ public:
     // loader has not, and with their names for imports that nothing has.
     LoadedImage(const MachSlice& slice, const Resolve& resolve);
 
+    ~LoadedImage();
+
+    LoadedImage(const LoadedImage&) = delete;
+    LoadedImage& operator=(const LoadedImage&) = delete;
+
     const MachSlice& slice() const { return slice_; }
 
     // Where an address of the file is.
     std::uint8_t* at(std::uint64_t address) const;
-    std::uint8_t* start() const { return memory_; }
+    std::span<std::uint8_t> memory() const { return memory_; }
     bool contains(const void* place) const;
 
     // A section's bytes in memory; empty when there is none of that name.
@@ -40,14 +45,12 @@ public:
     int run(int count, char** arguments, char** environment) const;
 
 private:
-    void map();
     void writeFixups(const Resolve& resolve) const;
     std::vector<void*> resolved(const std::vector<Import>& imports, const Resolve& resolve) const;
     void protect() const;
 
     const MachSlice& slice_;
-    std::uint8_t* memory_ = nullptr;
-    std::size_t size_ = 0;
+    std::span<std::uint8_t> memory_;
 };
 
 } // namespace kestrune::macho

@@ -56,7 +56,7 @@ const LoadedImage& load(const std::string& path, MessageChecks checks) {
 // this definition comes before its own.
 extern "C" int dladdr(const void* address, Dl_info* information) noexcept {
     if (theImage != nullptr && theImage->contains(address)) {
-        *information = {theImage->slice().name().c_str(), theImage->start(), nullptr, nullptr};
+        *information = {theImage->slice().name().c_str(), theImage->memory().data(), nullptr, nullptr};
         return 1;
     }
     static auto* const systems = reinterpret_cast<decltype(&dladdr)>(dlsym(RTLD_NEXT, "dladdr"));

@@ -31,20 +31,23 @@ void registerDwarf(const LoadedImage& image) {
 
 } // namespace
 
+std::vector<std::uint8_t> callFramesOf(const LoadedImage& image) {
+    const Bytes memory(image.memory(), image.slice().name());
+    CallFrames frames(memory);
+    if (const auto section = image.section("__unwind_info"); !section.empty()) {
+        const Bytes content(section, image.slice().name() + ": the section __unwind_info");
+        for (const UnwoundFunction& function : readCompactUnwind(content)) {
+            frames.add(function);
+        }
+    }
+    return frames.finish();
+}
+
 void registerUnwinding(const LoadedImage& image) {
     registerDwarf(image);
-    const auto section = image.section("__unwind_info");
-    if (section.empty()) {
-        return;
-    }
-    const Bytes content(section, image.slice().name() + ": the section __unwind_info");
-    CallFrames frames([&image](std::uint32_t place) { return image.start() + place; });
-    for (const UnwoundFunction& function : readCompactUnwind(content)) {
-        frames.add(function, content);
-    }
     // Kept for ever, as the unwinder looks at it whenever something is thrown.
     static std::vector<std::vector<std::uint8_t>> kept;
-    __register_frame(kept.emplace_back(frames.finish()).data());
+    __register_frame(kept.emplace_back(callFramesOf(image)).data());
 }
 
 } // namespace kestrune::macho

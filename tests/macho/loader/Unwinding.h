@@ -3,10 +3,17 @@
 
 #include "tests/macho/loader/LoadedImage.h"
 
+#include <cstdint>
+#include <vector>
+
 namespace kestrune::macho {
 
+// What the program's compact unwind information says, as a section .eh_frame. Throws MachError.
+std::vector<std::uint8_t> callFramesOf(const LoadedImage& image);
+
 // From here on this process's unwinder, GCC's, knows how to leave the program's functions, so that exceptions
-// of C++ and of Foundation pass through them. Throws MachError for what it cannot be told.
+// of C++ and of Foundation pass through them. The image has to stay. Throws MachError for what the unwinder
+// cannot be told.
 void registerUnwinding(const LoadedImage& image);
 
 } // namespace kestrune::macho
