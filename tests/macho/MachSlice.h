@@ -13,7 +13,8 @@
 
 namespace kestrune::macho {
 
-enum class Processor { arm64, x86_64 };
+// The platform's own names.
+enum class Processor { arm64, x86_64 }; // NOLINT(readability-identifier-naming)
 
 std::string_view nameOf(Processor processor);
 

@@ -268,4 +268,27 @@ std::vector<std::uint8_t> universal(const std::vector<TinyProgram>& programs) {
     return header;
 }
 
+std::map<std::string, std::vector<std::uint8_t>> tinyPrograms() {
+    TinyProgram arm;
+    // More than a page, so that it is seen which one was changed.
+    arm.codeSize = 5000;
+    TinyProgram intel;
+    intel.processor = Processor::x86_64;
+    TinyProgram imports = intel;
+    imports.libraries.emplace_back("/usr/lib/libobjc.A.dylib");
+    imports.imports = {
+        {2, false, "_objc_retain", 0}, {1, true, "_maybe", 0}, {Import::WeakDefinition, false, "__Znwm", 0}};
+    imports.pointerFormat = 2;
+    imports.sizeOfPages = 0x1000;
+    TinyProgram armLibrary;
+    armLibrary.type = FileType::library;
+    TinyProgram intelLibrary = armLibrary;
+    intelLibrary.processor = Processor::x86_64;
+    return {{"arm64.macho", TinyProgram().bytes()},
+            {"imports.macho", imports.bytes()},
+            {"library.macho", universal({intelLibrary, armLibrary})},
+            {"universal.macho", universal({intel, arm})},
+            {"x86_64.macho", intel.bytes()}};
+}
+
 } // namespace kestrune::macho

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -32,5 +33,9 @@ struct TinyProgram {
 
 // One file of several programs.
 std::vector<std::uint8_t> universal(const std::vector<TinyProgram>& programs);
+
+// One of each kind, by the names that they have in tests/fuzz/corpus/mach-file, which they are written to by
+// kestrune-tiny-programs.
+std::map<std::string, std::vector<std::uint8_t>> tinyPrograms();
 
 } // namespace kestrune::macho

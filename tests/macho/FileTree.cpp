@@ -1,0 +1,58 @@
+#include "tests/macho/FileTree.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace kestrune::macho {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+FileContent contentOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    FileContent content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    if (!file) {
+        throw fs::filesystem_error("cannot be read", path, std::make_error_code(std::errc::io_error));
+    }
+    return content;
+}
+
+} // namespace
+
+const FileContent* FileTree::file(const std::string& path) const {
+    const auto found = entries.find(path);
+    return found == entries.end() ? nullptr : std::get_if<FileContent>(&found->second);
+}
+
+FileTree FileTree::below(const std::string& path) const {
+    FileTree tree{name + "/" + path, {}};
+    const std::string beginning = path + "/";
+    for (auto entry = entries.lower_bound(beginning);
+         entry != entries.end() && entry->first.starts_with(beginning); ++entry) {
+        tree.entries.emplace(entry->first.substr(beginning.size()), entry->second);
+    }
+    return tree;
+}
+
+FileTree readFileTree(const std::string& path, const std::string& name) {
+    FileTree tree{name, {}};
+    for (const auto& entry : fs::recursive_directory_iterator(path)) {
+        const std::string relative = entry.path().lexically_relative(path).generic_string();
+        if (entry.is_symlink()) {
+            tree.entries[relative] = LinkTarget{fs::read_symlink(entry.path()).generic_string()};
+        } else if (entry.is_directory()) {
+            tree.entries[relative] = SubFolder{};
+        } else if (entry.is_regular_file()) {
+            tree.entries[relative] = contentOf(entry.path());
+        } else {
+            throw fs::filesystem_error("is neither file, folder nor link", entry.path(),
+                                       std::make_error_code(std::errc::not_supported));
+        }
+    }
+    return tree;
+}
+
+} // namespace kestrune::macho

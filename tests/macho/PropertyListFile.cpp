@@ -1,0 +1,111 @@
+#include "tests/macho/PropertyListFile.h"
+
+#include <plist/plist.h>
+
+#include <cstdlib>
+#include <limits>
+#include <memory>
+#include <string_view>
+
+namespace kestrune::macho {
+
+namespace {
+
+struct FreeMemory {
+    void operator()(char* memory) const { std::free(memory); }
+};
+using Text = std::unique_ptr<char, FreeMemory>;
+
+PropertyValue valueOf(plist_t node);
+
+PropertyValue dictionaryOf(plist_t node) {
+    PropertyValue::Dictionary dictionary;
+    plist_dict_iter next = nullptr;
+    plist_dict_new_iter(node, &next);
+    const std::unique_ptr<char, FreeMemory> iterator(static_cast<char*>(next));
+    while (true) {
+        char* key = nullptr;
+        plist_t value = nullptr;
+        plist_dict_next_item(node, next, &key, &value);
+        const Text owned(key);
+        if (!value) {
+            return {dictionary};
+        }
+        dictionary[key] = valueOf(value);
+    }
+}
+
+PropertyValue textOf(plist_t node) {
+    char* text = nullptr;
+    plist_get_string_val(node, &text);
+    const Text owned(text);
+    return {std::string(text ? text : "")};
+}
+
+PropertyValue dataOf(plist_t node) {
+    char* data = nullptr;
+    std::uint64_t size = 0;
+    plist_get_data_val(node, &data, &size);
+    const Text owned(data);
+    return {PropertyValue::Data(data, data + size)};
+}
+
+PropertyValue valueOf(plist_t node) {
+    switch (plist_get_node_type(node)) {
+    case PLIST_BOOLEAN: {
+        std::uint8_t value = 0;
+        plist_get_bool_val(node, &value);
+        return {value != 0};
+    }
+    case PLIST_UINT: {
+        std::uint64_t value = 0;
+        plist_get_uint_val(node, &value);
+        return {static_cast<double>(value)};
+    }
+    case PLIST_REAL: {
+        double value = 0;
+        plist_get_real_val(node, &value);
+        return {value};
+    }
+    case PLIST_STRING:
+        return textOf(node);
+    case PLIST_DATA:
+        return dataOf(node);
+    case PLIST_DICT:
+        return dictionaryOf(node);
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+const PropertyValue* PropertyValue::at(const std::string& key) const {
+    const auto* const dictionary = as<Dictionary>();
+    const auto found = dictionary ? dictionary->find(key) : Dictionary::const_iterator();
+    return dictionary && found != dictionary->end() ? &found->second : nullptr;
+}
+
+std::optional<std::string> PropertyValue::text(const std::string& key) const {
+    const PropertyValue* const found = at(key);
+    const auto* const text = found ? found->as<std::string>() : nullptr;
+    return text ? std::optional(*text) : std::nullopt;
+}
+
+std::optional<PropertyValue> readPropertyListFile(std::span<const std::uint8_t> content) {
+    if (content.empty() || content.size() > std::numeric_limits<std::uint32_t>::max()) {
+        return std::nullopt;
+    }
+    const char* const data = reinterpret_cast<const char*>(content.data());
+    const auto size = static_cast<std::uint32_t>(content.size());
+    plist_t root = nullptr;
+    if (std::string_view(data, size).starts_with("bplist")) {
+        plist_from_bin(data, size, &root);
+    } else {
+        plist_from_xml(data, size, &root);
+    }
+    const std::unique_ptr<void, decltype(&plist_free)> owned(root, &plist_free);
+    return root ? std::optional(valueOf(root)) : std::nullopt;
+}
+
+} // namespace kestrune::macho

@@ -1,0 +1,32 @@
+// Whether the seal of a bundle holds: everything that a system looks at before it runs the program, and some
+// things that it overlooks.
+#pragma once
+
+#include "tests/macho/FileTree.h"
+#include "tests/macho/MachSlice.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace kestrune::macho {
+
+struct SealedHalf {
+    Processor processor{};
+    std::uint64_t size = 0;
+    Version minimumSystem; // 0.0 when it does not say
+    std::string identifier;
+    std::array<std::uint8_t, 20> cdhash{};
+    std::size_t pages = 0;
+};
+
+// One for each processor, in the order of the file. Throws SealError for a seal that does not hold, and
+// MachError for a program that cannot be read. The name of the tree has to end like that of the bundle.
+std::vector<SealedHalf> checkSeal(const FileTree& bundle);
+
+// Of a program without a bundle; `name` is what messages call it.
+std::vector<SealedHalf> checkProgramSeal(const FileContent& program, const std::string& name);
+
+} // namespace kestrune::macho

@@ -1,0 +1,88 @@
+"""Small bundles of tiny programs, sealed by the project's signer, and the checker to show them to."""
+
+import os
+import pathlib
+import plistlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(REPOSITORY / "tools"))
+
+from releasing.sealing import bundles  # noqa: E402
+
+PROGRAMS = REPOSITORY / "tests/fuzz/corpus/mach-file"
+IDENTIFIER = "org.kestrune.Tiny"
+
+
+def write(path, data):
+    path.parent.mkdir(parents=True, exist_ok=True)
+    path.write_bytes(data)
+
+
+def put_program(path, kind="universal"):
+    write(path, (PROGRAMS / f"{kind}.macho").read_bytes())
+    path.chmod(0o755)
+
+
+def information(executable, identifier):
+    return plistlib.dumps({"CFBundleExecutable": executable, "CFBundleIdentifier": identifier})
+
+
+def make_application(path, identifier=IDENTIFIER):
+    """With a file of each kind that the rules tell apart."""
+    contents = path / "Contents"
+    put_program(contents / "MacOS/Tiny")
+    write(contents / "Info.plist", information("Tiny", identifier))
+    write(contents / "PkgInfo", b"APPL????")
+    write(contents / "Resources/Icon.icns", b"icns" * 1000)
+    write(contents / "Resources/en.lproj/Localizable.strings", b'"a" = "b";\n')
+    write(contents / "Resources/Base.lproj/Main.strings", b"")
+    (contents / "Resources/Latest.icns").symlink_to("Icon.icns")
+    return path
+
+
+def make_framework(path, identifier="org.kestrune.TinyKit"):
+    """As Sparkle's is built: a program beside the library, and an application in it."""
+    name = path.stem
+    version = path / "Versions/B"
+    put_program(version / name, "library")
+    put_program(version / "Helper", "arm64")
+    write(version / "Resources/Info.plist", information(name, identifier))
+    write(version / "Headers/Tiny.h", b"void tiny(void);\n")
+    make_application(version / "Updater.app", f"{identifier}.Updater")
+    (path / "Versions/Current").symlink_to("B")
+    for link in (name, "Helper", "Resources", "Headers", "Updater.app"):
+        (path / link).symlink_to(f"Versions/Current/{link}")
+    return path
+
+
+class SealTest(unittest.TestCase):
+    def setUp(self):
+        temporary = tempfile.TemporaryDirectory()
+        self.addCleanup(temporary.cleanup)
+        self.root = pathlib.Path(temporary.name).resolve()
+
+    def seal(self, bundle):
+        return bundles.seal(bundle)
+
+    def check(self, *arguments):
+        program = os.environ["KESTRUNE_CHECK_SEAL"]
+        return subprocess.run([program, *map(str, arguments)], capture_output=True, encoding="utf-8")
+
+    def assert_holds(self, bundle):
+        result = self.check(bundle)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        return result.stdout.splitlines()
+
+    def assert_refused(self, bundle, message, status=1):
+        result = self.check(bundle)
+        self.assertEqual((result.stdout, result.stderr), ("", f"kestrune-check-seal: {message}\n"))
+        self.assertEqual(result.returncode, status)
+
+    def change_byte(self, path, place):
+        data = bytearray(path.read_bytes())
+        data[place] ^= 1
+        path.write_bytes(data)

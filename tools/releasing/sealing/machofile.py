@@ -1,0 +1,129 @@
+"""Mach-O files as far as signing changes them: the halves, and the load commands around the signature.
+
+Takes for granted what a linker wrote; a file that is something else is refused, a damaged one perhaps not.
+"""
+
+import dataclasses
+import struct
+
+from ..steps import Failure
+
+UNIVERSAL = 0xCAFEBABE
+PROGRAM = 0xFEEDFACF
+EXECUTABLE = 2
+
+PROCESSORS = {0x0100000C: "arm64", 0x01000007: "x86_64"}
+# How far apart the halves of a universal file are where the file does not say, as a power of two.
+ALIGNMENT = 14
+
+SEGMENT, CODE_SIGNATURE, LOAD_COMMANDS = 0x19, 0x1D, 32
+PAGE = 0x4000  # of memory, on the processor that has the larger ones
+
+
+def is_mach_o(data):
+    return len(data) >= LOAD_COMMANDS and (
+        struct.unpack_from(">I", data)[0] == UNIVERSAL or struct.unpack_from("<I", data)[0] == PROGRAM
+    )
+
+
+@dataclasses.dataclass
+class Half:
+    """The program for one processor. Its signature is the last thing in it."""
+
+    data: bytearray
+    alignment: int = ALIGNMENT
+
+    def __post_init__(self):
+        magic, self.kind, self.subtype, self.type, count = struct.unpack_from("<IIIII", self.data)
+        if magic != PROGRAM or self.kind not in PROCESSORS:
+            raise Failure(f"is a program for no processor of macOS 13 ({magic:#x}, {self.kind:#x})")
+        self._commands, place = [], LOAD_COMMANDS
+        for _ in range(count):
+            kind, size = struct.unpack_from("<II", self.data, place)
+            self._commands.append((kind, place))
+            place += size
+        self._signature = next((place for kind, place in self._commands if kind == CODE_SIGNATURE), None)
+        if self._signature is None:
+            raise Failure(f"has no code signature to replace ({self.processor}); link it with -adhoc_codesign")
+
+    @property
+    def processor(self):
+        return PROCESSORS[self.kind]
+
+    @property
+    def is_executable(self):
+        return self.type == EXECUTABLE
+
+    @property
+    def code(self):
+        """What pages are hashed of: everything before the signature."""
+        return bytes(self.data[: self._code_size])
+
+    @property
+    def text_size(self):
+        return struct.unpack_from("<Q", self.data, self._segment(b"__TEXT") + 48)[0]
+
+    def section(self, segment, name):
+        """The bytes of a section, or none."""
+        place = self._segment(segment)
+        count = struct.unpack_from("<I", self.data, place + 64)[0]
+        for start in range(place + 72, place + 72 + 80 * count, 80):
+            if self.data[start : start + 16].rstrip(b"\0") == name:
+                size, offset = struct.unpack_from("<QI", self.data, start + 40)
+                return bytes(self.data[offset : offset + size])
+        return b""
+
+    def make_room(self, size):
+        """Says in the load commands how large the signature will be: before they are hashed."""
+        start = self._code_size
+        struct.pack_into("<I", self.data, self._signature + 12, size)
+        link_edit = self._segment(b"__LINKEDIT")
+        offset = struct.unpack_from("<Q", self.data, link_edit + 40)[0]
+        file_size = start + size - offset
+        struct.pack_into("<Q", self.data, link_edit + 32, _aligned(file_size, PAGE))
+        struct.pack_into("<Q", self.data, link_edit + 48, file_size)
+
+    def sign(self, signature):
+        self.data[self._code_size :] = signature
+
+    @property
+    def _code_size(self):
+        return struct.unpack_from("<I", self.data, self._signature + 8)[0]
+
+    def _segment(self, name):
+        for kind, place in self._commands:
+            if kind == SEGMENT and self.data[place + 8 : place + 24].rstrip(b"\0") == name:
+                return place
+        raise Failure(f"has no segment {name.decode()} ({self.processor})")
+
+
+def halves_of(data):
+    if struct.unpack_from(">I", data)[0] != UNIVERSAL:
+        return [Half(bytearray(data))]
+    halves = []
+    for index in range(struct.unpack_from(">I", data, 4)[0]):
+        _, _, offset, size, alignment = struct.unpack_from(">IIIII", data, 8 + 20 * index)
+        halves.append(Half(bytearray(data[offset : offset + size]), alignment))
+    return halves
+
+
+def joined(halves, is_universal):
+    if not is_universal:
+        (half,) = halves
+        return bytes(half.data)
+    table, body = struct.pack(">II", UNIVERSAL, len(halves)), b""
+    first = position = len(table) + 20 * len(halves)
+    for half in halves:
+        start = _aligned(position, 1 << half.alignment)
+        table += struct.pack(">IIIII", half.kind, half.subtype, start, len(half.data), half.alignment)
+        body += bytes(start - position) + half.data
+        position = first + len(body)
+    return table + body
+
+
+def is_universal(data):
+    return struct.unpack_from(">I", data)[0] == UNIVERSAL
+
+
+def _aligned(number, unit):
+    return -(-number // unit) * unit
