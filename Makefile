@@ -6,6 +6,7 @@ RUNS ?= 200
 FUZZ_SECONDS ?= 30
 
 DIR = $(CURDIR)/build/$(PRESET)
+SYSTEM := $(shell uname -s)
 
 export UBSAN_OPTIONS ?= print_stacktrace=1
 export CTEST_PARALLEL_LEVEL ?= 2
@@ -36,7 +37,7 @@ endef
 
 help:
 	@echo "make run                 build Kestrune and start it on a simulated Mac (on Linux)"
-	@echo "make app                 Kestrune.app with Sparkle inside and signed, on a Mac"
+	@echo "make app                 Kestrune.app for both processors, with Sparkle inside and signed"
 	@echo "make test                build everything and run every test"
 	@echo "make check               format, include rules, unbuilt files, strings, contract tests, clang-tidy"
 	@echo "make bench               the event path against its floor, the simulation, the wizard, a launch"
@@ -49,7 +50,7 @@ help:
 	@echo
 	@echo "PRESET=gcc, clang or sanitize chooses the build. Every target installs what it needs."
 
-ifeq ($(shell uname -s),Darwin)
+ifeq ($(SYSTEM),Darwin)
 run:
 	@tools/setup run
 	cmake --preset mac
@@ -67,16 +68,12 @@ endif
 # an ad-hoc signature; SPARKLE is the path of a Sparkle.framework or "none".
 export IDENTITY ?= -
 export SPARKLE FEED_URL PUBLIC_KEY
-ifeq ($(shell uname -s),Darwin)
 app:
-	@tools/setup build
-	@tools/app --identity "$$IDENTITY" --sparkle "$$SPARKLE" --feed-url "$$FEED_URL" --public-key "$$PUBLIC_KEY"
-else
-app:
-	@echo "make app needs a Mac; tools/app --dry-run prints what it does there" >&2; exit 1
-endif
+	@tools/setup app
+	@tools/app --system $(SYSTEM) --identity "$$IDENTITY" --sparkle "$$SPARKLE" --feed-url "$$FEED_URL" \
+	    --public-key "$$PUBLIC_KEY"
 
-ifeq ($(shell uname -s),Darwin)
+ifeq ($(SYSTEM),Darwin)
 test:
 	@tools/setup test
 	cmake --preset mac

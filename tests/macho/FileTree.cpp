@@ -9,19 +9,6 @@ namespace kestrune::macho {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-FileContent contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    FileContent content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (!file) {
-        throw fs::filesystem_error("cannot be read", path, std::make_error_code(std::errc::io_error));
-    }
-    return content;
-}
-
-} // namespace
-
 const FileContent* FileTree::file(const std::string& path) const {
     const auto found = entries.find(path);
     return found == entries.end() ? nullptr : std::get_if<FileContent>(&found->second);
@@ -37,6 +24,15 @@ FileTree FileTree::below(const std::string& path) const {
     return tree;
 }
 
+FileContent readFile(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    FileContent content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    if (!file) {
+        throw fs::filesystem_error("cannot be read", path, std::make_error_code(std::errc::io_error));
+    }
+    return content;
+}
+
 FileTree readFileTree(const std::string& path, const std::string& name) {
     FileTree tree{name, {}};
     for (const auto& entry : fs::recursive_directory_iterator(path)) {
@@ -46,7 +42,7 @@ FileTree readFileTree(const std::string& path, const std::string& name) {
         } else if (entry.is_directory()) {
             tree.entries[relative] = SubFolder{};
         } else if (entry.is_regular_file()) {
-            tree.entries[relative] = contentOf(entry.path());
+            tree.entries[relative] = readFile(entry.path().string());
         } else {
             throw fs::filesystem_error("is neither file, folder nor link", entry.path(),
                                        std::make_error_code(std::errc::not_supported));

@@ -30,7 +30,8 @@ struct FileTree {
     FileTree below(const std::string& path) const;
 };
 
-// Throws std::filesystem::filesystem_error when something cannot be read or is none of the three.
+// These throw std::filesystem::filesystem_error when something cannot be read, or is none of the three.
+FileContent readFile(const std::string& path);
 FileTree readFileTree(const std::string& path, const std::string& name);
 
 } // namespace kestrune::macho

@@ -145,12 +145,12 @@ const BrokenFile BrokenFiles[] = {
      "load command 1 has 0 bytes"},
     {"ASegmentBehindTheEnd",
      [](Content& bytes) { poke<std::uint64_t>(bytes, placeOfSegment(bytes, "__DATA") + 40, 0x10000); },
-     "the segment __DATA ends at 0x10010, the file at 0x400"},
+     "the segment __DATA ends at 0x10010, the file at 0x410"},
     {"ASegmentWithoutAnEnd",
      [](Content& bytes) {
          poke<std::uint64_t>(bytes, placeOfSegment(bytes, "__DATA") + 48, ~std::uint64_t{0});
      },
-     "the segment __DATA ends at no number, the file at 0x400"},
+     "the segment __DATA ends at no number, the file at 0x410"},
     {"ASegmentTooSmallForItsBytes",
      [](Content& bytes) { poke<std::uint64_t>(bytes, placeOfSegment(bytes, "__DATA") + 32, 8); },
      "the segment __DATA has 0x10 bytes in the file and 0x8 in memory"},
@@ -203,13 +203,13 @@ const BrokenFile BrokenFiles[] = {
      "the entry point 0x4d0 is in no executable segment"},
     {"SymbolsBehindTheEnd",
      [](Content& bytes) { poke<std::uint32_t>(bytes, placeOf(bytes, Command::symbols) + 12, 0x10000000); },
-     "the symbols at 0x3d8 would have 0x100000000 bytes, of which 0x28 are there"},
+     "the symbols at 0x3d8 would have 0x100000000 bytes, of which 0x38 are there"},
     {"ASymbolWithoutAName",
      [](Content& bytes) { poke<std::uint32_t>(bytes, placeOf(bytes, Command::symbols) + 20, 3); },
      "the name of a symbol at 0x1 does not end"},
     {"ASignatureBehindTheEnd",
      [](Content& bytes) { poke<std::uint32_t>(bytes, placeOf(bytes, Command::codeSignature) + 12, 17); },
-     "the code signature at 0x3f0 would have 0x11 bytes, of which 0x10 are there"},
+     "the code signature at 0x400 would have 0x11 bytes, of which 0x10 are there"},
 };
 INSTANTIATE_TEST_SUITE_P(Files, MachFileRefuses, testing::ValuesIn(BrokenFiles), nameOfBroken);
 
@@ -234,7 +234,7 @@ const BrokenFile BrokenUniversalFiles[] = {
     {"AnotherProcessor", [](Content& bytes) { pokeBig(bytes, 8, 7); },
      "is for the processor 0x7, which is neither arm64 nor x86_64"},
     {"AHalfBehindTheEnd", [](Content& bytes) { pokeBig(bytes, 8 + 12, 0x10000); },
-     "the arm64 half at 0x30 would have 0x10000 bytes, of which 0x800 are there"},
+     "the arm64 half at 0x30 would have 0x10000 bytes, of which 0x820 are there"},
     {"AHalfThatIsNotAligned", [](Content& bytes) { pokeBig(bytes, 8 + 8, 0x38); },
      "arm64 half: starts at 0x38, which is no multiple of 2^4"},
     {"AHalfOverTheTable", [](Content& bytes) { pokeBig(bytes, 8 + 8, 0x20); },

@@ -68,6 +68,7 @@ struct Layout {
     std::uint64_t linkEdit = 0;
     std::uint64_t symbols = 0;
     std::uint64_t names = 0;
+    std::uint64_t exports = 0;
     std::uint64_t signature = 0;
     std::uint64_t end = 0;
 };
@@ -111,7 +112,7 @@ public:
         }
         writer.append(Content(program_.codeSize, 0x90)).alignTo(PointerSize).append(pointers());
         writer.append(fixups_).alignTo(PointerSize).append(symbolTable());
-        writer.text("", 1).text("_main", 6).alignTo(16).append(Content(SignatureSize));
+        writer.text("", 1).text("_main", 6).append(exports()).alignTo(16).append(Content(SignatureSize));
         return writer.content();
     }
 
@@ -126,7 +127,8 @@ private:
         layout_.linkEdit = layout_.data + PointerSize * (1 + program_.imports.size());
         layout_.symbols = aligned(layout_.linkEdit + fixups_.size(), PointerSize);
         layout_.names = layout_.symbols + symbolTable().size();
-        layout_.signature = aligned(layout_.names + 7, 16);
+        layout_.exports = layout_.names + 7;
+        layout_.signature = aligned(layout_.exports + exports().size(), 16);
         layout_.end = layout_.signature + SignatureSize;
     }
 
@@ -156,7 +158,7 @@ private:
             Writer().words({BuildVersion::MacOS, system.major << 16 | system.minor << 8, 0xD0000, 0})));
         writer.append(command(Command::chainedFixups, Writer().words({layout_.linkEdit, fixups_.size()})));
         writer.append(command(Command::symbols, Writer().words({layout_.symbols, 1, layout_.names, 7})));
-        writer.append(command(Command::exportsTrie, Writer().words({layout_.symbols, 0})));
+        writer.append(command(Command::exportsTrie, Writer().words({layout_.exports, exports().size()})));
         writer.append(command(Command::codeSignature, Writer().words({layout_.signature, SignatureSize})));
         return writer.content();
     }
@@ -228,6 +230,16 @@ private:
         Writer writer;
         writer.words({1}).add<std::uint8_t>(0xF).add<std::uint8_t>(2).add<std::uint16_t>(0);
         return writer.longs({TinyProgram::LoadAddress + layout_.code}).content();
+    }
+
+    // A root with one branch, "_main", and at its end the offset of the code in 14 bits.
+    Content exports() const {
+        constexpr std::uint8_t End = 9;
+        Writer writer;
+        writer.add<std::uint8_t>(0).add<std::uint8_t>(1).text("_main", 6).add<std::uint8_t>(End);
+        writer.add<std::uint8_t>(3).add<std::uint8_t>(0);
+        writer.add<std::uint8_t>((layout_.code & 0x7F) | 0x80).add<std::uint8_t>(layout_.code >> 7 & 0x7F);
+        return writer.add<std::uint8_t>(0).content();
     }
 
     const TinyProgram& program_;

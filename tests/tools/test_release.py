@@ -91,10 +91,10 @@ class DryRun(ReleaseToolTest):
 
     def test_shows_what_make_app_runs_below_it(self):
         given = ["--identity", REAL_IDENTITY, *UPDATES[:4]]
-        expected = self.call("tools/app", "--dry-run", *given).stdout.splitlines()
+        expected = self.call("tools/app", "--system", "Darwin", "--dry-run", *given).stdout.splitlines()
         lines = self.dry_run(*SIGNED, *self.updates).splitlines()
         self.assertEqual([line[4:] for line in lines if line.startswith("    ")], expected)
-        self.assertTrue(lines[2].startswith("make app ") and lines[3].startswith("    cmake "))
+        self.assertTrue(lines[2].startswith("make app ") and lines[3].startswith("    mkdir "))
 
     def test_shows_the_item_for_the_appcast_last(self):
         last = self.dry_run(*SIGNED, *self.updates).splitlines()[-1]

@@ -1,24 +1,15 @@
-"""Kestrune.app: built, given its framework and its Info.plist, and signed."""
+"""Kestrune.app: built, given its framework and its Info.plist, signed and packed.
 
-import pathlib
-import shutil
+Where it is built, and so how it is signed, is a Mac's or Linux' matter (mac.py, linux.py).
+"""
 
-from . import information, signing, sparkle
+from . import archive, information, localizations, sparkle
+from .linux import Linux
+from .mac import Mac
 from .parameters import NO_SPARKLE
-from .steps import Command, Failure, Work
+from .steps import Command, Work
 
-BUILT = pathlib.Path("build/mac/mac/Kestrune.app")
-APPLICATION = pathlib.Path("build/mac/Kestrune.app")
-FRAMEWORK = APPLICATION / "Contents/Frameworks/Sparkle.framework"
-INFORMATION = APPLICATION / "Contents/Info.plist"
-
-MAC_PROGRAMS = ("codesign", "ditto")
-
-
-def require_mac(programs=MAC_PROGRAMS):
-    missing = [program for program in programs if not shutil.which(program)]
-    if missing:
-        raise Failure(f"needs a Mac: {' and '.join(missing)} not found; --dry-run prints what would run")
+SYSTEMS = {"Darwin": Mac, "Linux": Linux}
 
 
 def require_sparkle(options):
@@ -29,36 +20,35 @@ def require_sparkle(options):
         sparkle.require_framework(options.sparkle)
 
 
-def steps(options):
+def steps(options, system):
+    contents = system.application / "Contents"
+    target = None if options.sparkle == NO_SPARKLE else contents / "Frameworks/Sparkle.framework"
+    plist, packed = contents / "Info.plist", system.application.with_suffix(".zip")
+    release = None if options.sparkle else sparkle.pinned()
     return [
-        Command("cmake", "--preset", "mac"),
-        Command("cmake", "--build", "--preset", "mac", "--parallel"),
-        # A copy: the build would link again into a bundle that is signed.
-        Command("rm", "-rf", APPLICATION),
-        Command("ditto", BUILT, APPLICATION),
-        *_embed(options),
+        *(release.steps() if release else []),
+        *system.build(),
         Work(
-            f"write {INFORMATION} {_updates(options)}",
-            lambda: information.add_updates(INFORMATION, options.feed_url, options.public_key),
+            f"compare the languages of {system.application} with those of {localizations.SOURCES}",
+            lambda: localizations.require_all(system.application),
         ),
-        *signing.steps(APPLICATION, None if options.sparkle == NO_SPARKLE else FRAMEWORK, options.identity),
+        *(_embed(release.framework if release else options.sparkle, target, system) if target else []),
+        Work(
+            f"write {plist} {_updates(options)}",
+            lambda: information.add_updates(plist, options.feed_url, options.public_key),
+        ),
+        *system.sign(target, options.identity),
+        Work(f"pack {packed}", lambda: archive.pack(system.application, packed)),
     ]
 
 
-def _embed(options):
-    if options.sparkle == NO_SPARKLE:
-        return []
-    fetch, framework = [], options.sparkle
-    if not framework:
-        release = sparkle.pinned()
-        fetch, framework = release.steps(), release.framework
+def _embed(framework, target, system):
     return [
-        *fetch,
-        Command("mkdir", "-p", FRAMEWORK.parent),
-        Command("ditto", "--noextattr", "--noqtn", framework, FRAMEWORK),
+        Command("mkdir", "-p", target.parent),
+        *system.copy(framework, target),
         # They serve sandboxed applications. A sandboxed one could not guard the Dock, and whatever is
         # shipped has to be signed, notarized and kept safe. The first one is the link to the second.
-        Command("rm", "-rf", FRAMEWORK / "XPCServices", FRAMEWORK / "Versions/B/XPCServices"),
+        Command("rm", "-rf", target / "XPCServices", target / "Versions/B/XPCServices"),
     ]
 
 

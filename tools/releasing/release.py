@@ -3,14 +3,13 @@
 import email.utils
 import pathlib
 
-from . import application, appcast, information, sparkle
+from . import appcast, information, sparkle
+from .mac import Mac
 from .parameters import AD_HOC, NO_SPARKLE, flag
 from .steps import Command, Failure, Work
 
 FOLDER = pathlib.Path("out/release")
 FOR_NOTARIZATION = FOLDER / "notarization.zip"
-
-MAC_PROGRAMS = (*application.MAC_PROGRAMS, "xcrun")
 
 # What a release with updates cannot do without, and one without Sparkle has no use for.
 UPDATES = ("feed_url", "public_key", "download_url", "appcast")
@@ -38,6 +37,7 @@ def check(options):
 class Release:
     def __init__(self, options):
         self.options = options
+        self.mac = Mac(["xcrun"])
         self.versions = information.versions()
         self.tag = f"v{self.versions.short}"
         self.archive = FOLDER / f"Kestrune-{self.versions.short}.zip"
@@ -90,8 +90,8 @@ class Release:
             _zip(FOR_NOTARIZATION),
             Command(*submit, "--keychain-profile", self.options.keychain_profile, "--wait"),
             # Fails when the notarization was refused: then there is no ticket to staple.
-            Command("xcrun", "stapler", "staple", application.APPLICATION),
-            Command("xcrun", "stapler", "validate", application.APPLICATION),
+            Command("xcrun", "stapler", "staple", Mac.application),
+            Command("xcrun", "stapler", "validate", Mac.application),
         ]
 
     def _entry(self):
@@ -126,4 +126,4 @@ def require_clean(output):
 
 
 def _zip(archive):
-    return Command("ditto", "-c", "-k", "--sequesterRsrc", "--keepParent", application.APPLICATION, archive)
+    return Command("ditto", "-c", "-k", "--sequesterRsrc", "--keepParent", Mac.application, archive)

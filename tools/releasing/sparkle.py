@@ -30,7 +30,8 @@ class Release:
 
     def steps(self):
         fetch = Command(
-            "curl", "--fail", "--location", "--proto", "=https", "--output", self.archive, self.address
+            *["curl", "--fail", "--location", "--proto", "=https", "--output", self.archive, self.address],
+            advice="without a network give SPARKLE=/path/to/Sparkle.framework, or SPARKLE=none",
         )
         comparison = f"compare the SHA-256 of {self.archive} with {PIN}"
         if not self.sha256:

@@ -10,11 +10,13 @@ class Failure(Exception):
 
 
 class Command:
-    """A program that is run. `judge` is given what it printed, and raises Failure when that will not do."""
+    """A program that is run. `judge` is given what it printed, and raises Failure when that will not do.
+    `advice` is for when the program fails."""
 
-    def __init__(self, *arguments, judge=None):
+    def __init__(self, *arguments, judge=None, advice=""):
         self.arguments = [str(argument) for argument in arguments]
         self.judge = judge
+        self.advice = advice and f"; {advice}"
 
     def __str__(self):
         return shlex.join(self.arguments)
@@ -27,7 +29,7 @@ class Command:
         except OSError as error:
             raise Failure(f"{self.arguments[0]} cannot be run: {error.strerror}") from None
         if result.returncode:
-            raise Failure(f"failed with exit status {result.returncode}: {self}")
+            raise Failure(f"failed with exit status {result.returncode}: {self}{self.advice}")
         if self.judge:
             self.judge(result.stdout)
 

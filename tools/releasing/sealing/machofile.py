@@ -44,7 +44,7 @@ class Half:
             place += size
         self._signature = next((place for kind, place in self._commands if kind == CODE_SIGNATURE), None)
         if self._signature is None:
-            raise Failure(f"has no code signature to replace ({self.processor}); link it with -adhoc_codesign")
+            raise Failure(f"has no code signature to replace ({self.processor}); link with -adhoc_codesign")
 
     @property
     def processor(self):
