@@ -1,0 +1,30 @@
+"""The sealed programs that the fuzzer of the checker starts from are those that the signer makes today."""
+
+import pathlib
+import tempfile
+import unittest
+
+from bundles import REPOSITORY
+from sealed_corpus import BUNDLE, CORPUS, write_corpus
+
+KEPT = REPOSITORY / "tests/fuzz"
+
+
+def files_in(folder):
+    return {
+        path.relative_to(folder).as_posix(): path.read_bytes() for path in folder.rglob("*") if path.is_file()
+    }
+
+
+class SealedCorpus(unittest.TestCase):
+    def test_is_what_the_signer_writes(self):
+        with tempfile.TemporaryDirectory() as temporary:
+            write_corpus(pathlib.Path(temporary))
+            for folder in (CORPUS, BUNDLE):
+                written = files_in(pathlib.Path(temporary, folder))
+                self.assertTrue(written)
+                self.assertEqual(files_in(KEPT / folder), written, "run tests/macho/sealed_corpus.py")
+
+
+if __name__ == "__main__":
+    unittest.main()
