@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the corpus of sealed programs, and the bundle that they are sealed in, for the fuzzer of the checker.
+"""Writes the corpus of sealed programs, and the bundle that they are sealed in, for a fuzzer.
 
 sealed_corpus.py [FOLDER]; tests/fuzz without one.
 """

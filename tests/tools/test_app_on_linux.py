@@ -40,7 +40,7 @@ STAND_INS = {
     "cmake": CMAKE,
     "llvm-strip-19": LOG + 'cp "$3" "$2"',
     "llvm-lipo-19": LOG + f'cp "{TINY_PROGRAMS}/universal.macho" "${{@: -1}}"; chmod 755 "${{@: -1}}"',
-    "dsymutil-19": LOG + 'mkdir -p "$3"',
+    "dsymutil-19": LOG + '[[ $2 == --flat ]] || mkdir -p "$3/Contents/Resources/DWARF"',
     "llvm-dwarfdump-19": LOG + 'echo "UUID: 40 (arm64) $2"; echo "UUID: 41 (x86_64) $2"',
     "kestrune-check-seal": LOG + 'echo "arm64: sealed"; echo "x86_64: sealed"',
     "kestrune-check-limits": LOG,
@@ -77,6 +77,7 @@ class DryRun(LinuxTest):
         halves = [f"build/cross/Kestrune-{processor}" for processor in ("arm64", "x86_64")]
         built = [f"build/cross-{processor}/mac/Kestrune.app/{PROGRAM}" for processor in ("arm64", "x86_64")]
         symbols = f"{BUNDLE}.dSYM"
+        both_symbols = f"{symbols}/Contents/Resources/DWARF/Kestrune"
         result = self.app("--dry-run", "--sparkle", "none")
         self.assertEqual((result.returncode, result.stderr, self.calls()), (0, "", []))
         self.assertEqual(
@@ -92,11 +93,12 @@ class DryRun(LinuxTest):
                 ["llvm-strip-19", "-o", halves[0], built[0]],
                 ["llvm-strip-19", "-o", halves[1], built[1]],
                 ["llvm-lipo-19", "-create", *halves, "-output", f"{BUNDLE}/{PROGRAM}"],
-                ["llvm-lipo-19", "-create", *built, "-output", "build/cross/Kestrune"],
-                ["dsymutil-19", "--quiet", "-o", symbols, "build/cross/Kestrune"],
+                ["dsymutil-19", "--quiet", "-o", symbols, built[0]],
+                ["dsymutil-19", "--quiet", "--flat", "-o", "build/cross/symbols", built[1]],
+                ["llvm-lipo-19", "-create", both_symbols, "build/cross/symbols", "-output", both_symbols],
                 ["llvm-dwarfdump-19", "--uuid", symbols],
                 ["llvm-dwarfdump-19", "--uuid", f"{BUNDLE}/{PROGRAM}"],
-                ["rm", "-f", *halves, "build/cross/Kestrune"],
+                ["rm", "-f", *halves, "build/cross/symbols"],
                 ["cmake", "--preset", "gcc"],
                 [
                     *["cmake", "--build", "--preset", "gcc"],

@@ -28,6 +28,7 @@ class Linux:
     application = FOLDER / "Kestrune.app"
     # With the names of functions for whoever reads a crash report; they are not shipped.
     symbols = FOLDER / "Kestrune.app.dSYM"
+    both_symbols = symbols / "Contents/Resources/DWARF/Kestrune"
 
     def __init__(self):
         self._uuids = None
@@ -46,7 +47,7 @@ class Linux:
     def build(self):
         built = {processor: _built(processor) / PROGRAM for processor in PROCESSORS}
         stripped = {processor: FOLDER / f"Kestrune-{processor}" for processor in PROCESSORS}
-        whole = FOLDER / "Kestrune"
+        other_symbols = FOLDER / "symbols"
         strip = [Command(_llvm("llvm-strip"), "-o", stripped[each], built[each]) for each in PROCESSORS]
         return [
             *(step for processor in PROCESSORS for step in _cross_build(processor)),
@@ -54,14 +55,16 @@ class Linux:
             Command("mkdir", "-p", FOLDER),
             Command("cp", "-R", _built(PROCESSORS[0]), self.application),
             *strip,
-            Command(_llvm("llvm-lipo"), "-create", *stripped.values(), "-output", self.application / PROGRAM),
-            Command(_llvm("llvm-lipo"), "-create", *built.values(), "-output", whole),
-            Command(_llvm("dsymutil"), "--quiet", "-o", self.symbols, whole),
+            _join(*stripped.values(), self.application / PROGRAM),
+            # For both at once dsymutil would want a Mac's own lipo.
+            Command(_llvm("dsymutil"), "--quiet", "-o", self.symbols, built["arm64"]),
+            Command(_llvm("dsymutil"), "--quiet", "--flat", "-o", other_symbols, built["x86_64"]),
+            _join(self.both_symbols, other_symbols, self.both_symbols),
             Command(_llvm("llvm-dwarfdump"), "--uuid", self.symbols, judge=self._take_uuids),
             Command(
                 _llvm("llvm-dwarfdump"), "--uuid", self.application / PROGRAM, judge=self._require_same_uuids
             ),
-            Command("rm", "-f", *stripped.values(), whole),
+            Command("rm", "-f", *stripped.values(), other_symbols),
         ]
 
     def copy(self, framework, target):
@@ -107,6 +110,10 @@ def _cross_build(processor):
 
 def _built(processor):
     return pathlib.Path(f"build/cross-{processor}/mac/Kestrune.app")
+
+
+def _join(one, other, both):
+    return Command(_llvm("llvm-lipo"), "-create", one, other, "-output", both)
 
 
 def _llvm(name):
