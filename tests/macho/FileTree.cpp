@@ -1,5 +1,6 @@
 #include "tests/macho/FileTree.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -26,6 +27,9 @@ FileTree FileTree::below(const std::string& path) const {
 
 FileContent readFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        throw fs::filesystem_error("cannot be opened", path, std::error_code(errno, std::generic_category()));
+    }
     FileContent content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     if (!file) {
         throw fs::filesystem_error("cannot be read", path, std::make_error_code(std::errc::io_error));

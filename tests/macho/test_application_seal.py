@@ -3,7 +3,8 @@
 import shutil
 import unittest
 
-from bundles import REPOSITORY, SealTest
+from tiny_bundles import SealTest
+from trees import REPOSITORY
 
 APPLICATION = REPOSITORY / "build/cross/Kestrune.app"
 

@@ -5,7 +5,15 @@ import plistlib
 import struct
 import unittest
 
-from bundles import IDENTIFIER, SealTest, information, make_application, make_framework, put_program, write
+from tiny_bundles import (
+    IDENTIFIER,
+    SealTest,
+    information,
+    make_application,
+    make_framework,
+    put_program,
+    write,
+)
 
 
 class SealedApplication(SealTest):

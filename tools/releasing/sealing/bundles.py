@@ -102,6 +102,8 @@ def _sign(path, identifier, information, sealed):
 
 def _halves(path):
     try:
+        if not path.is_file():
+            raise Failure("is missing")
         data = path.read_bytes()
         if not machofile.is_mach_o(data):
             raise Failure("lies among code and is no Mach-O file")

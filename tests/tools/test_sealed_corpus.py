@@ -4,8 +4,8 @@ import pathlib
 import tempfile
 import unittest
 
-from bundles import REPOSITORY
 from sealed_corpus import BUNDLE, CORPUS, write_corpus
+from trees import REPOSITORY
 
 KEPT = REPOSITORY / "tests/fuzz"
 
@@ -23,7 +23,7 @@ class SealedCorpus(unittest.TestCase):
             for folder in (CORPUS, BUNDLE):
                 written = files_in(pathlib.Path(temporary, folder))
                 self.assertTrue(written)
-                self.assertEqual(files_in(KEPT / folder), written, "run tests/macho/sealed_corpus.py")
+                self.assertEqual(files_in(KEPT / folder), written, "run tests/tools/sealed_corpus.py")
 
 
 if __name__ == "__main__":

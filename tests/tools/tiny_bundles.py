@@ -1,17 +1,12 @@
 """Small bundles of tiny programs, sealed by the project's signer, and the checker to show them to."""
 
 import os
-import pathlib
 import plistlib
 import subprocess
-import sys
-import tempfile
-import unittest
 
-REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(REPOSITORY / "tools"))
+from trees import REPOSITORY, TreeTest
 
-from releasing.sealing import bundles  # noqa: E402
+from releasing import sealing
 
 PROGRAMS = REPOSITORY / "tests/fuzz/corpus/mach-file"
 IDENTIFIER = "org.kestrune.Tiny"
@@ -59,14 +54,9 @@ def make_framework(path, identifier="org.kestrune.TinyKit"):
     return path
 
 
-class SealTest(unittest.TestCase):
-    def setUp(self):
-        temporary = tempfile.TemporaryDirectory()
-        self.addCleanup(temporary.cleanup)
-        self.root = pathlib.Path(temporary.name).resolve()
-
+class SealTest(TreeTest):
     def seal(self, bundle):
-        return bundles.seal(bundle)
+        return sealing.seal(bundle)
 
     def check(self, *arguments):
         program = os.environ["KESTRUNE_CHECK_SEAL"]

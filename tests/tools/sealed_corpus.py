@@ -9,7 +9,10 @@ import shutil
 import sys
 import tempfile
 
-from bundles import IDENTIFIER, REPOSITORY, bundles, information, put_program, write
+from tiny_bundles import IDENTIFIER, information, put_program, write
+from trees import REPOSITORY
+
+from releasing import sealing
 
 KINDS = ("arm64", "imports", "universal")
 CORPUS, BUNDLE = "corpus/code-seal", "sealed/Tiny.app"
@@ -22,7 +25,7 @@ def write_corpus(folder):
         write(app / "Contents/Info.plist", information("Tiny", IDENTIFIER))
         for kind in KINDS:
             put_program(program, kind)
-            bundles.seal(app)
+            sealing.seal(app)
             write(folder / CORPUS / f"{kind}.macho", program.read_bytes())
         # The program is what the fuzzer puts in.
         shutil.rmtree(program.parent)
