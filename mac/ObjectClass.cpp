@@ -7,6 +7,7 @@
 #include "mac/objc/Lifetime.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
+#include "mac/vocabulary/Implemented.h"
 #include "platform/Application.h"
 #include "platform/Updater.h"
 
@@ -115,38 +116,39 @@ void addActions(RuntimeClass& made, const Object& object) {
     for (const ActionMethod& method : object.actionMethods()) {
         const std::string selector(method.selector.name());
         if (selector.ends_with(':')) {
-            made.addMethod(selector.c_str(), performAction);
+            made.addMethod(ImplementedMethod<void(id)>{selector.c_str()}, performAction);
         } else {
-            made.addMethod(selector.c_str(), performActionWithoutSender);
+            made.addMethod(ImplementedMethod<void()>{selector.c_str()}, performActionWithoutSender);
         }
     }
 }
 
 void addUserDriverMethods(RuntimeClass& made) {
     using Delegate = StandardUserDriverDelegate;
-    made.addMethod("supportsGentleScheduledUpdateReminders", supportsGentleReminders);
-    made.addMethod("standardUserDriverWillHandleShowingUpdate:forUpdate:state:", willHandleShowingUpdate);
-    made.addMethod("standardUserDriverWillFinishUpdateSession",
+    made.addMethod(implemented::supportsGentleScheduledUpdateReminders, supportsGentleReminders);
+    made.addMethod(implemented::standardUserDriverWillHandleShowingUpdate, willHandleShowingUpdate);
+    made.addMethod(implemented::standardUserDriverWillFinishUpdateSession,
                    tell<Delegate, &Delegate::standardUserDriverWillFinishUpdateSession>);
-    made.addMethod("standardUserDriverWillShowModalAlert",
+    made.addMethod(implemented::standardUserDriverWillShowModalAlert,
                    tell<Delegate, &Delegate::standardUserDriverWillShowModalAlert>);
-    made.addMethod("standardUserDriverDidShowModalAlert",
+    made.addMethod(implemented::standardUserDriverDidShowModalAlert,
                    tell<Delegate, &Delegate::standardUserDriverDidShowModalAlert>);
 }
 
 void addDelegateMethods(RuntimeClass& made, const Object& object) {
     if (dynamic_cast<const MenuDelegate*>(&object) != nullptr) {
-        made.addMethod("menuWillOpen:", menuWillOpen);
+        made.addMethod(implemented::menuWillOpen, menuWillOpen);
     }
     if (dynamic_cast<const ApplicationDelegate*>(&object) != nullptr) {
-        made.addMethod("applicationDidFinishLaunching:",
+        made.addMethod(implemented::applicationDidFinishLaunching,
                        hearOf<ApplicationDelegate, &ApplicationDelegate::applicationDidFinishLaunching>);
-        made.addMethod("applicationWillTerminate:",
+        made.addMethod(implemented::applicationWillTerminate,
                        hearOf<ApplicationDelegate, &ApplicationDelegate::applicationWillTerminate>);
     }
     if (dynamic_cast<const WindowDelegate*>(&object) != nullptr) {
-        made.addMethod("windowDidBecomeKey:", hearOf<WindowDelegate, &WindowDelegate::windowDidBecomeKey>);
-        made.addMethod("windowWillClose:", windowWillClose);
+        made.addMethod(implemented::windowDidBecomeKey,
+                       hearOf<WindowDelegate, &WindowDelegate::windowDidBecomeKey>);
+        made.addMethod(implemented::windowWillClose, windowWillClose);
     }
     if (dynamic_cast<const StandardUserDriverDelegate*>(&object) != nullptr) {
         addUserDriverMethods(made);
@@ -162,8 +164,8 @@ Class makeClass(const std::string& name, const Object& object) {
     if (controller == nullptr) {
         return made.finish();
     }
-    made.addMethod("initWithCoder:", refuseConstruction);
-    made.addMethod("initWithWindow:", refuseConstruction);
+    made.addMethod(implemented::initWithCoder, refuseConstruction);
+    made.addMethod(implemented::initWithWindow, refuseConstruction);
     const Class finished = made.finish();
     sourcePaths().emplace(finished, controller->sourcePath());
     return finished;

@@ -3,6 +3,7 @@
 #include "mac/Vocabulary.h"
 #include "mac/hosting/ButtonSettings.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Implemented.h"
 
 namespace kestrune::mac {
 
@@ -25,7 +26,7 @@ const char* keyOf(ui::KeyboardShortcut shortcut) {
 
 void ButtonView::connect(id target) {
     appKit.control.setTarget(view(), target);
-    appKit.control.setAction(view(), sel_registerName("pressButton:"));
+    appKit.control.setAction(view(), implemented::pressButton.selector());
 }
 
 void ButtonView::update(const ui::ButtonElement& next) {

@@ -7,6 +7,7 @@
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
+#include "mac/vocabulary/Implemented.h"
 
 #include <algorithm>
 
@@ -87,10 +88,10 @@ private:
     static Class buttonClass() {
         static const Class made = [] {
             RuntimeClass type("KestruneDrawnButton", appKit.button.find());
-            type.addMethod("isFlipped", alwaysFlipped);
-            type.addMethod("wantsUpdateLayer", wantsUpdateLayer);
-            type.addMethod("focusRingMaskBounds", focusRingMaskBounds);
-            type.addMethod("drawFocusRingMask", drawFocusRingMask);
+            type.addMethod(implemented::isFlipped, alwaysFlipped);
+            type.addMethod(implemented::wantsUpdateLayer, wantsUpdateLayer);
+            type.addMethod(implemented::focusRingMaskBounds, focusRingMaskBounds);
+            type.addMethod(implemented::drawFocusRingMask, drawFocusRingMask);
             return type.finish();
         }();
         return made;
@@ -99,7 +100,7 @@ private:
     static Class cellClass() {
         static const Class made = [] {
             RuntimeClass type("KestruneDrawnButtonCell", appKit.buttonCell.find());
-            type.addMethod("drawWithFrame:inView:", drawCell);
+            type.addMethod(implemented::drawWithFrame, drawCell);
             return type.finish();
         }();
         return made;

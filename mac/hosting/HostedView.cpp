@@ -8,6 +8,7 @@
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Implemented.h"
 #include "platform/Bundle.h"
 #include "platform/MainActor.h"
 
@@ -60,11 +61,11 @@ void dealloc(id view, SEL) noexcept {
 Class viewClass() {
     static const Class made = [] {
         RuntimeClass type("KestruneHostingView", appKit.view.find());
-        type.addMethod("isFlipped", alwaysFlipped);
-        type.addMethod("pressButton:", pressButton);
-        type.addMethod("flipSwitch:", flipSwitch);
-        type.addMethod("viewDidMoveToWindow", viewDidMoveToWindow);
-        type.addMethod("dealloc", dealloc);
+        type.addMethod(implemented::isFlipped, alwaysFlipped);
+        type.addMethod(implemented::pressButton, pressButton);
+        type.addMethod(implemented::flipSwitch, flipSwitch);
+        type.addMethod(implemented::viewDidMoveToWindow, viewDidMoveToWindow);
+        type.addMethod(implemented::dealloc, dealloc);
         return type.finish();
     }();
     return made;

@@ -5,6 +5,7 @@
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
+#include "mac/vocabulary/Implemented.h"
 
 namespace kestrune::mac {
 
@@ -37,8 +38,8 @@ private:
     static Class shapeViewClass() {
         static const Class made = [] {
             RuntimeClass type("KestruneShapeView", appKit.view.find());
-            type.addMethod("isFlipped", alwaysFlipped);
-            type.addMethod("drawRect:", drawRect);
+            type.addMethod(implemented::isFlipped, alwaysFlipped);
+            type.addMethod(implemented::drawRect, drawRect);
             return type.finish();
         }();
         return made;

@@ -3,6 +3,7 @@
 #include "mac/hosting/ButtonSettings.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/hosting/SystemControls.h"
+#include "mac/vocabulary/Implemented.h"
 
 namespace kestrune::mac {
 
@@ -12,7 +13,7 @@ class SwitchView : public ViewOf<ui::ToggleElement> {
 public:
     explicit SwitchView(id target) : ViewOf(newSwitch()) {
         appKit.control.setTarget(view(), target);
-        appKit.control.setAction(view(), sel_registerName("flipSwitch:"));
+        appKit.control.setAction(view(), implemented::flipSwitch.selector());
         appKit.control.setEnabled(view(), truth(true));
     }
 

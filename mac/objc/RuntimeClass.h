@@ -4,7 +4,17 @@
 #include "mac/objc/Runtime.h"
 #include "mac/objc/TypeEncoding.h"
 
+#include <type_traits>
+
 namespace kestrune::mac {
+
+// A method of ours that the platform calls. `selectorName` has to live as long as the method is named by it.
+template <typename Signature>
+struct ImplementedMethod {
+    const char* selectorName;
+
+    SEL selector() const { return sel_registerName(selectorName); }
+};
 
 // Builds a subclass of one of the platform's classes. The runtime keeps classes for ever.
 class RuntimeClass {
@@ -13,10 +23,11 @@ public:
     explicit RuntimeClass(const char* name);
     RuntimeClass(const char* name, Class superclass);
 
-    // Adds a method that the platform calls. `noexcept`, as no C++ exception may cross into the platform.
+    // The implementation is `noexcept`, as no C++ exception may cross into the platform.
     template <typename Result, typename... Arguments>
-    void addMethod(const char* selector, Result (*implementation)(id, SEL, Arguments...) noexcept) {
-        add(sel_registerName(selector), asImplementation(implementation),
+    void addMethod(const ImplementedMethod<Result(Arguments...)>& method,
+                   std::type_identity_t<Result (*)(id, SEL, Arguments...) noexcept> implementation) {
+        add(method.selector(), asImplementation(implementation),
             EncodingOfMethod<Result, Arguments...>.data());
     }
 

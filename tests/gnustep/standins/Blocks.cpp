@@ -53,11 +53,11 @@ mac::Unsigned countReferences(id block, SEL) noexcept {
 
 Class makeClass() {
     mac::RuntimeClass made("KestruneHeapBlock");
-    made.addMethod("copy", copyBlock);
-    made.addMethod("copyWithZone:", copyBlockWithZone);
-    made.addMethod("retain", copyBlock);
-    made.addMethod("release", releaseBlock);
-    made.addMethod("retainCount", countReferences);
+    made.addMethod(mac::ImplementedMethod<id()>{"copy"}, copyBlock);
+    made.addMethod(mac::ImplementedMethod<id(const void*)>{"copyWithZone:"}, copyBlockWithZone);
+    made.addMethod(mac::ImplementedMethod<id()>{"retain"}, copyBlock);
+    made.addMethod(mac::ImplementedMethod<void()>{"release"}, releaseBlock);
+    made.addMethod(mac::ImplementedMethod<mac::Unsigned()>{"retainCount"}, countReferences);
     return made.finish();
 }
 

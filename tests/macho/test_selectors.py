@@ -1,0 +1,54 @@
+"""Every selector in the shipped program is declared, and every declared one is in both of its halves."""
+
+import pathlib
+import re
+import unittest
+
+from releasing.linux import PROGRAM, Linux
+from releasing.sealing import machofile
+
+REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
+APPLICATION = REPOSITORY / Linux.application
+
+# A text with a colon that ends a word, as in "setFrame:display:". Those without any look like other texts.
+SELECTOR = re.compile(rb"(?<=\0)[A-Za-z_]\w*:(?:\w+:)*(?=\0)")
+IN_QUOTES = re.compile(r'"([\w:]+)"')
+ACTION = re.compile(r'Selector\w*[({]"([\w:]+)"')
+
+
+def texts_in(folder, pattern, glob):
+    files = sorted((REPOSITORY / folder).glob(glob))
+    return {text for file in files for text in pattern.findall(file.read_text(encoding="utf-8"))}
+
+
+def declared():
+    """What is sent to the platform and what it sends."""
+    return {text for text in texts_in("mac/vocabulary", IN_QUOTES, "*.h") if ":" in text}
+
+
+def actions():
+    """What menus are told to send, to the application or along the responder chain."""
+    return texts_in("Kestrune", ACTION, "*.cpp")
+
+
+@unittest.skipUnless(APPLICATION.is_dir(), "make app has not built it")
+class Selectors(unittest.TestCase):
+    def setUp(self):
+        program = (APPLICATION / PROGRAM).read_bytes()
+        self.halves = [half.data for half in machofile.parts_of(program)]
+        self.assertEqual(len(self.halves), 2)
+
+    def test_each_is_declared(self):
+        for half in self.halves:
+            found = {selector.decode() for selector in SELECTOR.findall(half)}
+            self.assertGreater(len(found), 100)
+            self.assertEqual(found - declared() - actions(), set())
+
+    def test_each_declared_one_is_there(self):
+        for half in self.halves:
+            missing = {text for text in declared() if b"\0" + text.encode() + b"\0" not in half}
+            self.assertEqual(missing, set())
+
+
+if __name__ == "__main__":
+    unittest.main()
