@@ -2,13 +2,11 @@
 #pragma once
 
 #include "tests/macho/MachSlice.h"
+#include "tests/macho/TextStubs.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
-#include <set>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace kestrune::macho {
@@ -20,23 +18,6 @@ struct Limits {
     Version minimumSystem{13, 0, 0};
 };
 
-// What each library of the platform has: install names, and in them the names of symbols.
-class ExportLists {
-public:
-    // The text of a list: "install-name: NAME", and then a symbol in each line, with a processor behind it
-    // where it is there for that one only. Lines that start with # are comments. Throws MachError, with the
-    // name.
-    void add(std::string_view text, const std::string& name);
-
-    bool knows(std::string_view library) const { return libraries_.contains(std::string(library)); }
-    bool has(std::string_view library, std::string_view symbol, Processor processor) const;
-    bool hasInAny(std::string_view symbol, Processor processor) const;
-
-private:
-    // Symbols, each with the processors that it is there for.
-    std::map<std::string, std::map<std::string, std::set<Processor>, std::less<>>> libraries_;
-};
-
 struct Measures {
     std::uint64_t bytes = 0;
     std::size_t initializers = 0;
@@ -46,6 +27,6 @@ struct Measures {
 };
 
 // Throws MachError for a program that cannot be read.
-Measures measure(const MachSlice& slice, const Limits& limits, const ExportLists& exports);
+Measures measure(const MachSlice& slice, const Limits& limits, const TextStubs& stubs);
 
 } // namespace kestrune::macho

@@ -12,17 +12,20 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::StartsWith;
 
-ExportLists systemLists() {
-    ExportLists lists;
-    lists.add("# The C library.\ninstall-name: /usr/lib/libSystem.B.dylib\n_exit\n_only x86_64\n\n",
-              "System.txt");
-    return lists;
+TextStubs systemStubs() {
+    TextStubs stubs;
+    stubs.add("--- !tapi-tbd\ninstall-name: '/usr/lib/libSystem.B.dylib'\nexports:\n"
+              "  - targets: [ x86_64-macos, arm64-macos ]\n    symbols:\n      - '_exit'\n"
+              "  - targets: [ x86_64-macos ]\n    symbols: [ '_only' ]\n...\n",
+              "System.tbd");
+    return stubs;
 }
 
 Measures measuresOf(const TinyProgram& program, const Limits& limits = {}) {
     const Content bytes = program.bytes();
-    return measure(MachFile(bytes, "Tiny").slices().front(), limits, systemLists());
+    return measure(MachFile(bytes, "Tiny").slices().front(), limits, systemStubs());
 }
 
 std::vector<std::string> violationsOf(const TinyProgram& program, const Limits& limits = {}) {
@@ -67,14 +70,13 @@ TEST(Limits, AreForOneSystem) {
     EXPECT_THAT(violationsOf(program, limits), IsEmpty());
 }
 
-TEST(Limits, AskForEveryImportInTheListOfItsLibrary) {
+TEST(Limits, AskForEveryImportInTheStubOfItsLibrary) {
     TinyProgram program;
     program.libraries.emplace_back("/usr/lib/libobjc.A.dylib");
     program.imports = {{1, false, "_fork", 0}, {2, true, "_exit", 0}};
-    EXPECT_THAT(
-        violationsOf(program),
-        ElementsAre("Tiny: imports _fork, which is not in the export list of /usr/lib/libSystem.B.dylib",
-                    "Tiny: imports from /usr/lib/libobjc.A.dylib, which no export list is about"));
+    EXPECT_THAT(violationsOf(program),
+                ElementsAre("Tiny: imports _fork, which is not in the stub of /usr/lib/libSystem.B.dylib",
+                            "Tiny: imports from /usr/lib/libobjc.A.dylib, which no stub is about"));
 }
 
 TEST(Limits, AskForTheProcessorOfAnImport) {
@@ -85,22 +87,22 @@ TEST(Limits, AskForTheProcessorOfAnImport) {
     EXPECT_THAT(violationsOf(program), IsEmpty());
 }
 
-TEST(Limits, TakeWhatTheProgramDefinesItselfForAnImportOfAnyLibrary) {
+TEST(Limits, RefuseImportsFromWhateverLibraryHasThem) {
     TinyProgram program;
-    program.imports = {{Import::WeakDefinition, false, "_main", 0},
-                       {Import::WeakDefinition, false, "_exit", 0},
-                       {Import::WeakDefinition, false, "_other", 0}};
-    EXPECT_THAT(violationsOf(program),
-                ElementsAre("Tiny: imports _other, which it does not define and is in no export list"));
+    program.imports = {{Import::WeakDefinition, false, "_exit", 0}};
+    EXPECT_THAT(violationsOf(program), ElementsAre("Tiny: imports _exit from no library in particular"));
 }
 
-TEST(ExportLists, RefuseLinesThatTheyDoNotKnow) {
-    ExportLists lists;
-    const auto refusal = [&](std::string_view text) { return refusalOf([&] { lists.add(text, "A.txt"); }); };
-    EXPECT_EQ(refusal("_exit\n"), "A.txt: _exit: is not \"install-name: \" and the library's");
-    EXPECT_EQ(refusal("install-name: A\n_exit i386\n"),
-              "A.txt: _exit i386: ends in the name of no processor");
-    EXPECT_EQ(refusal("# Nothing\n"), "A.txt: has no install name");
+TEST(TextStubs, RefuseWhatIsNone) {
+    TextStubs stubs;
+    const auto refusal = [&](const std::string& text) {
+        return refusalOf([&] { stubs.add(text, "A.tbd"); });
+    };
+    EXPECT_THAT(refusal("_exit\n"), StartsWith("A.tbd: "));
+    EXPECT_THAT(refusal("exports: []\n"), StartsWith("A.tbd: "));
+    EXPECT_THAT(refusal("install-name: [\n"), StartsWith("A.tbd: "));
+    EXPECT_EQ(refusal("install-name: A\nexports:\n  - targets: [ i386-macos ]\n    symbols: [ _a ]\n"),
+              "A.tbd: i386-macos is no target that is known here");
     EXPECT_EQ(refusal("install-name: A"), "");
 }
 

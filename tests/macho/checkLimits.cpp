@@ -1,6 +1,6 @@
-// kestrune-check-limits [--bytes N] [--initializers N] [--imports N] PROGRAM EXPORTS: prints what each half
-// of a program costs. EXPORTS is a folder with a list of symbols, *.txt, for each library. Exit status 1, and
-// a line for each limit that does not hold and each import that is in no list; 2 for what cannot be read.
+// kestrune-check-limits [--bytes N] [--initializers N] [--imports N] PROGRAM SDK: prints what each half
+// of a program costs. SDK is a folder with stubs of the system's libraries, *.tbd. Exit status 1, and a line
+// for each limit that does not hold and each import that is in no stub; 2 for what cannot be read.
 #include "tests/macho/FileTree.h"
 #include "tests/macho/Limits.h"
 #include "tests/macho/MachFile.h"
@@ -16,7 +16,7 @@ using namespace kestrune::macho;
 
 constexpr std::string_view Usage =
     "usage: kestrune-check-limits [--bytes N] [--initializers N] [--imports N] [--system V] "
-    "PROGRAM EXPORTS";
+    "PROGRAM SDK";
 
 std::uint64_t numberIn(std::string_view text) {
     std::uint64_t number = 0;
@@ -59,15 +59,15 @@ Limits limitsIn(std::span<char*>& arguments) {
     return limits;
 }
 
-ExportLists listsIn(const std::string& folder) {
-    ExportLists lists;
+TextStubs stubsIn(const std::string& folder) {
+    TextStubs stubs;
     for (const auto& [path, entry] : readFileTree(folder, folder).entries) {
         const auto* const content = std::get_if<FileContent>(&entry);
-        if (content && path.ends_with(".txt")) {
-            lists.add({reinterpret_cast<const char*>(content->data()), content->size()}, folder + "/" + path);
+        if (content && path.ends_with(".tbd")) {
+            stubs.add({reinterpret_cast<const char*>(content->data()), content->size()}, folder + "/" + path);
         }
     }
-    return lists;
+    return stubs;
 }
 
 void print(const MachSlice& slice, const Measures& measures, const Limits& limits) {
@@ -79,13 +79,13 @@ void print(const MachSlice& slice, const Measures& measures, const Limits& limit
 
 int check(std::span<char*> arguments) {
     const Limits limits = limitsIn(arguments);
-    const ExportLists lists = listsIn(arguments[1]);
+    const TextStubs stubs = stubsIn(arguments[1]);
     const std::string path = arguments[0];
     const FileContent program = readFile(path);
     const MachFile file(program, path);
     int status = 0;
     for (const MachSlice& slice : file.slices()) {
-        const Measures measures = measure(slice, limits, lists);
+        const Measures measures = measure(slice, limits, stubs);
         print(slice, measures, limits);
         for (const std::string& violation : measures.violations) {
             std::cerr << "kestrune-check-limits: " << violation << '\n';

@@ -7,7 +7,13 @@ import unittest
 from tiny_bundles import PROGRAMS
 from trees import TreeTest
 
-SYSTEM = "install-name: /usr/lib/libSystem.B.dylib\n_exit\n"
+SYSTEM = """--- !tapi-tbd
+install-name: '/usr/lib/libSystem.B.dylib'
+exports:
+  - targets: [ x86_64-macos, arm64-macos ]
+    symbols: [ %s ]
+...
+"""
 MEASURED = "bytes, 1 of 60 initializers, 1 of 170 imports, for macOS 13.0"
 
 
@@ -16,12 +22,12 @@ class Limits(TreeTest):
         program = os.environ["KESTRUNE_CHECK_LIMITS"]
         return subprocess.run([program, *map(str, arguments)], capture_output=True, encoding="utf-8")
 
-    def lists(self, text=SYSTEM):
-        self.write({"exports/System.txt": text, "exports/README.md": "No list."})
-        return self.root / "exports"
+    def sdk(self, text=SYSTEM % "_exit"):
+        self.write({"sdk/usr/lib/libSystem.tbd": text, "sdk/README.md": "No stub."})
+        return self.root / "sdk"
 
     def test_are_printed_for_each_half(self):
-        result = self.check(PROGRAMS / "universal.macho", self.lists())
+        result = self.check(PROGRAMS / "universal.macho", self.sdk())
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         first, second = result.stdout.splitlines()
         self.assertRegex(first, rf"^x86_64: \d+ of 900000 {MEASURED}$")
@@ -31,7 +37,7 @@ class Limits(TreeTest):
         program = PROGRAMS / "arm64.macho"
         size = program.stat().st_size
         arguments = ["--bytes", size - 1, "--initializers", 0, "--imports", 0, "--system", "12.3"]
-        result = self.check(*arguments, program, self.lists())
+        result = self.check(*arguments, program, self.sdk())
         beginning = f"kestrune-check-limits: {program}: "
         self.assertEqual(
             result.stderr.splitlines(),
@@ -44,11 +50,10 @@ class Limits(TreeTest):
         )
         self.assertEqual(result.returncode, 1)
 
-    def test_ask_for_each_import_in_the_lists(self):
-        lists = self.lists("install-name: /usr/lib/libSystem.B.dylib\n_fork\n")
-        result = self.check(PROGRAMS / "arm64.macho", lists)
+    def test_ask_for_each_import_in_the_stubs(self):
+        result = self.check(PROGRAMS / "arm64.macho", self.sdk(SYSTEM % "_fork"))
         self.assertEqual(result.returncode, 1)
-        self.assertIn("imports _exit, which is not in the export list of /usr/lib/libSystem.B", result.stderr)
+        self.assertIn("imports _exit, which is not in the stub of /usr/lib/libSystem.B", result.stderr)
 
     def assert_unreadable(self, message, *arguments):
         result = self.check(*arguments)
@@ -56,15 +61,15 @@ class Limits(TreeTest):
         self.assertEqual(result.stderr, f"kestrune-check-limits: {message}\n")
 
     def test_of_what_cannot_be_read_are_none(self):
-        lists, program = self.lists(), PROGRAMS / "arm64.macho"
+        sdk, program = self.sdk(), PROGRAMS / "arm64.macho"
         script = self.root / "script"
         self.write({"script": "#!/bin/sh\n"})
-        self.assert_unreadable(f"{script}: is no Mach-O file: it starts with 0x622f2123", script, lists)
-        self.assert_unreadable(f"{self.root}/none: No such file or directory", self.root / "none", lists)
+        self.assert_unreadable(f"{script}: is no Mach-O file: it starts with 0x622f2123", script, sdk)
+        self.assert_unreadable(f"{self.root}/none: No such file or directory", self.root / "none", sdk)
         self.assert_unreadable(f"{self.root}/none: No such file or directory", program, self.root / "none")
-        self.lists("_exit\n")
-        message = 'System.txt: _exit: is not "install-name: " and the library\'s'
-        self.assert_unreadable(f"{lists}/{message}", program, lists)
+        self.sdk("exports:\n  - targets: [ i386-macos ]\n    symbols: [ _a ]\ninstall-name: A\n")
+        message = "usr/lib/libSystem.tbd: i386-macos is no target that is known here"
+        self.assert_unreadable(f"{sdk}/{message}", program, sdk)
 
     def test_have_to_be_numbers(self):
         for arguments in ([], ["--bytes", "many"], ["--seconds", "1"], ["--imports", ""]):

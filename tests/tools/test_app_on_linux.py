@@ -105,7 +105,7 @@ class DryRun(LinuxTest):
                     *["--target", "kestrune-check-limits", "kestrune-check-seal"],
                 ],
                 [f"{CHECKS}/kestrune-check-seal", BUNDLE],
-                [f"{CHECKS}/kestrune-check-limits", f"{BUNDLE}/{PROGRAM}", "mac/sdk/exports"],
+                [f"{CHECKS}/kestrune-check-limits", f"{BUNDLE}/{PROGRAM}", "mac/sdk"],
             ],
         )
 

@@ -15,7 +15,7 @@ FOLDER = pathlib.Path("build/cross")
 PROCESSORS = ("arm64", "x86_64")
 PROGRAM = "Contents/MacOS/Kestrune"
 CHECKS = pathlib.Path("build/gcc/tests/macho")
-EXPORTS = pathlib.Path("mac/sdk/exports")
+SDK = pathlib.Path("mac/sdk")
 
 # The first LLVM that knows macOS 13 well enough, and those that may follow it.
 LLVM_VERSIONS = range(19, 30)
@@ -79,7 +79,7 @@ class Linux:
             Command("cmake", "--preset", "gcc"),
             Command("cmake", "--build", "--preset", "gcc", "--target", *checks),
             Command(CHECKS / "kestrune-check-seal", self.application, judge=self._take_halves),
-            Command(CHECKS / "kestrune-check-limits", program, EXPORTS),
+            Command(CHECKS / "kestrune-check-limits", program, SDK),
         ]
 
     def closing_words(self):
