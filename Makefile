@@ -4,30 +4,34 @@ SEED ?= 1
 SEEDS ?= 1000
 RUNS ?= 200
 FUZZ_SECONDS ?= 30
+# ON where a commit is proved. Elsewhere the next compiler may warn of what is right, and nobody is stopped.
+WARNINGS_AS_ERRORS ?= OFF
 
-DIR = $(CURDIR)/build/$(PRESET)
 SYSTEM := $(shell uname -s)
+DIR = build/$(PRESET)
 
 export UBSAN_OPTIONS ?= print_stacktrace=1
 export CTEST_PARALLEL_LEVEL ?= 2
 
-# $(call configure,PRESET): again only when the presets changed; the build itself notices everything else.
+# Again only when the presets or the meaning of a warning changed; the build itself notices everything else.
+strictness = CMAKE_COMPILE_WARNING_AS_ERROR:BOOL=$(WARNINGS_AS_ERRORS)
 define configure
-@test -f build/$(1)/build.ninja && test build/$(1)/CMakeCache.txt -nt CMakePresets.json || cmake --preset $(1)
+@test -f $(DIR)/build.ninja && test $(DIR)/CMakeCache.txt -nt CMakePresets.json && \
+    grep -qx $(strictness) $(DIR)/CMakeCache.txt || cmake --preset $(PRESET) -D $(strictness)
 endef
 
-# $(call build,GROUPS,TARGET): sets up and builds one target of the preset.
+# $(call build,GROUPS,TARGETS): sets up and builds targets of the preset.
 define build
 @tools/setup $(1) $(PRESET)
-$(call configure,$(PRESET))
-@cmake --build build/$(PRESET) --target $(2)
+$(configure)
+@cmake --build $(DIR) --target $(2)
 endef
 
 # $(call run-tests,CHOICE): ctest, and the plain counts as the last line whether it passed or failed.
 define run-tests
 @rm -f $(DIR)/tests.xml; \
 ctest --test-dir $(DIR) $(1) --no-tests=error --max-width 90 --output-on-failure \
-    --output-junit $(DIR)/tests.xml; \
+    --output-junit "$$PWD/$(DIR)/tests.xml"; \
 status=$$?; tools/count-tests $(DIR)/tests.xml && exit $$status
 endef
 
@@ -87,15 +91,15 @@ endif
 
 # clang-tidy understands the flags of clang++ only. What both implementations define is seen where they are
 # built.
+check: override PRESET = check
+check: override WARNINGS_AS_ERRORS = ON
 check:
-	@tools/setup check
-	$(call configure,clang)
-	@cmake --build build/clang --target kestrune_contract kestrune_sim kestrune_mac
-	@tools/check --build build/clang
+	$(call build,check,kestrune_contract kestrune_sim kestrune_mac)
+	@tools/check --build $(DIR)
 
 bench:
 	$(call build,bench,bench)
-	@benchmarks/run build/$(PRESET)
+	@benchmarks/run $(DIR)
 
 simulate:
 	$(call build,simulate,kestrune-simulate kestrune-simulate-shell)
@@ -113,7 +117,7 @@ soak:
 fuzz: override PRESET = fuzz
 fuzz:
 	$(call build,fuzz,fuzzers)
-	@tests/fuzz/run build/fuzz $(FUZZ_SECONDS)
+	@tests/fuzz/run $(DIR) $(FUZZ_SECONDS)
 
 coverage: override PRESET = coverage
 coverage:

@@ -14,11 +14,6 @@ target_compile_options(kestrune_options INTERFACE
     # A fused multiply-add would round once where the platform rounds twice.
     -ffp-contract=off)
 
-# On a Mac the compiler is whatever its user has.
-if(NOT APPLE)
-    target_compile_options(kestrune_options INTERFACE -Werror)
-endif()
-
 # Crash reports of a Mac name addresses. The lines behind them are taken out of the program and kept; no path of
 # the machine that built it is in either.
 if(APPLE)
