@@ -78,10 +78,9 @@ void WelcomeWindowController::startAccessibilityWatcher() {
 }
 
 void WelcomeWindowController::endAccessibilityWatcher() {
-    if (accessibilityWatcher_) {
-        accessibilityWatcher_->invalidate();
+    if (auto watcher = std::exchange(accessibilityWatcher_, std::nullopt)) {
+        watcher->invalidate();
     }
-    accessibilityWatcher_.reset();
 }
 
 // Writes only what is new, so that the view is not laid out again every second.
