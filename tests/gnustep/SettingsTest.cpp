@@ -3,6 +3,7 @@
 #include "Kestrune/UpdaterManager.h"
 #include "mac/objc/Pool.h"
 #include "tests/gnustep/Allocations.h"
+#include "tests/gnustep/Release.h"
 #include "tests/gnustep/Send.h"
 #include "tests/gnustep/SettingsFixture.h"
 #include "tests/gnustep/ShownWindows.h"
@@ -217,8 +218,9 @@ TEST_F(SettingsOnGNUstep, IsUsedAHundredTimesWithoutKeepingAnObject) {
     const AllocatedObjects before = objectsButEvents();
     use(100);
     EXPECT_EQ(references(), referencesBefore);
-    // GNUstep never lets go of an observation.
-    EXPECT_THAT(growth(before, objectsButEvents()), ElementsAre("GSNotificationObserver: 100 more"));
+    // Older releases of GNUstep never let go of an observation.
+    const std::vector<std::string> observations(release() < 32 ? 1 : 0, "GSNotificationObserver: 100 more");
+    EXPECT_EQ(growth(before, objectsButEvents()), observations);
 }
 
 } // namespace

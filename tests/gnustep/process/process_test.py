@@ -80,7 +80,9 @@ class ProcessTest(unittest.TestCase):
 
     def saved(self, key):
         """The application's default as GNUstep's own tool reads it; None when there is none."""
-        environment = self.home.environment | {"LD_PRELOAD": self.home_library}
+        # A path with a space would be two libraries in LD_PRELOAD; it is one folder in LD_LIBRARY_PATH.
+        folder, library = os.path.split(self.home_library)
+        environment = self.home.environment | {"LD_LIBRARY_PATH": folder, "LD_PRELOAD": library}
         text = run("defaults", "read", env=environment)
         lines = (line.split(maxsplit=2) for line in text.splitlines())
         entries = {(domain, name): value for domain, name, value in lines}
