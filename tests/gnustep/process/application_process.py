@@ -6,8 +6,8 @@ import subprocess
 
 from live_window import PATIENCE, Area, run, wait_for
 
-# Without an icon of the application's own, with borders left to a window manager, and with menus that stay
-# open when the button of the mouse is released.
+# Without an icon of the application's own, with borders left to a window manager, and with menus that have
+# room for a mark before the title, as Row knows them.
 SETTINGS = """{
     GSSuppressAppIcon = YES;
     GSX11HandlesWindowDecorations = NO;
@@ -200,51 +200,49 @@ class Application:
         self.click()
 
     def open_menu(self):
-        """Clicks the status item. Gives the rows of the menu that is open then."""
+        """Presses the mouse on the status item and holds it. Gives the rows of the menu that is open then."""
         before = self.told()
         self.wait_until_shown(self.button)
         self.move_to(self.button.area)
         self.hand("mousedown", 1)
         self.wait_for_line("open", len(before["open"]) + 1)
-        self.hand("mouseup", 1)
         rows = [Row(*words) for words in self.told()["row"][len(before["row"]) :]]
         self.wait_until_shown(rows[0].place)
         return rows
 
-    def click_row(self, row):
-        """In the open menu. What GNUstep chooses at the click is the row that it has highlighted before."""
+    def release_on_row(self, row):
+        """Of the open menu. What GNUstep chooses then is the row that it has highlighted before."""
         count = len(self.told()["highlighted"])
         self.move_to(row.place.area)
         self.wait_for_line("highlighted", count + 1)
         latest = self.told()["highlighted"][-1]
         if latest != [row.title]:
             raise AssertionError(f"the mouse is on {row.title!r}, and {latest} is highlighted")
-        self.click()
+        self.hand("mouseup", 1)
 
-    def click_beside_menu(self):
+    def release_beside_menu(self):
         left, middle = self.button.area.at(-20, 0.5)
-        self.hand("mousemove", left, middle)
-        self.click()
+        self.hand("mousemove", left, middle, "mouseup", 1)
 
-    def guarded_after(self, click, *arguments):
-        """The displays that are guarded when the click has closed the menu."""
+    def guarded_after(self, release, *arguments):
+        """The displays that are guarded when the release of the mouse has closed the menu."""
         count = len(self.told()["guarded"])
-        click(*arguments)
+        release(*arguments)
         return self.wait_for_line("guarded", count + 1)[0].split()
 
     def choose(self, text):
-        """Opens the menu and clicks the row with the text. Gives the displays that are guarded then."""
-        return self.guarded_after(self.click_row, row_with(text, self.open_menu()))
+        """Opens the menu and chooses the row with the text. Gives the displays that are guarded then."""
+        return self.guarded_after(self.release_on_row, row_with(text, self.open_menu()))
 
     def look(self):
         """Opens the menu and closes it again. Gives the texts of its rows."""
         rows = self.open_menu()
-        self.guarded_after(self.click_beside_menu)
+        self.guarded_after(self.release_beside_menu)
         return list(map(str, rows))
 
     def quit(self):
         """From the menu. Gives the status with which the process ends."""
-        self.click_row(row_with("Quit", self.open_menu()))
+        self.release_on_row(row_with("Quit", self.open_menu()))
         return self.process.wait(PATIENCE)
 
     def stop(self):

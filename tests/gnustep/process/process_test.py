@@ -193,7 +193,7 @@ class FirstRun(ProcessTest):
 
     def test_a_new_user_goes_through_the_wizard(self):
         application = self.start(is_permitted=False)
-        application.guarded_after(application.click_row, row_with("Complete setup", application.open_menu()))
+        application.choose("Complete setup")
 
         wizard = application.wait_for_control("Request permission")
         self.assertEqual(wizard.title, "Welcome to Kestrune")
@@ -225,13 +225,13 @@ class FirstRun(ProcessTest):
         application.hand("key", "Return")
         wait_for(lambda: not application.windows(), "the end of the wizard")
         application.open_menu()
-        self.assertEqual(application.guarded_after(application.click_beside_menu), ["Right"])
+        self.assertEqual(application.guarded_after(application.release_beside_menu), ["Right"])
         self.assertEqual(self.saved("hasCompletedOnboarding"), "1")
         self.assert_quits(application)
 
     def test_a_user_with_the_permission_begins_with_the_introduction(self):
         application = self.start()
-        application.guarded_after(application.click_row, row_with("Complete setup", application.open_menu()))
+        application.choose("Complete setup")
         wizard = application.wait_for_control("Get started")
         self.assertEqual(wizard.texts[0], "Welcome to Kestrune")
         self.wait_until_drawn(wizard, "Get started")
@@ -333,7 +333,7 @@ class Drawing(ProcessTest):
         self.assertEqual(with_key, ["Settings…", "Quit"])
         grey = [row.title for row in rows if darkest(picture, row.title_area) > 0.1]
         self.assertEqual(grey, ["Pin Dock to:"])
-        application.guarded_after(application.click_beside_menu)
+        application.guarded_after(application.release_beside_menu)
         self.assert_quits(application)
 
 

@@ -31,8 +31,12 @@ Method<Result, Arguments...> replaceMethod(Class type, const char* selector,
         fatal(std::string("GNUstep has no method ") + selector + " to replace.");
     }
     const IMP before = class_getMethodImplementation(type, name);
-    class_replaceMethod(type, name, mac::asImplementation(implementation),
-                        mac::EncodingOfMethod<Result, Arguments...>.data());
+    const IMP after = mac::asImplementation(implementation);
+    const char* const encoding = mac::EncodingOfMethod<Result, Arguments...>.data();
+    // Replacing one of a superclass would change all its subclasses, and not reach those that are in use.
+    if (class_addMethod(type, name, after, encoding) == 0) {
+        class_replaceMethod(type, name, after, encoding);
+    }
     return mac::asFunction<Method<Result, Arguments...>>(before);
 }
 
