@@ -221,8 +221,10 @@ class Application:
         self.hand("mouseup", 1)
 
     def release_beside_menu(self):
+        """Older releases of GNUstep keep the menu open then, until there is a click."""
         left, middle = self.button.area.at(-20, 0.5)
         self.hand("mousemove", left, middle, "mouseup", 1)
+        self.click()
 
     def guarded_after(self, release, *arguments):
         """The displays that are guarded when the release of the mouse has closed the menu."""
