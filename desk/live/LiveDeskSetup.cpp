@@ -11,7 +11,7 @@ namespace kestrune::desk {
 
 namespace {
 
-const ui::Measurer& measurer() {
+const ui::Measurer& pangoMeasurer() {
     static const PangoMeasurer shared;
     return shared;
 }
@@ -50,7 +50,7 @@ sim::SessionOptions sessionOptionsOf(const LiveDeskSetup& setup) {
     options.recordJournal = false;
     options.permission = setup.permission;
     options.bundle = setup.bundle;
-    options.measurer = &measurer();
+    options.measurer = setup.measurer != nullptr ? setup.measurer : &pangoMeasurer();
     options.defaults = setup.defaults;
     if (setup.guardOn) {
         options.defaults.insert_or_assign("isEnabled", sim::PropertyList{*setup.guardOn});

@@ -31,6 +31,9 @@ struct LiveDeskSetup {
 
     // The application's bundle.
     sim::BundleContents bundle = {};
+
+    // Tells how large texts are, and outlives the desk. Null: Pango does, with the fonts that are there.
+    const ui::Measurer* measurer = nullptr;
 };
 
 // As the command line asks for it, with the application's own resources and the preferences of the options'
