@@ -12,6 +12,8 @@ DIR = build/$(PRESET)
 
 export UBSAN_OPTIONS ?= print_stacktrace=1
 export CTEST_PARALLEL_LEVEL ?= 2
+# Whatever the locale, what is read and written is UTF-8.
+export PYTHONUTF8 = 1
 
 # Again only when the presets or the meaning of a warning changed; the build itself notices everything else.
 strictness = CMAKE_COMPILE_WARNING_AS_ERROR:BOOL=$(WARNINGS_AS_ERRORS)
