@@ -1,0 +1,103 @@
+"""The Makefile in a folder with a space in its name, seen with stand-ins for what it calls."""
+
+import os
+import shutil
+import subprocess
+import time
+import unittest
+
+from trees import REPOSITORY, TreeTest
+
+
+class MakefileTest(TreeTest):
+    # As CMake leaves a build, with what it was told about warnings.
+    CONFIGURES = """
+        echo "cmake $*" >> "$LOG"
+        if [[ $1 == --preset ]]; then
+            mkdir -p "build/$2"
+            touch "build/$2/build.ninja"
+            echo "$4" > "build/$2/CMakeCache.txt"
+        fi"""
+
+    def setUp(self):
+        super().setUp()
+        self.folder = self.root / "a folder"
+        self.log = self.root / "log"
+        self.write({"a folder/CMakePresets.json": "{}"})
+        shutil.copy(REPOSITORY / "Makefile", self.folder)
+        self.program("bin/cmake", self.CONFIGURES)
+        self.program("bin/ctest", "printf '%s\\n' ctest \"$@\" >> \"$LOG\"")
+        self.program("a folder/tools/setup", "")
+        self.program("a folder/tools/check", 'echo "check $*" >> "$LOG"')
+        self.program("a folder/tools/count-tests", 'echo "count-tests $*" >> "$LOG"')
+        self.program("a folder/build/gcc/desk/kestrune-desk", 'echo "desk $*" >> "$LOG"')
+
+    def program(self, path, text):
+        self.write({path: f"#!/usr/bin/env bash\n{text}\n"})
+        (self.root / path).chmod(0o755)
+
+    def make(self, *arguments, **environment):
+        """Runs it without a display, and returns what it called."""
+        self.log.write_text("", encoding="utf-8")
+        kept = {name: value for name, value in os.environ.items() if name in ("HOME", "LANG")}
+        subprocess.run(
+            ["make", *arguments],
+            cwd=self.folder,
+            env=kept | {"PATH": f"{self.root}/bin:/usr/bin:/bin", "LOG": str(self.log)} | environment,
+            capture_output=True,
+            check=True,
+        )
+        return self.log.read_text(encoding="utf-8").splitlines()
+
+    def configurations(self, *arguments, **environment):
+        return [line for line in self.make(*arguments, **environment) if "--preset" in line]
+
+    def configuration(self, preset, warnings_are_errors):
+        state = "ON" if warnings_are_errors else "OFF"
+        return [f"cmake --preset {preset} -D CMAKE_COMPILE_WARNING_AS_ERROR:BOOL={state}"]
+
+
+class Configuration(MakefileTest):
+    def test_happens_once(self):
+        self.assertEqual(self.configurations("run"), self.configuration("gcc", False))
+        self.assertEqual(self.configurations("run"), [])
+
+    def test_happens_again_when_it_was_interrupted(self):
+        self.configurations("run")
+        (self.folder / "build/gcc/build.ninja").unlink()
+        self.assertEqual(self.configurations("run"), self.configuration("gcc", False))
+
+    def test_happens_again_when_the_presets_have_changed(self):
+        self.configurations("run")
+        later = time.time() + 10
+        os.utime(self.folder / "CMakePresets.json", (later, later))
+        self.assertEqual(self.configurations("run"), self.configuration("gcc", False))
+
+    def test_happens_again_where_warnings_become_errors(self):
+        self.configurations("run")
+        self.assertEqual(self.configurations("run", WARNINGS_AS_ERRORS="ON"), self.configuration("gcc", True))
+        self.assertEqual(self.configurations("run", WARNINGS_AS_ERRORS="ON"), [])
+
+
+class Warnings(MakefileTest):
+    def test_are_errors_in_the_check(self):
+        self.assertEqual(self.configurations("check"), self.configuration("check", True))
+
+    def test_are_none_for_whoever_builds(self):
+        self.assertEqual(self.configurations("test"), self.configuration("gcc", False))
+        self.assertEqual(self.configurations("test", "PRESET=clang"), self.configuration("clang", False))
+
+
+class FolderWithASpace(MakefileTest):
+    def test_holds_the_results_of_the_tests(self):
+        self.assertIn(f"{self.folder}/build/gcc/tests.xml", self.make("test"))
+
+    def test_holds_the_tour_that_is_shown_without_a_display(self):
+        self.assertEqual(self.make("run")[-1], "desk --tour out/tour")
+
+    def test_is_checked(self):
+        self.assertEqual(self.make("check")[-1], "check --build build/check")
+
+
+if __name__ == "__main__":
+    unittest.main()
