@@ -20,6 +20,7 @@ FRAMEWORK = f"{BUNDLE}/Contents/Frameworks/Sparkle.framework"
 PROGRAM = "Contents/MacOS/Kestrune"
 TINY_PROGRAMS = REPOSITORY / "tests/fuzz/corpus/mach-file"
 CHECKS = "build/gcc/tests/macho"
+LLVM = "build/llvm/tools/bin"
 
 # Builds for a Mac when it is told which processor's folder, and the checks when it is told their preset.
 CMAKE = (
@@ -38,10 +39,10 @@ fi"""
 )
 STAND_INS = {
     "cmake": CMAKE,
-    "llvm-strip-19": LOG + 'cp "$3" "$2"',
-    "llvm-lipo-19": LOG + f'cp "{TINY_PROGRAMS}/universal.macho" "${{@: -1}}"; chmod 755 "${{@: -1}}"',
-    "dsymutil-19": LOG + '[[ $2 == --flat ]] || mkdir -p "$3/Contents/Resources/DWARF"',
-    "llvm-dwarfdump-19": LOG + 'echo "UUID: 40 (arm64) $2"; echo "UUID: 41 (x86_64) $2"',
+    "llvm-strip": LOG + 'cp "$3" "$2"',
+    "llvm-lipo": LOG + f'cp "{TINY_PROGRAMS}/universal.macho" "${{@: -1}}"; chmod 755 "${{@: -1}}"',
+    "dsymutil": LOG + '[[ $2 == --flat ]] || mkdir -p "$3/Contents/Resources/DWARF"',
+    "llvm-dwarfdump": LOG + 'echo "UUID: 40 (arm64) $2"; echo "UUID: 41 (x86_64) $2"',
     "kestrune-check-seal": LOG + 'echo "arm64: sealed"; echo "x86_64: sealed"',
     "kestrune-check-limits": LOG,
 }
@@ -56,6 +57,11 @@ class LinuxTest(ReleaseTest):
     def use_linux(self, **changes):
         self.use_programs({**STAND_INS, **changes})
         (self.root / "bin/chmod").symlink_to(shutil.which("chmod"))
+        # As set-up leaves it.
+        tools = self.checkout / "build/llvm/tools"
+        tools.mkdir(parents=True, exist_ok=True)
+        (tools / "bin").unlink(missing_ok=True)
+        (tools / "bin").symlink_to(self.root / "bin")
 
     def app(self, *arguments, **environment):
         return self.call("tools/app", "--system", "Linux", *arguments, **environment)
@@ -90,14 +96,14 @@ class DryRun(LinuxTest):
                 ["rm", "-rf", "build/cross"],
                 ["mkdir", "-p", "build/cross"],
                 ["cp", "-R", "build/cross-arm64/mac/Kestrune.app", BUNDLE],
-                ["llvm-strip-19", "-o", halves[0], built[0]],
-                ["llvm-strip-19", "-o", halves[1], built[1]],
-                ["llvm-lipo-19", "-create", *halves, "-output", f"{BUNDLE}/{PROGRAM}"],
-                ["dsymutil-19", "--quiet", "-o", symbols, built[0]],
-                ["dsymutil-19", "--quiet", "--flat", "-o", "build/cross/symbols", built[1]],
-                ["llvm-lipo-19", "-create", both_symbols, "build/cross/symbols", "-output", both_symbols],
-                ["llvm-dwarfdump-19", "--uuid", symbols],
-                ["llvm-dwarfdump-19", "--uuid", f"{BUNDLE}/{PROGRAM}"],
+                [f"{LLVM}/llvm-strip", "-o", halves[0], built[0]],
+                [f"{LLVM}/llvm-strip", "-o", halves[1], built[1]],
+                [f"{LLVM}/llvm-lipo", "-create", *halves, "-output", f"{BUNDLE}/{PROGRAM}"],
+                [f"{LLVM}/dsymutil", "--quiet", "-o", symbols, built[0]],
+                [f"{LLVM}/dsymutil", "--quiet", "--flat", "-o", "build/cross/symbols", built[1]],
+                [f"{LLVM}/llvm-lipo", "-create", both_symbols, "build/cross/symbols", "-output", both_symbols],
+                [f"{LLVM}/llvm-dwarfdump", "--uuid", symbols],
+                [f"{LLVM}/llvm-dwarfdump", "--uuid", f"{BUNDLE}/{PROGRAM}"],
                 ["rm", "-f", *halves, "build/cross/symbols"],
                 ["cmake", "--preset", "gcc"],
                 [
@@ -108,12 +114,6 @@ class DryRun(LinuxTest):
                 [f"{CHECKS}/kestrune-check-limits", f"{BUNDLE}/{PROGRAM}", "mac/sdk"],
             ],
         )
-
-    def test_takes_a_later_llvm(self):
-        self.use_linux(**{"llvm-lipo-21": LOG})
-        self.assertIn("\nllvm-lipo-19 ", self.app("--dry-run").stdout)
-        (self.root / "bin/llvm-lipo-19").unlink()
-        self.assertIn("\nllvm-lipo-21 ", self.app("--dry-run").stdout)
 
     def test_embeds_the_framework_as_on_a_mac(self):
         commands = self.commands(self.app("--dry-run", "--sparkle", self.framework).stdout)
@@ -152,12 +152,12 @@ class Build(LinuxTest):
             self.assertFalse(self.path(ARCHIVE).exists())
 
     def test_ends_when_the_symbols_are_of_another_program(self):
-        self.use_linux(**{"llvm-dwarfdump-19": 'echo "UUID: ${#2} (arm64) $2"; echo "UUID: 41 (x86_64) $2"'})
+        self.use_linux(**{"llvm-dwarfdump": 'echo "UUID: ${#2} (arm64) $2"; echo "UUID: 41 (x86_64) $2"'})
         message = "tools/app: build/cross/Kestrune.app.dSYM has the UUIDs"
         self.assert_fails(self.app("--sparkle", "none"), message)
 
     def test_ends_when_a_half_is_missing(self):
-        self.use_linux(**{"llvm-dwarfdump-19": 'echo "UUID: 40 (arm64) $2"'})
+        self.use_linux(**{"llvm-dwarfdump": 'echo "UUID: 40 (arm64) $2"'})
         self.assert_fails(self.app("--sparkle", "none"), "and the program [('40', 'arm64')]")
 
     def test_ends_when_a_language_was_left_out(self):
@@ -268,9 +268,9 @@ class Parameters(LinuxTest):
         self.assert_fails(self.app(), "failed with exit status 6: curl", "SPARKLE=none")
 
     def test_say_what_to_install(self):
-        self.use_programs({})
-        result = self.app("--sparkle", "none")
-        self.assert_fails(result, "llvm-lipo-19", "not found; tools/setup app installs them")
+        (self.checkout / "build/llvm/tools/bin").unlink()
+        self.assert_fails(self.app("--sparkle", "none"), f"{LLVM} is not there; tools/setup app installs it")
+        self.assertEqual(self.calls(), [])
 
 
 class Make(LinuxTest):

@@ -4,12 +4,8 @@ Where it is built, and so how it is signed, is a Mac's or Linux' matter (mac.py,
 """
 
 from . import archive, information, localizations, sparkle
-from .linux import Linux
-from .mac import Mac
 from .parameters import NO_SPARKLE
 from .steps import Command, Work
-
-SYSTEMS = {"Darwin": Mac, "Linux": Linux}
 
 
 def require_sparkle(options):

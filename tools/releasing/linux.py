@@ -5,7 +5,6 @@ What the seal is worth a program says that was written apart from it, tests/mach
 
 import pathlib
 import re
-import shutil
 
 from . import sealing
 from .parameters import AD_HOC
@@ -14,23 +13,22 @@ from .steps import Command, Failure, Work
 FOLDER = pathlib.Path("build/cross")
 PROCESSORS = ("arm64", "x86_64")
 PROGRAM = "Contents/MacOS/Kestrune"
-CHECKS = pathlib.Path("build/gcc/tests/macho")
 SDK = pathlib.Path("mac/sdk")
-
-# The first LLVM that knows macOS 13 well enough, and those that may follow it.
-LLVM_VERSIONS = range(19, 30)
-LLVM_PROGRAMS = ("llvm-strip", "llvm-lipo", "dsymutil", "llvm-dwarfdump")
+# Where tools/setup puts it.
+LLVM = pathlib.Path("build/llvm/tools/bin")
 
 UUID = re.compile(r"^UUID: (\S+) \((\S+)\)", re.MULTILINE)
 
 
 class Linux:
-    application = FOLDER / "Kestrune.app"
-    # With the names of functions for whoever reads a crash report; they are not shipped.
-    symbols = FOLDER / "Kestrune.app.dSYM"
-    both_symbols = symbols / "Contents/Resources/DWARF/Kestrune"
-
-    def __init__(self):
+    def __init__(self, folder=FOLDER, preset="gcc"):
+        """Builds into the folder. The checks are programs of that preset."""
+        self.folder = pathlib.Path(folder)
+        self.preset = preset
+        self.application = self.folder / "Kestrune.app"
+        # With the names of functions for whoever reads a crash report; they are not shipped.
+        self.symbols = self.folder / "Kestrune.app.dSYM"
+        self.both_symbols = self.symbols / "Contents/Resources/DWARF/Kestrune"
         self._uuids = None
         self._halves = ""
 
@@ -40,29 +38,28 @@ class Linux:
                 f"--identity {options.identity!r}: a certificate signs on a Mac only; leave it out for an "
                 "ad-hoc signature"
             )
-        missing = [name for name in LLVM_PROGRAMS if not shutil.which(_llvm(name))]
-        if missing:
-            raise Failure(f"{' and '.join(map(_llvm, missing))} not found; tools/setup app installs them")
+        if not LLVM.is_dir():
+            raise Failure(f"{LLVM} is not there; tools/setup app installs it")
 
     def build(self):
         built = {processor: _built(processor) / PROGRAM for processor in PROCESSORS}
-        stripped = {processor: FOLDER / f"Kestrune-{processor}" for processor in PROCESSORS}
-        other_symbols = FOLDER / "symbols"
-        strip = [Command(_llvm("llvm-strip"), "-o", stripped[each], built[each]) for each in PROCESSORS]
+        stripped = {processor: self.folder / f"Kestrune-{processor}" for processor in PROCESSORS}
+        other_symbols = self.folder / "symbols"
+        strip = [Command(LLVM / "llvm-strip", "-o", stripped[each], built[each]) for each in PROCESSORS]
         return [
             *(step for processor in PROCESSORS for step in _cross_build(processor)),
-            Command("rm", "-rf", FOLDER),
-            Command("mkdir", "-p", FOLDER),
+            Command("rm", "-rf", self.folder),
+            Command("mkdir", "-p", self.folder),
             Command("cp", "-R", _built(PROCESSORS[0]), self.application),
             *strip,
             _join(*stripped.values(), self.application / PROGRAM),
             # For both at once dsymutil would want a Mac's own lipo.
-            Command(_llvm("dsymutil"), "--quiet", "-o", self.symbols, built["arm64"]),
-            Command(_llvm("dsymutil"), "--quiet", "--flat", "-o", other_symbols, built["x86_64"]),
+            Command(LLVM / "dsymutil", "--quiet", "-o", self.symbols, built["arm64"]),
+            Command(LLVM / "dsymutil", "--quiet", "--flat", "-o", other_symbols, built["x86_64"]),
             _join(self.both_symbols, other_symbols, self.both_symbols),
-            Command(_llvm("llvm-dwarfdump"), "--uuid", self.symbols, judge=self._take_uuids),
+            Command(LLVM / "llvm-dwarfdump", "--uuid", self.symbols, judge=self._take_uuids),
             Command(
-                _llvm("llvm-dwarfdump"), "--uuid", self.application / PROGRAM, judge=self._require_same_uuids
+                LLVM / "llvm-dwarfdump", "--uuid", self.application / PROGRAM, judge=self._require_same_uuids
             ),
             Command("rm", "-f", *stripped.values(), other_symbols),
         ]
@@ -74,12 +71,13 @@ class Linux:
         del framework, identity  # The seal goes by what lies in the bundle, and require() saw the identity.
         program = self.application / PROGRAM
         checks = ("kestrune-check-limits", "kestrune-check-seal")
+        place = pathlib.Path("build", self.preset, "tests/macho")
         return [
             Work(f"seal {self.application} and the code in it", lambda: sealing.seal(self.application)),
-            Command("cmake", "--preset", "gcc"),
-            Command("cmake", "--build", "--preset", "gcc", "--target", *checks),
-            Command(CHECKS / "kestrune-check-seal", self.application, judge=self._take_halves),
-            Command(CHECKS / "kestrune-check-limits", program, SDK),
+            Command("cmake", "--preset", self.preset),
+            Command("cmake", "--build", "--preset", self.preset, "--target", *checks),
+            Command(place / "kestrune-check-seal", self.application, judge=self._take_halves),
+            Command(place / "kestrune-check-limits", program, SDK),
         ]
 
     def closing_words(self):
@@ -113,10 +111,4 @@ def _built(processor):
 
 
 def _join(one, other, both):
-    return Command(_llvm("llvm-lipo"), "-create", one, other, "-output", both)
-
-
-def _llvm(name):
-    """The program as Debian names it, with its version, or as it is called elsewhere."""
-    names = [f"{name}-{version}" for version in LLVM_VERSIONS]
-    return next((each for each in (*names, name) if shutil.which(each)), names[0])
+    return Command(LLVM / "llvm-lipo", "-create", one, other, "-output", both)
