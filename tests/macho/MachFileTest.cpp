@@ -213,11 +213,6 @@ const BrokenFile BrokenFiles[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Files, MachFileRefuses, testing::ValuesIn(BrokenFiles), nameOfBroken);
 
-// The fields of a universal file have their highest byte first.
-void pokeBig(Content& bytes, std::size_t offset, std::uint32_t number) {
-    poke<std::uint32_t>(bytes, offset, __builtin_bswap32(number));
-}
-
 class UniversalFileRefuses : public testing::TestWithParam<BrokenFile> {};
 
 TEST_P(UniversalFileRefuses, AndSaysWhatAndWhere) {

@@ -36,6 +36,11 @@ void poke(Content& bytes, std::uint64_t offset, std::type_identity_t<Number> num
     }
 }
 
+// For the fields of universal files and of signatures, which have their highest byte first.
+inline void pokeBig(Content& bytes, std::uint64_t offset, std::uint32_t number) {
+    poke<std::uint32_t>(bytes, offset, __builtin_bswap32(number));
+}
+
 // The message of what the work throws, or none.
 template <typename Work>
 std::string refusalOf(Work work) {

@@ -1,6 +1,7 @@
 #include "tests/macho/SealCheck.h"
 
 #include "tests/macho/CodeSignature.h"
+#include "tests/macho/Fixups.h"
 #include "tests/macho/MachFile.h"
 #include "tests/macho/PropertyListFile.h"
 #include "tests/macho/ResourceSeal.h"
@@ -60,6 +61,10 @@ SealedHalf checkHalf(const MachSlice& slice, const Sealed& sealed) {
     }
     if (!signature.covers(Slot::resources, contentOf(sealed.resources))) {
         refuse(sealed.resourcesName, "is not the one that was sealed with " + slice.name());
+    }
+    // Older ways to say what has to be fixed up are not read; frameworks for older systems have them.
+    if (slice.command(Command::chainedFixups)) {
+        readFixups(slice);
     }
     const auto version = slice.buildVersion();
     return {slice.processor(),    slice.content().size(), version ? version->minimumSystem : Version(),

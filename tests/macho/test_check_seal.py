@@ -295,6 +295,17 @@ class Input(SealedApplication):
         self.assertEqual(result.returncode, 2)
         self.assertRegex(result.stderr, f"^kestrune-check-seal: {name}: the arm64 half at .* are there\n$")
 
+    def test_with_a_fixup_outside_its_segment_is_named(self):
+        put_program(self.program, "arm64")
+        data = self.program.read_bytes()
+        # The first pointer of the data, from which the chain goes on to the import.
+        place = data.index(struct.pack("<Q", 1 << 63)) - 8
+        write(self.program, data[:place] + struct.pack("<Q", 3 << 51) + data[place + 8 :])
+        self.seal(self.app)
+        fixup = "the fixup at 0x10001000c is not within its page of the segment __DATA"
+        message = f"Tiny.app/Contents/MacOS/Tiny: the chained fixups: {fixup}"
+        self.assert_refused(self.app, message, status=2)
+
     def test_that_is_not_there_is_named(self):
         result = self.check(self.root / "Other.app")
         self.assertEqual(result.returncode, 2)
