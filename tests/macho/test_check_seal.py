@@ -46,6 +46,21 @@ class Seal(SealedApplication):
     def test_that_was_never_made_is_missed(self):
         self.assert_refused(self.app, "Tiny.app/Contents/_CodeSignature/CodeResources: is missing")
 
+    def test_covers_a_program_that_never_had_a_signature(self):
+        """As the linkers leave x86_64: without the load command, with room for it."""
+        put_program(self.program, "x86_64")
+        data = bytearray(self.program.read_bytes())
+        count, size = struct.unpack_from("<II", data, 16)
+        struct.pack_into("<II", data, 16, count - 1, size - 16)
+        data[32 + size - 16 : 32 + size] = bytes(16)
+        # Its end need not be where a signature may start.
+        link_edit = data.index(b"__LINKEDIT")
+        file_size = struct.unpack_from("<Q", data, link_edit + 40)[0]
+        struct.pack_into("<Q", data, link_edit + 40, file_size - 3)
+        write(self.program, bytes(data[:-3]))
+        self.seal(self.app)
+        self.assertEqual(len(self.assert_holds(self.app)), 1)
+
     def test_covers_a_program_for_one_processor(self):
         put_program(self.program, "arm64")
         self.seal(self.app)

@@ -79,13 +79,13 @@ class Sealing(SealTest):
         self.assertEqual(offset + size, len(data))
         self.assertGreater(len(data), before)
 
-    def test_refuses_a_program_without_a_place_for_the_signature(self):
+    def test_refuses_a_program_without_room_for_a_signature(self):
         path = self.contents / "MacOS/Tiny"
         data = (PROGRAMS / "arm64.macho").read_bytes()
         command = struct.pack("<II", 0x1D, 16)
         self.assertEqual(data.count(command), 1)
         write(path, data.replace(command, struct.pack("<II", 0x2A, 16)))
-        self.assert_refused(path, "has no code signature to replace (arm64); link with -adhoc_codesign")
+        self.assert_refused(path, "has no room for a code signature (arm64); link with -headerpad")
 
     def test_refuses_a_program_for_another_processor(self):
         path = self.contents / "MacOS/Tiny"

@@ -44,7 +44,7 @@ class Half:
             place += size
         self._signature = next((place for kind, place in self._commands if kind == CODE_SIGNATURE), None)
         if self._signature is None:
-            raise Failure(f"has no code signature to replace ({self.processor}); link with -adhoc_codesign")
+            self._signature = self._add_signature(count, place)
 
     @property
     def processor(self):
@@ -65,9 +65,7 @@ class Half:
 
     def section(self, segment, name):
         """The bytes of a section, or none."""
-        place = self._segment(segment)
-        count = struct.unpack_from("<I", self.data, place + 64)[0]
-        for start in range(place + 72, place + 72 + 80 * count, 80):
+        for start in self._section_headers(self._segment(segment)):
             if self.data[start : start + 16].rstrip(b"\0") == name:
                 size, offset = struct.unpack_from("<QI", self.data, start + 40)
                 return bytes(self.data[offset : offset + size])
@@ -85,6 +83,27 @@ class Half:
 
     def sign(self, signature):
         self.data[self._code_size :] = signature
+
+    def _add_signature(self, count, place):
+        """A load command behind the others, at `place`, for a half that never had a signature."""
+        size = 16
+        if place + size > min(offset for offset in self._sections() if offset):
+            raise Failure(f"has no room for a code signature ({self.processor}); link with -headerpad")
+        self.data += bytes(-len(self.data) % size)
+        struct.pack_into("<IIII", self.data, place, CODE_SIGNATURE, size, len(self.data), 0)
+        struct.pack_into("<II", self.data, 16, count + 1, place + size - LOAD_COMMANDS)
+        return place
+
+    def _sections(self):
+        """Where the sections start in the file, 0 for those that are filled with zeros."""
+        for kind, segment in self._commands:
+            if kind == SEGMENT:
+                for header in self._section_headers(segment):
+                    yield struct.unpack_from("<I", self.data, header + 48)[0]
+
+    def _section_headers(self, segment):
+        first, count = segment + 72, struct.unpack_from("<I", self.data, segment + 64)[0]
+        return range(first, first + 80 * count, 80)
 
     @property
     def _code_size(self):
