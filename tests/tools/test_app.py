@@ -4,6 +4,7 @@ import plistlib
 import re
 import subprocess
 import unittest
+import zipfile
 
 from releases import FEED_URL, PUBLIC_KEY, REAL_IDENTITY, ReleaseTest
 from trees import REPOSITORY
@@ -123,6 +124,9 @@ class Build(AppTest):
         self.assertTrue(self.path(f"{BUNDLE}/Contents/MacOS/Kestrune").is_file())
         self.assertTrue(self.path(f"{FRAMEWORK}/Versions/B/Autoupdate").is_file())
         self.assertTrue(self.path(f"{FRAMEWORK}/Autoupdate").is_symlink())
+        with zipfile.ZipFile(self.path("build/mac/Kestrune.zip")) as packed:
+            name = "Kestrune.app/Contents/Frameworks/Sparkle.framework/Autoupdate"
+            self.assertEqual(packed.read(name), b"Versions/Current/Autoupdate")
 
     def test_removes_the_services_for_sandboxed_applications(self):
         self.build("--sparkle", self.framework)
