@@ -1,7 +1,6 @@
 // Mach-O files: of what is accepted, everything that a loader would follow leads into the file and into the
 // image; what is refused is refused in one line that names the file.
 #include "tests/fuzz/Fuzzer.h"
-#include "tests/macho/Exports.h"
 #include "tests/macho/Fixups.h"
 #include "tests/macho/MachFile.h"
 
@@ -73,7 +72,6 @@ void attempt(Work work) {
 void checkSlice(const MachSlice& slice) {
     checkSegments(slice);
     attempt([&] { checkFixups(slice); });
-    attempt([&] { readExports(slice); });
     attempt([&] { slice.symbols(); });
     attempt([&] { slice.buildVersion(); });
     attempt([&] { slice.uuid(); });

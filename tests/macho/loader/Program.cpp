@@ -1,6 +1,8 @@
 #include "tests/macho/loader/Program.h"
 
+#include "tests/macho/CodeSignature.h"
 #include "tests/macho/MachFile.h"
+#include "tests/macho/SealError.h"
 #include "tests/macho/loader/Unwinding.h"
 
 #include <dlfcn.h>
@@ -23,8 +25,14 @@ struct Program {
     Program(const std::string& path, MessageChecks checks)
         : content(contentOf(path)),
           file(content, path),
-          image(file.slice(Processor::x86_64), importsOfThisProcess(checks)) {
+          image(sealed(file.slice(Processor::x86_64)), importsOfThisProcess(checks)) {
         registerUnwinding(image);
+    }
+
+    // The system ends a program at the first page that is not what was signed.
+    static const MachSlice& sealed(const MachSlice& slice) {
+        verifyCode(readCodeSignature(slice), slice);
+        return slice;
     }
 
     static std::vector<std::uint8_t> contentOf(const std::string& path) {
@@ -44,7 +52,7 @@ struct Program {
 const LoadedImage& load(const std::string& path, MessageChecks checks) {
     try {
         return (new Program(path, checks))->image;
-    } catch (const MachError& error) {
+    } catch (const std::runtime_error& error) { // MachError or SealError
         std::fprintf(stderr, "%s\n", error.what());
         std::exit(2);
     }

@@ -1,0 +1,89 @@
+"""What a Mac would refuse, the build for Macs refuses here: tiny programs, each with one mistake."""
+
+import subprocess
+import unittest
+
+from trees import REPOSITORY, TreeTest
+
+LLVM = REPOSITORY / "build/llvm"
+
+PROJECT = f"""
+cmake_minimum_required(VERSION 3.25)
+project(Refused CXX)
+set(CMAKE_CXX_STANDARD 20)
+file(GLOB sources *.cpp)
+foreach(source IN LISTS sources)
+    cmake_path(GET source STEM name)
+    add_executable(${{name}} ${{source}})
+    target_compile_options(${{name}} PRIVATE -Wall)
+endforeach()
+"""
+
+PROGRAMS = {
+    "right": """
+        #include <string>
+        int main() { return static_cast<int>(std::to_string(7U).size()) - 1; }
+    """,
+    "undefined": """
+        extern "C" void nobodyHasThis();
+        int main() { nobodyHasThis(); }
+    """,
+    # In LLVM's library from 15 on, and in macOS from 13.3 on.
+    "too_new_a_symbol": """
+        namespace std { inline namespace __1 { void __libcpp_verbose_abort(const char*, ...); } }
+        int main() { std::__libcpp_verbose_abort("no"); }
+    """,
+    # In macOS from 13.3 on, as the library's headers say.
+    "too_new_a_function": """
+        #include <charconv>
+        int main() {
+            char text[32];
+            return std::to_chars(text, text + 32, 1.5).ptr == text ? 1 : 0;
+        }
+    """,
+    "warning": """
+        int main() { int unused; }
+    """,
+}
+
+
+@unittest.skipUnless(LLVM.is_dir(), "tools/setup app has not been run")
+class CrossBuild(TreeTest):
+    def setUp(self):
+        super().setUp()
+        self.write({"project/CMakeLists.txt": PROJECT})
+        self.write({f"project/{name}.cpp": text for name, text in PROGRAMS.items()})
+
+    def configure(self, processor):
+        build = self.root / f"build {processor}"
+        command = ["cmake", "-G", "Ninja", "-S", self.root / "project", "-B", build]
+        settings = {
+            "CMAKE_BUILD_TYPE": "Release",
+            "CMAKE_COMPILE_WARNING_AS_ERROR": "ON",
+            "KESTRUNE_ARCH": processor,
+            "KESTRUNE_LLVM": LLVM / "tools",
+            "KESTRUNE_LIBCXX": LLVM / "libcxx",
+        }
+        command += ["--toolchain", REPOSITORY / "cmake/darwin.cmake"]
+        command += [f"-D{name}={value}" for name, value in settings.items()]
+        subprocess.run(command, check=True, capture_output=True)
+        return build
+
+    def assert_refused(self, build, program, reason):
+        result = subprocess.run(["ninja", "-C", build, program], capture_output=True, encoding="utf-8")
+        self.assertNotEqual(result.returncode, 0, program)
+        self.assertRegex(result.stdout, reason)
+
+    def test_refuses_each_mistake_and_takes_what_is_right(self):
+        for processor in ("arm64", "x86_64"):
+            with self.subTest(processor):
+                build = self.configure(processor)
+                subprocess.run(["ninja", "-C", build, "right"], check=True, capture_output=True)
+                self.assert_refused(build, "undefined", "undefined symbol: nobodyHasThis")
+                self.assert_refused(build, "too_new_a_symbol", "undefined symbol: std::.*verbose_abort")
+                self.assert_refused(build, "too_new_a_function", "'to_chars' is unavailable: introduced in macOS 13.3")
+                self.assert_refused(build, "warning", "error: unused variable 'unused'")
+
+
+if __name__ == "__main__":
+    unittest.main()
