@@ -108,8 +108,8 @@ void MachSlice::requireSeparateSegments() const {
     std::transform(segments_.begin(), segments_.end(), std::back_inserter(sorted),
                    [](const Segment& segment) { return &segment; });
     const auto require = [&](auto start, auto size, const char* where) {
-        std::stable_sort(sorted.begin(), sorted.end(),
-                         [&](const Segment* one, const Segment* two) { return one->*start < two->*start; });
+        std::sort(sorted.begin(), sorted.end(),
+                  [&](const Segment* one, const Segment* two) { return one->*start < two->*start; });
         const Segment* before = nullptr;
         for (const Segment* segment : sorted) {
             if (before && segment->*size != 0 && segment->*start - before->*start < before->*size) {

@@ -14,6 +14,9 @@ namespace {
 struct FreeMemory {
     void operator()(char* memory) const { std::free(memory); }
 };
+struct FreeList {
+    void operator()(plist_t list) const { plist_free(list); }
+};
 using Text = std::unique_ptr<char, FreeMemory>;
 
 PropertyValue valueOf(plist_t node);
@@ -57,11 +60,6 @@ PropertyValue valueOf(plist_t node) {
         plist_get_bool_val(node, &value);
         return {value != 0};
     }
-    case PLIST_UINT: {
-        std::uint64_t value = 0;
-        plist_get_uint_val(node, &value);
-        return {static_cast<double>(value)};
-    }
     case PLIST_REAL: {
         double value = 0;
         plist_get_real_val(node, &value);
@@ -104,7 +102,7 @@ std::optional<PropertyValue> readPropertyListFile(std::span<const std::uint8_t> 
     } else {
         plist_from_xml(data, size, &root);
     }
-    const std::unique_ptr<void, decltype(&plist_free)> owned(root, &plist_free);
+    const std::unique_ptr<void, FreeList> owned(root);
     return root ? std::optional(valueOf(root)) : std::nullopt;
 }
 
