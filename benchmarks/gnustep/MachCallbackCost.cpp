@@ -37,7 +37,8 @@ bool measureAll(bool isQuick) {
     gnustep::installStandIns();
     gnustep::setMainBundle(scenarios::shippedBundle(), gnustep::privateHome());
     makeSession();
-    gnustep::runUntilLaunched([] { gnustep::launchProgram(KESTRUNE_PROGRAM, macho::MessageChecks::none); });
+    gnustep::runUntilLaunched(
+        [] { gnustep::launchProgram(gnustep::programForMacs(), macho::MessageChecks::none); });
     const TapListener mach = firstTap();
     // Its tap stands before the program's.
     GuardedSession session;

@@ -7,7 +7,8 @@ namespace kestrune::scenarios {
 struct LaunchedApplication::State {};
 
 LaunchedApplication::LaunchedApplication(contract::World& world) {
-    world.launch([] { gnustep::launchProgram(KESTRUNE_PROGRAM, macho::MessageChecks::structureReturns); });
+    world.launch(
+        [] { gnustep::launchProgram(gnustep::programForMacs(), macho::MessageChecks::structureReturns); });
     world.runMainQueue();
 }
 

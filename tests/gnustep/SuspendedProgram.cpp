@@ -5,6 +5,7 @@
 
 #include <ucontext.h>
 
+#include <cstdlib>
 #include <vector>
 
 namespace kestrune::gnustep {
@@ -41,6 +42,11 @@ void begin() {
 }
 
 } // namespace
+
+std::string programForMacs() {
+    const char* const named = std::getenv("KESTRUNE_PROGRAM");
+    return named != nullptr ? named : KESTRUNE_PROGRAM;
+}
 
 // On a stack of its own.
 void launchProgram(const std::string& path, macho::MessageChecks checks) {

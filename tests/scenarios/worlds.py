@@ -12,6 +12,8 @@ REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(REPOSITORY / "tests/gnustep"))
 import xserver  # noqa: E402
 
+FIRST_RUN = "FirstRun.GoesFromTheLaunchToAHeldDock"
+
 SECONDS = 120
 
 

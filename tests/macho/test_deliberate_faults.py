@@ -1,0 +1,75 @@
+"""Programs for Macs with one fault each: running them names it."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import unittest
+
+import worlds
+from releasing import sealing
+from releasing.linux import PROGRAM
+from trees import TreeTest
+
+STORIES = pathlib.Path(os.environ["KESTRUNE_STORIES"])
+APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
+
+UNREADABLE = 2
+
+
+class DeliberateFaults(TreeTest):
+    @classmethod
+    def setUpClass(cls):
+        stage = worlds.stage()
+        _, cls.environment = stage.__enter__()
+        cls.addClassCleanup(stage.__exit__, None, None, None)
+
+    def setUp(self):
+        super().setUp()
+        self.application = self.root / "Kestrune.app"
+        shutil.copytree(APPLICATION, self.application)
+        self.program = self.application / PROGRAM
+
+    def replace(self, old, new):
+        """Wherever it stands in the program, at the same length."""
+        content = self.program.read_bytes()
+        self.assertIn(old, content)
+        self.assertEqual(len(old), len(new))
+        self.program.write_bytes(content.replace(old, new))
+
+    def run_story(self):
+        settings = {"GTEST_FILTER": worlds.FIRST_RUN, "KESTRUNE_PROGRAM": str(self.program)}
+        return subprocess.run(
+            [STORIES], env=self.environment | settings, capture_output=True, encoding="utf-8", timeout=120
+        )
+
+    def assert_named(self, *parts):
+        result = self.run_story()
+        self.assertNotEqual(result.returncode, 0)
+        for part in parts:
+            self.assertIn(part, result.stdout + result.stderr)
+        return result
+
+    def test_none_is_found_in_the_program_as_it_is(self):
+        result = self.run_story()
+        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+
+    def test_a_structure_that_is_returned_in_another_way(self):
+        self.replace(b"\0_objc_msgSend_stret\0", b"\0_objc_msgSend\0_stret\0")
+        sealing.seal(self.application)
+        self.assert_named("] returns a structure in memory and was sent objc_msgSend")
+
+    def test_a_symbol_that_no_library_has(self):
+        self.replace(b"\0_CFRelease\0", b"\0_CFReleasf\0")
+        sealing.seal(self.application)
+        result = self.assert_named("imports what is not there: _CFReleasf of ", "/CoreFoundation")
+        self.assertEqual(result.returncode, UNREADABLE)
+
+    def test_a_page_that_is_not_what_was_sealed(self):
+        self.replace(b"\0Pin Dock to:\0", b"\0Pin Dock at:\0")
+        result = self.assert_named(str(self.program), "page")
+        self.assertEqual(result.returncode, UNREADABLE)
+
+
+if __name__ == "__main__":
+    unittest.main()
