@@ -170,7 +170,7 @@ CodeSignature readCodeSignature(const MachSlice& slice) {
     return signature;
 }
 
-void verifyCode(const CodeSignature& signature, const MachSlice& slice) {
+void verifyPages(const CodeSignature& signature, const MachSlice& slice) {
     verifyExtent(signature, slice);
     for (std::size_t page = 0; page < signature.pages.size(); ++page) {
         const std::uint64_t start = page * signature.pageSize;
@@ -180,6 +180,10 @@ void verifyCode(const CodeSignature& signature, const MachSlice& slice) {
                             " to " + hexadecimal(start + size) + ", was changed after it was sealed");
         }
     }
+}
+
+void verifyCode(const CodeSignature& signature, const MachSlice& slice) {
+    verifyPages(signature, slice);
     // What the signature itself holds, entitlements among it; the rest is the bundle's to compare.
     for (const auto& [slot, hash] : signature.specials) {
         const auto attachment = signature.attachments.find(slot);

@@ -41,7 +41,10 @@ struct CodeSignature {
 // Throws SealError for a program without one, and MachError for one that cannot be read.
 CodeSignature readCodeSignature(const MachSlice& slice);
 
-// Throws SealError for the first page, or the first part of the signature, that is not what was signed.
+// Throws SealError for the first page that is not what was signed. It is all that a linker's signature has.
+void verifyPages(const CodeSignature& signature, const MachSlice& slice);
+
+// The same also for the parts of the signature.
 void verifyCode(const CodeSignature& signature, const MachSlice& slice);
 
 } // namespace kestrune::macho

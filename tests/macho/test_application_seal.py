@@ -1,15 +1,16 @@
-"""The seal of the application itself, when `make app` has built it here."""
+"""The seal of the application itself, as `make test` builds it."""
 
+import os
+import pathlib
 import shutil
 import unittest
 
 from tiny_bundles import SealTest
-from trees import REPOSITORY
 
-APPLICATION = REPOSITORY / "build/cross/Kestrune.app"
+APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
 
 
-@unittest.skipUnless(APPLICATION.exists(), "make app has not been run")
+@unittest.skipUnless(APPLICATION.exists(), "make test has not built it")
 class ApplicationSeal(SealTest):
     def setUp(self):
         super().setUp()

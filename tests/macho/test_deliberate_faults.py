@@ -55,7 +55,7 @@ class DeliberateFaults(TreeTest):
         self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
 
     def test_a_structure_that_is_returned_in_another_way(self):
-        self.replace(b"\0_objc_msgSend_stret\0", b"\0_objc_msgSend\0_stret\0")
+        self.replace(b"\0_objc_msgSend_stret\0", b"\0_objc_msgSend\0stret\0")
         sealing.seal(self.application)
         self.assert_named("] returns a structure in memory and was sent objc_msgSend")
 

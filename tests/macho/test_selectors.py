@@ -1,19 +1,20 @@
 """Every selector in the shipped program is declared, and every declared one is in both of its halves."""
 
+import os
 import pathlib
 import re
 import unittest
 
-from releasing.linux import PROGRAM, Linux
+from releasing.linux import PROGRAM
 from releasing.sealing import machofile
 
 REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
-APPLICATION = REPOSITORY / Linux.application
+APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
 
-# A text with a colon that ends a word, as in "setFrame:display:". Those without any look like other texts.
-SELECTOR = re.compile(rb"(?<=\0)[A-Za-z_]\w*:(?:\w+:)*(?=\0)")
+# A text of words that end with colons, as in "setFrame:display:". Those without any look like other texts.
+SELECTOR = re.compile(rb"(?<=\0)[a-z]\w{2,}:(?:\w+:)*(?=\0)")
 IN_QUOTES = re.compile(r'"([\w:]+)"')
-ACTION = re.compile(r'Selector\w*[({]"([\w:]+)"')
+ACTION = re.compile(r'"([a-z]\w+:)"')
 
 
 def texts_in(folder, pattern, glob):
@@ -31,11 +32,11 @@ def actions():
     return texts_in("Kestrune", ACTION, "*.cpp")
 
 
-@unittest.skipUnless(APPLICATION.is_dir(), "make app has not built it")
+@unittest.skipUnless(APPLICATION.is_dir(), "make test has not built it")
 class Selectors(unittest.TestCase):
     def setUp(self):
         program = (APPLICATION / PROGRAM).read_bytes()
-        self.halves = [half.data for half in machofile.parts_of(program)]
+        self.halves = [half.data for half in machofile.halves_of(program)]
         self.assertEqual(len(self.halves), 2)
 
     def test_each_is_declared(self):

@@ -2,7 +2,7 @@
 // caller had called it. Frames are described, as an exception may come out of the look-up.
     .text
 
-    .macro message name, receiver, selector, lookUp, toNil
+    .macro message name, lookUp, toNil
     .globl \name
     .type \name, @function
 \name:
@@ -29,11 +29,7 @@
     movaps %xmm5, -160(%rbp)
     movaps %xmm6, -176(%rbp)
     movaps %xmm7, -192(%rbp)
-    // The receiver may be in the register that gets the selector.
-    movq \selector, %rax
-    movq \receiver, %rdi
-    movq %rax, %rsi
-    leaq \toNil(%rip), %rdx
+    leaq \toNil(%rip), %rcx
     call \lookUp@PLT
     movq %rax, %r11
     movq -8(%rbp), %rdi
@@ -59,10 +55,10 @@
     .size \name, . - \name
     .endm
 
-    message kestruneMessage, %rdi, %rsi, kestruneLookUp, zero
-    message kestruneMessageForStructure, %rsi, %rdx, kestruneLookUp, place
-    message kestruneCheckedMessage, %rdi, %rsi, kestruneLookUpChecked, zero
-    message kestruneCheckedMessageForStructure, %rsi, %rdx, kestruneLookUpCheckedForStructure, place
+    message kestruneMessage, kestruneLookUp, zero
+    message kestruneMessageForStructure, kestruneLookUpForStructure, place
+    message kestruneCheckedMessage, kestruneLookUpChecked, zero
+    message kestruneCheckedMessageForStructure, kestruneLookUpCheckedForStructure, place
 
     .type zero, @function
 zero:

@@ -12,6 +12,7 @@
 extern "C" {
 int objc_sizeof_type(const char* encoding);
 const char* objc_skip_type_qualifiers(const char* encoding);
+BOOL sel_is_mapped(SEL selector);
 }
 
 namespace kestrune::macho {
@@ -38,6 +39,20 @@ std::string nameOf(Class type, SEL selector) {
            sel_getName(selector) + "]";
 }
 
+[[noreturn]] void refuse(Class type, SEL selector, bool returnsInMemory) {
+    fatal(nameOf(type, selector) + (returnsInMemory
+                                        ? " returns a structure in memory and was sent objc_msgSend"
+                                        : " returns nothing in memory and was sent objc_msgSend_stret"));
+}
+
+// Who wants a structure in memory says first where, and the receiver and the selector come one place later.
+// So what stands in the place of the selector tells that the message was sent in the other way.
+void requireSelector(SEL selector, id otherReceiver, SEL otherSelector, bool otherReturnsInMemory) {
+    if (sel_is_mapped(selector) == 0 && sel_is_mapped(otherSelector) != 0) {
+        refuse(object_getClass(otherReceiver), otherSelector, otherReturnsInMemory);
+    }
+}
+
 void requireReturn(Class type, SEL selector, bool inMemory) {
     const Method method = class_getInstanceMethod(type, selector);
     const char* const encoding = method != nullptr ? method_getTypeEncoding(method) : nullptr;
@@ -45,12 +60,9 @@ void requireReturn(Class type, SEL selector, bool inMemory) {
         return;
     }
     const char* const result = objc_skip_type_qualifiers(encoding);
-    const bool isStructure = *result == '{';
-    const bool wantsMemory = isStructure && objc_sizeof_type(result) > LargestInRegisters;
-    if (wantsMemory != inMemory) {
-        fatal(nameOf(type, selector) + (wantsMemory
-                                            ? " returns a structure in memory and was sent objc_msgSend"
-                                            : " returns nothing in memory and was sent objc_msgSend_stret"));
+    const bool returnsInMemory = *result == '{' && objc_sizeof_type(result) > LargestInRegisters;
+    if (returnsInMemory != inMemory) {
+        refuse(type, selector, returnsInMemory);
     }
 }
 
@@ -62,25 +74,40 @@ void check(id receiver, SEL selector, bool inMemory) {
     }
 }
 
-} // namespace
-
-// What the assembly calls: the function to go on to. `toNil` is its own for a message to nil.
-extern "C" IMP kestruneLookUp(id receiver, SEL selector, IMP toNil) {
+IMP lookUp(id receiver, SEL selector, IMP toNil) {
     return receiver != nullptr ? objc_msg_lookup(receiver, selector) : toNil;
 }
 
-extern "C" IMP kestruneLookUpChecked(id receiver, SEL selector, IMP toNil) {
-    if (receiver != nullptr) {
-        check(receiver, selector, false);
-    }
-    return kestruneLookUp(receiver, selector, toNil);
+id object(void* in) { return static_cast<id>(in); }
+
+SEL selector(void* in) { return static_cast<SEL>(in); }
+
+} // namespace
+
+// What the assembly calls with the first three registers for arguments: the function to go on to. `toNil` is
+// its own for a message to nil.
+extern "C" IMP kestruneLookUp(void* first, void* second, void* /*third*/, IMP toNil) {
+    return lookUp(object(first), selector(second), toNil);
 }
 
-extern "C" IMP kestruneLookUpCheckedForStructure(id receiver, SEL selector, IMP toNil) {
-    if (receiver != nullptr) {
-        check(receiver, selector, true);
+extern "C" IMP kestruneLookUpForStructure(void* /*first*/, void* second, void* third, IMP toNil) {
+    return lookUp(object(second), selector(third), toNil);
+}
+
+extern "C" IMP kestruneLookUpChecked(void* first, void* second, void* third, IMP toNil) {
+    if (first != nullptr) {
+        requireSelector(selector(second), object(second), selector(third), true);
+        check(object(first), selector(second), false);
     }
-    return kestruneLookUp(receiver, selector, toNil);
+    return lookUp(object(first), selector(second), toNil);
+}
+
+extern "C" IMP kestruneLookUpCheckedForStructure(void* first, void* second, void* third, IMP toNil) {
+    if (second != nullptr) {
+        requireSelector(selector(third), object(first), selector(second), false);
+        check(object(second), selector(third), true);
+    }
+    return lookUp(object(second), selector(third), toNil);
 }
 
 } // namespace kestrune::macho

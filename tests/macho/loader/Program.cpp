@@ -31,7 +31,7 @@ struct Program {
 
     // The system ends a program at the first page that is not what was signed.
     static const MachSlice& sealed(const MachSlice& slice) {
-        verifyCode(readCodeSignature(slice), slice);
+        verifyPages(readCodeSignature(slice), slice);
         return slice;
     }
 

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 namespace kestrune::macho {
@@ -45,6 +47,12 @@ TEST(CompactUnwind, IsReadFromBothKindsOfPages) {
     EXPECT_EQ(functions[1].languageData, TinyUnwind::LanguageData);
 }
 
+TEST(CompactUnwind, IsKeptForTheFuzzer) {
+    std::ifstream file(KESTRUNE_LOADER_FILES "/unwind-info", std::ios::binary);
+    const Content kept{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    EXPECT_EQ(kept, TinyUnwind{}.bytes());
+}
+
 TEST(CompactUnwind, RefusesWhatItDoesNotKnow) {
     EXPECT_EQ(refusalOf({.version = 2}), "Tiny: has the version 2");
     EXPECT_EQ(refusalOf({.firstPageKind = 4}), "Tiny: has a page of the kind 4");
@@ -54,7 +62,7 @@ TEST(CompactUnwind, RefusesWhatItDoesNotKnow) {
 TEST(CompactUnwind, DoesNotReadBehindItsEnd) {
     const Content whole = TinyUnwind{}.bytes();
     for (std::size_t size = 0; size < whole.size(); ++size) {
-        const Bytes cut(std::span(whole).first(size), "Tiny");
+        const Bytes cut(std::span<const std::uint8_t>(whole).first(size), "Tiny");
         EXPECT_THROW(readCompactUnwind(cut), MachError) << size << " of " << whole.size() << " bytes";
     }
 }
