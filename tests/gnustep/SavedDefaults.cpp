@@ -13,6 +13,10 @@ namespace kestrune::gnustep {
 
 namespace {
 
+// A path with a space would be two libraries in LD_PRELOAD; it is one folder in LD_LIBRARY_PATH.
+constexpr const char* HomeLibrary =
+    "LD_LIBRARY_PATH=\"" KESTRUNE_HOME_LIBRARY_FOLDER "\" LD_PRELOAD=" KESTRUNE_HOME_LIBRARY;
+
 struct Output {
     std::string text;
     bool isSuccess = false;
@@ -42,10 +46,8 @@ std::optional<std::string> savedDefault(std::string_view key) {
     const mac::Pool pool;
     const id defaults = mac::foundation.userDefaults.standardUserDefaults();
     send<BOOL>(defaults, "synchronize");
-    // A path with a space would be two libraries in LD_PRELOAD; it is one folder in LD_LIBRARY_PATH.
-    const Output output = outputOf("LD_LIBRARY_PATH=\"" KESTRUNE_HOME_LIBRARY_FOLDER "\" LD_PRELOAD=" //
-                                   KESTRUNE_HOME_LIBRARY " defaults read " +
-                                   nameOfProcess() + " " + std::string(key) + " 2>/dev/null");
+    const Output output = outputOf(std::string(HomeLibrary) + " defaults read " + nameOfProcess() + " " +
+                                   std::string(key) + " 2>/dev/null");
     // "domain key value", the value without quotes if it needs none.
     const std::string head = nameOfProcess() + " " + std::string(key) + " ";
     if (!output.isSuccess || !output.text.starts_with(head)) {

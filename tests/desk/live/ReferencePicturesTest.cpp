@@ -1,4 +1,5 @@
-// The pictures of the wizard and of Settings must stay as they are in references/.
+// The pictures of the wizard and of Settings must stay as they are in references/, which have boxes in the
+// place of letters and are the same with every font.
 //
 // Wherever a picture is meant to change, look at the new one and then make it the reference:
 //
@@ -137,6 +138,7 @@ TEST_P(ReferencePictures, DifferBetweenLightAndDarkAllOver) {
     EXPECT_GT(difference->mean, AllOver);
 }
 
+// They are laid out again, for the widths that letters have here.
 TEST_P(ReferencePictures, HaveRoomForTheLettersOfTheFontThatIsThere) {
     const WindowPicture window = page(false, nullptr).window;
     EXPECT_LE(lettersBeside(window, window).maximum, MaximumTolerance);
