@@ -1,6 +1,6 @@
 #include "sim/DefaultsFile.h"
 
-#include "tests/desk/recording/TemporaryFolder.h"
+#include "tests/base/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -39,7 +39,7 @@ protected:
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     }
 
-    desk::TemporaryFolder folder_;
+    TemporaryFolder folder_;
 };
 
 TEST_F(DefaultsFileTest, HasNoEntriesWhenThereIsNoFile) {

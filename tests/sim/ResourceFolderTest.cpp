@@ -1,5 +1,7 @@
 #include "sim/ResourceFolder.h"
 
+#include "tests/base/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -13,27 +15,21 @@ namespace fs = std::filesystem;
 
 class ResourceFolder : public testing::Test {
 protected:
-    ResourceFolder()
-        : folder_(fs::path(testing::TempDir()) /
-                  (std::string("kestrune-resources-") +
-                   testing::UnitTest::GetInstance()->current_test_info()->name())) {
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
+    ResourceFolder() {
         write("Info.plist", R"(<plist version="1.0"><dict>
             <key>CFBundleIdentifier</key><string>org.example.App</string>
             <key>LSUIElement</key><true/></dict></plist>)");
     }
-    ~ResourceFolder() override { fs::remove_all(folder_); }
 
     void write(const fs::path& name, const std::string& content) {
-        fs::create_directories((folder_ / name).parent_path());
-        std::ofstream(folder_ / name, std::ios::binary) << content;
+        fs::create_directories((folder_.path() / name).parent_path());
+        std::ofstream(folder_.path() / name, std::ios::binary) << content;
     }
 
-    std::string path(const fs::path& name) const { return (folder_ / name).string(); }
+    std::string path(const fs::path& name) const { return (folder_.path() / name).string(); }
 
     BundleContents loaded() const {
-        const auto contents = loadResourceFolder(folder_.string());
+        const auto contents = loadResourceFolder(folder_.path().string());
         if (const auto* error = std::get_if<std::string>(&contents)) {
             ADD_FAILURE() << *error;
             return {};
@@ -42,12 +38,12 @@ protected:
     }
 
     std::string refusal() const {
-        const auto contents = loadResourceFolder(folder_.string());
+        const auto contents = loadResourceFolder(folder_.path().string());
         const auto* error = std::get_if<std::string>(&contents);
         return error != nullptr ? *error : "accepted";
     }
 
-    fs::path folder_;
+    TemporaryFolder folder_;
 };
 
 TEST_F(ResourceFolder, HasTheInformationOfTheBundle) {
@@ -98,8 +94,8 @@ TEST_F(ResourceFolder, KnowsNothingOfTheBundleWithoutItsInformation) {
 }
 
 TEST_F(ResourceFolder, IsRefusedWhenItIsMissing) {
-    fs::remove_all(folder_);
-    EXPECT_EQ(refusal().rfind(folder_.string() + ": cannot be read: ", 0), 0U) << refusal();
+    fs::remove_all(folder_.path());
+    EXPECT_EQ(refusal().rfind(folder_.path().string() + ": cannot be read: ", 0), 0U) << refusal();
 }
 
 } // namespace

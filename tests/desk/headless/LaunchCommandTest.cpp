@@ -1,6 +1,6 @@
 #include "desk/headless/LaunchCommand.h"
 
-#include "tests/desk/recording/TemporaryFolder.h"
+#include "tests/base/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

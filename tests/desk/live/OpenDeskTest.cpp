@@ -2,8 +2,8 @@
 
 #include "sim/DefaultsFile.h"
 #include "sim/StatusItemState.h"
+#include "tests/base/TemporaryFolder.h"
 #include "tests/desk/live/LiveFixture.h"
-#include "tests/desk/recording/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -11,9 +11,9 @@
 #include "desk/live/WizardPictures.h"
 #include "desk/paint/ContactSheet.h"
 #include "sim/FixedAdvanceMeasurer.h"
+#include "tests/base/TemporaryFolder.h"
 #include "tests/desk/live/PictureDifference.h"
 #include "tests/desk/live/WithoutLetters.h"
-#include "tests/desk/recording/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "desk/live/SettingsTour.h"
 
 #include "desk/live/SettingsPictures.h"
-#include "tests/desk/recording/TemporaryFolder.h"
+#include "tests/base/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "desk/live/Tour.h"
 
-#include "tests/desk/recording/TemporaryFolder.h"
+#include "tests/base/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,7 @@
 #include "desk/paint/ContactSheet.h"
 
 #include "tests/base/Overlap.h"
+#include "tests/base/TemporaryFolder.h"
 #include "tests/desk/paint/PaintedCanvas.h"
 #include "tests/desk/paint/WindowPictures.h"
 
@@ -59,7 +60,8 @@ TEST(ContactSheet, ShowsEachWindowInItsAppearance) {
 }
 
 TEST(ContactSheet, IsWrittenToAFileOrSaysWhyNot) {
-    const std::string path = testing::TempDir() + "kestrune-sheet.png";
+    const TemporaryFolder folder;
+    const std::string path = folder.path() / "sheet.png";
     EXPECT_FALSE(writeContactSheet(path, sheetOf(2, 2), 1));
     EXPECT_GT(std::filesystem::file_size(path), 10'000U);
     EXPECT_FALSE(writeWindowPicture(path, windowWithControls(), true, 2));

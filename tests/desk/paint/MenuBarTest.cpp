@@ -1,5 +1,6 @@
 #include "desk/paint/ImageStore.h"
 #include "desk/paint/MenuBarLayout.h"
+#include "tests/base/TemporaryFolder.h"
 #include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
@@ -96,8 +97,8 @@ TEST(MenuBar, KeepsTheColoursOfOtherImages) {
 }
 
 TEST(MenuBar, KeepsTheSlotOfAnImageThatCannotBeRead) {
-    const std::string noPng = testing::TempDir() + "kestrune-no-png.txt";
-    std::ofstream{noPng} << "This is not a picture.";
+    const TemporaryFolder folder;
+    const std::string noPng = folder.file("no-png.txt", "This is not a picture.");
     DeskPicture picture = withStatusItem();
     const PaintedPicture without{picture};
     const Rect slot = menuBarOf(picture, 0).statusItems[0].slot;
@@ -106,7 +107,6 @@ TEST(MenuBar, KeepsTheSlotOfAnImageThatCannotBeRead) {
         EXPECT_FALSE(differenceOf(PaintedPicture{picture}, without)) << path;
         EXPECT_EQ(menuBarOf(picture, 0).statusItems[0].slot, slot);
     }
-    std::filesystem::remove(noPng);
 }
 
 TEST(MenuBar, HighlightsWhatTheOpenMenuHangsFromOnItsDisplayOnly) {

@@ -1,5 +1,6 @@
 #include "desk/paint/Surface.h"
 
+#include "tests/base/TemporaryFolder.h"
 #include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/PaintedPicture.h"
 
@@ -40,10 +41,10 @@ TEST(Surface, CoversEveryPixel) {
 }
 
 TEST(WritePng, WritesThePaintedPixels) {
-    const std::string path = testing::TempDir() + "kestrune-written-picture.png";
+    const TemporaryFolder folder;
+    const std::string path = folder.path() / "picture.png";
     ASSERT_FALSE(writePng(path, twoDisplays(), TestWindow, 1));
     const SurfaceHandle read{cairo_image_surface_create_from_png(path.c_str())};
-    std::filesystem::remove(path);
     ASSERT_EQ(cairo_surface_status(read.get()), CAIRO_STATUS_SUCCESS);
     const PaintedPicture painted{twoDisplays()};
     ASSERT_EQ(cairo_image_surface_get_width(read.get()), painted.width());
@@ -61,7 +62,8 @@ TEST(WritePng, WritesThePaintedPixels) {
 }
 
 TEST(WritePng, SaysWhyAFileCannotBeWritten) {
-    const std::string path = testing::TempDir() + "no-such-folder/picture.png";
+    const TemporaryFolder folder;
+    const std::string path = folder.path() / "no-such-folder/picture.png";
     const std::optional<PaintError> error = writePng(path, twoDisplays(), TestWindow, 1);
     ASSERT_TRUE(error);
     EXPECT_NE(error->message.find(path), std::string::npos);
@@ -69,7 +71,8 @@ TEST(WritePng, SaysWhyAFileCannotBeWritten) {
 }
 
 TEST(WritePng, RefusesAnImpossibleSize) {
-    const std::string path = testing::TempDir() + "kestrune-impossible.png";
+    const TemporaryFolder folder;
+    const std::string path = folder.path() / "impossible.png";
     EXPECT_TRUE(writePng(path, twoDisplays(), {0, 0}, 1));
     EXPECT_FALSE(std::filesystem::exists(path));
 }

@@ -4,12 +4,12 @@
 #include "desk/paint/DeskLayout.h"
 #include "desk/paint/MenuBarLayout.h"
 #include "desk/paint/TextMeasure.h"
+#include "tests/base/TemporaryFolder.h"
 #include "tests/desk/paint/PaintedPicture.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -18,7 +18,7 @@ namespace kestrune::desk {
 // A PNG file of 40 × 40 pixels for the length of a test: a filled square in the middle of nothing.
 class IconFile {
 public:
-    explicit IconFile(Color color = rgb(0x000000)) : path_(uniquePath()) {
+    explicit IconFile(Color color = rgb(0x000000)) {
         const SurfaceHandle surface{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 40, 40)};
         const ContextHandle context{cairo_create(surface.get())};
         cairo_set_source_rgb(context.get(), color.red, color.green, color.blue);
@@ -26,21 +26,12 @@ public:
         cairo_fill(context.get());
         cairo_surface_write_to_png(surface.get(), path_.c_str());
     }
-    ~IconFile() { std::filesystem::remove(path_); }
-
-    IconFile(const IconFile&) = delete;
-    IconFile& operator=(const IconFile&) = delete;
 
     const std::string& path() const { return path_; }
 
 private:
-    static std::string uniquePath() {
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        static int count = 0;
-        return testing::TempDir() + "kestrune-icon-" + test->name() + std::to_string(++count) + ".png";
-    }
-
-    std::string path_;
+    TemporaryFolder folder_;
+    std::string path_ = folder_.path() / "icon.png";
 };
 
 inline StatusItemPicture statusItem(const std::string& path) {

@@ -1,6 +1,6 @@
 #include "desk/recording/LineReader.h"
+#include "tests/base/TemporaryFolder.h"
 #include "tests/desk/recording/RecordingText.h"
-#include "tests/desk/recording/TemporaryFolder.h"
 
 #include <algorithm>
 #include <chrono>

@@ -3,7 +3,7 @@
 #include "desk/recording/MotionGenerator.h"
 #include "desk/recording/RecordingReader.h"
 #include "desk/recording/RecordingWriter.h"
-#include "tests/desk/recording/TemporaryFolder.h"
+#include "tests/base/TemporaryFolder.h"
 
 #include <algorithm>
 #include <cstdlib>

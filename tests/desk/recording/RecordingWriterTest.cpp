@@ -1,7 +1,7 @@
 #include "desk/recording/RecordingWriter.h"
 
 #include "desk/recording/RecordingReader.h"
-#include "tests/desk/recording/TemporaryFolder.h"
+#include "tests/base/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

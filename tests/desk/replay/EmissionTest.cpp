@@ -1,5 +1,7 @@
 #include "desk/replay/Emission.h"
 
+#include "tests/base/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -15,7 +17,8 @@ std::string contentOf(const std::string& path) {
 }
 
 TEST(Emission, WritesNumbersInTheShortestFormThatReadsBackEqual) {
-    const std::string path = ::testing::TempDir() + "emission.csv";
+    const TemporaryFolder folder;
+    const std::string path = folder.path() / "emission.csv";
     Emission emission(path);
     emission.write(0, {EventType::mouseMoved, {100, 0.1}, {100, 1.0 / 3}});
     emission.write(12, {EventType::otherMouseDragged, {-1920.00390625, 1e21}, {0, -0.5}});
@@ -24,7 +27,8 @@ TEST(Emission, WritesNumbersInTheShortestFormThatReadsBackEqual) {
 }
 
 TEST(Emission, NamesTheFileThatCannotBeWritten) {
-    const std::string path = ::testing::TempDir() + "no such folder/emission.csv";
+    const TemporaryFolder folder;
+    const std::string path = folder.path() / "no such folder/emission.csv";
     Emission emission(path);
     emission.write(0, {EventType::mouseMoved, {}, {}});
     const std::optional<InputError> error = emission.finish();

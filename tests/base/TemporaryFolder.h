@@ -2,23 +2,23 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <string_view>
 
-namespace kestrune::desk {
+namespace kestrune {
 
 class TemporaryFolder {
 public:
-    // Tests run in parallel processes: the process and the test make the name unique.
+    // With a name of its own: other processes run tests too, and some users cannot remove what others have
+    // left.
     TemporaryFolder() {
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        path_ = std::filesystem::temp_directory_path() /
-                (std::string(test->test_suite_name()) + "." + test->name() + "." + std::to_string(getpid()));
-        std::filesystem::create_directories(path_);
+        std::string name = (std::filesystem::temp_directory_path() / "kestrune-test-XXXXXX").string();
+        EXPECT_NE(mkdtemp(name.data()), nullptr) << name;
+        path_ = name;
     }
 
     ~TemporaryFolder() {
@@ -42,4 +42,4 @@ private:
     std::filesystem::path path_;
 };
 
-} // namespace kestrune::desk
+} // namespace kestrune
