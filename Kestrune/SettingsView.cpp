@@ -27,10 +27,10 @@ constexpr double Unbounded = std::numeric_limits<double>::infinity();
 View SettingsView::body() const {
     std::vector<View> startUp;
     startUp.push_back(ui::Toggle("Launch at login", model->launchAtLogin,
-                                 [model = model](bool isOn) { model->launchAtLogin = isOn; }));
+                                 [shown = model](bool isOn) { shown->launchAtLogin = isOn; }));
     std::vector<View> maintenance;
-    maintenance.push_back(Button("Check for Updates…", [model = model] { model->checkForUpdates(); }));
-    maintenance.push_back(Button("Report a Bug…", [model = model] { model->reportBug(); }));
+    maintenance.push_back(Button("Check for Updates…", [shown = model] { shown->checkForUpdates(); }));
+    maintenance.push_back(Button("Report a Bug…", [shown = model] { shown->reportBug(); }));
     std::vector<View> sections;
     sections.push_back(ui::Section(std::move(startUp)));
     sections.push_back(ui::Section(std::move(maintenance)));

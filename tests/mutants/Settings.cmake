@@ -50,7 +50,7 @@ kestrune_mutant(LoginSwitchPublishesOnlyChanges ${SETTINGS_MODEL}
 set(SETTINGS_VIEW FILE Kestrune/SettingsView.cpp DRIVER kestrune_shell_driver SEEDS 400)
 
 kestrune_mutant(LoginSwitchFlipsTheOtherWay ${SETTINGS_VIEW}
-    FROM "model->launchAtLogin = isOn;" TO "model->launchAtLogin = !isOn;")
+    FROM "shown->launchAtLogin = isOn;" TO "shown->launchAtLogin = !isOn;")
 kestrune_mutant(SettingsHaveTheirButtonsInTheOtherOrder ${SETTINGS_VIEW}
     FROM "maintenance.push_back(Button(\"Report a Bug…\""
     TO "maintenance.insert(maintenance.begin(), Button(\"Report a Bug…\"")
