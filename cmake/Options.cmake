@@ -1,7 +1,7 @@
 # Compiler settings shared by every target.
 option(KESTRUNE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(KESTRUNE_COVERAGE "Build with gcov instrumentation" OFF)
-option(KESTRUNE_JOIN_TESTS "Compile the files of a test program several at a time" OFF)
+option(KESTRUNE_JOIN "Compile files several at a time, but for those of the application" OFF)
 
 add_library(kestrune_options INTERFACE)
 target_compile_features(kestrune_options INTERFACE cxx_std_20)
@@ -37,9 +37,10 @@ if(KESTRUNE_COVERAGE)
     target_link_options(kestrune_options INTERFACE --coverage)
 endif()
 
-# For a folder of tests: most of their time goes into the headers of the test framework.
-macro(kestrune_join_tests)
-    if(KESTRUNE_JOIN_TESTS)
+# For a folder whose files take most of their time for headers. The application's stay apart, as each of them may be
+# replaced by one with a deliberate mistake.
+macro(kestrune_join)
+    if(KESTRUNE_JOIN)
         set(CMAKE_UNITY_BUILD ON)
         set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
         # A test of a file that is included derives from what only that file knows.

@@ -1,5 +1,6 @@
 #include "platform/Updater.h"
 
+#include "mac/MainBundle.h"
 #include "mac/ObjectCounterpart.h"
 #include "mac/ReportedError.h"
 #include "mac/Vocabulary.h"
@@ -22,12 +23,9 @@ struct Updater::State {
 
 namespace {
 
-// As every Bundle is the main one.
-id theMainBundle() { return mac::foundation.bundle.mainBundle(); }
-
 // In the Frameworks folder of the bundle, where it lies if it does.
 id bundleOfFramework() {
-    const id folder = mac::foundation.bundle.privateFrameworksPath(theMainBundle());
+    const id folder = mac::foundation.bundle.privateFrameworksPath(mac::theMainBundle());
     if (folder == nullptr) {
         return nullptr;
     }
@@ -69,7 +67,7 @@ StandardUserDriver::StandardUserDriver(const Bundle& /*hostBundle*/,
     const id instance = Object::Counterpart::of(delegate);
     adopt(instance, "SPUStandardUserDriverDelegate");
     state_->driver = mac::Retained::adopting(mac::sparkle.standardUserDriver.initWithHostBundle(
-        mac::allocate(mac::sparkle.standardUserDriver.find()), theMainBundle(), instance));
+        mac::allocate(mac::sparkle.standardUserDriver.find()), mac::theMainBundle(), instance));
 }
 
 Updater::Updater(const Bundle& /*hostBundle*/, const Bundle& /*applicationBundle*/,
@@ -82,9 +80,9 @@ Updater::Updater(const Bundle& /*hostBundle*/, const Bundle& /*applicationBundle
     }
     const id instance = Object::Counterpart::of(delegate);
     adopt(instance, "SPUUpdaterDelegate");
-    state_->updater = mac::Retained::adopting(
-        mac::sparkle.updater.initWithHostBundle(mac::allocate(mac::sparkle.updater.find()), theMainBundle(),
-                                                theMainBundle(), userDriver.state()->driver.get(), instance));
+    state_->updater = mac::Retained::adopting(mac::sparkle.updater.initWithHostBundle(
+        mac::allocate(mac::sparkle.updater.find()), mac::theMainBundle(), mac::theMainBundle(),
+        userDriver.state()->driver.get(), instance));
 }
 
 std::optional<Error> Updater::startUpdater() {

@@ -1,5 +1,6 @@
 """What a Mac would refuse, the build for Macs refuses here: tiny programs, each with one mistake."""
 
+import json
 import subprocess
 import unittest
 
@@ -57,15 +58,12 @@ class CrossBuild(TreeTest):
     def configure(self, processor):
         build = self.root / f"build {processor}"
         command = ["cmake", "-G", "Ninja", "-S", self.root / "project", "-B", build]
-        settings = {
-            "CMAKE_BUILD_TYPE": "Release",
-            "CMAKE_COMPILE_WARNING_AS_ERROR": "ON",
-            "KESTRUNE_ARCH": processor,
-            "KESTRUNE_LLVM": LLVM / "tools",
-            "KESTRUNE_LIBCXX": LLVM / "libcxx",
-        }
+        presets = json.loads((REPOSITORY / "CMakePresets.json").read_text(encoding="utf-8"))
+        (cross,) = (preset for preset in presets["configurePresets"] if preset["name"] == "cross")
+        settings = cross["cacheVariables"] | {"CMAKE_BUILD_TYPE": "Release", "KESTRUNE_ARCH": processor}
         command += ["--toolchain", REPOSITORY / "cmake/darwin.cmake"]
-        command += [f"-D{name}={value}" for name, value in settings.items()]
+        for name, value in settings.items():
+            command.append(f"-D{name}={value.replace('${sourceDir}', str(REPOSITORY))}")
         subprocess.run(command, check=True, capture_output=True)
         return build
 

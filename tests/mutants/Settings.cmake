@@ -55,7 +55,7 @@ kestrune_mutant(SettingsHaveTheirButtonsInTheOtherOrder ${SETTINGS_VIEW}
     FROM "maintenance.push_back(Button(\"Report a Bug…\""
     TO "maintenance.insert(maintenance.begin(), Button(\"Report a Bug…\"")
 kestrune_mutant(BothButtonsReportABug ${SETTINGS_VIEW}
-    FROM "model->checkForUpdates();" TO "model->reportBug();")
+    FROM "shown->checkForUpdates();" TO "shown->reportBug();")
 kestrune_mutant(ButtonEndsInFullStops ${SETTINGS_VIEW}
     FROM "Check for Updates…" TO "Check for Updates...")
 kestrune_mutant(FooterIsNotTranslated ${SETTINGS_VIEW}

@@ -1,0 +1,9 @@
+#include "mac/MainBundle.h"
+
+#include "mac/Vocabulary.h"
+
+namespace kestrune::mac {
+
+id theMainBundle() { return foundation.bundle.mainBundle(); }
+
+} // namespace kestrune::mac
