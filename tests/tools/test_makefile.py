@@ -27,7 +27,8 @@ class MakefileTest(TreeTest):
         shutil.copy(REPOSITORY / "Makefile", self.folder)
         self.program("bin/cmake", self.CONFIGURES)
         self.program("bin/ctest", "printf '%s\\n' ctest \"$@\" >> \"$LOG\"")
-        self.program("a folder/tools/setup", "")
+        self.program("a folder/tools/setup", 'echo "setup $*" >> "$LOG"')
+        self.program("a folder/tools/app", 'echo "app $*" >> "$LOG"')
         self.program("a folder/tools/check", 'echo "check $*" >> "$LOG"')
         self.program("a folder/tools/count-tests", 'echo "count-tests $*" >> "$LOG"')
         self.program("a folder/build/gcc/desk/kestrune-desk", 'echo "desk $*" >> "$LOG"')
@@ -50,7 +51,7 @@ class MakefileTest(TreeTest):
         return self.log.read_text(encoding="utf-8").splitlines()
 
     def configurations(self, *arguments, **environment):
-        return [line for line in self.make(*arguments, **environment) if "--preset" in line]
+        return [line for line in self.make(*arguments, **environment) if line.startswith("cmake --preset")]
 
     def configuration(self, preset, warnings_are_errors):
         state = "ON" if warnings_are_errors else "OFF"
@@ -86,6 +87,21 @@ class Warnings(MakefileTest):
     def test_are_none_for_whoever_builds(self):
         self.assertEqual(self.configurations("test"), self.configuration("gcc", False))
         self.assertEqual(self.configurations("test", "PRESET=clang"), self.configuration("clang", False))
+
+
+class WhatMacsGet(MakefileTest):
+    APP = "app --system Linux --sparkle none --folder build/gcc/app --preset gcc"
+    OTHERS = "cmake --build build/cross-x86_64"
+
+    def test_is_set_up_and_built_before_the_tests(self):
+        calls = self.make("test")
+        self.assertEqual(calls[0], "setup test app gcc")
+        self.assertEqual(calls[calls.index("ctest") - 2 : calls.index("ctest")], [self.APP, self.OTHERS])
+
+    def test_is_not_built_under_the_sanitizers(self):
+        calls = self.make("test", "PRESET=sanitize")
+        self.assertIn("ctest", calls)
+        self.assertFalse([line for line in calls if line.startswith("app ") or "cross" in line])
 
 
 class FolderWithASpace(MakefileTest):
