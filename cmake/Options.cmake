@@ -14,8 +14,8 @@ target_compile_options(kestrune_options INTERFACE
     # A fused multiply-add would round once where the platform rounds twice.
     -ffp-contract=off)
 
-# Crash reports of a Mac name addresses. The lines behind them are taken out of the program and kept; no path of
-# the machine that built it is in either.
+# Crash reports of a Mac name addresses. The lines behind them are taken out of the program and kept; no path
+# of the machine that built it is in either.
 if(APPLE)
     target_compile_options(kestrune_options INTERFACE
         $<$<CONFIG:Release>:-gline-tables-only> "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")

@@ -1,4 +1,4 @@
-"""Where stories are told: on the simulated Mac, on GNUstep, and on GNUstep by the program that is built for Macs."""
+"""Where stories are told: on the simulated Mac and on GNUstep, there also by the program built for Macs."""
 
 import contextlib
 import os
@@ -18,7 +18,7 @@ SECONDS = 120
 
 
 def all_worlds():
-    """The name of each and its program in a build folder. The program for Macs runs on its own processor only."""
+    """The name of each and its program in a build folder. That for Macs runs on its own processor only."""
     worlds = {
         "the simulated Mac": "tests/scenarios/scenarios_sim",
         "GNUstep": "tests/gnustep/scenarios_gnustep",
@@ -46,8 +46,8 @@ def stage():
 
 
 def tell(program, story, environment):
-    """Runs one test of a program. The names of files go through the environment: GNUstep takes an argument for a
-    document."""
+    """Runs one test of a program. The names of files go through the environment: GNUstep takes an argument
+    for a document."""
     if not program.is_file():
         raise Failure(f"{program} is not built; run make test, or tools/setup test and build everything")
     finished = subprocess.run(

@@ -83,7 +83,8 @@ class DryRun(LinuxTest):
         halves = [f"build/cross/Kestrune-{processor}" for processor in ("arm64", "x86_64")]
         built = [f"build/cross-{processor}/mac/Kestrune.app/{PROGRAM}" for processor in ("arm64", "x86_64")]
         symbols = f"{BUNDLE}.dSYM"
-        both_symbols = f"{symbols}/Contents/Resources/DWARF/Kestrune"
+        others = "build/cross/symbols"
+        both = f"{symbols}/Contents/Resources/DWARF/Kestrune"
         result = self.app("--dry-run", "--sparkle", "none")
         self.assertEqual((result.returncode, result.stderr, self.calls()), (0, "", []))
         self.assertEqual(
@@ -100,11 +101,11 @@ class DryRun(LinuxTest):
                 [f"{LLVM}/llvm-strip", "-o", halves[1], built[1]],
                 [f"{LLVM}/llvm-lipo", "-create", *halves, "-output", f"{BUNDLE}/{PROGRAM}"],
                 [f"{LLVM}/dsymutil", "--quiet", "-o", symbols, built[0]],
-                [f"{LLVM}/dsymutil", "--quiet", "--flat", "-o", "build/cross/symbols", built[1]],
-                [f"{LLVM}/llvm-lipo", "-create", both_symbols, "build/cross/symbols", "-output", both_symbols],
+                [f"{LLVM}/dsymutil", "--quiet", "--flat", "-o", others, built[1]],
+                [f"{LLVM}/llvm-lipo", "-create", both, others, "-output", both],
                 [f"{LLVM}/llvm-dwarfdump", "--uuid", symbols],
                 [f"{LLVM}/llvm-dwarfdump", "--uuid", f"{BUNDLE}/{PROGRAM}"],
-                ["rm", "-f", *halves, "build/cross/symbols"],
+                ["rm", "-f", *halves, others],
                 ["cmake", "--preset", "gcc"],
                 [
                     *["cmake", "--build", "--preset", "gcc"],
