@@ -86,7 +86,7 @@ test:
 	cmake --build --preset mac --parallel
 	ctest --test-dir build/mac --no-tests=error --output-on-failure
 else
-# What Macs get is built, sealed and checked as well, and the part of it that runs here is tested like the rest.
+# What Macs get is built, sealed and checked as well, and the part of it that runs here is tested too.
 test:
 	$(call build,test app,all)
 ifneq ($(PRESET),sanitize)

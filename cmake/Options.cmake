@@ -37,8 +37,8 @@ if(KESTRUNE_COVERAGE)
     target_link_options(kestrune_options INTERFACE --coverage)
 endif()
 
-# For a folder whose files take most of their time for headers. The application's stay apart, as each of them may be
-# replaced by one with a deliberate mistake.
+# For a folder whose files take most of their time for headers. The application's stay apart, as each of them
+# may be replaced by one with a deliberate mistake.
 macro(kestrune_join)
     if(KESTRUNE_JOIN)
         set(CMAKE_UNITY_BUILD ON)

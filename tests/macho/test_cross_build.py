@@ -79,7 +79,8 @@ class CrossBuild(TreeTest):
                 subprocess.run(["ninja", "-C", build, "right"], check=True, capture_output=True)
                 self.assert_refused(build, "undefined", "undefined symbol: nobodyHasThis")
                 self.assert_refused(build, "too_new_a_symbol", "undefined symbol: std::.*verbose_abort")
-                self.assert_refused(build, "too_new_a_function", "'to_chars' is unavailable: introduced in macOS 13")
+                message = "'to_chars' is unavailable: introduced in macOS 13"
+                self.assert_refused(build, "too_new_a_function", message)
                 self.assert_refused(build, "warning", "error: unused variable 'unused'")
 
 
