@@ -48,7 +48,7 @@ help:
 	@echo "make check               format, include rules, unbuilt files, strings, contract tests, clang-tidy"
 	@echo "make bench               the event path against its floor, the simulation, the wizard, a launch"
 	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
-	@echo "make first-run           the wizard's story on the simulated Mac and on GNUstep, step by step"
+	@echo "make first-run           the wizard's story, simulated, on GNUstep and as Macs get it, step by step"
 	@echo "make soak                RUNS=$(RUNS) times all tests on GNUstep, four runs at a time"
 	@echo "make fuzz                every fuzzer for FUZZ_SECONDS=$(FUZZ_SECONDS) seconds"
 	@echo "make coverage            line and branch coverage of Kestrune/, base/ and ui/; fails under 100 %"
@@ -86,13 +86,21 @@ test:
 	cmake --build --preset mac --parallel
 	ctest --test-dir build/mac --no-tests=error --output-on-failure
 else
-# What Macs get is built, sealed and checked as well, and the part of it that runs here is tested too.
-test:
-	$(call build,test app,all)
-ifneq ($(PRESET),sanitize)
-	@tools/app --system $(SYSTEM) --sparkle none --folder $(DIR)/app --preset $(PRESET)
-	@cmake --build build/cross-x86_64
+# Builds, seals and checks what Macs get, for the tests of the part that runs here: on its processor, and
+# without sanitizers, which know nothing of its memory.
+ifeq ($(PRESET)/$(shell uname -m),$(filter-out sanitize,$(PRESET))/x86_64)
+for_macs = app
+mac_stories = scenarios_macho_gnustep
+mac_process = kestrune-macho-on-gnustep
+define build-for-macs
+@tools/app --system $(SYSTEM) --sparkle none --folder $(DIR)/app --preset $(PRESET)
+@cmake --build build/cross-x86_64
+endef
 endif
+
+test:
+	$(call build,test $(for_macs),all)
+	$(build-for-macs)
 	$(call run-tests)
 endif
 
@@ -101,11 +109,12 @@ endif
 check: override PRESET = check
 check: override WARNINGS_AS_ERRORS = ON
 check:
-	$(call build,check,kestrune_contract kestrune_sim kestrune_mac)
+	$(call build,check app,kestrune_contract kestrune_sim kestrune_mac)
 	@tools/check --build $(DIR)
 
 bench:
-	$(call build,bench,bench)
+	$(call build,bench $(for_macs),bench)
+	$(build-for-macs)
 	@benchmarks/run $(DIR)
 
 simulate:
@@ -114,11 +123,13 @@ simulate:
 	@$(DIR)/tests/shell/kestrune-simulate-shell --seed $(SEED) --seeds $(SEEDS)
 
 first-run:
-	$(call build,test,scenarios_sim scenarios_gnustep)
+	$(call build,test $(for_macs),scenarios_sim scenarios_gnustep $(mac_stories))
+	$(build-for-macs)
 	@tests/scenarios/first-run $(DIR)
 
 soak:
-	$(call build,test,gnustep-tests)
+	$(call build,test $(for_macs),gnustep-tests kestrune-on-gnustep kestrune_home $(mac_process))
+	$(build-for-macs)
 	@tests/gnustep/soak $(DIR)/tests/gnustep $(RUNS)
 
 fuzz: override PRESET = fuzz
