@@ -94,6 +94,7 @@ mac_stories = scenarios_macho_gnustep
 mac_process = kestrune-macho-on-gnustep
 define build-for-macs
 @tools/app --system $(SYSTEM) --sparkle none --folder $(DIR)/app --preset $(PRESET)
+@cmake --build build/cross-arm64
 @cmake --build build/cross-x86_64
 endef
 endif

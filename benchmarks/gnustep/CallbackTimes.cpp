@@ -1,10 +1,13 @@
 #include "benchmarks/gnustep/CallbackTimes.h"
 
 #include "benchmarks/AllocationCounter.h"
+#include "tests/gnustep/PrivateHome.h"
 
 #include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <limits>
+#include <string_view>
 
 namespace kestrune::benchmarks {
 
@@ -50,6 +53,16 @@ bool allocates(const TapListener& callback, Point location) {
     const std::size_t before = allocationCount();
     feed(callback, location, 1000);
     return allocationCount() != before;
+}
+
+int runMeasurement(int count, char** arguments, bool (*measureAll)(bool isQuick)) {
+    const bool isQuick = count == 2 && std::string_view(arguments[1]) == "--quick";
+    if (count > 1 && !isQuick) {
+        std::fprintf(stderr, "usage: %s [--quick]\n", arguments[0]);
+        return 2;
+    }
+    gnustep::enterPrivateHome();
+    return measureAll(isQuick) ? 0 : 1;
 }
 
 } // namespace kestrune::benchmarks

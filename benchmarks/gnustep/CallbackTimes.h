@@ -26,4 +26,8 @@ Point handled(const gnustep::TapListener& callback, Point location);
 // Whether events go on making it take memory, after the first two.
 bool allocates(const gnustep::TapListener& callback, Point location);
 
+// The rest of a program that takes "--quick" or nothing, with a home of its own: gives its exit status, 0
+// when `measureAll` finds everything as it should be and 1 when not.
+int runMeasurement(int count, char** arguments, bool (*measureAll)(bool isQuick));
+
 } // namespace kestrune::benchmarks

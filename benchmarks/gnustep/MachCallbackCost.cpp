@@ -13,7 +13,6 @@
 
 #include <array>
 #include <cstdio>
-#include <string_view>
 
 namespace kestrune::benchmarks {
 namespace {
@@ -55,11 +54,5 @@ bool measureAll(bool isQuick) {
 } // namespace kestrune::benchmarks
 
 int main(int count, char** arguments) {
-    const bool isQuick = count == 2 && std::string_view(arguments[1]) == "--quick";
-    if (count > 1 && !isQuick) {
-        std::fputs("usage: kestrune-mach-callback-cost [--quick]\n", stderr);
-        return 2;
-    }
-    kestrune::gnustep::enterPrivateHome();
-    return kestrune::benchmarks::measureAll(isQuick) ? 0 : 1;
+    return kestrune::benchmarks::runMeasurement(count, arguments, kestrune::benchmarks::measureAll);
 }

@@ -1,6 +1,6 @@
 // Programs that are loaded but not run, and unwind information by itself: whatever is in them, memory outside
 // of the image stays alone, and what is refused is refused in one line that names the file.
-#include "tests/fuzz/Fuzzer.h"
+#include "tests/fuzz/MachRefusal.h"
 #include "tests/macho/MachFile.h"
 #include "tests/macho/loader/CallFrames.h"
 #include "tests/macho/loader/Unwinding.h"
@@ -16,28 +16,20 @@ void* anything(std::string_view /*library*/, std::string_view /*name*/) {
     return &place;
 }
 
-template <typename Work>
-void attempt(Work work) {
-    try {
-        work();
-    } catch (const MachError& error) {
-        requireOneLine(error.what(), "fuzz: ");
-    }
-}
-
 void load(std::span<const std::uint8_t> bytes) {
-    const MachFile file(bytes, "fuzz");
+    const MachFile file(bytes, MachInput);
     for (const MachSlice& slice : file.slices()) {
         attempt([&] {
             const LoadedImage image(slice, anything);
             callFramesOf(image);
+            dwarfFramesOf(image);
         });
     }
 }
 
 // As if the bytes were the section of an image that consists of them.
 void unwind(std::span<const std::uint8_t> bytes) {
-    const Bytes content(bytes, "fuzz");
+    const Bytes content(bytes, MachInput);
     CallFrames frames(content);
     for (const UnwoundFunction& function : readCompactUnwind(content)) {
         frames.add(function);

@@ -1,6 +1,6 @@
 // Mach-O files: of what is accepted, everything that a loader would follow leads into the file and into the
 // image; what is refused is refused in one line that names the file.
-#include "tests/fuzz/Fuzzer.h"
+#include "tests/fuzz/MachRefusal.h"
 #include "tests/macho/Fixups.h"
 #include "tests/macho/MachFile.h"
 
@@ -11,7 +11,6 @@ namespace {
 
 using namespace macho;
 
-constexpr const char* Name = "fuzz";
 constexpr std::size_t SizeOfPointer = 8;
 
 void checkSegments(const MachSlice& slice) {
@@ -60,15 +59,6 @@ void checkFixups(const MachSlice& slice) {
 }
 
 // Each of these may refuse what the others accept.
-template <typename Work>
-void attempt(Work work) {
-    try {
-        work();
-    } catch (const MachError& error) {
-        requireOneLine(error.what(), "fuzz: ");
-    }
-}
-
 void checkSlice(const MachSlice& slice) {
     checkSegments(slice);
     attempt([&] { checkFixups(slice); });
@@ -84,7 +74,7 @@ void checkSlice(const MachSlice& slice) {
 
 void check(std::span<const std::uint8_t> bytes) {
     attempt([&] {
-        const MachFile file(bytes, Name);
+        const MachFile file(bytes, MachInput);
         require(!file.slices().empty(), "a file has a program");
         for (const MachSlice& slice : file.slices()) {
             require(&file.slice(slice.processor()) == &slice, "each program is for a processor of its own");

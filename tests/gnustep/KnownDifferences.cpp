@@ -55,8 +55,7 @@ constexpr KnownDifference KnownDifferences[] = {
     {"NotificationCenterContract.LetsGoOfTheBlockOfAnObserverThatWasRemoved", "watched.expired()",
      "Actual: false",
      "removeObserver: releases the block on the Mac; GNUstep keeps the observation for ever or, from 0.32 "
-     "on, "
-     "each operation that called the block."},
+     "on, each operation that called the block."},
 };
 
 const KnownDifference* knownDifference(const std::string& test) {

@@ -67,7 +67,7 @@ class DeliberateFaults(TreeTest):
 
     def test_a_page_that_is_not_what_was_sealed(self):
         self.replace(b"\0Pin Dock to:\0", b"\0Pin Dock at:\0")
-        result = self.assert_named(str(self.program), "page")
+        result = self.assert_named(f"{self.program}: ", ": page ", "was changed after it was sealed")
         self.assertEqual(result.returncode, UNREADABLE)
 
 

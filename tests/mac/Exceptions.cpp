@@ -28,7 +28,7 @@ struct Raising : Framework {
     } object{*this, "NSObject"};
 };
 
-constinit const Raising raising;
+constinit const Raising raising; // NOLINT(readability-identifier-naming): as those of the vocabulary
 
 int destroyed = 0; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 

@@ -3,7 +3,6 @@
 import contextlib
 import os
 import pathlib
-import platform
 import subprocess
 import sys
 import tempfile
@@ -17,15 +16,13 @@ FIRST_RUN = "FirstRun.GoesFromTheLaunchToAHeldDock"
 SECONDS = 120
 
 
-def all_worlds():
-    """The name of each and its program in a build folder. That for Macs runs on its own processor only."""
-    worlds = {
-        "the simulated Mac": "tests/scenarios/scenarios_sim",
-        "GNUstep": "tests/gnustep/scenarios_gnustep",
-    }
-    if platform.machine() == "x86_64":
-        worlds["GNUstep as built for Macs"] = "tests/gnustep/scenarios_macho_gnustep"
-    return worlds
+def all_worlds(build):
+    """The name of each that the build has, and its program. The program for Macs does not run everywhere."""
+    listed = build / "tests/scenarios/worlds"
+    if not listed.is_file():
+        raise Failure(f"{listed} is not there; configure the build with GNUstep installed")
+    lines = listed.read_text(encoding="utf-8").splitlines()
+    return {name: build / program for name, program in (line.split("\t") for line in lines)}
 
 
 class Failure(Exception):

@@ -94,7 +94,7 @@ class DryRun(LinuxTest):
                 ["cmake", "--build", "build/cross-arm64", "--target", "Kestrune"],
                 ["cmake", "--preset", "cross-x86_64"],
                 ["cmake", "--build", "build/cross-x86_64", "--target", "Kestrune"],
-                ["rm", "-rf", "build/cross"],
+                ["rm", "-rf", BUNDLE, symbols],
                 ["mkdir", "-p", "build/cross"],
                 ["cp", "-R", "build/cross-arm64/mac/Kestrune.app", BUNDLE],
                 [f"{LLVM}/llvm-strip", "-o", halves[0], built[0]],

@@ -34,7 +34,7 @@ JOINED_FILES = 12
 
 def run(tree):
     findings = _configuration_findings(tree)
-    files = sorted(tree.compiled)
+    files = sorted(path for path in tree.compiled if path.endswith(".cpp"))
     if not files:
         findings.append(Finding(".", 1, "no compiled file to look at; pass a configured build with --build"))
     # A configuration that does not work would only repeat itself for each file.

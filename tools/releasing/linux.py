@@ -48,7 +48,7 @@ class Linux:
         strip = [Command(LLVM / "llvm-strip", "-o", stripped[each], built[each]) for each in PROCESSORS]
         return [
             *(step for processor in PROCESSORS for step in _cross_build(processor)),
-            Command("rm", "-rf", self.folder),
+            Command("rm", "-rf", self.application, self.symbols),
             Command("mkdir", "-p", self.folder),
             Command("cp", "-R", _built(PROCESSORS[0]), self.application),
             *strip,

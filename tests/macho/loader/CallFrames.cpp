@@ -13,8 +13,7 @@ namespace {
 // Of the encodings for x86-64.
 constexpr std::uint32_t ModeMask = 0x0F000000;
 constexpr std::uint32_t NoMode = 0;
-constexpr std::uint32_t WithFramePointer = 0x01000000;
-constexpr std::uint32_t WithoutFramePointer = 0x02000000;
+constexpr std::uint32_t WithFramePointer = 0x01000000; // the next mode, 2, is without one
 constexpr std::uint32_t WithoutFramePointerSizeInCode = 0x03000000;
 constexpr std::uint32_t InDwarf = 0x04000000;
 

@@ -14,11 +14,12 @@
 #include <map>
 #include <string>
 
+// NOLINTBEGIN(readability-identifier-naming, bugprone-reserved-identifier): the names are the compiler's.
 extern "C" {
-int __cxa_atexit(void (*function)(void*), void* argument,
-                 void* image); // NOLINT(bugprone-reserved-identifier)
-void __stack_chk_fail();       // NOLINT(bugprone-reserved-identifier)
+int __cxa_atexit(void (*function)(void*), void* argument, void* image);
+void __stack_chk_fail();
 }
+// NOLINTEND(readability-identifier-naming, bugprone-reserved-identifier)
 
 namespace kestrune::macho {
 

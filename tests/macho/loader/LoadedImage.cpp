@@ -12,21 +12,15 @@ namespace kestrune::macho {
 
 namespace {
 
-#ifdef __aarch64__
-constexpr Processor Host = Processor::arm64;
-#else
-constexpr Processor Host = Processor::x86_64;
-#endif
-
 constexpr std::uint32_t ReadOnlyAfterFixups = 0x10; // SG_READ_ONLY, of a segment
 
 // S_THREAD_LOCAL_REGULAR to S_THREAD_LOCAL_INIT_FUNCTION_POINTERS.
 bool holdsThreadLocals(const Section& section) { return section.type() >= 0x11 && section.type() <= 0x15; }
 
 void requireWhatIsLoadedHere(const MachSlice& slice) {
-    if (slice.processor() != Host) {
+    if (slice.processor() != LoadedImage::Host) {
         slice.content().refuse("is for " + std::string(nameOf(slice.processor())) + ", this process is for " +
-                               std::string(nameOf(Host)));
+                               std::string(nameOf(LoadedImage::Host)));
     }
     if (slice.type() != FileType::executable) {
         slice.content().refuse("is no program");
@@ -154,6 +148,36 @@ void LoadedImage::protect() const {
     }
 }
 
+const void* LoadedImage::initializerAt(std::uint64_t address) const {
+    const Segment* const segment = slice_.segmentHolding(address);
+    if (segment == nullptr || (segment->protection & Segment::Executable) == 0) {
+        slice_.content().refuse("has an initializer at " + hexadecimal(address) + ", where there is no code");
+    }
+    return at(address);
+}
+
+std::vector<const void*> LoadedImage::initializers() const {
+    std::vector<const void*> functions;
+    const auto start = std::bit_cast<std::uint64_t>(memory_.data());
+    for (const Segment& segment : slice_.segments()) {
+        for (const Section& section : segment.sections) {
+            const Bytes content({at(section.address), section.size}, slice_.name());
+            if (section.type() == Section::InitializerPointers) {
+                for (std::uint64_t place = 0; place < section.size; place += sizeof(std::uint64_t)) {
+                    const auto pointer = content.little<std::uint64_t>(place, "an initializer");
+                    functions.push_back(initializerAt(pointer - start + slice_.loadAddress()));
+                }
+            } else if (section.type() == Section::InitializerOffsets) {
+                for (std::uint64_t place = 0; place < section.size; place += sizeof(std::uint32_t)) {
+                    const auto offset = content.little<std::uint32_t>(place, "an initializer");
+                    functions.push_back(initializerAt(slice_.loadAddress() + offset));
+                }
+            }
+        }
+    }
+    return functions;
+}
+
 int LoadedImage::run(int count, char** arguments, char** environment) const {
     char* apple[] = {arguments[0], nullptr};
     const auto call = [&](const void* place) {
@@ -163,19 +187,8 @@ int LoadedImage::run(int count, char** arguments, char** environment) const {
     if (!entry) {
         slice_.content().refuse("has no entry point");
     }
-    for (const Segment& segment : slice_.segments()) {
-        for (const Section& section : segment.sections) {
-            const Bytes content({at(section.address), section.size}, slice_.name());
-            if (section.type() == Section::InitializerPointers) {
-                for (std::uint64_t place = 0; place < section.size; place += sizeof(std::uint64_t)) {
-                    call(std::bit_cast<void*>(content.little<std::uint64_t>(place, "an initializer")));
-                }
-            } else if (section.type() == Section::InitializerOffsets) {
-                for (std::uint64_t place = 0; place < section.size; place += sizeof(std::uint32_t)) {
-                    call(memory_.data() + content.little<std::uint32_t>(place, "an initializer"));
-                }
-            }
-        }
+    for (const void* const initializer : initializers()) {
+        call(initializer);
     }
     return call(at(*entry));
 }

@@ -20,6 +20,12 @@ using Resolve = std::function<void*(std::string_view library, std::string_view n
 // As long as anything that it gave to others may be called, it has to stay.
 class LoadedImage {
 public:
+#ifdef __aarch64__
+    static constexpr Processor Host = Processor::arm64;
+#else
+    static constexpr Processor Host = Processor::x86_64;
+#endif
+
     // Maps the segments, writes the fixups and protects what is not to be written. The slice is needed as
     // long as the image. Throws MachError for a program of another processor, for one that needs what this
     // loader has not, and with their names for imports that nothing has.
@@ -45,6 +51,8 @@ public:
     int run(int count, char** arguments, char** environment) const;
 
 private:
+    const void* initializerAt(std::uint64_t address) const;
+    std::vector<const void*> initializers() const;
     void writeFixups(const Resolve& resolve) const;
     std::vector<void*> resolved(const std::vector<Import>& imports, const Resolve& resolve) const;
     void protect() const;

@@ -19,7 +19,7 @@ using testing::SizeIs;
 
 TinyProgram programForThisProcess() {
     TinyProgram program;
-    program.processor = Processor::x86_64;
+    program.processor = LoadedImage::Host;
     return program;
 }
 
@@ -66,8 +66,10 @@ TEST(LoadedImage, HasItsSegmentsAndItsPointers) {
 
 TEST(LoadedImage, IsOfThisProcessor) {
     TinyProgram program = programForThisProcess();
-    program.processor = Processor::arm64;
-    EXPECT_EQ(refusalOf(program), "Tiny: is for arm64, this process is for x86_64");
+    program.processor = LoadedImage::Host == Processor::arm64 ? Processor::x86_64 : Processor::arm64;
+    const std::string own(nameOf(LoadedImage::Host));
+    EXPECT_EQ(refusalOf(program),
+              "Tiny: is for " + std::string(nameOf(program.processor)) + ", this process is for " + own);
 }
 
 TEST(LoadedImage, IsAProgram) {

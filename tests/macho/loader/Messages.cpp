@@ -9,11 +9,13 @@
 #include <unordered_set>
 
 // Of GCC's runtime, which does not install the header that declares them.
+// NOLINTBEGIN(readability-identifier-naming): the names are the runtime's.
 extern "C" {
 int objc_sizeof_type(const char* encoding);
 const char* objc_skip_type_qualifiers(const char* encoding);
 BOOL sel_is_mapped(SEL selector);
 }
+// NOLINTEND(readability-identifier-naming)
 
 namespace kestrune::macho {
 

@@ -25,7 +25,7 @@ struct Program {
     Program(const std::string& path, MessageChecks checks)
         : content(contentOf(path)),
           file(content, path),
-          image(sealed(file.slice(Processor::x86_64)), importsOfThisProcess(checks)) {
+          image(sealed(file.slice(LoadedImage::Host)), importsOfThisProcess(checks)) {
         registerUnwinding(image);
     }
 
@@ -48,13 +48,17 @@ struct Program {
     LoadedImage image;
 };
 
+[[noreturn]] void refuse(const std::runtime_error& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    std::exit(2);
+}
+
 // Never destroyed: what the program gave to the platform may be called until the process has ended.
 const LoadedImage& load(const std::string& path, MessageChecks checks) {
     try {
         return (new Program(path, checks))->image;
     } catch (const std::runtime_error& error) { // MachError or SealError
-        std::fprintf(stderr, "%s\n", error.what());
-        std::exit(2);
+        refuse(error);
     }
 }
 
@@ -62,6 +66,7 @@ const LoadedImage& load(const std::string& path, MessageChecks checks) {
 
 // The unified log's stand-in asks whether a text lies in the program. The system knows of no such image, and
 // this definition comes before its own.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the system's names are reserved.
 extern "C" int dladdr(const void* address, Dl_info* information) noexcept {
     if (theImage != nullptr && theImage->contains(address)) {
         *information = {theImage->slice().name().c_str(), theImage->memory().data(), nullptr, nullptr};
@@ -80,7 +85,11 @@ int runProgram(const std::string& path, MessageChecks checks, const std::vector<
         pointers.push_back(text.data());
     }
     pointers.push_back(nullptr);
-    return theImage->run(static_cast<int>(texts.size()), pointers.data(), environ);
+    try {
+        return theImage->run(static_cast<int>(texts.size()), pointers.data(), environ);
+    } catch (const MachError& error) {
+        refuse(error);
+    }
 }
 
 } // namespace kestrune::macho

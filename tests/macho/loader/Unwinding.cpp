@@ -5,31 +5,10 @@
 #include <vector>
 
 // libgcc's: takes a whole section .eh_frame, which has to stay.
-extern "C" void
-__register_frame(void* section); // NOLINT(bugprone-reserved-identifier): the name is the compiler's
+// NOLINTNEXTLINE(readability-identifier-naming, bugprone-reserved-identifier): the name is the compiler's.
+extern "C" void __register_frame(void* section);
 
 namespace kestrune::macho {
-
-namespace {
-
-// What the compact form cannot say is in DWARF as it is. The unwinder reads on to four zero bytes, which the
-// linker leaves behind the section when it is the last one in its segment.
-void registerDwarf(const LoadedImage& image) {
-    const auto section = image.section("__eh_frame");
-    if (section.empty()) {
-        return;
-    }
-    const Segment* const segment = image.slice().segment("__TEXT");
-    const std::uint8_t* const end = image.at(segment->address + segment->size);
-    const std::span<const std::uint8_t> rest(section.data() + section.size(), end);
-    const Bytes behind(rest, image.slice().name() + ": the section __eh_frame");
-    if (behind.little<std::uint32_t>(0, "an end") != 0) {
-        behind.refuse("has no end");
-    }
-    __register_frame(section.data());
-}
-
-} // namespace
 
 std::vector<std::uint8_t> callFramesOf(const LoadedImage& image) {
     const Bytes memory(image.memory(), image.slice().name());
@@ -43,8 +22,34 @@ std::vector<std::uint8_t> callFramesOf(const LoadedImage& image) {
     return frames.finish();
 }
 
+std::span<std::uint8_t> dwarfFramesOf(const LoadedImage& image) {
+    const auto section = image.section("__eh_frame");
+    if (section.empty()) {
+        return {};
+    }
+    // Entries of a length each, and four zero bytes behind the last: the linker leaves them when the section
+    // is the last one in its segment.
+    const auto start = static_cast<std::uint64_t>(section.data() - image.memory().data());
+    const Bytes memory(image.memory(), image.slice().name() + ": the section __eh_frame");
+    std::uint64_t place = start;
+    while (place < start + section.size()) {
+        const auto length = memory.little<std::uint32_t>(place, "an entry");
+        memory.span(place, sizeof(length) + std::uint64_t{length}, "an entry");
+        if (length == 0) {
+            break;
+        }
+        place += sizeof(length) + length;
+    }
+    if (memory.little<std::uint32_t>(place, "the end") != 0) {
+        memory.refuse("has no end");
+    }
+    return section;
+}
+
 void registerUnwinding(const LoadedImage& image) {
-    registerDwarf(image);
+    if (const auto section = dwarfFramesOf(image); !section.empty()) {
+        __register_frame(section.data());
+    }
     // Kept for ever, as the unwinder looks at it whenever something is thrown.
     static std::vector<std::vector<std::uint8_t>> kept;
     __register_frame(kept.emplace_back(callFramesOf(image)).data());

@@ -1,0 +1,46 @@
+"""Files that are no programs for this processor: each is refused in one line, with status 2."""
+
+import os
+import pathlib
+import subprocess
+import unittest
+
+from trees import REPOSITORY, TreeTest
+
+CORPUS = REPOSITORY / "tests/fuzz/corpus/mach-file"
+
+
+class MachProgram(TreeTest):
+    def assert_refused(self, path, reason):
+        result = subprocess.run(
+            [os.environ["KESTRUNE_MACH_PROGRAM"], path], capture_output=True, encoding="utf-8", timeout=60
+        )
+        self.assertEqual((result.returncode, result.stdout), (2, ""), result.stderr)
+        self.assertEqual(result.stderr.count("\n"), 1, result.stderr)
+        self.assertTrue(result.stderr.startswith(f"{path}: "), result.stderr)
+        self.assertIn(reason, result.stderr)
+
+    def changed(self, change):
+        path = self.root / "changed.macho"
+        path.write_bytes(change((CORPUS / "x86_64.macho").read_bytes()))
+        return path
+
+    def test_that_is_not_there(self):
+        self.assert_refused(pathlib.Path("/nowhere/Kestrune"), "cannot be opened")
+
+    def test_of_another_kind(self):
+        self.write({"script": "#!/bin/sh\n"})
+        self.assert_refused(self.root / "script", "is no Mach-O file")
+
+    def test_for_another_processor(self):
+        self.assert_refused(CORPUS / "arm64.macho", "x86_64")
+
+    def test_that_ends_early(self):
+        self.assert_refused(self.changed(lambda content: content[: len(content) // 2]), "are there")
+
+    def test_without_a_seal(self):
+        self.assert_refused(CORPUS / "x86_64.macho", "signature")
+
+
+if __name__ == "__main__":
+    unittest.main()
