@@ -41,7 +41,7 @@ std::map<std::string, std::string> textsIn(const std::string& file) {
 contract::BundleFiles shippedBundle() {
     const mac::Pool pool;
     contract::BundleFiles files;
-    for (const auto& [key, value] : textsIn(Resources + "/Info.plist")) {
+    for (const auto& [key, value] : textsIn(KESTRUNE_INFORMATION)) {
         files.infoDictionary.emplace(key, value);
     }
     files.localizedStrings = textsIn(Resources + "/en.lproj/Localizable.strings");

@@ -91,12 +91,12 @@ class Warnings(MakefileTest):
 
 class WhatMacsGet(MakefileTest):
     APP = "app --system Linux --sparkle none --folder build/gcc/app --preset gcc"
-    OTHERS = "cmake --build build/cross-x86_64"
+    OTHERS = ["cmake --build build/cross-arm64", "cmake --build build/cross-x86_64"]
 
     def test_is_set_up_and_built_before_the_tests(self):
         calls = self.make("test")
         self.assertEqual(calls[0], "setup test app gcc")
-        self.assertEqual(calls[calls.index("ctest") - 2 : calls.index("ctest")], [self.APP, self.OTHERS])
+        self.assertEqual(calls[calls.index("ctest") - 3 : calls.index("ctest")], [self.APP, *self.OTHERS])
 
     def test_is_not_built_under_the_sanitizers(self):
         calls = self.make("test", "PRESET=sanitize")

@@ -29,6 +29,9 @@ void requireWhatIsLoadedHere(const MachSlice& slice) {
         if (std::any_of(segment.sections.begin(), segment.sections.end(), holdsThreadLocals)) {
             slice.content().refuse("has thread-local variables, which this loader has not");
         }
+        if (!segment.isGuard() && segment.address < slice.loadAddress()) {
+            slice.content().refuse("has the segment " + printable(segment.name) + " before its header");
+        }
     }
 }
 
@@ -67,8 +70,10 @@ LoadedImage::LoadedImage(const MachSlice& slice, const Resolve& resolve)
     : slice_((requireWhatIsLoadedHere(slice), slice)), memory_(memoryFor(slice)) {
     try {
         for (const Segment& segment : slice_.segments()) {
-            const auto content = slice_.content().span(segment.offset, segment.fileSize, "a segment");
-            std::copy(content.begin(), content.end(), at(segment.address));
+            if (!segment.isGuard()) {
+                const auto content = slice_.content().span(segment.offset, segment.fileSize, "a segment");
+                std::copy(content.begin(), content.end(), at(segment.address));
+            }
         }
         writeFixups(resolve);
         protect();

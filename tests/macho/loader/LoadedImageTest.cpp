@@ -32,11 +32,14 @@ std::uint64_t pointerAt(const LoadedImage& image, std::uint64_t address) {
 void* nothing(std::string_view /*library*/, std::string_view /*name*/) { return nullptr; }
 
 // What the loader says to a program when nothing that it imports is there.
-std::string refusalOf(const TinyProgram& program) {
-    const Content bytes = program.bytes();
-    const MachFile file(bytes, "Tiny");
-    return macho::refusalOf([&] { const LoadedImage image(file.slices().front(), nothing); });
+std::string refusalOfFile(const Content& bytes) {
+    return macho::refusalOf([&] {
+        const MachFile file(bytes, "Tiny");
+        const LoadedImage image(file.slices().front(), nothing);
+    });
 }
+
+std::string refusalOf(const TinyProgram& program) { return refusalOfFile(program.bytes()); }
 
 TEST(LoadedImage, HasItsSegmentsAndItsPointers) {
     TinyProgram program = programForThisProcess();
@@ -76,6 +79,21 @@ TEST(LoadedImage, IsAProgram) {
     TinyProgram program = programForThisProcess();
     program.type = FileType::library;
     EXPECT_EQ(refusalOf(program), "Tiny: is no program");
+}
+
+TEST(LoadedImage, BeginsWithItsHeader) {
+    // The places of the addresses of a segment and of its sections in their load command.
+    constexpr std::uint64_t Segment = 24;
+    constexpr std::uint64_t FirstSection = 72 + 32;
+    constexpr std::uint64_t SecondSection = FirstSection + 80;
+    constexpr std::uint64_t SizeOfSegment = 32;
+    Content bytes = programForThisProcess().bytes();
+    const std::uint64_t command = placeOfSegment(bytes, "__DATA");
+    poke<std::uint64_t>(bytes, placeOfSegment(bytes, "__PAGEZERO") + SizeOfSegment, 0x10000);
+    poke<std::uint64_t>(bytes, command + Segment, 0x10000);
+    poke<std::uint64_t>(bytes, command + FirstSection, 0x10000);
+    poke<std::uint64_t>(bytes, command + SecondSection, 0x10010);
+    EXPECT_EQ(refusalOfFile(bytes), "Tiny: has the segment __DATA before its header");
 }
 
 TEST(LoadedImage, NeedsItsImports) {
