@@ -2,9 +2,11 @@
 // Its defaults are in the home that the environment names; with KESTRUNE_PERMITTED in the environment it has
 // the Accessibility permission, and after the signal SIGUSR1 as well.
 #include "base/Fatal.h"
+#include "mac/objc/Pool.h"
 #include "platform/MainActor.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Timer.h"
+#include "tests/gnustep/Send.h"
 #include "tests/gnustep/TimeLimit.h"
 #include "tests/gnustep/process/MenuBar.h"
 #include "tests/gnustep/process/Session.h"
@@ -13,6 +15,9 @@
 
 #include <csignal>
 #include <cstdlib>
+
+// NOLINTNEXTLINE(readability-identifier-naming): the name is AppKit's.
+extern "C" const id NSEventTrackingRunLoopMode;
 
 namespace kestrune::gnustep {
 
@@ -23,6 +28,17 @@ constexpr double HeartbeatInSeconds = 0.02;
 
 // The user has switched the application on in the system's settings.
 volatile std::sig_atomic_t isGranted = 0; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+// The loop in which GNUstep waits for the release of a button sleeps in the same way, and in a mode of its
+// own. What the timer does is of no matter; that it fires makes the loop look.
+void beatWhileTracking() {
+    const mac::Pool pool;
+    const id timer = send(classObject("NSTimer"),
+                          "timerWithTimeInterval:target:selector:userInfo:repeats:", HeartbeatInSeconds,
+                          classObject("NSObject"), sel_registerName("class"), id{}, mac::truth(true));
+    send<void>(send(classObject("NSRunLoop"), "currentRunLoop"), "addTimer:forMode:", timer,
+               NSEventTrackingRunLoopMode);
+}
 
 void beat(Timer& /*timer*/) {
     if (isGranted != 0) {
@@ -55,6 +71,7 @@ extern "C" int processMain() {
     // GNUstep's loop sleeps until the X server sends something, even when an event that Xlib has read already
     // waits to be handled. Without this a press of the button was now and then noticed with the next one.
     Timer::scheduledTimer(HeartbeatInSeconds, true, beat);
+    beatWhileTracking();
     return applicationsMain();
 }
 
