@@ -12,6 +12,7 @@ PROJECT = f"""
 cmake_minimum_required(VERSION 3.25)
 project(Refused CXX)
 set(CMAKE_CXX_STANDARD 20)
+add_library(archive STATIC right.cpp)
 file(GLOB sources *.cpp)
 foreach(source IN LISTS sources)
     cmake_path(GET source STEM name)
@@ -52,6 +53,9 @@ PROGRAMS = {
 class CrossBuild(TreeTest):
     def setUp(self):
         super().setUp()
+        # Where a checkout may be: its name has capital letters and a space.
+        self.checkout = self.root / "A Checkout"
+        self.checkout.symlink_to(REPOSITORY)
         self.write({"project/CMakeLists.txt": PROJECT})
         self.write({f"project/{name}.cpp": text for name, text in PROGRAMS.items()})
 
@@ -61,9 +65,9 @@ class CrossBuild(TreeTest):
         presets = json.loads((REPOSITORY / "CMakePresets.json").read_text(encoding="utf-8"))
         (cross,) = (preset for preset in presets["configurePresets"] if preset["name"] == "cross")
         settings = cross["cacheVariables"] | {"CMAKE_BUILD_TYPE": "Release", "KESTRUNE_ARCH": processor}
-        command += ["--toolchain", REPOSITORY / "cmake/darwin.cmake"]
+        command += ["--toolchain", self.checkout / "cmake/darwin.cmake"]
         for name, value in settings.items():
-            command.append(f"-D{name}={value.replace('${sourceDir}', str(REPOSITORY))}")
+            command.append(f"-D{name}={value.replace('${sourceDir}', str(self.checkout))}")
         subprocess.run(command, check=True, capture_output=True)
         return build
 
@@ -76,7 +80,7 @@ class CrossBuild(TreeTest):
         for processor in ("arm64", "x86_64"):
             with self.subTest(processor):
                 build = self.configure(processor)
-                subprocess.run(["ninja", "-C", build, "right"], check=True, capture_output=True)
+                subprocess.run(["ninja", "-C", build, "right", "archive"], check=True, capture_output=True)
                 self.assert_refused(build, "undefined", "undefined symbol: nobodyHasThis")
                 self.assert_refused(build, "too_new_a_symbol", "undefined symbol: std::.*verbose_abort")
                 message = "'to_chars' is unavailable: introduced in macOS 13"
