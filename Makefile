@@ -54,7 +54,8 @@ help:
 	@echo "make coverage            line and branch coverage of Kestrune/, base/ and ui/; fails under 100 %"
 	@echo "make clean               remove everything that was built"
 	@echo
-	@echo "PRESET=gcc, clang or sanitize chooses the build. Every target installs what it needs."
+	@echo "PRESET=gcc, clang or sanitize chooses the build; PRESET=arm64 runs the half of Kestrune.app for"
+	@echo "Apple's processors in an emulator. Every target installs what it needs."
 
 ifeq ($(SYSTEM),Darwin)
 run:
@@ -92,17 +93,28 @@ ifeq ($(PRESET)/$(shell uname -m),$(filter-out sanitize,$(PRESET))/x86_64)
 for_macs = app
 mac_stories = scenarios_macho_gnustep
 mac_process = kestrune-macho-on-gnustep
+# The build that is of this machine, of the programs that an emulated one works with.
+native = $(if $(filter arm64,$(PRESET)),gcc,$(PRESET))
 define build-for-macs
-@tools/app --system $(SYSTEM) --sparkle none --folder $(DIR)/app --preset $(PRESET)
+@tools/app --system $(SYSTEM) --sparkle none --folder build/$(native)/app --preset $(native)
 @cmake --build build/cross-arm64
 @cmake --build build/cross-x86_64
 endef
 endif
 
+# In the emulator, which is slow, only what runs the part of the application that runs nowhere else.
+ifeq ($(PRESET),arm64)
+test:
+	$(call build,test $(for_macs),mach-programs)
+	$(build-for-macs)
+	@cmake --build build/$(native) --target kestrune-desk kestrune_home scenarios_sim
+	$(call run-tests,--label-regex mach)
+else
 test:
 	$(call build,test $(for_macs),all)
 	$(build-for-macs)
 	$(call run-tests)
+endif
 endif
 
 # clang-tidy understands the flags of clang++ only. What both implementations define is seen where they are

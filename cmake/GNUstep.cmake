@@ -2,14 +2,21 @@
 # GNUstep_FOUND. Its own headers are not needed; the runtime's come with GCC.
 find_library(GNUSTEP_GUI_LIBRARY gnustep-gui)
 find_library(GNUSTEP_BASE_LIBRARY gnustep-base)
-find_program(GNUSTEP_GCC gcc)
-mark_as_advanced(GNUSTEP_GUI_LIBRARY GNUSTEP_BASE_LIBRARY GNUSTEP_GCC)
+mark_as_advanced(GNUSTEP_GUI_LIBRARY GNUSTEP_BASE_LIBRARY)
 
-if(GNUSTEP_GCC)
-    execute_process(COMMAND "${GNUSTEP_GCC}" -print-file-name=include
-        OUTPUT_VARIABLE gcc_headers OUTPUT_STRIP_TRAILING_WHITESPACE)
-    execute_process(COMMAND "${GNUSTEP_GCC}" -print-file-name=libobjc.so
+# Of the runtime gcc knows where it is, or who compiles for another processor with gcc's libraries.
+if(CMAKE_CROSSCOMPILING)
+    set(gcc "${CMAKE_CXX_COMPILER}" --target=${CMAKE_CXX_COMPILER_TARGET} "--sysroot=${CMAKE_SYSROOT}")
+else()
+    find_program(GNUSTEP_GCC gcc)
+    mark_as_advanced(GNUSTEP_GCC)
+    set(gcc "${GNUSTEP_GCC}")
+endif()
+if(gcc)
+    execute_process(COMMAND ${gcc} -print-file-name=libobjc.so
         OUTPUT_VARIABLE objc_library OUTPUT_STRIP_TRAILING_WHITESPACE)
+    cmake_path(GET objc_library PARENT_PATH gcc_folder)
+    set(gcc_headers "${gcc_folder}/include")
 endif()
 
 set(GNUstep_FOUND FALSE)

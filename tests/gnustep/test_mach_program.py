@@ -8,6 +8,9 @@ import unittest
 from trees import REPOSITORY, TreeTest
 
 CORPUS = REPOSITORY / "tests/fuzz/corpus/mach-file"
+# Of the loader, and one that it does not run.
+PROCESSOR = os.environ["KESTRUNE_PROCESSOR"]
+OTHER = {"arm64": "x86_64", "x86_64": "arm64"}[PROCESSOR]
 
 
 class MachProgram(TreeTest):
@@ -22,7 +25,7 @@ class MachProgram(TreeTest):
 
     def changed(self, change):
         path = self.root / "changed.macho"
-        path.write_bytes(change((CORPUS / "x86_64.macho").read_bytes()))
+        path.write_bytes(change((CORPUS / f"{PROCESSOR}.macho").read_bytes()))
         return path
 
     def test_that_is_not_there(self):
@@ -33,13 +36,13 @@ class MachProgram(TreeTest):
         self.assert_refused(self.root / "script", "is no Mach-O file")
 
     def test_for_another_processor(self):
-        self.assert_refused(CORPUS / "arm64.macho", "x86_64")
+        self.assert_refused(CORPUS / f"{OTHER}.macho", PROCESSOR)
 
     def test_that_ends_early(self):
         self.assert_refused(self.changed(lambda content: content[: len(content) // 2]), "are there")
 
     def test_without_a_seal(self):
-        self.assert_refused(CORPUS / "x86_64.macho", "signature")
+        self.assert_refused(CORPUS / f"{PROCESSOR}.macho", "signature")
 
 
 if __name__ == "__main__":

@@ -22,7 +22,13 @@ def all_worlds(build):
     if not listed.is_file():
         raise Failure(f"{listed} is not there; configure the build with GNUstep installed")
     lines = listed.read_text(encoding="utf-8").splitlines()
-    return {name: build / program for name, program in (line.split("\t") for line in lines)}
+    return {name: pathlib.Path(program) for name, program in (line.split("\t") for line in lines)}
+
+
+def desk(build):
+    """The painted desk of the build that has the simulated Mac, which comes first."""
+    simulated = next(iter(all_worlds(build).values()))
+    return simulated.parents[2] / "desk/kestrune-desk"
 
 
 class Failure(Exception):

@@ -25,7 +25,7 @@ LATER = {
     "libsdl2-compat-dev": "libsdl2-dev (= 2.32.50-1)",
 }
 
-TOOLS = ("bash", "cat", "cp", "dirname", "env", "grep", "ln", "mkdir", "mv", "readlink", "rm", "tr")
+TOOLS = "bash cat cp dirname env grep ln mkdir mv readlink realpath rm tr".split()
 LOGGED = 'echo "${0##*/} $*" >> "$LOG"\n'
 
 # The lists of packages are what the server has, as it was when they were updated.

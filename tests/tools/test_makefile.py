@@ -103,6 +103,15 @@ class WhatMacsGet(MakefileTest):
         self.assertIn("ctest", calls)
         self.assertFalse([line for line in calls if line.startswith("app ") or "cross" in line])
 
+    def test_is_emulated_for_the_other_processor_and_compared_with_this_one(self):
+        calls = self.make("test", "PRESET=arm64")
+        self.assertEqual(calls[0], "setup test app arm64")
+        self.assertIn("cmake --build build/arm64 --target mach-programs", calls)
+        programs = "cmake --build build/gcc --target kestrune-desk kestrune_home scenarios_sim"
+        before_the_tests = calls[calls.index("ctest") - 4 : calls.index("ctest")]
+        self.assertEqual(before_the_tests, [self.APP, *self.OTHERS, programs])
+        self.assertEqual(calls[calls.index("--label-regex") + 1], "mach")
+
 
 class FolderWithASpace(MakefileTest):
     def test_holds_the_results_of_the_tests(self):
