@@ -28,9 +28,9 @@ void load(std::span<const std::uint8_t> bytes) {
 }
 
 // As if the bytes were the section of an image that consists of them.
-void unwind(std::span<const std::uint8_t> bytes) {
+void unwind(std::span<const std::uint8_t> bytes, Processor processor) {
     const Bytes content(bytes, MachInput);
-    CallFrames frames(content);
+    CallFrames frames(content, processor);
     for (const UnwoundFunction& function : readCompactUnwind(content)) {
         frames.add(function);
     }
@@ -43,6 +43,8 @@ void unwind(std::span<const std::uint8_t> bytes) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::span<const std::uint8_t> bytes(data, size);
     kestrune::attempt([&] { kestrune::load(bytes); });
-    kestrune::attempt([&] { kestrune::unwind(bytes); });
+    for (const auto processor : {kestrune::macho::Processor::arm64, kestrune::macho::Processor::x86_64}) {
+        kestrune::attempt([&] { kestrune::unwind(bytes, processor); });
+    }
     return 0;
 }

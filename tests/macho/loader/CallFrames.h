@@ -1,10 +1,9 @@
 // Call frame information as DWARF has it, which GCC's unwinder reads.
 //
-// Source: DWARF 5, section 6.4; Linux Standard Base, Exception Frames; System V ABI for x86-64, numbers of
-// registers.
+// Source: DWARF 5, section 6.4; Linux Standard Base, Exception Frames.
 #pragma once
 
-#include "tests/macho/loader/CompactUnwind.h"
+#include "tests/macho/loader/Frames.h"
 
 #include <cstdint>
 #include <map>
@@ -17,10 +16,10 @@ namespace kestrune::macho {
 class CallFrames {
 public:
     // The image as it is in memory, which is borrowed.
-    explicit CallFrames(const Bytes& image) : image_(image) {}
+    CallFrames(const Bytes& image, Processor processor) : image_(image), rules_(frameRulesOf(processor)) {}
 
-    // For x86-64. Throws MachError for an encoding that it does not know. One that says that nothing is to be
-    // done, or that DWARF has it already, adds nothing.
+    // Throws MachError for an encoding that the processor has not. One that says that nothing is to be done,
+    // or that DWARF has it already, adds nothing.
     void add(const UnwoundFunction& function);
 
     // With the end that the unwinder looks for.
@@ -34,14 +33,13 @@ private:
     void end(std::size_t start);
 
     std::size_t commonEntryFor(const std::optional<std::uint32_t>& personality);
-    void frameIs(std::uint8_t reg, std::uint32_t distance);
-    void isSaved(std::uint8_t reg, std::uint32_t words);
-    void describeWithFramePointer(std::uint32_t encoding);
-    void describeWithoutFramePointer(const UnwoundFunction& function, bool isSizeInCode);
+    void describe(const Frame& frame);
+    void isSaved(const SavedRegister& saved);
 
     std::uint64_t addressOf(std::uint32_t place) const;
 
     const Bytes& image_;
+    const FrameRules& rules_;
     std::map<std::optional<std::uint32_t>, std::size_t> commonEntries_; // by personality
     std::vector<std::uint8_t> bytes_;
 };

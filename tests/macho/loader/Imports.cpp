@@ -3,7 +3,7 @@
 #include "mac/Vocabulary.h"
 #include "mac/objc/Block.h"
 #include "mac/objc/NewObject.h"
-#include "tests/macho/loader/Messages.h"
+#include "tests/macho/loader/Conventions.h"
 
 #include <dlfcn.h>
 #include <link.h>
@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <map>
 #include <string>
 
 // NOLINTBEGIN(readability-identifier-naming, bugprone-reserved-identifier): the names are the compiler's.
@@ -30,15 +29,10 @@ constexpr std::string_view ObjectiveC = "/usr/lib/libobjc.A.dylib";
 constexpr std::string_view System = "/usr/lib/libSystem.B.dylib";
 constexpr std::string_view AppKit = "/System/Library/Frameworks/AppKit.framework/Versions/C/AppKit";
 
-// Functions of glibc's whose arguments and results are Darwin's on this processor.
+// Functions of glibc's that are Darwin's. Where the conventions of a processor differ, its own come before.
 constexpr std::array SameInGlibc = {"abort",  "calloc", "fprintf", "fputs",  "free",
                                     "malloc", "memchr", "memcmp",  "memcpy", "memmove",
                                     "memset", "modf",   "printf",  "strcmp", "strlen"};
-
-template <typename Thing>
-void* addressOf(Thing* thing) {
-    return reinterpret_cast<void*>(thing);
-}
 
 // The program's C++ library stands beside GCC's, which GNUstep and the stand-ins use. It is made of LLVM's
 // archives so that it finds itself first, and unwinds with what the process unwinds with.
@@ -60,15 +54,11 @@ void popPool(void* pool) { mac::foundation.autoreleasePool.drain(static_cast<id>
 Class classOfObject(id object) { return object_getClass(object); } // inline in GCC's header
 
 // What is here under another name or in another form.
-std::map<std::string_view, void*> replacements(MessageChecks checks) {
+Functions replacements(MessageChecks checks) {
     // Its value is nobody's business but that it does not change.
     static std::uintptr_t stackGuard =
         0x595A5B5C5D5E5F00; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
-    const bool checked = checks == MessageChecks::structureReturns;
-    return {
-        {"_objc_msgSend", addressOf(checked ? kestruneCheckedMessage : kestruneMessage)},
-        {"_objc_msgSend_stret",
-         addressOf(checked ? kestruneCheckedMessageForStructure : kestruneMessageForStructure)},
+    Functions functions = {
         {"_objc_autoreleasePoolPush", addressOf(pushPool)},
         {"_objc_autoreleasePoolPop", addressOf(popPool)},
         {"_object_getClass", addressOf(classOfObject)},
@@ -79,6 +69,9 @@ std::map<std::string_view, void*> replacements(MessageChecks checks) {
         {"___stack_chk_guard", &stackGuard},
         {"___stderrp", addressOf(&stderr)},
     };
+    functions.merge(messageFunctions(checks));
+    functions.merge(functionsOfOtherConventions());
+    return functions;
 }
 
 // The name of the file that holds an address, without folder and versions; empty for the program itself.
@@ -112,7 +105,7 @@ void* find(std::string_view library, std::string_view symbol) {
     // C's names have an underscore before them.
     const std::string name(symbol.starts_with('_') ? symbol.substr(1) : symbol);
     if (library == CxxLibrary) {
-        return dlsym(cxxLibrary(), name.c_str());
+        return cxxFunction(cxxLibrary(), name);
     }
     void* const found = dlsym(RTLD_DEFAULT, name.c_str());
     if (found != nullptr && !mayBeIn(library, ownerOf(found), name)) {

@@ -4,6 +4,16 @@
 
 namespace kestrune::macho {
 
+TinyUnwind TinyUnwind::ofArm64() {
+    TinyUnwind unwind;
+    unwind.encoding = 0x04000000;
+    unwind.encodingWithData = 0x54000000;
+    unwind.frameless = 0x02001000;
+    unwind.commonEncoding = 0x04000911;
+    unwind.ownEncoding = 0x03000000;
+    return unwind;
+}
+
 std::vector<std::uint8_t> TinyUnwind::bytes() const {
     std::vector<std::uint8_t> result;
     const auto words = [&result](std::initializer_list<std::uint32_t> numbers) {

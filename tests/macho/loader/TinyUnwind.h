@@ -7,7 +7,7 @@
 namespace kestrune::macho {
 
 // Three functions in a page that lists each with its encoding, and two in one whose encodings are numbers:
-// one that all pages have in common and one of the page's own.
+// one that all pages have in common and one of the page's own. For x86-64 unless it is made for arm64.
 struct TinyUnwind {
     std::uint32_t version = 1;
     std::uint32_t firstPageKind = 2;
@@ -22,6 +22,10 @@ struct TinyUnwind {
     static constexpr std::uint32_t End = 0x280;
     static constexpr std::uint32_t Personality = 0x20;
     static constexpr std::uint32_t LanguageData = 0x2C0;
+
+    // The same frames there, but that a large one is no case of its own: the function at 0x200 has a small
+    // one and saves registers of both kinds.
+    static TinyUnwind ofArm64();
 
     std::vector<std::uint8_t> bytes() const;
 };

@@ -12,7 +12,7 @@ namespace kestrune::macho {
 
 std::vector<std::uint8_t> callFramesOf(const LoadedImage& image) {
     const Bytes memory(image.memory(), image.slice().name());
-    CallFrames frames(memory);
+    CallFrames frames(memory, image.slice().processor());
     if (const auto section = image.section("__unwind_info"); !section.empty()) {
         const Bytes content(section, image.slice().name() + ": the section __unwind_info");
         for (const UnwoundFunction& function : readCompactUnwind(content)) {

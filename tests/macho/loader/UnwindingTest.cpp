@@ -47,10 +47,14 @@ TEST(CompactUnwind, IsReadFromBothKindsOfPages) {
     EXPECT_EQ(functions[1].languageData, TinyUnwind::LanguageData);
 }
 
+Content keptForTheFuzzer(const std::string& name) {
+    std::ifstream file(KESTRUNE_LOADER_FILES "/" + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
 TEST(CompactUnwind, IsKeptForTheFuzzer) {
-    std::ifstream file(KESTRUNE_LOADER_FILES "/unwind-info", std::ios::binary);
-    const Content kept{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    EXPECT_EQ(kept, TinyUnwind{}.bytes());
+    EXPECT_EQ(keptForTheFuzzer("unwind-info"), TinyUnwind{}.bytes());
+    EXPECT_EQ(keptForTheFuzzer("unwind-info-arm64"), TinyUnwind::ofArm64().bytes());
 }
 
 TEST(CompactUnwind, RefusesWhatItDoesNotKnow) {
@@ -74,9 +78,9 @@ Content imageWithFrameOf(std::uint32_t size) {
     return image;
 }
 
-Content framesFor(const TinyUnwind& unwind, const Content& image) {
+Content framesFor(const TinyUnwind& unwind, const Content& image, Processor processor = Processor::x86_64) {
     const Bytes memory(image, "Image");
-    CallFrames frames(memory);
+    CallFrames frames(memory, processor);
     for (const UnwoundFunction& function : read(unwind)) {
         frames.add(function);
     }
@@ -130,9 +134,39 @@ TEST(CallFrames, SayWhereRegistersAreSaved) {
               padded({0x0C, 7, 32, 0x8C, 4, 0x83, 3, 0x86, 2}, instructionsOf(entries[4])));
 }
 
-std::string refusalOf(const TinyUnwind& unwind, const Content& image) {
+// On arm64 the frame begins where it ended for the caller, and the return address is in a register.
+TEST(CallFrames, SayWhatTheCompactFormSaysOnArm64) {
+    const Content image(0x400);
+    const auto entries = entriesIn(framesFor(TinyUnwind::ofArm64(), image, Processor::arm64));
+    ASSERT_THAT(entries, SizeIs(6));
+    // No other entry, version, augmentation and its end, factors, the return address, one byte of
+    // augmentation.
+    const Content common = {0, 0, 0, 0, 1, 'z', 'R', 0, 1, 0x78, 30, 1, 0, 0x0C, 31, 0};
+    EXPECT_EQ(entries[0], padded(common, entries[0]));
+    const Content withFramePointer = {0x0C, 29, 16, 0x9D, 2, 0x9E, 1};
+    EXPECT_EQ(instructionsOf(entries[1]), padded(withFramePointer, instructionsOf(entries[1])));
+    EXPECT_EQ(instructionsOf(entries[3], 8), padded(withFramePointer, instructionsOf(entries[3], 8)));
+    EXPECT_EQ(instructionsOf(entries[4]), padded({0x0C, 31, 16}, instructionsOf(entries[4])));
+}
+
+TEST(CallFrames, SayWherePairsOfRegistersAreSavedOnArm64) {
+    const Content image(0x400);
+    auto unwind = TinyUnwind::ofArm64();
+    unwind.frameless = 0x02103802; // 16 * 0x103 bytes, with x21 and x22, and v14 and v15
+    const auto entries = entriesIn(framesFor(unwind, image, Processor::arm64));
+    // Each pair is below the one before: x19 and x20, x27 and x28, v8 and v9, v14 and v15. Numbers from 64 on
+    // do not fit into the instruction.
+    const Content withFramePointer = {0x0C, 29, 16, 0x9D, 2, 0x9E, 1, 0x93, 3,  0x94, 4, 0x9B, 5, 0x9C,
+                                      6,    5,  72, 7,    5, 73,   8, 5,    78, 9,    5, 79,   10};
+    EXPECT_EQ(instructionsOf(entries[5]), padded(withFramePointer, instructionsOf(entries[5])));
+    const Content without = {0x0C, 31, 0xB0, 0x20, 0x95, 1, 0x96, 2, 5, 78, 3, 5, 79, 4};
+    EXPECT_EQ(instructionsOf(entries[4]), padded(without, instructionsOf(entries[4])));
+}
+
+std::string refusalOf(const TinyUnwind& unwind, const Content& image,
+                      Processor processor = Processor::x86_64) {
     try {
-        framesFor(unwind, image);
+        framesFor(unwind, image, processor);
     } catch (const MachError& error) {
         return error.what();
     }
@@ -145,6 +179,10 @@ TEST(CallFrames, RefuseWhatTheyDoNotKnow) {
     EXPECT_EQ(refusalOf({.encoding = 0x02021C00}, imageWithFrameOf(0)),
               "Image: has a function with 7 saved registers");
     EXPECT_EQ(refusalOf({}, Content(0x10)).substr(0, 7), "Image: ");
+    EXPECT_EQ(refusalOf({.encoding = 0x01000000}, Content(0x400), Processor::arm64),
+              "Image: has a function with the encoding 0x1000000");
+    EXPECT_EQ(refusalOf({.encoding = 0x05000000}, Content(0x400), Processor::arm64),
+              "Image: has a function with the encoding 0x5000000");
 }
 
 } // namespace

@@ -1,7 +1,6 @@
-#include "tests/macho/loader/Messages.h"
-
 #include "base/Fatal.h"
 #include "mac/objc/Runtime.h"
+#include "tests/macho/loader/Messages.h"
 
 #include <cstddef>
 #include <functional>
@@ -16,6 +15,14 @@ const char* objc_skip_type_qualifiers(const char* encoding);
 BOOL sel_is_mapped(SEL selector);
 }
 // NOLINTEND(readability-identifier-naming)
+
+// In assembly.
+extern "C" {
+void kestruneMessage();
+void kestruneMessageForStructure();
+void kestruneCheckedMessage();
+void kestruneCheckedMessageForStructure();
+} // extern "C"
 
 namespace kestrune::macho {
 
@@ -110,6 +117,15 @@ extern "C" IMP kestruneLookUpCheckedForStructure(void* first, void* second, void
         check(object(second), selector(third), true);
     }
     return lookUp(object(second), selector(third), toNil);
+}
+
+Functions messageFunctions(MessageChecks checks) {
+    const bool checked = checks == MessageChecks::structureReturns;
+    return {
+        {"_objc_msgSend", addressOf(checked ? kestruneCheckedMessage : kestruneMessage)},
+        {"_objc_msgSend_stret",
+         addressOf(checked ? kestruneCheckedMessageForStructure : kestruneMessageForStructure)},
+    };
 }
 
 } // namespace kestrune::macho
