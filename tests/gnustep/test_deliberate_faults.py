@@ -67,6 +67,13 @@ class DeliberateFaults(TreeTest):
         result = self.assert_named("imports what is not there: _CFReleasf of ", "/CoreFoundation")
         self.assertEqual(result.returncode, UNREADABLE)
 
+    @unittest.skipUnless(PROCESSOR == "arm64", "only there strings have two layouts")
+    def test_a_function_that_has_strings_of_another_layout(self):
+        self.replace(b"\0__ZNSt3__19to_stringEj\0", b"\0__ZNSt3__19to_stringEd\0")
+        sealing.seal(self.application)
+        result = self.assert_named("_ZNSt3__19to_stringEd may have to do with strings")
+        self.assertEqual(result.returncode, UNREADABLE)
+
     def test_a_page_that_is_not_what_was_sealed(self):
         self.replace(b"\0Pin Dock to:\0", b"\0Pin Dock at:\0")
         result = self.assert_named(f"{self.program}: ", ": page ", "was changed after it was sealed")

@@ -1,6 +1,6 @@
-// Exceptions as the application meets them: C++'s through its own functions, Foundation's through them, and
-// C++'s through Foundation's. Ends with success when each is caught where it should be and everything on its
-// way is destroyed.
+// Exceptions as the application meets them: C++'s and its library's through its own functions, Foundation's
+// through them, and C++'s through Foundation's. Ends with success when each is caught where it should be and
+// everything on its way is destroyed.
 #include "mac/Vocabulary.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
@@ -72,6 +72,12 @@ bool cxxThroughCxx() {
         [](const std::logic_error& error) { return std::string(error.what()) == "deep"; });
 }
 
+// Thrown by a function of the C++ library's that is not part of this program.
+bool libraryThroughCxx() {
+    return arrives<std::out_of_range>([] { std::string("short").insert(9, "behind the end", 14); },
+                                      [](const std::out_of_range& error) { return *error.what() != '\0'; });
+}
+
 // Of no type that C++ knows.
 bool foundationThroughCxx() {
     destroyed = 0;
@@ -124,6 +130,7 @@ int main() {
     using namespace kestrune::mac;
     const Pool pool;
     const bool isRight = tell("C++ through C++", cxxThroughCxx()) &&
+                         tell("The C++ library through C++", libraryThroughCxx()) &&
                          tell("Foundation through C++", foundationThroughCxx()) &&
                          tell("C++ through Foundation", cxxThroughFoundation());
     return isRight ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -1,8 +1,11 @@
-// Apple, Writing ARM64 Code for Apple Platforms; Arm, Procedure Call Standard for the Arm 64-bit
+// Source: Apple, Writing ARM64 Code for Apple Platforms; Arm, Procedure Call Standard for the Arm 64-bit
 // Architecture.
+#include "base/Fatal.h"
+#include "mac/objc/Runtime.h"
 #include "tests/macho/Bytes.h"
 #include "tests/macho/loader/Conventions.h"
 #include "tests/macho/loader/CxxNames.h"
+#include "tests/macho/loader/SmallArguments.h"
 #include "tests/macho/loader/Stub.h"
 
 #include <dlfcn.h>
@@ -12,7 +15,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
-#include <map>
+#include <string>
 
 // In assembly.
 extern "C" {
@@ -54,6 +57,18 @@ void* made(const Stub& stub) {
     return memory;
 }
 
+// GNUstep calls the program's methods.
+BOOL addMethod(Class type, SEL selector, IMP implementation, const char* encoding) {
+    const auto instructions = instructionsThatFill(encoding);
+    if (!instructions) {
+        fatal(std::string("-[") + class_getName(type) + " " + sel_getName(selector) + "], which is " +
+              encoding + ", takes what is passed to it in another way here");
+    }
+    const Stub stub{*instructions, 0, std::bit_cast<std::uint64_t>(implementation)};
+    return class_addMethod(type, selector,
+                           instructions->empty() ? implementation : std::bit_cast<IMP>(made(stub)), encoding);
+}
+
 std::uint64_t numberOf(void* address) { return std::bit_cast<std::uint64_t>(address); }
 
 } // namespace
@@ -71,7 +86,11 @@ extern "C" [[gnu::format(printf, 2, 0)]] int kestrunePrintToFileFrom(std::FILE* 
 }
 
 Functions functionsOfOtherConventions() {
-    return {{"_printf", addressOf(kestrunePrint)}, {"_fprintf", addressOf(kestrunePrintToFile)}};
+    return {
+        {"_class_addMethod", addressOf(addMethod)},
+        {"_fprintf", addressOf(kestrunePrintToFile)},
+        {"_printf", addressOf(kestrunePrint)},
+    };
 }
 
 // No constructor of the library's has so many arguments that some of them are on the stack.
