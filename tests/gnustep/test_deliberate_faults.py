@@ -8,7 +8,7 @@ import unittest
 
 import worlds
 from releasing import sealing
-from releasing.linux import PROGRAM
+from releasing.halves import PROGRAM
 from trees import TreeTest
 
 STORIES = pathlib.Path(os.environ["KESTRUNE_STORIES"])

@@ -7,6 +7,8 @@ import unittest
 
 from tiny_bundles import SealTest
 
+from releasing import halves
+
 APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
 
 
@@ -22,6 +24,7 @@ class ApplicationSeal(SealTest):
         self.assertEqual(sorted(line.split(":")[0] for line in lines), ["arm64", "x86_64"])
         for line in lines:
             self.assertIn(", for macOS 13.0, org.kestrune.Kestrune, cdhash ", line)
+        self.assertEqual(halves.lines(self.app / halves.PROGRAM), lines)
 
     def test_notices_a_changed_byte_anywhere(self):
         contents = self.app / "Contents"

@@ -15,6 +15,8 @@ from tiny_bundles import (
     write,
 )
 
+from releasing import halves
+
 
 class SealedApplication(SealTest):
     def setUp(self):
@@ -34,6 +36,8 @@ class Seal(SealedApplication):
             self.assertRegex(parts[0], rf"^{processor}: \d+ bytes$")
             words = ["for macOS 13.0", IDENTIFIER, f"cdhash {cdhash.hex()}", f"{pages} pages"]
             self.assertEqual(parts[1:], words)
+        # Where there is no checker, the release's own reader says so.
+        self.assertEqual(halves.lines(self.program), lines)
 
     def test_is_the_same_when_it_is_made_again(self):
         self.assertEqual(self.seal(self.app), self.seal(self.app))

@@ -5,7 +5,7 @@ import pathlib
 import re
 import unittest
 
-from releasing.linux import PROGRAM
+from releasing.halves import PROGRAM
 from releasing.sealing import machofile
 
 REPOSITORY = pathlib.Path(__file__).resolve().parents[2]

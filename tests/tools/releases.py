@@ -27,6 +27,8 @@ COPIED = (
 )
 SYSTEM_PROGRAMS = ("bash", "cat", "cp", "dirname", "env", "git", "ln", "make", "mkdir", "rm", "sh", "tar")
 
+SIGNED_PROGRAM = REPOSITORY / "tests/fuzz/corpus/code-seal/universal.macho"
+
 LOG = r"""printf '%s\x1f' "${0##*/}" "$@" >> "$LOG"; echo >> "$LOG"
 """
 STAND_INS = {
@@ -37,7 +39,11 @@ STAND_INS = {
     + """[[ $1 == --build ]] || exit 0
 mkdir -p build/mac/mac/Kestrune.app/Contents/MacOS
 cp Kestrune/Resources/Info.plist build/mac/mac/Kestrune.app/Contents
-echo program > build/mac/mac/Kestrune.app/Contents/MacOS/Kestrune""",
+echo program with symbols > build/mac/mac/Kestrune.app/Contents/MacOS/Kestrune""",
+    "dsymutil": LOG + 'mkdir -p "$4"',
+    # What is left is signed already, which codesign's stand-in does not do.
+    "strip": LOG + f'cp "{SIGNED_PROGRAM}" "$1"',
+    "dwarfdump": LOG + 'echo "UUID: 40 (arm64) $2"; echo "UUID: 41 (x86_64) $2"',
     "ditto": LOG
     + """source=${@: -2:1} target=${@: -1}
 if [[ $1 == -c ]]; then echo "archive of $source" > "$target"; else cp -RP "$source" "$target"; fi""",

@@ -6,11 +6,14 @@ import subprocess
 import unittest
 import zipfile
 
-from releases import FEED_URL, PUBLIC_KEY, REAL_IDENTITY, ReleaseTest
+from releases import FEED_URL, PUBLIC_KEY, REAL_IDENTITY, SIGNED_PROGRAM, ReleaseTest
 from trees import REPOSITORY
 
 BUNDLE = "build/mac/Kestrune.app"
+SYMBOLS = f"{BUNDLE}.dSYM"
+PROGRAM = "Contents/MacOS/Kestrune"
 FRAMEWORK = f"{BUNDLE}/Contents/Frameworks/Sparkle.framework"
+TINY_PROGRAM = REPOSITORY / "tests/fuzz/corpus/mach-file/universal.macho"
 VERIFICATION = ["codesign", "--verify", "--strict", "--deep", "--verbose=2", BUNDLE]
 
 
@@ -44,8 +47,16 @@ class DryRun(AppTest):
                 ["tar", "-xf", archive, "-C", "build/sparkle/2.10.1"],
                 ["cmake", "--preset", "mac"],
                 ["cmake", "--build", "--preset", "mac", "--parallel"],
-                ["rm", "-rf", BUNDLE],
-                ["ditto", "build/mac/mac/Kestrune.app", BUNDLE],
+                ["rm", "-rf", BUNDLE, SYMBOLS],
+                ["mkdir", "-p", "build/mac"],
+                ["ditto", "--noextattr", "--noqtn", "build/mac/mac/Kestrune.app", BUNDLE],
+                [
+                    *["dsymutil", "--oso-prepend-path", "build/mac", "-o", SYMBOLS],
+                    f"build/mac/mac/Kestrune.app/{PROGRAM}",
+                ],
+                ["strip", f"{BUNDLE}/{PROGRAM}"],
+                ["dwarfdump", "--uuid", SYMBOLS],
+                ["dwarfdump", "--uuid", f"{BUNDLE}/{PROGRAM}"],
                 ["mkdir", "-p", f"{BUNDLE}/Contents/Frameworks"],
                 ["ditto", "--noextattr", "--noqtn", "build/sparkle/2.10.1/Sparkle.framework", FRAMEWORK],
                 ["rm", "-rf", f"{FRAMEWORK}/XPCServices", f"{FRAMEWORK}/Versions/B/XPCServices"],
@@ -70,6 +81,19 @@ class DryRun(AppTest):
     def test_touches_no_framework_without_sparkle(self):
         for command in self.dry_run("--sparkle", "none"):
             self.assertNotIn("Sparkle", " ".join(command))
+
+
+class Linux(AppTest):
+    def work(self, system, bundle):
+        result = self.call("tools/app", "--system", system, "--dry-run", "--sparkle", "none")
+        text = result.stdout.replace(bundle, "BUNDLE").replace(bundle.replace(".app", ".zip"), "ZIP")
+        return [line for line in text.splitlines() if line.startswith("# ")]
+
+    def test_does_the_same_to_the_bundle_but_for_its_seal(self):
+        languages, information, seal, archive = self.work("Linux", "build/cross/Kestrune.app")
+        self.assertEqual(seal, "# seal BUNDLE and the code in it")
+        reading = "# read the signature of each half of BUNDLE"
+        self.assertEqual(self.work("Darwin", BUNDLE), [languages, information, reading, archive])
 
 
 class Signing(AppTest):
@@ -117,11 +141,11 @@ class Build(AppTest):
         shown = self.logged(self.dry_run(*arguments))
         self.build(*arguments)
         self.assertEqual(self.calls(), shown)
-        self.assertEqual(len(shown), 10)
+        self.assertEqual(len(shown), 14)
 
     def test_leaves_the_bundle_with_its_framework(self):
         self.build("--sparkle", self.framework)
-        self.assertTrue(self.path(f"{BUNDLE}/Contents/MacOS/Kestrune").is_file())
+        self.assertTrue(self.path(f"{BUNDLE}/{PROGRAM}").is_file())
         self.assertTrue(self.path(f"{FRAMEWORK}/Versions/B/Autoupdate").is_file())
         self.assertTrue(self.path(f"{FRAMEWORK}/Autoupdate").is_symlink())
         with zipfile.ZipFile(self.path("build/mac/Kestrune.zip")) as packed:
@@ -144,6 +168,33 @@ class Build(AppTest):
         self.build()
         self.build()
         self.assertEqual([call[0] for call in self.calls()].count("curl"), 1)
+
+    def test_strips_the_program_and_keeps_the_symbols(self):
+        self.build("--sparkle", "none")
+        self.assertEqual(self.path(f"{BUNDLE}/{PROGRAM}").read_bytes(), SIGNED_PROGRAM.read_bytes())
+        self.assertIn(b"with symbols", self.path(f"build/mac/mac/Kestrune.app/{PROGRAM}").read_bytes())
+        self.assertTrue(self.path(SYMBOLS).is_dir())
+
+    def test_ends_with_the_path_and_a_line_for_each_half(self):
+        result = self.app("--sparkle", "none")
+        path, *halves = result.stdout.splitlines()[-3:]
+        self.assertEqual(path, f"{BUNDLE} is built and signed")
+        for line, processor in zip(halves, ("x86_64", "arm64")):
+            known = r"for macOS 13.0, org.kestrune.Tiny, cdhash [0-9a-f]{40}"
+            self.assertRegex(line, rf"^{processor}: \d+ bytes, {known}, \d pages$")
+
+    def test_ends_when_the_symbols_are_of_another_program(self):
+        self.use_mac(dwarfdump='echo "UUID: ${#2} (arm64) $2"; echo "UUID: 41 (x86_64) $2"')
+        self.assert_fails(self.app("--sparkle", "none"), f"tools/app: {SYMBOLS} has the UUIDs")
+
+    def test_ends_when_lines_of_the_symbols_are_missing(self):
+        self.use_mac(dsymutil="echo warning: no main.cpp.o >&2")
+        message = "tools/app: the symbols are not whole: warning: no main.cpp.o"
+        self.assert_fails(self.app("--sparkle", "none"), message)
+
+    def test_ends_when_the_program_was_not_signed(self):
+        self.use_mac(strip=f'cp "{TINY_PROGRAM}" "$1"')
+        self.assert_fails(self.app("--sparkle", "none"), f"tools/app: {BUNDLE}/{PROGRAM} has no", "signature")
 
     def test_ends_when_a_program_fails(self):
         self.use_mac(codesign="exit 3")
@@ -245,7 +296,7 @@ class Parameters(AppTest):
         self.assertEqual(self.calls(), [])
 
     def test_do_not_help_where_there_is_no_mac(self):
-        self.assert_fails(self.app(), "tools/app: needs a Mac: codesign and ditto not found", "--dry-run")
+        self.assert_fails(self.app(), "tools/app: needs a Mac: codesign and ditto and dsymutil", "--dry-run")
 
 
 class Make(AppTest):

@@ -41,7 +41,7 @@ STAND_INS = {
     "cmake": CMAKE,
     "llvm-strip": LOG + 'cp "$3" "$2"',
     "llvm-lipo": LOG + f'cp "{TINY_PROGRAMS}/universal.macho" "${{@: -1}}"; chmod 755 "${{@: -1}}"',
-    "dsymutil": LOG + '[[ $2 == --flat ]] || mkdir -p "$3/Contents/Resources/DWARF"',
+    "dsymutil": LOG + '[[ $3 == --flat ]] || mkdir -p "$4/Contents/Resources/DWARF"',
     "llvm-dwarfdump": LOG + 'echo "UUID: 40 (arm64) $2"; echo "UUID: 41 (x86_64) $2"',
     "kestrune-check-seal": LOG + 'echo "arm64: sealed"; echo "x86_64: sealed"',
     "kestrune-check-limits": LOG,
@@ -81,7 +81,9 @@ class LinuxTest(ReleaseTest):
 class DryRun(LinuxTest):
     def test_shows_every_command_in_order(self):
         halves = [f"build/cross/Kestrune-{processor}" for processor in ("arm64", "x86_64")]
-        built = [f"build/cross-{processor}/mac/Kestrune.app/{PROGRAM}" for processor in ("arm64", "x86_64")]
+        builds = [f"build/cross-{processor}" for processor in ("arm64", "x86_64")]
+        built = [f"{build}/mac/Kestrune.app/{PROGRAM}" for build in builds]
+        extraction = [[f"{LLVM}/dsymutil", "--oso-prepend-path", build] for build in builds]
         symbols = f"{BUNDLE}.dSYM"
         others = "build/cross/symbols"
         both = f"{symbols}/Contents/Resources/DWARF/Kestrune"
@@ -96,16 +98,16 @@ class DryRun(LinuxTest):
                 ["cmake", "--build", "build/cross-x86_64", "--target", "Kestrune"],
                 ["rm", "-rf", BUNDLE, symbols],
                 ["mkdir", "-p", "build/cross"],
-                ["cp", "-R", "build/cross-arm64/mac/Kestrune.app", BUNDLE],
+                ["cp", "-R", "-H", "build/cross-arm64/mac/Kestrune.app", BUNDLE],
                 [f"{LLVM}/llvm-strip", "-o", halves[0], built[0]],
                 [f"{LLVM}/llvm-strip", "-o", halves[1], built[1]],
                 [f"{LLVM}/llvm-lipo", "-create", *halves, "-output", f"{BUNDLE}/{PROGRAM}"],
-                [f"{LLVM}/dsymutil", "--quiet", "-o", symbols, built[0]],
-                [f"{LLVM}/dsymutil", "--quiet", "--flat", "-o", others, built[1]],
+                [*extraction[0], "-o", symbols, built[0]],
+                [*extraction[1], "--flat", "-o", others, built[1]],
                 [f"{LLVM}/llvm-lipo", "-create", both, others, "-output", both],
+                ["rm", "-f", *halves, others],
                 [f"{LLVM}/llvm-dwarfdump", "--uuid", symbols],
                 [f"{LLVM}/llvm-dwarfdump", "--uuid", f"{BUNDLE}/{PROGRAM}"],
-                ["rm", "-f", *halves, others],
                 ["cmake", "--preset", "gcc"],
                 [
                     *["cmake", "--build", "--preset", "gcc"],
@@ -155,6 +157,11 @@ class Build(LinuxTest):
     def test_ends_when_the_symbols_are_of_another_program(self):
         self.use_linux(**{"llvm-dwarfdump": 'echo "UUID: ${#2} (arm64) $2"; echo "UUID: 41 (x86_64) $2"'})
         message = "tools/app: build/cross/Kestrune.app.dSYM has the UUIDs"
+        self.assert_fails(self.app("--sparkle", "none"), message)
+
+    def test_ends_when_lines_of_the_symbols_are_missing(self):
+        self.use_linux(dsymutil=STAND_INS["dsymutil"] + "; for name in A B; do echo no $name.o >&2; done")
+        message = "tools/app: the symbols are not whole: no A.o and 1 more"
         self.assert_fails(self.app("--sparkle", "none"), message)
 
     def test_ends_when_a_half_is_missing(self):

@@ -10,6 +10,7 @@ import unittest
 
 from tiny_bundles import PROGRAMS, SealTest, information, make_application, make_framework, put_program, write
 
+from releasing import halves
 from releasing.steps import Failure
 
 
@@ -120,6 +121,39 @@ class Sealing(SealTest):
         self.assert_refused(
             framework / "Versions/Current", "is no link to the version of the framework that counts"
         )
+
+
+class Lines(SealTest):
+    """What a reader of a signature says of one that it cannot read."""
+
+    def setUp(self):
+        super().setUp()
+        self.program = self.root / "program"
+        put_program(self.program, "arm64")
+        self.seal(self.program)
+        self.sealed = self.program.read_bytes()
+        self.start = self.sealed.index(struct.pack(">I", 0xFADE0CC0))
+
+    def assert_refused(self, data, message):
+        write(self.program, data)
+        with self.assertRaises(Failure) as caught:
+            halves.lines(self.program)
+        self.assertEqual(str(caught.exception), f"{self.program} {message}")
+
+    def test_tell_of_a_signature(self):
+        (line,) = halves.lines(self.program)
+        self.assertRegex(line, r"^arm64: \d+ bytes, for macOS 13.0, program, cdhash [0-9a-f]{40}, 1 pages$")
+
+    def test_are_none_without_a_signature(self):
+        self.assert_refused((PROGRAMS / "arm64.macho").read_bytes(), "has no code signature")
+
+    def test_are_none_of_a_signature_that_ends_early(self):
+        self.assert_refused(self.sealed[: self.start + 16], "has no whole code signature")
+
+    def test_are_none_of_another_hash(self):
+        directory = self.sealed.index(struct.pack(">I", 0xFADE0C02))
+        changed = self.sealed[: directory + 37] + b"\1" + self.sealed[directory + 38 :]
+        self.assert_refused(changed, "is signed with another hash than SHA-256")
 
 
 if __name__ == "__main__":

@@ -1,11 +1,12 @@
-"""Kestrune.app: built, given its framework and its Info.plist, signed and packed.
+"""Kestrune.app: built, stripped, given its framework and its Info.plist, signed and packed.
 
-Where it is built, and so how it is signed, is a Mac's or Linux' matter (mac.py, linux.py).
+With which programs it is built, stripped and signed is a Mac's or Linux' matter (mac.py, linux.py).
 """
 
 from . import archive, information, localizations, sparkle
 from .parameters import NO_SPARKLE
 from .steps import Command, Work
+from .symbols import Symbols
 
 
 def require_sparkle(options):
@@ -21,9 +22,15 @@ def steps(options, system):
     target = None if options.sparkle == NO_SPARKLE else contents / "Frameworks/Sparkle.framework"
     plist, packed = contents / "Info.plist", system.application.with_suffix(".zip")
     release = None if options.sparkle else sparkle.pinned()
+    symbols = Symbols(system.application)
     return [
         *(release.steps() if release else []),
         *system.build(),
+        Command("rm", "-rf", system.application, symbols.folder),
+        Command("mkdir", "-p", system.application.parent),
+        *system.copy(system.built, system.application),
+        *system.strip(symbols),
+        *symbols.comparison(system.dwarfdump),
         Work(
             f"compare the languages of {system.application} with those of {localizations.SOURCES}",
             lambda: localizations.require_all(system.application),
@@ -36,6 +43,11 @@ def steps(options, system):
         *system.sign(target, options.identity),
         Work(f"pack {packed}", lambda: archive.pack(system.application, packed)),
     ]
+
+
+def closing_words(system):
+    """Where it is, and a line for each half."""
+    return "\n".join([f"{system.application} is built and {system.sealed}", *system.halves])
 
 
 def _embed(framework, target, system):

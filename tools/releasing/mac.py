@@ -3,18 +3,26 @@
 import pathlib
 import shutil
 
-from . import signing
-from .steps import Command, Failure
+from . import halves, signing
+from .steps import Command, Failure, Work
+from .symbols import extraction
 
-BUILT = pathlib.Path("build/mac/mac/Kestrune.app")
+BUILD = pathlib.Path("build/mac")
+# In the build.
+BUNDLE = pathlib.Path("mac/Kestrune.app")
 
 
 class Mac:
-    application = pathlib.Path("build/mac/Kestrune.app")
-    programs = ("codesign", "ditto")
+    sealed = "signed"
+    dwarfdump = "dwarfdump"
+    built = BUILD / BUNDLE
+    # Not the build's own: it would link again into a bundle that is signed.
+    application = BUILD / BUNDLE.name
+    programs = ("codesign", "ditto", "dsymutil", "dwarfdump", "strip")
 
     def __init__(self, more_programs=()):
         self.programs = (*self.programs, *more_programs)
+        self.halves = []
 
     def require(self, options):
         del options  # Whether the keychain has the certificate, codesign says.
@@ -26,16 +34,24 @@ class Mac:
         return [
             Command("cmake", "--preset", "mac"),
             Command("cmake", "--build", "--preset", "mac", "--parallel"),
-            # A copy: the build would link again into a bundle that is signed.
-            Command("rm", "-rf", self.application),
-            Command("ditto", BUILT, self.application),
         ]
 
-    def copy(self, framework, target):
-        return [Command("ditto", "--noextattr", "--noqtn", framework, target)]
+    def copy(self, source, target):
+        return [Command("ditto", "--noextattr", "--noqtn", source, target)]
+
+    def strip(self, symbols):
+        return [
+            extraction("dsymutil", BUILD, BUNDLE / halves.PROGRAM, symbols.folder),
+            Command("strip", symbols.program),
+        ]
 
     def sign(self, framework, identity):
-        return signing.steps(self.application, framework, identity)
+        # Limits are checked on Linux only, and so is the seal by somebody else than its maker: those programs
+        # are made with libraries of Debian's. Here codesign looks at what it made.
+        return [
+            *signing.steps(self.application, framework, identity),
+            Work(f"read the signature of each half of {self.application}", self._read_halves),
+        ]
 
-    def closing_words(self):
-        return f"{self.application} is built and signed"
+    def _read_halves(self):
+        self.halves = halves.lines(self.application / halves.PROGRAM)

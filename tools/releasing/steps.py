@@ -10,12 +10,13 @@ class Failure(Exception):
 
 
 class Command:
-    """A program that is run. `judge` is given what it printed, and raises Failure when that will not do.
-    `advice` is for when the program fails."""
+    """A program that is run. `judge` is given what it printed, with `judges_errors` also what it said beside
+    that, and raises Failure when that will not do. `advice` is for when the program fails."""
 
-    def __init__(self, *arguments, judge=None, advice=""):
+    def __init__(self, *arguments, judge=None, judges_errors=False, advice=""):
         self.arguments = [str(argument) for argument in arguments]
         self.judge = judge
+        self.errors = subprocess.STDOUT if judges_errors else None
         self.advice = advice and f"; {advice}"
 
     def __str__(self):
@@ -24,11 +25,16 @@ class Command:
     def run(self):
         try:
             result = subprocess.run(
-                self.arguments, stdout=subprocess.PIPE if self.judge else None, encoding="utf-8"
+                self.arguments,
+                stdout=subprocess.PIPE if self.judge else None,
+                stderr=self.errors,
+                encoding="utf-8",
             )
         except OSError as error:
             raise Failure(f"{self.arguments[0]} cannot be run: {error.strerror}") from None
         if result.returncode:
+            if self.errors:
+                sys.stderr.write(result.stdout)
             raise Failure(f"failed with exit status {result.returncode}: {self}{self.advice}")
         if self.judge:
             self.judge(result.stdout)

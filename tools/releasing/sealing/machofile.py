@@ -16,14 +16,17 @@ PROCESSORS = {0x0100000C: "arm64", 0x01000007: "x86_64"}
 # How far apart the halves of a universal file are where the file does not say, as a power of two.
 ALIGNMENT = 14
 
-SEGMENT, CODE_SIGNATURE, LOAD_COMMANDS = 0x19, 0x1D, 32
+SEGMENT, CODE_SIGNATURE, BUILD_VERSION, LOAD_COMMANDS = 0x19, 0x1D, 0x32, 32
 PAGE = 0x4000  # of memory, on the processor that has the larger ones
 
 
 def is_mach_o(data):
-    return len(data) >= LOAD_COMMANDS and (
-        struct.unpack_from(">I", data)[0] == UNIVERSAL or struct.unpack_from("<I", data)[0] == PROGRAM
-    )
+    magic = struct.pack("<I", PROGRAM)
+    return len(data) >= LOAD_COMMANDS and (is_universal(data) or data.startswith(magic))
+
+
+def is_universal(data):
+    return struct.unpack_from(">I", data)[0] == UNIVERSAL
 
 
 @dataclasses.dataclass
@@ -42,7 +45,7 @@ class Half:
             kind, size = struct.unpack_from("<II", self.data, place)
             self._commands.append((kind, place))
             place += size
-        self._signature = next((place for kind, place in self._commands if kind == CODE_SIGNATURE), None)
+        self._signature = self._command(CODE_SIGNATURE)
         if self._signature is None:
             self._signature = self._add_signature(count, place)
 
@@ -58,6 +61,20 @@ class Half:
     def code(self):
         """What pages are hashed of: everything before the signature."""
         return bytes(self.data[: self._code_size])
+
+    @property
+    def signature(self):
+        return bytes(self.data[self._code_size :])
+
+    @property
+    def minimum_system(self):
+        """The first macOS that runs it, as in 13.0."""
+        place = self._command(BUILD_VERSION)
+        if place is None:
+            raise Failure(f"does not say which macOS it is for ({self.processor})")
+        version = struct.unpack_from("<I", self.data, place + 12)[0]
+        major, minor, patch = version >> 16, version >> 8 & 0xFF, version & 0xFF
+        return f"{major}.{minor}.{patch}" if patch else f"{major}.{minor}"
 
     @property
     def text_size(self):
@@ -109,6 +126,10 @@ class Half:
     def _code_size(self):
         return struct.unpack_from("<I", self.data, self._signature + 8)[0]
 
+    def _command(self, wanted):
+        """Where the first load command of a kind starts, None without one."""
+        return next((place for kind, place in self._commands if kind == wanted), None)
+
     def _segment(self, name):
         for kind, place in self._commands:
             if kind == SEGMENT and self.data[place + 8 : place + 24].rstrip(b"\0") == name:
@@ -117,7 +138,7 @@ class Half:
 
 
 def halves_of(data):
-    if struct.unpack_from(">I", data)[0] != UNIVERSAL:
+    if not is_universal(data):
         return [Half(bytearray(data))]
     halves = []
     for index in range(struct.unpack_from(">I", data, 4)[0]):
@@ -138,10 +159,6 @@ def joined(halves, is_universal):
         body += bytes(start - position) + half.data
         position = first + len(body)
     return table + body
-
-
-def is_universal(data):
-    return struct.unpack_from(">I", data)[0] == UNIVERSAL
 
 
 def _aligned(number, unit):

@@ -1,8 +1,11 @@
 """The signature of one half: a code directory with the hashes of everything, and around it what an ad-hoc
 signature has of the rest."""
 
+import dataclasses
 import hashlib
 import struct
+
+from ..steps import Failure
 
 # The blobs, and the slots that they stand in.
 SIGNATURE, DIRECTORY, REQUIREMENTS, CERTIFICATES = 0xFADE0CC0, 0xFADE0C02, 0xFADE0C01, 0xFADE0B01
@@ -38,7 +41,41 @@ def sign(half, identifier, information, resources):
     directory = _directory(half, identifier, specials)
     blob = _blob(directory)
     half.sign(blob.ljust(-(-size // 16) * 16, b"\0"))
-    return hashlib.sha256(directory).digest()[:CDHASH_SIZE]
+    return _cdhash(directory)
+
+
+@dataclasses.dataclass(frozen=True)
+class Directory:
+    """What a code directory says of itself, whoever signed."""
+
+    identifier: str
+    cdhash: bytes
+    pages: int
+
+
+def directory_in(signature):
+    magic, _, count = _header_of(signature, 0, ">III")
+    slots = [_header_of(signature, 12 + 8 * index, ">II") for index in range(count)]
+    if magic != SIGNATURE or not slots or slots[0][0] != DIRECTORY_SLOT:
+        raise Failure("has no code signature")
+    start = slots[0][1]
+    _, length, _, _, _, identifier, _, pages = _header_of(signature, start, ">IIIIIIII")
+    directory = signature[start : start + length]
+    if directory[37:38] != bytes([SHA256]):
+        raise Failure("is signed with another hash than SHA-256")
+    name = directory[identifier : directory.index(b"\0", identifier)].decode()
+    return Directory(name, _cdhash(directory), pages)
+
+
+def _header_of(data, place, fields):
+    try:
+        return struct.unpack_from(fields, data, place)
+    except struct.error:
+        raise Failure("has no whole code signature") from None
+
+
+def _cdhash(directory):
+    return _hash(directory)[:CDHASH_SIZE]
 
 
 def _directory(half, identifier, specials):
