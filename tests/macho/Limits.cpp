@@ -33,20 +33,22 @@ public:
 
     Measures judge() {
         const Fixups fixups = readFixups(slice_);
-        const auto version = slice_.buildVersion();
+        const BuildVersion version = slice_.buildVersion().value_or(BuildVersion());
         measures_ = {slice_.content().size(),
                      initializersOf(slice_),
                      fixups.imports.size(),
-                     version ? version->minimumSystem : Version(),
+                     version.minimumSystem,
+                     version.sdk,
+                     {},
                      {}};
         compare(measures_.bytes, limits_.bytes, "bytes");
         compare(measures_.initializers, limits_.initializers, "initializers before main");
         compare(measures_.imports, limits_.imports, "imports");
-        if (!version || version->platform != BuildVersion::MacOS ||
-            version->minimumSystem != limits_.minimumSystem) {
-            complain("is for macOS " + measures_.minimumSystem.text() + ", not " +
-                     limits_.minimumSystem.text());
+        if (version.platform != BuildVersion::MacOS) {
+            complain("is for the platform " + std::to_string(version.platform) + ", which is not macOS");
         }
+        compare(version.minimumSystem, limits_.minimumSystem, "is for macOS ");
+        compare(version.sdk, limits_.sdk, "names the SDK ");
         for (const Import& import : fixups.imports) {
             lookUp(import);
         }
@@ -55,6 +57,7 @@ public:
 
 private:
     void complain(const std::string& what) { measures_.violations.push_back(slice_.name() + ": " + what); }
+    void miss(const std::string& what) { measures_.missing.push_back(slice_.name() + ": imports " + what); }
 
     void compare(std::uint64_t number, std::uint64_t limit, std::string_view what) {
         if (number > limit) {
@@ -63,19 +66,24 @@ private:
         }
     }
 
+    void compare(const Version& version, const Version& wanted, const std::string& what) {
+        if (version != wanted) {
+            complain(what + version.text() + ", not " + wanted.text());
+        }
+    }
+
     // What any library may have, the loader would look for in all of them at every start.
     void lookUp(const Import& import) {
         if (import.ordinal <= 0) {
-            complain("imports " + printable(import.name) + " from no library in particular");
+            miss(printable(import.name) + " from no library in particular");
             return;
         }
         const std::string_view library =
             slice_.libraries()[static_cast<std::size_t>(import.ordinal) - 1].installName;
         if (!stubs_.knows(library)) {
-            complain("imports from " + printable(library) + ", which no stub is about");
+            miss("from " + printable(library) + ", which no stub is about");
         } else if (!stubs_.has(library, import.name, slice_.processor())) {
-            complain("imports " + printable(import.name) + ", which is not in the stub of " +
-                     printable(library));
+            miss(printable(import.name) + ", which is not in the stub of " + printable(library));
         }
     }
 

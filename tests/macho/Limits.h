@@ -16,6 +16,7 @@ struct Limits {
     std::size_t initializers = 60; // functions that run before main
     std::size_t imports = 170;
     Version minimumSystem{13, 0, 0};
+    Version sdk; // that of the stubs
 };
 
 struct Measures {
@@ -23,7 +24,10 @@ struct Measures {
     std::size_t initializers = 0;
     std::size_t imports = 0;
     Version minimumSystem;
-    std::vector<std::string> violations; // each a line, empty when everything is within its limits
+    Version sdk;
+    // Each a line that says what and where.
+    std::vector<std::string> violations; // of limits
+    std::vector<std::string> missing;    // imports without which the program does not start
 };
 
 // Throws MachError for a program that cannot be read.

@@ -1,10 +1,18 @@
-// kestrune-check-limits [--bytes N] [--initializers N] [--imports N] PROGRAM SDK: prints what each half
-// of a program costs. SDK is a folder with stubs of the system's libraries, *.tbd. Exit status 1, and a line
-// for each limit that does not hold and each import that is in no stub; 2 for what cannot be read.
+// kestrune-check-limits [--bytes N] [--initializers N] [--imports N] [--system V] PROGRAM SDK: prints what
+// each half of a program costs and holds it against limits: so many bytes, functions that run before main and
+// imports at most, just that macOS as the first that runs it, and as its SDK just the one that SDK is of, a
+// folder with SDKSettings.json and stubs of the system's libraries, *.tbd.
+//
+// Exit status 1 for a program that is over a limit or for other systems. 2 for what no system would run or
+// nobody can read, whatever it costs: no Mach-O file, one for another processor, one that ends early or has
+// fixups outside of its segments, an import that is in no stub, a folder that is no SDK. Each finding is a
+// line that says what is wrong and where.
 #include "tests/macho/FileTree.h"
 #include "tests/macho/Limits.h"
 #include "tests/macho/MachFile.h"
+#include "tests/macho/SystemVersion.h"
 
+#include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <iostream>
@@ -27,14 +35,6 @@ std::uint64_t numberIn(std::string_view text) {
     return number;
 }
 
-// As in 13.0.
-Version versionIn(std::string_view text) {
-    const std::size_t dot = text.find('.');
-    const auto part = [](std::string_view digits) { return static_cast<std::uint32_t>(numberIn(digits)); };
-    return dot == std::string_view::npos ? Version{part(text), 0, 0}
-                                         : Version{part(text.substr(0, dot)), part(text.substr(dot + 1)), 0};
-}
-
 // Takes the options from the arguments and leaves the rest.
 Limits limitsIn(std::span<char*>& arguments) {
     Limits limits;
@@ -47,7 +47,11 @@ Limits limitsIn(std::span<char*>& arguments) {
         } else if (option == "--imports") {
             limits.imports = numberIn(arguments[1]);
         } else if (option == "--system") {
-            limits.minimumSystem = versionIn(arguments[1]);
+            const auto version = versionIn(arguments[1]);
+            if (!version) {
+                throw MachError(std::string(Usage));
+            }
+            limits.minimumSystem = *version;
         } else {
             throw MachError(std::string(Usage));
         }
@@ -59,38 +63,63 @@ Limits limitsIn(std::span<char*>& arguments) {
     return limits;
 }
 
-TextStubs stubsIn(const std::string& folder) {
+struct SDK {
     TextStubs stubs;
-    for (const auto& [path, entry] : readFileTree(folder, folder).entries) {
+    Version version;
+};
+
+SDK sdkIn(const std::string& folder) {
+    const auto textOf = [](const FileContent& content) {
+        return std::string(content.begin(), content.end());
+    };
+    const FileTree tree = readFileTree(folder, folder);
+    const FileContent* const settings = tree.file("SDKSettings.json");
+    if (!settings) {
+        throw MachError(folder + "/SDKSettings.json: is missing");
+    }
+    SDK sdk;
+    sdk.version = versionOfSettings(textOf(*settings), folder + "/SDKSettings.json");
+    for (const auto& [path, entry] : tree.entries) {
         const auto* const content = std::get_if<FileContent>(&entry);
         if (content && path.ends_with(".tbd")) {
-            stubs.add({reinterpret_cast<const char*>(content->data()), content->size()}, folder + "/" + path);
+            sdk.stubs.add(textOf(*content), folder + "/" + path);
         }
     }
-    return stubs;
+    return sdk;
 }
 
 void print(const MachSlice& slice, const Measures& measures, const Limits& limits) {
     std::cout << nameOf(slice.processor()) << ": " << measures.bytes << " of " << limits.bytes << " bytes, "
               << measures.initializers << " of " << limits.initializers << " initializers, "
               << measures.imports << " of " << limits.imports << " imports, for macOS "
-              << measures.minimumSystem.text() << '\n';
+              << measures.minimumSystem.text() << ", SDK " << measures.sdk.text() << '\n';
+}
+
+// Whether there was nothing to complain about.
+bool complain(const std::vector<std::string>& findings) {
+    for (const std::string& finding : findings) {
+        std::cerr << "kestrune-check-limits: " << finding << '\n';
+    }
+    return findings.empty();
 }
 
 int check(std::span<char*> arguments) {
-    const Limits limits = limitsIn(arguments);
-    const TextStubs stubs = stubsIn(arguments[1]);
+    Limits limits = limitsIn(arguments);
+    const SDK sdk = sdkIn(arguments[1]);
+    limits.sdk = sdk.version;
     const std::string path = arguments[0];
     const FileContent program = readFile(path);
     const MachFile file(program, path);
-    int status = 0;
+    // All before the first line, as of a program that cannot be read nothing is said.
+    std::vector<Measures> halves;
     for (const MachSlice& slice : file.slices()) {
-        const Measures measures = measure(slice, limits, stubs);
-        print(slice, measures, limits);
-        for (const std::string& violation : measures.violations) {
-            std::cerr << "kestrune-check-limits: " << violation << '\n';
-            status = 1;
-        }
+        halves.push_back(measure(slice, limits, sdk.stubs));
+    }
+    int status = 0;
+    for (std::size_t index = 0; index < halves.size(); ++index) {
+        print(file.slices()[index], halves[index], limits);
+        status = std::max(status, complain(halves[index].violations) ? 0 : 1);
+        status = std::max(status, complain(halves[index].missing) ? 0 : 2);
     }
     return status;
 }

@@ -1,6 +1,7 @@
 """What a program costs is printed, and what it may not is refused."""
 
 import os
+import struct
 import subprocess
 import unittest
 
@@ -14,7 +15,8 @@ exports:
     symbols: [ %s ]
 ...
 """
-MEASURED = "bytes, 1 of 60 initializers, 1 of 170 imports, for macOS 13.0"
+SETTINGS = '{"CanonicalName": "macosx13.0", "Version": "13.0"}'
+MEASURED = "bytes, 1 of 60 initializers, 1 of 170 imports, for macOS 13.0, SDK 13.0"
 
 
 class Limits(TreeTest):
@@ -22,8 +24,14 @@ class Limits(TreeTest):
         program = os.environ["KESTRUNE_CHECK_LIMITS"]
         return subprocess.run([program, *map(str, arguments)], capture_output=True, encoding="utf-8")
 
-    def sdk(self, text=SYSTEM % "_exit"):
-        self.write({"sdk/usr/lib/libSystem.tbd": text, "sdk/README.md": "No stub."})
+    def sdk(self, text=SYSTEM % "_exit", settings=SETTINGS):
+        self.write(
+            {
+                "sdk/usr/lib/libSystem.tbd": text,
+                "sdk/SDKSettings.json": settings,
+                "sdk/README.md": "No stub.",
+            }
+        )
         return self.root / "sdk"
 
     def test_are_printed_for_each_half(self):
@@ -50,10 +58,22 @@ class Limits(TreeTest):
         )
         self.assertEqual(result.returncode, 1)
 
+    def test_are_those_of_one_sdk(self):
+        program = PROGRAMS / "arm64.macho"
+        result = self.check(program, self.sdk(settings=SETTINGS.replace("13.0", "26.0")))
+        message = f"kestrune-check-limits: {program}: names the SDK 13.0, not 26.0\n"
+        self.assertEqual((result.returncode, result.stderr), (1, message))
+
     def test_ask_for_each_import_in_the_stubs(self):
-        result = self.check(PROGRAMS / "arm64.macho", self.sdk(SYSTEM % "_fork"))
-        self.assertEqual(result.returncode, 1)
-        self.assertIn("imports _exit, which is not in the stub of /usr/lib/libSystem.B", result.stderr)
+        program = PROGRAMS / "arm64.macho"
+        for limits in ([], ["--imports", 0]):
+            with self.subTest(limits=limits):
+                result = self.check(*limits, program, self.sdk(SYSTEM % "_fork"))
+                missing = "imports _exit, which is not in the stub of /usr/lib/libSystem.B.dylib"
+                self.assertEqual(result.returncode, 2)
+                self.assertEqual(
+                    result.stderr.splitlines()[-1], f"kestrune-check-limits: {program}: {missing}"
+                )
 
     def assert_unreadable(self, message, *arguments):
         result = self.check(*arguments)
@@ -71,8 +91,37 @@ class Limits(TreeTest):
         message = "usr/lib/libSystem.tbd: i386-macos is no target that is known here"
         self.assert_unreadable(f"{sdk}/{message}", program, sdk)
 
+    def assert_refused_when_changed(self, message, place, bytes_there):
+        changed = self.root / "changed"
+        data = (PROGRAMS / "arm64.macho").read_bytes()
+        changed.write_bytes(data[:place] + bytes_there + data[place + len(bytes_there) :])
+        self.assert_unreadable(f"{changed}: {message}", changed, self.sdk())
+
+    def test_of_a_damaged_program_are_none(self):
+        message = "is for the processor 0x1000012, which is neither arm64 nor x86_64"
+        self.assert_refused_when_changed(message, 4, struct.pack("<I", 0x01000012))
+        data = (PROGRAMS / "arm64.macho").read_bytes()
+        # The first pointer of the data, from which the chain goes on to the import.
+        place = data.index(struct.pack("<Q", 1 << 63)) - 8
+        message = (
+            "the chained fixups: the fixup at 0x10001000c is not within its page of the segment __DATA"
+        )
+        self.assert_refused_when_changed(message, place, struct.pack("<Q", 3 << 51))
+        short = self.root / "short"
+        short.write_bytes(data[:-100])
+        result = self.check(short, self.sdk())
+        self.assertEqual((result.returncode, result.stdout), (2, ""))
+        self.assertRegex(result.stderr, rf"^kestrune-check-limits: {short}: the segment .* the file at .*\n$")
+
+    def test_need_an_sdk_that_says_which_it_is(self):
+        program = PROGRAMS / "arm64.macho"
+        sdk = self.sdk(settings='{"Version": "new"}')
+        self.assert_unreadable(f"{sdk}/SDKSettings.json: new is no version", program, sdk)
+        (sdk / "SDKSettings.json").unlink()
+        self.assert_unreadable(f"{sdk}/SDKSettings.json: is missing", program, sdk)
+
     def test_have_to_be_numbers(self):
-        for arguments in ([], ["--bytes", "many"], ["--seconds", "1"], ["--imports", ""]):
+        for arguments in ([], ["--bytes", "many"], ["--seconds", "1"], ["--imports", ""], ["--system", "x"]):
             with self.subTest(arguments=arguments):
                 result = self.check(*arguments, PROGRAMS / "arm64.macho")
                 self.assertEqual(result.returncode, 2)

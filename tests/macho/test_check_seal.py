@@ -306,6 +306,19 @@ class Input(SealedApplication):
         message = "Tiny.app/Contents/MacOS/Tiny: is no Mach-O file: it starts with 0x622f2123"
         self.assert_refused(self.app, message, status=2)
 
+    def test_that_is_for_another_processor_is_named(self):
+        name = "Tiny.app/Contents/MacOS/Tiny"
+        message = f"{name}: is for the processor 0x1000012, which is neither arm64 nor x86_64"
+        processor, table = struct.pack("<I", 0x01000012), struct.pack(">I", 0x01000012)
+        whole = self.program.read_bytes()
+        write(self.program, whole[:8] + table + whole[12:])
+        self.assert_refused(self.app, message, status=2)
+        put_program(self.program, "arm64")
+        self.seal(self.app)
+        half = self.program.read_bytes()
+        write(self.program, half[:4] + processor + half[8:])
+        self.assert_refused(self.app, message, status=2)
+
     def test_that_ends_early_is_named(self):
         data = self.program.read_bytes()
         write(self.program, data[:-100])
