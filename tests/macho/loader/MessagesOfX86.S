@@ -1,5 +1,5 @@
-// x86-64: keeps every register that can hold an argument while the method is looked up, and goes on to it as if the
-// caller had called it. Frames are described, as an exception may come out of the look-up.
+// x86-64: keeps every register that can hold an argument while the method is looked up, and goes on to it as
+// if the caller had called it. Frames are described, as an exception may come out of the look-up.
     .text
 
     .macro message name, lookUp, toNil
