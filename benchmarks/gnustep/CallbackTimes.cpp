@@ -43,7 +43,7 @@ std::vector<double> fastestTimes(std::span<const TapListener> callbacks, Point l
 }
 
 Point handled(const TapListener& callback, Point location) {
-    PostedEvent event(location);
+    PostedEvent event(EventType::mouseMoved, location);
     callback.callback(nullptr, EventType::mouseMoved, &event, callback.userInfo);
     return event.location;
 }

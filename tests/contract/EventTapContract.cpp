@@ -105,7 +105,8 @@ TEST_F(EventTapContract, MovesAnEvent) {
         event->setLocation({300, 301.5});
         return event;
     });
-    EXPECT_EQ(world_.post(EventType::mouseMoved, {10, 10}), (Point{300, 301.5}));
+    EXPECT_EQ(world_.deliver(EventType::mouseMoved, {10, 10}),
+              (DeliveredEvent{EventType::mouseMoved, {300, 301.5}}));
 }
 
 TEST_F(EventTapContract, SeesTheLocationThatItSet) {

@@ -8,6 +8,11 @@ ConnectedDisplay connectedDisplay(DisplayID displayID, const Rect& bounds) {
 
 World::World() : World(BundleFiles{{{"CFBundleIdentifier", std::string(BundleIdentifier)}}, {}, {}}) {}
 
+std::optional<Point> World::post(EventType type, Point location) {
+    const auto delivered = deliver(type, location);
+    return delivered ? std::optional(delivered->location) : std::nullopt;
+}
+
 void World::launchApplication() {
     launch([] { Application::sharedApplication().run(); });
 }

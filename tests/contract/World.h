@@ -74,6 +74,15 @@ struct LoggedMessage {
     friend bool operator==(const LoggedMessage&, const LoggedMessage&) = default;
 };
 
+// A pointer event behind all taps.
+struct DeliveredEvent {
+    EventType type{};
+    Point location;          // Global display coordinates.
+    bool isReplaced = false; // A tap returned another event than it was given.
+
+    friend bool operator==(const DeliveredEvent&, const DeliveredEvent&) = default;
+};
+
 // Sparkle in the application's bundle: not there, refusing to start, starting.
 enum class UpdateFramework { missing, refusing, working };
 
@@ -122,8 +131,10 @@ public:
     // Another process stores a value in the application's defaults.
     void store(std::string_view key, const StoredValue& value);
 
-    // A pointer event enters the session and the application handles it. Returns where it is delivered behind
-    // all taps, in global display coordinates; absent when a tap deleted it.
+    // A pointer event enters the session and the application handles it. Absent when a tap deleted it.
+    std::optional<DeliveredEvent> deliver(EventType type, Point location);
+
+    // The same where only the location matters.
     std::optional<Point> post(EventType type, Point location);
 
     // The system switches the application's taps off for that reason, and the application handles that.

@@ -173,7 +173,9 @@ void World::store(std::string_view key, const StoredValue& value) {
                                            objectFor(std::string(key)));
 }
 
-std::optional<Point> World::post(EventType type, Point location) { return postEvent(type, location); }
+std::optional<DeliveredEvent> World::deliver(EventType type, Point location) {
+    return postEvent(type, location);
+}
 
 void World::switchTapsOff(EventType reason) { gnustep::switchTapsOff(reason); }
 

@@ -115,7 +115,11 @@ TEST(ReplayedEvents, DeliversEachEventWhereItIsExpected) {
     int different = 0;
     for (EventRow row : events()) {
         const std::string expected = textOf(row);
-        row.delivered = world.post(row.type, row.sent).value_or(Point{-1, -1});
+        const auto event = world.deliver(row.type, row.sent);
+        ASSERT_TRUE(event.has_value()) << "the first that is deleted: " << expected;
+        ASSERT_FALSE(event->isReplaced) << "the first that is replaced: " << expected;
+        row.type = event->type;
+        row.delivered = event->location;
         const std::string actual = textOf(row);
         delivered << actual << '\n';
         different += actual == expected ? 0 : 1;

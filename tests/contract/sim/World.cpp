@@ -160,9 +160,12 @@ void World::store(std::string_view key, const StoredValue& value) {
     state_->session.defaults().set(key, std::visit(AsPropertyList(), value));
 }
 
-std::optional<Point> World::post(EventType type, Point location) {
+std::optional<DeliveredEvent> World::deliver(EventType type, Point location) {
     const sim::Delivery delivery = state_->session.post(type, location);
-    return delivery.swallowed ? std::nullopt : std::optional(delivery.delivered);
+    if (delivery.swallowed) {
+        return std::nullopt;
+    }
+    return DeliveredEvent{delivery.type, delivery.delivered, delivery.replaced};
 }
 
 void World::switchTapsOff(EventType reason) { state_->session.disableTaps(reason); }

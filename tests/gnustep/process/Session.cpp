@@ -57,7 +57,8 @@ std::string guardedDisplays() {
     for (const contract::ConnectedDisplay& display : displays()) {
         const Rect& bounds = display.bounds;
         const Point lowest{bounds.origin.x + bounds.size.width / 2, bounds.origin.y + bounds.size.height - 1};
-        if (postEvent(EventType::mouseMoved, lowest) != lowest) {
+        const auto delivered = postEvent(EventType::mouseMoved, lowest);
+        if (!delivered || delivered->location != lowest) {
             names += (names.empty() ? "" : " ") + display.localizedName;
         }
     }

@@ -81,28 +81,33 @@ std::optional<TapListener> firstTapListener() {
     return TapListener{tap.callback, tap.userInfo};
 }
 
-std::optional<Point> postEvent(EventType type, Point location) {
-    PostedEvent event(location);
+std::optional<contract::DeliveredEvent> postEvent(EventType type, Point location) {
+    PostedEvent posted(type, location);
+    Event* event = &posted;
     for (const mac::Retained& port : chainNow()) {
         const Tap tap = tapOf(port.get());
         if (!isActive(port.get()) || (tap.mask & eventMaskBit(type)) == 0) {
             continue;
         }
         if (tap.options == EventTapOptions::listenOnly) {
-            PostedEvent copy(event.location);
+            PostedEvent copy(type, static_cast<const PostedEvent&>(*event).location);
             tap.callback(nullptr, type, &copy, tap.userInfo);
-        } else if (tap.callback(nullptr, type, &event, tap.userInfo) == nullptr) {
+            continue;
+        }
+        event = tap.callback(nullptr, type, event, tap.userInfo);
+        if (event == nullptr) {
             return std::nullopt;
         }
     }
-    return event.location;
+    const auto& last = static_cast<const PostedEvent&>(*event);
+    return contract::DeliveredEvent{last.type, last.location, event != &posted};
 }
 
 void switchTapsOff(EventType reason) {
     for (const mac::Retained& port : chainNow()) {
         if (isActive(port.get())) {
             tapOf(port.get()).isEnabled = false;
-            PostedEvent notice({});
+            PostedEvent notice(reason, {});
             const Tap tap = tapOf(port.get());
             tap.callback(nullptr, reason, &notice, tap.userInfo);
         }

@@ -3,6 +3,7 @@
 
 #include "platform/Event.h"
 #include "platform/EventTap.h"
+#include "tests/contract/World.h"
 
 #include <optional>
 
@@ -10,8 +11,9 @@ namespace kestrune::gnustep {
 
 // A pointer event in the session.
 struct PostedEvent : Event {
-    explicit PostedEvent(Point place) : location(place) {}
+    PostedEvent(EventType kind, Point place) : type(kind), location(place) {}
 
+    EventType type;
     Point location;
 };
 
@@ -24,9 +26,8 @@ struct TapListener {
 // Absent when there is no tap.
 std::optional<TapListener> firstTapListener();
 
-// An event enters the session. Gives where it is delivered behind all taps, in global display coordinates;
-// absent when a tap deleted it.
-std::optional<Point> postEvent(EventType type, Point location);
+// An event enters the session. Absent when a tap deleted it.
+std::optional<contract::DeliveredEvent> postEvent(EventType type, Point location);
 
 // The system switches the taps off that are enabled and on the run loop, and tells them why.
 void switchTapsOff(EventType reason);
