@@ -3,6 +3,7 @@
 
 #include "Kestrune/AccentProminentButtonStyle.h"
 #include "sim/FixedAdvanceMeasurer.h"
+#include "tests/base/FileContent.h"
 #include "tests/ui/SceneParts.h"
 #include "ui/Layout.h"
 #include "ui/SceneText.h"
@@ -12,7 +13,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -225,9 +225,7 @@ TEST(WelcomeView, IsLaidOutAsItWas) {
     if (std::getenv("KESTRUNE_REWRITE") != nullptr) {
         std::ofstream(KESTRUNE_WELCOME_LAYOUTS) << layouts;
     }
-    std::ifstream file(KESTRUNE_WELCOME_LAYOUTS);
-    const std::string known((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    EXPECT_EQ(layouts, known);
+    EXPECT_EQ(layouts, contentOf(KESTRUNE_WELCOME_LAYOUTS));
 }
 
 TEST(WelcomeView, CallsTheActionsOfItsModel) {

@@ -29,7 +29,7 @@ class MachProgram(TreeTest):
         return path
 
     def test_that_is_not_there(self):
-        self.assert_refused(pathlib.Path("/nowhere/Kestrune"), "cannot be opened")
+        self.assert_refused(pathlib.Path("/nowhere/Kestrune"), "No such file or directory")
 
     def test_of_another_kind(self):
         self.write({"script": "#!/bin/sh\n"})

@@ -1,5 +1,7 @@
 #include "tests/macho/FileTree.h"
 
+#include "tests/macho/Bytes.h"
+
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -9,6 +11,14 @@
 namespace kestrune::macho {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void refuse(const fs::path& path, const std::error_code& reason) {
+    throw MachError(path.string() + ": " + reason.message());
+}
+
+} // namespace
 
 const FileContent* FileTree::file(const std::string& path) const {
     const auto found = entries.find(path);
@@ -28,16 +38,16 @@ FileTree FileTree::below(const std::string& path) const {
 FileContent readFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        throw fs::filesystem_error("cannot be opened", path, std::error_code(errno, std::generic_category()));
+        refuse(path, std::error_code(errno, std::generic_category()));
     }
     FileContent content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     if (!file) {
-        throw fs::filesystem_error("cannot be read", path, std::make_error_code(std::errc::io_error));
+        refuse(path, std::make_error_code(std::errc::io_error));
     }
     return content;
 }
 
-FileTree readFileTree(const std::string& path, const std::string& name) {
+FileTree readFileTree(const std::string& path, const std::string& name) try {
     FileTree tree{name, {}};
     for (const auto& entry : fs::recursive_directory_iterator(path)) {
         const std::string relative = entry.path().lexically_relative(path).generic_string();
@@ -48,11 +58,12 @@ FileTree readFileTree(const std::string& path, const std::string& name) {
         } else if (entry.is_regular_file()) {
             tree.entries[relative] = readFile(entry.path().string());
         } else {
-            throw fs::filesystem_error("is neither file, folder nor link", entry.path(),
-                                       std::make_error_code(std::errc::not_supported));
+            refuse(entry.path(), std::make_error_code(std::errc::not_supported));
         }
     }
     return tree;
+} catch (const fs::filesystem_error& error) {
+    refuse(error.path1(), error.code());
 }
 
 } // namespace kestrune::macho

@@ -30,7 +30,7 @@ struct FileTree {
     FileTree below(const std::string& path) const;
 };
 
-// These throw std::filesystem::filesystem_error when something cannot be read, or is none of the three.
+// These throw MachError when something cannot be read, or is none of the three.
 FileContent readFile(const std::string& path);
 FileTree readFileTree(const std::string& path, const std::string& name);
 

@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
 #include <iostream>
 #include <span>
 
@@ -131,9 +130,6 @@ int main(int count, char** arguments) {
         return check(std::span(arguments, static_cast<std::size_t>(count)).subspan(1));
     } catch (const MachError& error) {
         std::cerr << "kestrune-check-limits: " << error.what() << '\n';
-    } catch (const std::filesystem::filesystem_error& error) {
-        std::cerr << "kestrune-check-limits: " << error.path1().string() << ": " << error.code().message()
-                  << '\n';
     }
     return 2;
 }

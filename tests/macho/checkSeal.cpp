@@ -1,5 +1,6 @@
 // kestrune-check-seal APP: prints a line for each half of the bundle's program when its seal holds. Exit
-// status 1 for a seal that does not hold, 2 for a program that cannot be read.
+// status 1 for a seal that does not hold; 2 for a program that cannot be read, as one for another processor.
+// Either is one line that says what is wrong and where.
 #include "tests/macho/Digest.h"
 #include "tests/macho/SealCheck.h"
 #include "tests/macho/SealError.h"
@@ -42,7 +43,5 @@ int main(int count, char** arguments) {
         return fail(1, error.what());
     } catch (const MachError& error) {
         return fail(2, error.what());
-    } catch (const std::filesystem::filesystem_error& error) {
-        return fail(2, error.path1().string() + ": " + error.code().message());
     }
 }

@@ -1,5 +1,6 @@
 #include "sim/DefaultsFile.h"
 
+#include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -32,11 +33,6 @@ protected:
         const auto result = loadDefaultsFile(path);
         const auto* error = std::get_if<std::string>(&result);
         return error != nullptr ? *error : "no error";
-    }
-
-    static std::string textOf(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     }
 
     TemporaryFolder folder_;
@@ -88,14 +84,14 @@ TEST_F(DefaultsFileTest, RefusesAListThatIsNoDictionary) {
 TEST_F(DefaultsFileTest, IsReplacedAsAWhole) {
     const std::string file = write("defaults.plist", std::string(100'000, 'x'));
     ASSERT_EQ(saveDefaultsFile(file, {}), std::nullopt);
-    EXPECT_THAT(textOf(file), AllOf(StartsWith("<?xml"), Not(HasSubstr("x</"))));
+    EXPECT_THAT(contentOf(file), AllOf(StartsWith("<?xml"), Not(HasSubstr("x</"))));
     EXPECT_TRUE(std::holds_alternative<PropertyListDictionary>(loadDefaultsFile(file)));
     EXPECT_FALSE(std::filesystem::exists(file + ".new"));
 }
 
 TEST_F(DefaultsFileTest, StaysAsItWasForWhoeverHasItOpen) {
     ASSERT_EQ(saveDefaultsFile(path("defaults.plist"), Entries), std::nullopt);
-    const std::string before = textOf(path("defaults.plist"));
+    const std::string before = contentOf(path("defaults.plist"));
     std::ifstream reader(path("defaults.plist"), std::ios::binary);
     ASSERT_EQ(saveDefaultsFile(path("defaults.plist"), {}), std::nullopt);
     const std::string seen{std::istreambuf_iterator<char>(reader), std::istreambuf_iterator<char>()};

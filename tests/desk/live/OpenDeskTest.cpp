@@ -2,13 +2,13 @@
 
 #include "sim/DefaultsFile.h"
 #include "sim/StatusItemState.h"
+#include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/live/LiveFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -31,11 +31,6 @@ std::string refusal(const Options& options) {
     const auto desk = openDesk(options);
     const auto* error = std::get_if<InputError>(&desk);
     return error != nullptr ? error->message : "";
-}
-
-std::string contentOf(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 TEST(OpenDesk, NeedsNoFile) {

@@ -1,5 +1,6 @@
 #include "desk/live/Tour.h"
 
+#include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <vector>
 
 namespace kestrune::desk {
@@ -49,11 +49,6 @@ std::vector<std::filesystem::path> picturesIn(const std::filesystem::path& folde
     return pictures;
 }
 
-std::string textOf(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 TEST(Tour, WritesAPictureForEachSceneAndTellsThemAll) {
     const TemporaryFolder temporary;
     const std::filesystem::path folder = temporary.path() / "made" / "on the way";
@@ -69,7 +64,7 @@ TEST(Tour, WritesAPictureForEachSceneAndTellsThemAll) {
     EXPECT_EQ(sizeOfPng(pictures.back()).width, 5U * 576 + 4 * 20 + 2 * 40);
     EXPECT_EQ(sizeOfPng(pictures.back()).height, 56U + 6 * (360 + 34) + 5 * 20 + 2 * 40);
     pictures.pop_back();
-    const std::string report = textOf(folder / "report.txt");
+    const std::string report = contentOf(folder / "report.txt");
     for (const auto& picture : pictures) {
         EXPECT_EQ(sizeOfPng(picture).width, 2880U) << picture;
         EXPECT_EQ(sizeOfPng(picture).height, 1800U) << picture;

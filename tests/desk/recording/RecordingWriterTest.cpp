@@ -1,6 +1,7 @@
 #include "desk/recording/RecordingWriter.h"
 
 #include "desk/recording/RecordingReader.h"
+#include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -33,9 +34,7 @@ TEST(RecordingWriter, ReplacesAFile) {
     const auto path = folder.file("walk.csv", std::string(1000, 'x'));
 
     EXPECT_EQ(writeRecording(path, Rows), std::nullopt);
-
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), Text);
+    EXPECT_EQ(contentOf(path), Text);
 }
 
 TEST(RecordingWriter, SaysWhyAFileCannotBeWritten) {

@@ -1,20 +1,14 @@
 #include "desk/replay/Emission.h"
 
+#include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <limits>
 
 namespace kestrune::desk {
 namespace {
-
-std::string contentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 TEST(Emission, WritesNumbersInTheShortestFormThatReadsBackEqual) {
     const TemporaryFolder folder;

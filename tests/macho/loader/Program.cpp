@@ -1,6 +1,7 @@
 #include "tests/macho/loader/Program.h"
 
 #include "tests/macho/CodeSignature.h"
+#include "tests/macho/FileTree.h"
 #include "tests/macho/MachFile.h"
 #include "tests/macho/SealError.h"
 #include "tests/macho/loader/Unwinding.h"
@@ -10,9 +11,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
-#include <vector>
 
 namespace kestrune::macho {
 
@@ -23,7 +21,7 @@ const LoadedImage* theImage = nullptr; // NOLINT(cppcoreguidelines-avoid-non-con
 // With everything that it borrows from the file.
 struct Program {
     Program(const std::string& path, MessageChecks checks)
-        : content(contentOf(path)),
+        : content(readFile(path)),
           file(content, path),
           image(sealed(file.slice(LoadedImage::Host)), importsOfThisProcess(checks)) {
         registerUnwinding(image);
@@ -35,15 +33,7 @@ struct Program {
         return slice;
     }
 
-    static std::vector<std::uint8_t> contentOf(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        if (!file) {
-            throw MachError(path + ": cannot be opened");
-        }
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    }
-
-    std::vector<std::uint8_t> content;
+    FileContent content;
     MachFile file;
     LoadedImage image;
 };
