@@ -62,9 +62,7 @@ void checkFixups(const MachSlice& slice) {
 void checkSlice(const MachSlice& slice) {
     checkSegments(slice);
     attempt([&] { checkFixups(slice); });
-    attempt([&] { slice.symbols(); });
     attempt([&] { slice.buildVersion(); });
-    attempt([&] { slice.uuid(); });
     attempt([&] { slice.codeSignature(); });
     attempt([&] {
         const auto entry = slice.entryPoint();

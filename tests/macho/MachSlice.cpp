@@ -20,7 +20,6 @@ constexpr std::uint32_t SubtypeOfX86 = 3;
 
 constexpr std::uint64_t HeaderSize = 32;
 constexpr std::uint64_t SmallestCommand = 8;
-constexpr std::uint64_t SymbolSize = 16;
 
 Version versionOf(std::uint32_t packed) { return {packed >> 16, packed >> 8 & 0xFF, packed & 0xFF}; }
 
@@ -173,17 +172,6 @@ std::optional<BuildVersion> MachSlice::buildVersion() const {
     return BuildVersion{word(8), versionOf(word(12)), versionOf(word(16))};
 }
 
-std::optional<std::array<std::uint8_t, 16>> MachSlice::uuid() const {
-    const LoadCommand* const found = command(Command::uuid);
-    if (!found) {
-        return std::nullopt;
-    }
-    std::array<std::uint8_t, 16> result{};
-    const auto bytes = found->content.span(8, result.size(), "the UUID");
-    std::copy(bytes.begin(), bytes.end(), result.begin());
-    return result;
-}
-
 std::optional<std::uint64_t> MachSlice::entryPoint() const {
     const LoadCommand* const found = command(Command::entryPoint);
     if (!found) {
@@ -211,28 +199,6 @@ std::optional<Bytes> MachSlice::linkEditData(Command kind, std::string_view what
 
 std::optional<Bytes> MachSlice::codeSignature() const {
     return linkEditData(Command::codeSignature, "the code signature");
-}
-
-std::vector<Symbol> MachSlice::symbols() const {
-    const LoadCommand* const found = command(Command::symbols);
-    if (!found) {
-        return {};
-    }
-    const auto word = [&](std::uint64_t offset) {
-        return found->content.little<std::uint32_t>(offset, "the place of the symbols");
-    };
-    const std::uint64_t count = word(12);
-    const Bytes table = content_.part(word(8), count * SymbolSize, "the symbols");
-    const Bytes names = content_.part(word(16), word(20), "the names of the symbols");
-    std::vector<Symbol> symbols;
-    for (std::uint64_t place = 0; place < table.size(); place += SymbolSize) {
-        symbols.push_back({names.text(table.little<std::uint32_t>(place, "a symbol"), "the name of a symbol"),
-                           table.little<std::uint8_t>(place + 4, "a symbol"),
-                           table.little<std::uint8_t>(place + 5, "a symbol"),
-                           table.little<std::uint16_t>(place + 6, "a symbol"),
-                           table.little<std::uint64_t>(place + 8, "a symbol")});
-    }
-    return symbols;
 }
 
 } // namespace kestrune::macho

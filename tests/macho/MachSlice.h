@@ -3,7 +3,6 @@
 
 #include "tests/macho/Bytes.h"
 
-#include <array>
 #include <compare>
 #include <cstdint>
 #include <optional>
@@ -25,10 +24,8 @@ Processor processorOfKind(std::uint32_t kind, const Bytes& place);
 enum class FileType : std::uint32_t { executable = 2, library = 6, bundle = 8 };
 
 enum class Command : std::uint32_t {
-    symbols = 0x2,
     library = 0xC,
     segment = 0x19,
-    uuid = 0x1B,
     codeSignature = 0x1D,
     dyldInfo = 0x22,
     buildVersion = 0x32,
@@ -103,14 +100,6 @@ struct BuildVersion {
     Version sdk;
 };
 
-struct Symbol {
-    std::string_view name;
-    std::uint8_t type = 0;
-    std::uint8_t section = 0; // counted from 1
-    std::uint16_t description = 0;
-    std::uint64_t value = 0;
-};
-
 // Everything that is borrowed is borrowed from the file's bytes.
 class MachSlice {
 public:
@@ -140,11 +129,9 @@ public:
 
     // These read their command when they are asked, and are absent when there is none.
     std::optional<BuildVersion> buildVersion() const;
-    std::optional<std::array<std::uint8_t, 16>> uuid() const;
     std::optional<std::uint64_t> entryPoint() const; // the address
     std::optional<Bytes> linkEditData(Command kind, std::string_view what) const;
     std::optional<Bytes> codeSignature() const;
-    std::vector<Symbol> symbols() const;
 
 private:
     void readHeader();

@@ -66,8 +66,6 @@ struct Layout {
     std::uint64_t code = 0;
     std::uint64_t data = 0;
     std::uint64_t linkEdit = 0;
-    std::uint64_t symbols = 0;
-    std::uint64_t names = 0;
     std::uint64_t exports = 0;
     std::uint64_t signature = 0;
     std::uint64_t end = 0;
@@ -111,8 +109,8 @@ public:
             writer.words({layout_.code});
         }
         writer.append(Content(program_.codeSize, 0x90)).alignTo(PointerSize).append(pointers());
-        writer.append(fixups_).alignTo(PointerSize).append(symbolTable());
-        writer.text("", 1).text("_main", 6).append(exports()).alignTo(16).append(Content(SignatureSize));
+        writer.append(fixups_).alignTo(PointerSize).append(exports());
+        writer.alignTo(16).append(Content(SignatureSize));
         return writer.content();
     }
 
@@ -125,15 +123,13 @@ private:
         layout_.code = layout_.initializers + 4 * program_.initializers;
         layout_.data = aligned(layout_.code + program_.codeSize, PointerSize);
         layout_.linkEdit = layout_.data + PointerSize * (1 + program_.imports.size());
-        layout_.symbols = aligned(layout_.linkEdit + fixups_.size(), PointerSize);
-        layout_.names = layout_.symbols + symbolTable().size();
-        layout_.exports = layout_.names + 7;
+        layout_.exports = aligned(layout_.linkEdit + fixups_.size(), PointerSize);
         layout_.signature = aligned(layout_.exports + exports().size(), 16);
         layout_.end = layout_.signature + SignatureSize;
     }
 
     // As many commands as loadCommands() makes.
-    std::uint64_t count() const { return 9 + (isProgram() ? 2 : 0) + program_.libraries.size(); }
+    std::uint64_t count() const { return 7 + (isProgram() ? 2 : 0) + program_.libraries.size(); }
     bool isProgram() const { return program_.type == FileType::executable; }
 
     Content loadCommands() const {
@@ -149,15 +145,11 @@ private:
             name.words({24, 0, 0x10000, 0x10000}).text(library, library.size() + 1);
             writer.append(command(Command::library, name));
         }
-        const auto identity = static_cast<std::uint8_t>(program_.processor);
-        writer.append(
-            command(Command::uuid, Writer().append(Content(16, static_cast<std::uint8_t>(0x40 + identity)))));
         const Version& system = program_.minimumSystem;
         writer.append(command(
             Command::buildVersion,
             Writer().words({BuildVersion::MacOS, system.major << 16 | system.minor << 8, 0xD0000, 0})));
         writer.append(command(Command::chainedFixups, Writer().words({layout_.linkEdit, fixups_.size()})));
-        writer.append(command(Command::symbols, Writer().words({layout_.symbols, 1, layout_.names, 7})));
         writer.append(command(Command::exportsTrie, Writer().words({layout_.exports, exports().size()})));
         writer.append(command(Command::codeSignature, Writer().words({layout_.signature, SignatureSize})));
         return writer.content();
@@ -224,12 +216,6 @@ private:
             writer.longs({std::uint64_t{1} << 63 | (import + 1 < last ? Next << 51 : 0) | import});
         }
         return writer.content();
-    }
-
-    Content symbolTable() const {
-        Writer writer;
-        writer.words({1}).add<std::uint8_t>(0xF).add<std::uint8_t>(2).add<std::uint16_t>(0);
-        return writer.longs({TinyProgram::LoadAddress + layout_.code}).content();
     }
 
     // A root with one branch, "_main", and at its end the offset of the code in 14 bits.

@@ -85,7 +85,7 @@ class Change(SealedApplication):
     def test_in_the_code_is_found_with_its_page(self):
         start, _ = self.half(1)
         self.change_byte(self.program, start + 0x1010)
-        page = "page 1, from 0x1000 to 0x1770"
+        page = "page 1, from 0x1000 to 0x1720"
         self.assert_refused(
             self.app, f"Tiny.app/Contents/MacOS/Tiny: arm64 half: {page}, was changed after it was sealed"
         )
@@ -265,7 +265,7 @@ class NestedCode(SealedApplication):
     def test_without_a_bundle_that_was_changed_is_found(self):
         self.change_byte(self.version / "Helper", 0x350)
         path = f"{self.name}/Versions/B/Helper"
-        self.assert_refused(self.app, f"{path}: page 0, from 0x0 to 0x400, was changed after it was sealed")
+        self.assert_refused(self.app, f"{path}: page 0, from 0x0 to 0x3c0, was changed after it was sealed")
 
     def test_with_a_seal_of_its_own_that_is_a_new_one_is_found(self):
         self.change_byte(self.version / "Headers/Tiny.h", 0)
