@@ -15,11 +15,13 @@ export CTEST_PARALLEL_LEVEL ?= 2
 # Whatever the locale, what is read and written is UTF-8.
 export PYTHONUTF8 = 1
 
-# Again only when the presets or the meaning of a warning changed; the build itself notices everything else.
+# Again only when the presets or the meaning of a warning changed, or something was installed; the build
+# itself notices everything else.
 strictness = CMAKE_COMPILE_WARNING_AS_ERROR:BOOL=$(WARNINGS_AS_ERRORS)
 define configure
-@test -f $(DIR)/build.ninja && test $(DIR)/CMakeCache.txt -nt CMakePresets.json && \
-    grep -qx $(strictness) $(DIR)/CMakeCache.txt || cmake --preset $(PRESET) -D $(strictness)
+@test -f $(DIR)/build.ninja && test ! -e $(DIR)/configure-afresh && \
+    test $(DIR)/CMakeCache.txt -nt CMakePresets.json && \
+    grep -qx $(strictness) $(DIR)/CMakeCache.txt || tools/configure $(PRESET) -D $(strictness)
 endef
 
 # $(call build,GROUPS,TARGETS): sets up and builds targets of the preset.

@@ -163,8 +163,11 @@ exec "{self.path}/{name}" "$@"
     def configured(self, build):
         self.write({f"a folder/build/{build}/{name}": "" for name in ("CMakeCache.txt", "build.ninja")})
 
-    def is_configured(self, build):
-        return (self.folder / "build" / build / "CMakeCache.txt").exists()
+    def looks_again(self, build):
+        """Whether a build is to be configured from scratch. Until then it stays as ninja needs it."""
+        folder = self.folder / "build" / build
+        self.assertTrue((folder / "CMakeCache.txt").exists() and (folder / "build.ninja").exists())
+        return (folder / "configure-afresh").exists()
 
     def remove_builds(self):
         shutil.rmtree(self.folder / "build", ignore_errors=True)

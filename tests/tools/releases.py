@@ -20,6 +20,7 @@ COPIED = (
     ".gitignore",
     "Kestrune/Resources/Info.plist",
     "tools/app",
+    "tools/configure",
     "tools/release",
     "tools/setup",
     "tools/sparkle.ini",

@@ -92,9 +92,9 @@ class DryRun(LinuxTest):
         self.assertEqual(
             self.commands(result.stdout),
             [
-                ["cmake", "--preset", "cross-arm64"],
+                ["tools/configure", "cross-arm64"],
                 ["cmake", "--build", "build/cross-arm64", "--target", "Kestrune"],
-                ["cmake", "--preset", "cross-x86_64"],
+                ["tools/configure", "cross-x86_64"],
                 ["cmake", "--build", "build/cross-x86_64", "--target", "Kestrune"],
                 ["rm", "-rf", BUNDLE, symbols],
                 ["mkdir", "-p", "build/cross"],
@@ -108,7 +108,7 @@ class DryRun(LinuxTest):
                 ["rm", "-f", *halves, others],
                 [f"{LLVM}/llvm-dwarfdump", "--uuid", symbols],
                 [f"{LLVM}/llvm-dwarfdump", "--uuid", f"{BUNDLE}/{PROGRAM}"],
-                ["cmake", "--preset", "gcc"],
+                ["tools/configure", "gcc"],
                 [
                     *["cmake", "--build", "--preset", "gcc"],
                     *["--target", "kestrune-check-limits", "kestrune-check-seal"],

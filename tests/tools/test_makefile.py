@@ -13,6 +13,7 @@ class MakefileTest(TreeTest):
     # As CMake leaves a build, with what it was told about warnings.
     CONFIGURES = """
         echo "cmake $*" >> "$LOG"
+        [[ $1 != --fresh ]] || shift
         if [[ $1 == --preset ]]; then
             mkdir -p "build/$2"
             touch "build/$2/build.ninja"
@@ -24,7 +25,9 @@ class MakefileTest(TreeTest):
         self.folder = self.root / "a folder"
         self.log = self.root / "log"
         self.write({"a folder/CMakePresets.json": "{}"})
-        shutil.copy(REPOSITORY / "Makefile", self.folder)
+        (self.folder / "tools").mkdir()
+        for name in ("Makefile", "tools/configure"):
+            shutil.copy(REPOSITORY / name, self.folder / name)
         self.program("bin/cmake", self.CONFIGURES)
         self.program("bin/ctest", "printf '%s\\n' ctest \"$@\" >> \"$LOG\"")
         self.program("a folder/tools/setup", 'echo "setup $*" >> "$LOG"')
@@ -51,11 +54,12 @@ class MakefileTest(TreeTest):
         return self.log.read_text(encoding="utf-8").splitlines()
 
     def configurations(self, *arguments, **environment):
-        return [line for line in self.make(*arguments, **environment) if line.startswith("cmake --preset")]
+        lines = self.make(*arguments, **environment)
+        return [line for line in lines if line.startswith(("cmake --preset", "cmake --fresh"))]
 
-    def configuration(self, preset, warnings_are_errors):
+    def configuration(self, preset, warnings_are_errors, how="--preset"):
         state = "ON" if warnings_are_errors else "OFF"
-        return [f"cmake --preset {preset} -D CMAKE_COMPILE_WARNING_AS_ERROR:BOOL={state}"]
+        return [f"cmake {how} {preset} -D CMAKE_COMPILE_WARNING_AS_ERROR:BOOL={state}"]
 
 
 class Configuration(MakefileTest):
@@ -73,6 +77,21 @@ class Configuration(MakefileTest):
         later = time.time() + 10
         os.utime(self.folder / "CMakePresets.json", (later, later))
         self.assertEqual(self.configurations("run"), self.configuration("gcc", False))
+
+    def test_starts_from_scratch_once_when_something_was_installed(self):
+        self.configurations("run")
+        self.write({"a folder/build/gcc/configure-afresh": ""})
+        self.assertEqual(self.configurations("run"), self.configuration("gcc", False, "--fresh --preset"))
+        self.assertEqual(self.configurations("run"), [])
+
+    def test_starts_from_scratch_until_it_has_worked(self):
+        self.configurations("run")
+        self.write({"a folder/build/gcc/configure-afresh": ""})
+        self.program("bin/cmake", "exit 1")
+        with self.assertRaises(subprocess.CalledProcessError):
+            self.make("run")
+        self.program("bin/cmake", self.CONFIGURES)
+        self.assertEqual(self.configurations("run"), self.configuration("gcc", False, "--fresh --preset"))
 
     def test_happens_again_where_warnings_become_errors(self):
         self.configurations("run")

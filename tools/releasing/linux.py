@@ -67,7 +67,7 @@ class Linux:
         place = pathlib.Path("build", self.preset, "tests/macho")
         return [
             Work(f"seal {self.application} and the code in it", lambda: sealing.seal(self.application)),
-            Command("cmake", "--preset", self.preset),
+            Command("tools/configure", self.preset),
             Command("cmake", "--build", "--preset", self.preset, "--target", *checks),
             Command(place / "kestrune-check-seal", self.application, judge=self._take_halves),
             Command(place / "kestrune-check-limits", program, SDK),
@@ -79,7 +79,7 @@ class Linux:
 
 def _cross_build(processor):
     return [
-        Command("cmake", "--preset", f"cross-{processor}"),
+        Command("tools/configure", f"cross-{processor}"),
         Command("cmake", "--build", _build_of(processor), "--target", "Kestrune"),
     ]
 
