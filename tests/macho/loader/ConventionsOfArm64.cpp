@@ -38,7 +38,7 @@ struct ArgumentsOnStack {
 
     std::va_list& list() { return reinterpret_cast<std::va_list&>(*this); }
 };
-static_assert(sizeof(ArgumentsOnStack) == sizeof(std::va_list));
+static_assert(sizeof(ArgumentsOnStack) >= sizeof(std::va_list));
 
 // Code that stays as long as the process. There are few, so each has pages of its own.
 void* made(const Stub& stub) {
