@@ -1,7 +1,6 @@
 #include "tests/macho/loader/Messages.h"
 
 #include "mac/Vocabulary.h"
-#include "mac/objc/NewObject.h"
 #include "mac/objc/Runtime.h"
 
 #include <gtest/gtest.h>
@@ -32,13 +31,6 @@ Signature* sendingForStructure() {
     return sending<Signature>(isOneFunction ? "_objc_msgSend" : "_objc_msgSend_stret");
 }
 
-Class classWith(const char* name, const char* selector, IMP implementation, const char* encoding) {
-    const Class type = objc_allocateClassPair(mac::foundation.object.find(), name, 0);
-    class_addMethod(type, sel_registerName(selector), implementation, encoding);
-    objc_registerClassPair(type);
-    return type;
-}
-
 // More than either processor has registers for.
 double weigh(id, SEL, long a, long b, long c, long d, long e, long f, long g, double h, double i, double j,
              double k, double l, double m, double n, double o, double p) {
@@ -54,26 +46,43 @@ double weigh(id, SEL, long a, long b, long c, long d, long e, long f, long g, do
     return sum;
 }
 
-TEST(Messages, CarryEveryArgument) {
-    const Class type =
-        classWith("KestruneWeighing", "weigh", mac::asImplementation(weigh), "d@:qqqqqqqddddddddd");
-    const mac::Retained object = mac::Retained::adopting(mac::foundation.object.init(mac::allocate(type)));
-    const SEL selector = sel_registerName("weigh");
-    EXPECT_EQ(sending<decltype(weigh)>()(object.get(), selector, 1, 2, 3, 4, 5, 6, 7, 8.5, 9.5, 10.5, 11.5,
-                                         12.5, 13.5, 14.5, 15.5, 16.5),
-              weigh(object.get(), selector, 1, 2, 3, 4, 5, 6, 7, 8.5, 9.5, 10.5, 11.5, 12.5, 13.5, 14.5, 15.5,
-                    16.5));
-}
-
 Large measure(id, SEL, long number) { return {{number, number + 1, number + 2}}; }
 
+// Leaves nothing as it was in the registers for arguments and for the place of a structure.
+void useEveryRegister(id, SEL) {
+    static auto* volatile weighing = weigh;
+    static auto* volatile measuring = measure;
+    weighing(nullptr, nullptr, -1, -2, -3, -4, -5, -6, -7, -1, -2, -3, -4, -5, -6, -7, -8, -9);
+    measuring(nullptr, nullptr, -1);
+}
+
+// A class with one method, which is for the class. The first message that it gets is looked up slowly, and
+// initializes it on the way.
+id classWith(const char* name, const char* selector, IMP implementation, const char* encoding,
+             IMP initialize = mac::asImplementation(useEveryRegister)) {
+    const Class type = objc_allocateClassPair(mac::foundation.object.find(), name, 0);
+    const id object = reinterpret_cast<id>(type);
+    class_addMethod(object_getClass(object), sel_registerName(selector), implementation, encoding);
+    class_addMethod(object_getClass(object), sel_registerName("initialize"), initialize, "v@:");
+    objc_registerClassPair(type);
+    return object;
+}
+
+TEST(Messages, CarryEveryArgument) {
+    const id type =
+        classWith("KestruneWeighing", "weigh", mac::asImplementation(weigh), "d@:qqqqqqqddddddddd");
+    const SEL selector = sel_registerName("weigh");
+    EXPECT_EQ(sending<decltype(weigh)>()(type, selector, 1, 2, 3, 4, 5, 6, 7, 8.5, 9.5, 10.5, 11.5, 12.5,
+                                         13.5, 14.5, 15.5, 16.5),
+              weigh(type, selector, 1, 2, 3, 4, 5, 6, 7, 8.5, 9.5, 10.5, 11.5, 12.5, 13.5, 14.5, 15.5, 16.5));
+}
+
 TEST(Messages, LeadToStructuresInMemory) {
-    const Class type =
+    const id type =
         classWith("KestruneMeasuring", "measure:", mac::asImplementation(measure), "{Large=qqq}@:q");
-    const mac::Retained object = mac::Retained::adopting(mac::foundation.object.init(mac::allocate(type)));
-    const Large result =
-        sendingForStructure<decltype(measure)>()(object.get(), sel_registerName("measure:"), 7);
+    const Large result = sendingForStructure<decltype(measure)>()(type, sel_registerName("measure:"), 7);
     EXPECT_EQ(result.parts[0], 7);
+    EXPECT_EQ(result.parts[1], 8);
     EXPECT_EQ(result.parts[2], 9);
 }
 
@@ -86,15 +95,12 @@ TEST(Messages, GiveZeroWhenSentToNil) {
     EXPECT_EQ(pair.parts[1], 0);
 }
 
-void fail(id, SEL) { throw std::runtime_error("first message"); }
+void fail(id, SEL) { throw std::runtime_error("in the first message"); }
 
 TEST(Messages, LetExceptionsOfTheLookUpPass) {
-    const Class type = objc_allocateClassPair(mac::foundation.object.find(), "KestruneFailing", 0);
-    class_addMethod(object_getClass(reinterpret_cast<id>(type)), sel_registerName("initialize"),
-                    mac::asImplementation(fail), "v@:");
-    objc_registerClassPair(type);
-    EXPECT_THROW(sending<id(id, SEL)>()(reinterpret_cast<id>(type), sel_registerName("class")),
-                 std::runtime_error);
+    const id type = classWith("KestruneFailing", "measure:", mac::asImplementation(measure), "{Large=qqq}@:q",
+                              mac::asImplementation(fail));
+    EXPECT_THROW(sending<id(id, SEL)>()(type, sel_registerName("class")), std::runtime_error);
 }
 
 } // namespace
