@@ -164,6 +164,11 @@ class Build(LinuxTest):
         message = "tools/app: the symbols are not whole: no A.o and 1 more"
         self.assert_fails(self.app("--sparkle", "none"), message)
 
+    def test_takes_the_halves_in_either_order_of_their_uuids(self):
+        self.use_linux(**{"llvm-dwarfdump": 'echo "UUID: 42 (arm64) $2"; echo "UUID: 41 (x86_64) $2"'})
+        result = self.app("--sparkle", "none")
+        self.assertEqual(result.returncode, 0, result.stderr)
+
     def test_ends_when_a_half_is_missing(self):
         self.use_linux(**{"llvm-dwarfdump": 'echo "UUID: 40 (arm64) $2"'})
         self.assert_fails(self.app("--sparkle", "none"), "and the program [('40', 'arm64')]")

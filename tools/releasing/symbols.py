@@ -27,7 +27,7 @@ class Symbols:
 
     def _require_same_uuids(self, output):
         found = sorted(UUID.findall(output))
-        if [processor for _, processor in found] != sorted(PROCESSORS) or found != self._uuids:
+        if sorted(processor for _, processor in found) != sorted(PROCESSORS) or found != self._uuids:
             raise Failure(
                 f"{self.folder} has the UUIDs {self._uuids} and the program {found}; crash reports need "
                 "the same"
