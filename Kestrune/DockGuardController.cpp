@@ -15,6 +15,9 @@ constexpr EventMask PointerMotion =
     eventMaskBit(EventType::rightMouseDragged) | eventMaskBit(EventType::otherMouseDragged);
 static_assert(PointerMotion == 0x080000E0);
 
+constexpr LogMessage TapRefused =
+    LogMessage::of<"Failed to create event tap. Accessibility permission required.">();
+
 } // namespace
 
 void DockGuardController::setPreferences(std::shared_ptr<Preferences> preferences) {
@@ -56,7 +59,7 @@ void DockGuardController::start() {
         EventTap::create(EventTapLocation::session, EventTapPlacement::headInsert,
                          EventTapOptions::defaultTap, PointerMotion, eventTapCallback, this);
     if (!tap) {
-        log().error("Failed to create event tap. Accessibility permission required.");
+        log().error(TapRefused);
         return;
     }
     RunLoopSource source = tap->createRunLoopSource(0);

@@ -19,6 +19,9 @@ namespace {
 
 constexpr double WatcherInterval = 1.0; // seconds
 
+constexpr LogMessage SkippingWizard =
+    LogMessage::of<"scheduleWelcomeDecision: skipping wizard, already onboarded">();
+
 constexpr Selector MenuOpenSettings{"menuOpenSettings"};
 
 constexpr ActionMethod MainMenuActions[] = {
@@ -175,7 +178,7 @@ void KestruneApp::decideOnWelcome() {
         return;
     }
     preferences_->defaults().setBool(true, Preferences::HasCompletedOnboardingKey);
-    applicationLog("app").debug("scheduleWelcomeDecision: skipping wizard, already onboarded");
+    applicationLog("app").debug(SkippingWizard);
 }
 
 void KestruneApp::observeScreenParameters() {

@@ -9,7 +9,7 @@ namespace kestrune {
 
 namespace {
 
-constexpr LogFormat ToggleFailed{"LoginItem toggle failed: %{public}s"};
+constexpr LogFormat ToggleFailed = LogFormat::of<"LoginItem toggle failed: %{public}s">();
 
 bool isEnabled(const AppService& service) { return service.status() == AppServiceStatus::enabled; }
 

@@ -14,8 +14,8 @@ namespace kestrune {
 
 namespace {
 
-constexpr LogFormat Initialized{"Sparkle initialized — feed: %{public}s"};
-constexpr LogFormat InitFailed{"Sparkle init failed: %{public}s"};
+constexpr LogFormat Initialized = LogFormat::of<"Sparkle initialized — feed: %{public}s">();
+constexpr LogFormat InitFailed = LogFormat::of<"Sparkle init failed: %{public}s">();
 
 bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;

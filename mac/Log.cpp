@@ -14,13 +14,8 @@ constexpr std::uint8_t InfoType = 0x01;
 constexpr std::uint8_t DebugType = 0x02;
 constexpr std::uint8_t ErrorType = 0x10;
 
-// The log keeps a reference into the image that it is told of, so the text lies where the linker puts format
-// strings. Other formats are literals of the application, which lie among the image's other texts.
-#ifdef __APPLE__
-__attribute__((section("__TEXT,__oslogstring,cstring_literals")))
-#endif
-constexpr char PublicString[] = "%{public}s";
-constexpr LogFormat MessageItself(PublicString);
+// No arguments: none of a special kind, and none at all.
+constexpr std::array<std::uint8_t, 2> NoArguments = {0, 0};
 
 // The arguments of a format with one "%{public}s": one that is no scalar, a public string, eight bytes long.
 class PublicArgument {
@@ -38,6 +33,14 @@ public:
 private:
     alignas(16) std::array<std::uint8_t, Size> bytes_{};
 };
+
+void write(os_log_t log, std::uint8_t type, OSLogFunction* function, LogMessage message) {
+    if (!os_log_type_enabled(log, type)) {
+        return;
+    }
+    alignas(16) auto arguments = NoArguments;
+    function(&__dso_handle, log, type, message.text(), arguments.data(), arguments.size());
+}
 
 void write(os_log_t log, std::uint8_t type, OSLogFunction* function, LogFormat format,
            std::string_view publicString) {
@@ -60,11 +63,9 @@ Log::Log(std::string_view subsystem, std::string_view category)
     : state_(std::make_shared<State>(
           State{os_log_create(std::string(subsystem).c_str(), std::string(category).c_str())})) {}
 
-void Log::debug(std::string_view message) const {
-    write(state_->log, DebugType, _os_log_debug_impl, MessageItself, message);
-}
+void Log::debug(LogMessage message) const { write(state_->log, DebugType, _os_log_debug_impl, message); }
 
-void Log::error(std::string_view message) const { error(MessageItself, message); }
+void Log::error(LogMessage message) const { write(state_->log, ErrorType, _os_log_error_impl, message); }
 
 void Log::info(LogFormat format, std::string_view publicString) const {
     write(state_->log, InfoType, _os_log_impl, format, publicString);

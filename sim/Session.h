@@ -57,6 +57,7 @@ struct LogRecord {
     std::string subsystem;
     std::string category;
     std::string message;
+    std::string format; // the message itself when it has no argument
 };
 
 // What became of one pointer event. Locations are in global display coordinates.

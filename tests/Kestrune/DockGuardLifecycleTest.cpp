@@ -34,6 +34,7 @@ protected:
         EXPECT_EQ(record.subsystem, "org.kestrune.Kestrune");
         EXPECT_EQ(record.category, "dockGuard");
         EXPECT_EQ(record.message, "Failed to create event tap. Accessibility permission required.");
+        EXPECT_EQ(record.format, record.message);
     }
 };
 

@@ -70,6 +70,7 @@ struct LoggedMessage {
     std::string subsystem;
     std::string category;
     std::string message;
+    std::string format; // by which somebody may look for it
 
     friend bool operator==(const LoggedMessage&, const LoggedMessage&) = default;
 };

@@ -56,9 +56,10 @@ protected:
         return messages;
     }
 
+    // The one argument stands at the format's end.
     static contract::LoggedMessage message(contract::LoggedMessage::Level level, const std::string& category,
-                                           const std::string& text) {
-        return {level, "org.kestrune.Kestrune", category, text};
+                                           const std::string& beginning, const std::string& argument) {
+        return {level, "org.kestrune.Kestrune", category, beginning + argument, beginning + "%{public}s"};
     }
 };
 

@@ -124,7 +124,7 @@ TEST_F(SettingsOnGNUstep, LogsWhyTheLoginItemWasNotRegistered) {
     EXPECT_THAT(window().switches, ElementsAre(true));
     EXPECT_THAT(logged("loginItem"),
                 ElementsAre(message(LoggedMessage::Level::error, "loginItem",
-                                    "LoginItem toggle failed: Operation not permitted")));
+                                    "LoginItem toggle failed: ", "Operation not permitted")));
 }
 
 TEST_F(SettingsOnGNUstep, LogsWhyTheLoginItemWasNotUnregistered) {
@@ -136,7 +136,7 @@ TEST_F(SettingsOnGNUstep, LogsWhyTheLoginItemWasNotUnregistered) {
     EXPECT_THAT(asked(), ElementsAre(Status, Unregister));
     EXPECT_EQ(world_.loginItem(), AppServiceStatus::enabled);
     EXPECT_THAT(logged("loginItem"), ElementsAre(message(LoggedMessage::Level::error, "loginItem",
-                                                         "LoginItem toggle failed: No such process")));
+                                                         "LoginItem toggle failed: ", "No such process")));
     closeAndOpen();
     EXPECT_THAT(window().switches, ElementsAre(true));
 }

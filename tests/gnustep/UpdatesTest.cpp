@@ -27,8 +27,8 @@ protected:
 
     void expectMissingFramework() {
         EXPECT_THAT(logged("updater"),
-                    ElementsAre(message(LoggedMessage::Level::error, "updater",
-                                        "Sparkle init failed: Sparkle.framework is not in the application's "
+                    ElementsAre(message(LoggedMessage::Level::error, "updater", "Sparkle init failed: ",
+                                        "Sparkle.framework is not in the application's "
                                         "Frameworks folder.")));
     }
 };
@@ -43,7 +43,7 @@ TEST_F(UpdatesOnGNUstep, StartAtLaunch) {
                     "-[SPUUpdater startUpdater:]", "-[SPUUpdater setAutomaticallyDownloadsUpdates:] false"));
     EXPECT_EQ(world_.asksForGentleReminders(), false);
     EXPECT_THAT(logged("updater"), ElementsAre(message(LoggedMessage::Level::info, "updater",
-                                                       "Sparkle initialized — feed: NOT SET")));
+                                                       "Sparkle initialized — feed: ", "NOT SET")));
 }
 
 TEST_F(UpdatesOnGNUstep, AreCheckedForAndTheirWindowsRaised) {
@@ -154,8 +154,8 @@ TEST_F(UpdatesOnGNUstep, SayWhyTheFrameworkWasNotLoaded) {
     refuseLoadingUpdateFramework("mapping process and mapped file have different Team IDs");
     launch();
     EXPECT_THAT(logged("updater"),
-                ElementsAre(message(LoggedMessage::Level::error, "updater",
-                                    "Sparkle init failed: mapping process and mapped file have different "
+                ElementsAre(message(LoggedMessage::Level::error, "updater", "Sparkle init failed: ",
+                                    "mapping process and mapped file have different "
                                     "Team IDs")));
     EXPECT_THAT(world_.updateMessages(), IsEmpty());
 }
@@ -163,8 +163,9 @@ TEST_F(UpdatesOnGNUstep, SayWhyTheFrameworkWasNotLoaded) {
 TEST_F(UpdatesOnGNUstep, SayWhyTheyDidNotStart) {
     world_.setUpdateFramework(UpdateFramework::refusing);
     launchAndOpen();
-    EXPECT_THAT(logged("updater"), ElementsAre(message(LoggedMessage::Level::error, "updater",
-                                                       "Sparkle init failed: The updater failed to start.")));
+    EXPECT_THAT(logged("updater"),
+                ElementsAre(message(LoggedMessage::Level::error, "updater",
+                                    "Sparkle init failed: ", "The updater failed to start.")));
     world_.clickButton("Check for Updates…");
     EXPECT_THAT(world_.updateMessages(), Not(Contains("-[SPUUpdater checkForUpdates]")));
 }

@@ -25,7 +25,7 @@ kestrune_mutant(RefusedStartCountsAsRunning ${GUARD}
 kestrune_mutant(RefusedStartLogsTwice ${GUARD}
     FROM "    if (!tap) {
 " TO "    if (!tap) {
-        log().error(\"Failed to create event tap. Accessibility permission required.\");
+        log().error(TapRefused);
 ")
 kestrune_mutant(ListensOnly ${GUARD}
     FROM "EventTapOptions::defaultTap" TO "EventTapOptions::listenOnly")

@@ -11,13 +11,13 @@ namespace {
 constexpr sim::Duration WatcherInterval = std::chrono::seconds(1);
 
 sim::LogRecord refusedStart() {
-    return {sim::LogLevel::error, ApplicationSubsystem, "dockGuard",
-            "Failed to create event tap. Accessibility permission required."};
+    const std::string text = "Failed to create event tap. Accessibility permission required.";
+    return {sim::LogLevel::error, ApplicationSubsystem, "dockGuard", text, text};
 }
 
 sim::LogRecord skippedWizard() {
-    return {sim::LogLevel::debug, ApplicationSubsystem, "app",
-            "scheduleWelcomeDecision: skipping wizard, already onboarded"};
+    const std::string text = "scheduleWelcomeDecision: skipping wizard, already onboarded";
+    return {sim::LogLevel::debug, ApplicationSubsystem, "app", text, text};
 }
 
 } // namespace

@@ -57,7 +57,8 @@ void ShellModel::toggleLoginItem(bool isOn) {
     if (loginItem_.refusal) {
         counts_.add(Happening::loginItemsRefused);
         log_.push_back({sim::LogLevel::error, ApplicationSubsystem, "loginItem",
-                        "LoginItem toggle failed: " + *loginItem_.refusal});
+                        "LoginItem toggle failed: " + *loginItem_.refusal,
+                        "LoginItem toggle failed: %{public}s"});
     } else if (!isOn) {
         counts_.add(Happening::loginItemsUnregistered);
         loginItem_.status = AppServiceStatus::notRegistered;

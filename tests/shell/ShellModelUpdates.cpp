@@ -11,8 +11,8 @@ void ShellModel::startUpdater() {
         const std::string reason = updatesWorld_.framework == sim::UpdateFramework::missing
                                        ? std::string(MissingUpdateFramework)
                                        : std::string(sim::Updates::StartFailure);
-        log_.push_back(
-            {sim::LogLevel::error, ApplicationSubsystem, "updater", "Sparkle init failed: " + reason});
+        log_.push_back({sim::LogLevel::error, ApplicationSubsystem, "updater",
+                        "Sparkle init failed: " + reason, "Sparkle init failed: %{public}s"});
         return;
     }
     counts_.add(Happening::updatersStarted);
@@ -20,7 +20,8 @@ void ShellModel::startUpdater() {
     countWrite();
     entries_.downloads = sim::PropertyList{false};
     log_.push_back({sim::LogLevel::info, ApplicationSubsystem, "updater",
-                    "Sparkle initialized \xE2\x80\x94 feed: " + textIn(bundle_.feed).value_or("NOT SET")});
+                    "Sparkle initialized \xE2\x80\x94 feed: " + textIn(bundle_.feed).value_or("NOT SET"),
+                    "Sparkle initialized \xE2\x80\x94 feed: %{public}s"});
 }
 
 void ShellModel::checkAsScheduled() {

@@ -60,7 +60,8 @@ bool areRows(const std::vector<sim::MenuRow>& rows, const std::vector<MenuLine>&
 
 bool isSameRecord(const sim::LogRecord& found, const sim::LogRecord& expected) {
     return found.level == expected.level && found.subsystem == expected.subsystem &&
-           found.category == expected.category && found.message == expected.message;
+           found.category == expected.category && found.message == expected.message &&
+           found.format == expected.format;
 }
 
 } // namespace

@@ -164,7 +164,7 @@ TEST_F(ApplicationCallsTest, AreJournaledForTextsURLsTrustAndDebugMessages) {
                     isProcessTrustedWithOptions({true});
                     session_.accessibility().setPermission(Permission::notListed);
                     isProcessTrustedWithOptions({false});
-                    log.debug("message");
+                    log.debug(LogMessage::of<"message">());
                 }),
                 ElementsAre("NSBundle.mainBundle", "-[NSBundle localizedStringForKey:value:table:] Quit",
                             "NSBundle.mainBundle", "-[NSBundle infoDictionary][CFBundleName]",

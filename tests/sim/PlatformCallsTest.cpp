@@ -91,7 +91,7 @@ TEST(PlatformCalls, AreJournaledForDefaultsTrustBundleAndLog) {
     defaults->setObject(std::nullopt, key);
     isProcessTrusted();
     Bundle::mainBundle().bundleIdentifier();
-    Log("subsystem", "category").error("message");
+    Log("subsystem", "category").error(LogMessage::of<"message">());
     EXPECT_THAT(session.journal().take(),
                 ElementsAre("NSUserDefaults.standardUserDefaults", "-[NSUserDefaults objectForKey:] key",
                             "-[NSUserDefaults boolForKey:] key", "-[NSUserDefaults doubleForKey:] key",
@@ -167,8 +167,8 @@ TEST(PlatformCalls, UseUpOneScriptedReadOfTheDisplaysEach) {
 
 TEST(PlatformCalls, LogWithTheirLevel) {
     const Session session;
-    Log("subsystem", "category").error("message");
-    Log("subsystem", "category").debug("message");
+    Log("subsystem", "category").error(LogMessage::of<"message">());
+    Log("subsystem", "category").debug(LogMessage::of<"message">());
     ASSERT_EQ(session.logRecords().size(), 2U);
     EXPECT_EQ(session.logRecords()[0].level, LogLevel::error);
     EXPECT_EQ(session.logRecords()[1].level, LogLevel::debug);

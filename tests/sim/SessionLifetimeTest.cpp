@@ -94,7 +94,7 @@ TEST(Session, StartsWithNothingOfTheOneBefore) {
         UserDefaults::standardUserDefaults()->setBool(true, UserDefaultsKey("key"));
         session.accessibility().setPermission(Permission::switchedOff);
         session.advance(std::chrono::seconds(5));
-        Log("subsystem", "category").error("message");
+        Log("subsystem", "category").error(LogMessage::of<"message">());
     }
     Session session;
     EXPECT_THAT(session.defaults().entries(), IsEmpty());

@@ -79,7 +79,7 @@ LoggedMessage::Level levelOf(sim::LogLevel level) {
 }
 
 LoggedMessage messageOf(const sim::LogRecord& record) {
-    return {levelOf(record.level), record.subsystem, record.category, record.message};
+    return {levelOf(record.level), record.subsystem, record.category, record.message, record.format};
 }
 
 ShownRow rowOf(const sim::MenuRow& row) {

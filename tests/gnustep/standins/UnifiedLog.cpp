@@ -8,6 +8,7 @@
 
 #include "base/Fatal.h"
 #include "mac/c/UnifiedLog.h"
+#include "platform/Log.h"
 
 #include <dlfcn.h>
 
@@ -30,31 +31,49 @@ namespace {
 constexpr std::uint8_t HasNonScalar = 0x02;
 constexpr std::uint8_t PublicString = 0x22;
 
-constexpr std::string_view Placeholder = "%{public}s";
+void require(bool isAsItShouldBe, const char* otherwise) {
+    if (!isAsItShouldBe) {
+        fatal(std::string("The unified log: ") + otherwise + ".");
+    }
+}
 
 // The log keeps a reference into the image that it is told of.
 void requireInImage(const char* format, void* image) {
     Dl_info ofFormat{};
     Dl_info ofImage{};
     const bool isKnown = dladdr(format, &ofFormat) != 0 && dladdr(image, &ofImage) != 0;
-    if (!isKnown || ofFormat.dli_fbase != ofImage.dli_fbase) {
-        fatal("A format of the unified log does not lie in the image of the program.");
-    }
+    require(isKnown && ofFormat.dli_fbase == ofImage.dli_fbase,
+            "a format does not lie in the image of the program");
 }
 
-std::string messageIn(const char* format, const std::uint8_t* buffer, std::uint32_t size) {
+bool hasNoArgument(const std::uint8_t* buffer, std::uint32_t size) {
+    return size == 2 && buffer[0] == 0 && buffer[1] == 0;
+}
+
+// Null when the arguments are others than that one.
+const char* publicStringIn(const std::uint8_t* buffer, std::uint32_t size) {
     const char* text = nullptr;
-    std::string message = format;
-    const std::size_t place = message.find(Placeholder);
-    const bool isOnePublicString = place != std::string::npos &&
-                                   message.find('%', place + 1) == std::string::npos &&
-                                   size == 4 + sizeof(text) && buffer[0] == HasNonScalar && buffer[1] == 1 &&
-                                   buffer[2] == PublicString && buffer[3] == sizeof(text);
-    if (!isOnePublicString) {
-        fatal("A message to the unified log does not have one public string.");
+    if (size == 4 + sizeof(text) && buffer[0] == HasNonScalar && buffer[1] == 1 &&
+        buffer[2] == PublicString && buffer[3] == sizeof(text)) {
+        std::memcpy(&text, buffer + 4, sizeof(text));
     }
-    std::memcpy(&text, buffer + 4, sizeof(text));
-    return message.replace(place, Placeholder.size(), text);
+    return text;
+}
+
+// The log looks for an argument wherever there is a percent sign.
+std::string messageIn(const char* format, const std::uint8_t* buffer, std::uint32_t size) {
+    std::string message = format;
+    const std::size_t place = message.find('%');
+    if (place == std::string::npos) {
+        require(hasNoArgument(buffer, size), "a format without arguments comes with some");
+        return message;
+    }
+    require(message.find(LogFormat::Placeholder) == place &&
+                message.find('%', place + 1) == std::string::npos,
+            "a format wants something else than one public string");
+    const char* const text = publicStringIn(buffer, size);
+    require(text != nullptr, "the arguments are not the public string that the format wants");
+    return message.replace(place, LogFormat::Placeholder.size(), text);
 }
 
 std::uint8_t typeOf(LoggedMessage::Level level) {
@@ -71,11 +90,10 @@ std::uint8_t typeOf(LoggedMessage::Level level) {
 
 void keep(LoggedMessage::Level level, void* image, os_log_t log, std::uint8_t type, const char* format,
           const std::uint8_t* buffer, std::uint32_t size) {
-    if (type != typeOf(level)) {
-        fatal("A message to the unified log has another type than its function.");
-    }
+    require(type == typeOf(level), "a message has another type than its function");
     requireInImage(format, image);
-    loggedMessages().push_back({level, log->subsystem, log->category, messageIn(format, buffer, size)});
+    loggedMessages().push_back(
+        {level, log->subsystem, log->category, messageIn(format, buffer, size), format});
 }
 
 } // namespace
