@@ -3,6 +3,7 @@
 #include "base/Fatal.h"
 #include "mac/Handles.h"
 #include "mac/ObjectCounterpart.h"
+#include "mac/Protocols.h"
 #include "mac/Vocabulary.h"
 #include "mac/objc/Lifetime.h"
 #include "mac/objc/Pool.h"
@@ -155,19 +156,34 @@ void addDelegateMethods(RuntimeClass& made, const Object& object) {
     }
 }
 
+// Those of Sparkle's are there when it is loaded.
+void adoptProtocols(Class type, const Object& object) {
+    if (dynamic_cast<const MenuDelegate*>(&object) != nullptr) {
+        adopt(type, "NSMenuDelegate");
+    }
+    if (dynamic_cast<const ApplicationDelegate*>(&object) != nullptr) {
+        adopt(type, "NSApplicationDelegate");
+    }
+    if (dynamic_cast<const WindowDelegate*>(&object) != nullptr) {
+        adopt(type, "NSWindowDelegate");
+    }
+}
+
 Class makeClass(const std::string& name, const Object& object) {
     const auto* const controller = dynamic_cast<const WindowController*>(&object);
     RuntimeClass made(name.c_str(),
                       controller != nullptr ? appKit.windowController.find() : foundation.object.find());
     addActions(made, object);
     addDelegateMethods(made, object);
-    if (controller == nullptr) {
-        return made.finish();
+    if (controller != nullptr) {
+        made.addMethod(implemented::initWithCoder, refuseConstruction);
+        made.addMethod(implemented::initWithWindow, refuseConstruction);
     }
-    made.addMethod(implemented::initWithCoder, refuseConstruction);
-    made.addMethod(implemented::initWithWindow, refuseConstruction);
     const Class finished = made.finish();
-    sourcePaths().emplace(finished, controller->sourcePath());
+    if (controller != nullptr) {
+        sourcePaths().emplace(finished, controller->sourcePath());
+    }
+    adoptProtocols(finished, object);
     return finished;
 }
 

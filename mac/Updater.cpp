@@ -2,6 +2,7 @@
 
 #include "mac/MainBundle.h"
 #include "mac/ObjectCounterpart.h"
+#include "mac/Protocols.h"
 #include "mac/ReportedError.h"
 #include "mac/Vocabulary.h"
 #include "mac/objc/NewObject.h"
@@ -44,11 +45,10 @@ std::optional<Error> loadFramework() {
     return mac::errorUnless(isLoaded, error);
 }
 
-// A protocol exists at run time once the framework is loaded, and only if that keeps it.
+// The framework has brought its protocols.
 void adopt(id delegate, const char* protocolName) {
-    Protocol* const protocol = objc_getProtocol(protocolName);
-    if (delegate != nullptr && protocol != nullptr) {
-        class_addProtocol(object_getClass(delegate), protocol);
+    if (delegate != nullptr) {
+        mac::adopt(object_getClass(delegate), protocolName);
     }
 }
 

@@ -23,7 +23,22 @@ struct ProtocolLayout {
     void* classMethods = nullptr;
 };
 
+bool areDelegateProtocolsLeftOut = false; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
 } // namespace
+
+void installDelegateProtocols() {
+    if (areDelegateProtocolsLeftOut) {
+        return;
+    }
+    for (const char* const name : {"NSApplicationDelegate", "NSMenuDelegate", "NSWindowDelegate"}) {
+        if (objc_getProtocol(name) == nullptr) {
+            makeProtocol(name);
+        }
+    }
+}
+
+void leaveDelegateProtocolsOut() { areDelegateProtocolsLeftOut = true; }
 
 void makeProtocol(const char* name) {
     __objc_protocols_add_protocol(name, new ProtocolLayout{classNamed("Protocol"), name});

@@ -17,6 +17,7 @@
 #include "tests/gnustep/standins/OpenedURLs.h"
 #include "tests/gnustep/standins/OperatingSystem.h"
 #include "tests/gnustep/standins/OtherProcesses.h"
+#include "tests/gnustep/standins/Protocols.h"
 #include "tests/gnustep/standins/Screens.h"
 #include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StatusItems.h"
@@ -37,6 +38,7 @@ void installStandIns() {
     installDeallocation();
     installWeakReferences();
     installAccessibility();
+    installDelegateProtocols();
     installWindowFrames();
     installWindowOrder();
     installActivation();
