@@ -64,15 +64,15 @@ View groupedSection(const std::vector<View>& rows) {
         }
         lines.push_back(groupedRow(row));
     }
-    // The border is what the fill leaves of the larger shape behind it.
+    // The border lies over the fill, as both are translucent.
     return VStack({.alignment = HorizontalAlignment::leading, .spacing = 0}, std::move(lines))
-        .background(RoundedRectangle({.cornerRadius = SectionCornerRadius - Hairline,
+        .background(RoundedRectangle({.cornerRadius = SectionCornerRadius,
                                       .cornerStyle = CornerStyle::continuous,
-                                      .fill = Color::sectionFill})
-                        .padding(Hairline)
-                        .background(RoundedRectangle({.cornerRadius = SectionCornerRadius,
-                                                      .cornerStyle = CornerStyle::continuous,
-                                                      .fill = Color::sectionBorder})));
+                                      .fill = Color::sectionBorder,
+                                      .lineWidth = Hairline}))
+        .background(RoundedRectangle({.cornerRadius = SectionCornerRadius,
+                                      .cornerStyle = CornerStyle::continuous,
+                                      .fill = Color::sectionFill}));
 }
 
 struct SectionNode final : Node {

@@ -67,6 +67,7 @@ struct ShapeElement {
     CornerStyle cornerStyle = CornerStyle::circular;
     Color fill = Color::primary;
     double opacity = 1;
+    double lineWidth = 0; // of a line along the inner side of its edge; 0: all of it is filled
 
     friend bool operator==(const ShapeElement&, const ShapeElement&) = default;
 };

@@ -86,6 +86,9 @@ std::string line(const ShapeElement& element) {
         line += " radius " + number(element.cornerRadius) +
                 unlessUsual(element.cornerStyle, CornerStyle::circular);
     }
+    if (element.lineWidth > 0) {
+        line += " line " + number(element.lineWidth);
+    }
     line += ' ' + std::string(nameOf(element.fill));
     if (element.opacity != 1) {
         line += " opacity " + number(element.opacity);

@@ -20,7 +20,8 @@ private:
 
     void show(const Rect& frame, Rendering& rendering) override {
         rendering.scene.elements.emplace_back(ShapeElement{frame, options_.cornerRadius, options_.cornerStyle,
-                                                           options_.fill, options_.opacity});
+                                                           options_.fill, options_.opacity,
+                                                           options_.lineWidth});
     }
 
     RoundedRectangleOptions options_;

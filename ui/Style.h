@@ -1,5 +1,5 @@
 // Colours, alignments and sizes in the words of SwiftUI. A colour is a name: what it looks like is the
-// platform's business, in light and in dark.
+// platform's business, in light and in dark (ui/SystemColor.h).
 #pragma once
 
 #include <cstdint>
@@ -14,8 +14,8 @@ enum class Color {
     green,
     white,
     link,
-    sectionFill,   // behind a section of a grouped form; covers the border's shape, so it is opaque
-    sectionBorder, // around it
+    sectionFill,   // behind a section of a grouped form; what is behind that shines through
+    sectionBorder, // along its edge, over the fill
     separator,     // between its rows
 };
 

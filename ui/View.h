@@ -91,6 +91,8 @@ struct RoundedRectangleOptions {
     CornerStyle cornerStyle = CornerStyle::circular;
     Color fill = Color::primary;
     double opacity = 1; // of the fill
+    // As `strokeBorder(_:lineWidth:)`, the fill being the line's: inside the edge. 0: all of it is filled.
+    double lineWidth = 0;
 };
 
 // As large as what is offered.

@@ -1,6 +1,8 @@
 // The colours of the desk, in light and dark appearance.
 #pragma once
 
+#include "ui/SystemColor.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -24,6 +26,7 @@ constexpr Color rgb(std::uint32_t hexadecimal, double alpha = 1) {
             static_cast<double>(hexadecimal >> 8 & 0xFF) / 255, static_cast<double>(hexadecimal & 0xFF) / 255,
             alpha};
 }
+constexpr Color rgb(const ui::Shade& shade) { return rgb(shade.hexadecimal, shade.alpha); }
 
 // The colour `fraction` of the way from the first to the second.
 Color mix(const Color& first, const Color& second, double fraction);
@@ -60,18 +63,8 @@ struct SystemColors {
     Color windowButton; // one that is disabled
 };
 
-// Of what an application shows in a window of its own.
-struct SceneColors {
-    Color primary;
-    Color secondary;
-    Color tertiary;
-    Color green;
-    Color white;
-    Color link;
-    Color sectionFill;
-    Color sectionBorder;
-    Color separator;
-
+// Of an application's windows, around what it shows in them.
+struct WindowColors {
     Color window;
     Color titleBar; // laid over the window
     Color title;
@@ -111,7 +104,8 @@ struct Palette {
     Color inactive;
 
     SystemColors system;
-    SceneColors scene;
+    WindowColors application;
+    bool isDark;
 };
 
 const Palette& paletteFor(bool dark);

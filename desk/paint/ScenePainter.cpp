@@ -5,11 +5,23 @@
 #include "desk/paint/Shapes.h"
 #include "desk/paint/StyledTextLayout.h"
 #include "desk/paint/SymbolPainter.h"
+#include "ui/Outline.h"
 
 #include <variant>
 
 namespace kestrune::desk {
 namespace {
+
+void addOutline(cairo_t* context, const ui::Outline& outline) {
+    cairo_new_sub_path(context);
+    cairo_move_to(context, outline.start().x, outline.start().y);
+    for (const ui::OutlineSide& side : outline.sides) {
+        cairo_line_to(context, side.lineEnd.x, side.lineEnd.y);
+        cairo_curve_to(context, side.firstControl.x, side.firstControl.y, side.secondControl.x,
+                       side.secondControl.y, side.curveEnd.x, side.curveEnd.y);
+    }
+    cairo_close_path(context);
+}
 
 // Paints each kind of element; the context's origin is the scene's.
 class ElementPainter {
@@ -37,14 +49,15 @@ public:
     }
 
     void operator()(const ui::ShapeElement& element) {
-        if (element.cornerStyle == ui::CornerStyle::continuous) {
-            addContinuousRectangle(canvas_.context, element.frame, element.cornerRadius);
-        } else {
-            addRoundedRectangle(canvas_.context, element.frame, element.cornerRadius);
-        }
+        addOutline(canvas_.context, ui::outlineOf(element));
         const Color fill = sceneColor(canvas_.palette, element.fill);
         setColor(canvas_.context, fill.withAlpha(fill.alpha * element.opacity));
-        cairo_fill(canvas_.context);
+        if (element.lineWidth > 0) {
+            cairo_set_line_width(canvas_.context, element.lineWidth);
+            cairo_stroke(canvas_.context);
+        } else {
+            cairo_fill(canvas_.context);
+        }
     }
 
     void operator()(const ui::ButtonElement& element) {

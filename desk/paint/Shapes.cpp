@@ -29,33 +29,6 @@ void addRoundedRectangle(cairo_t* context, const Rect& rect, double radius) {
     cairo_close_path(context);
 }
 
-void addContinuousRectangle(cairo_t* context, const Rect& rect, double radius) {
-    constexpr double Reach = 1.5; // of a corner along its edges, in radii
-    // The curve's middle lies where a quarter circle's does, at 1 - sqrt(1/2) radii from both edges. With
-    // both control points on the edges at `Control` radii from the corner that middle is (Reach + 3 Control)
-    // / 8.
-    constexpr double Control = (8 * (1 - std::numbers::sqrt2 / 2) - Reach) / 3;
-    const double longest = std::min(rect.width(), rect.height()) / 2;
-    const double corner = std::clamp(radius, 0.0, longest / Reach);
-    const double reach = Reach * corner;
-    const double control = Control * corner;
-    cairo_new_sub_path(context);
-    cairo_move_to(context, rect.minX() + reach, rect.minY());
-    cairo_line_to(context, rect.maxX() - reach, rect.minY());
-    cairo_curve_to(context, rect.maxX() - control, rect.minY(), rect.maxX(), rect.minY() + control,
-                   rect.maxX(), rect.minY() + reach);
-    cairo_line_to(context, rect.maxX(), rect.maxY() - reach);
-    cairo_curve_to(context, rect.maxX(), rect.maxY() - control, rect.maxX() - control, rect.maxY(),
-                   rect.maxX() - reach, rect.maxY());
-    cairo_line_to(context, rect.minX() + reach, rect.maxY());
-    cairo_curve_to(context, rect.minX() + control, rect.maxY(), rect.minX(), rect.maxY() - control,
-                   rect.minX(), rect.maxY() - reach);
-    cairo_line_to(context, rect.minX(), rect.minY() + reach);
-    cairo_curve_to(context, rect.minX(), rect.minY() + control, rect.minX() + control, rect.minY(),
-                   rect.minX() + reach, rect.minY());
-    cairo_close_path(context);
-}
-
 void fillRoundedRectangle(cairo_t* context, const Rect& rect, double radius, const Color& color) {
     addRoundedRectangle(context, rect, radius);
     setColor(context, color);

@@ -15,10 +15,6 @@ void setColor(cairo_t* context, const Color& color);
 // A path; a radius larger than half the shorter side gives a pill.
 void addRoundedRectangle(cairo_t* context, const Rect& rect, double radius);
 
-// The same with corners that ease into the edges: they begin half as far again from the corner as those of
-// the quarter circle with that radius, and leave as much of the corner free.
-void addContinuousRectangle(cairo_t* context, const Rect& rect, double radius);
-
 void fillRoundedRectangle(cairo_t* context, const Rect& rect, double radius, const Color& color);
 
 // The line runs inside the rectangle's edge.

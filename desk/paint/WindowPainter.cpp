@@ -1,6 +1,7 @@
 #include "desk/paint/WindowPainter.h"
 
 #include "desk/paint/ControlPainter.h"
+#include "desk/paint/SceneColor.h"
 #include "desk/paint/ScenePainter.h"
 #include "desk/paint/Shapes.h"
 
@@ -16,7 +17,7 @@ bool hasButtons(const WindowPicture& shown) {
 
 void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
     constexpr double ButtonsWidth = 72; // with the room after them
-    const SceneColors& colors = canvas.palette.scene;
+    const WindowColors& colors = canvas.palette.application;
     const Rect& bar = layout.titleBar;
     if (shown.isKey) {
         cairo_rectangle(canvas.context, bar.minX(), bar.minY(), bar.width(), bar.height());
@@ -24,7 +25,7 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
         cairo_fill(canvas.context);
     }
     fillRoundedRectangle(canvas.context, {bar.minX(), bar.maxY() - 0.5, bar.width(), 0.5}, 0,
-                         colors.separator);
+                         sceneColor(canvas.palette, ui::Color::separator));
     if (hasButtons(shown)) {
         paintWindowButtons(canvas, layout.closeButton,
                            {.isClosable = shown.isClosable,
@@ -48,7 +49,7 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
 
 PanelStyle applicationWindowStyle(const Palette& palette, bool isActive) {
     PanelStyle style = windowPanelStyle(palette);
-    style.color = palette.scene.window;
+    style.color = palette.application.window;
     if (!isActive) {
         style.shadowBlur = 24;
         style.shadowDrop = 8;

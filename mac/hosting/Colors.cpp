@@ -1,39 +1,40 @@
 #include "mac/hosting/Colors.h"
 
+#include "base/Fatal.h"
 #include "mac/Vocabulary.h"
+#include "ui/SystemColor.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
 
 namespace kestrune::mac {
 
 namespace {
 
-const ClassMessage<id()>& messageFor(ui::Color color) {
-    switch (color) {
-    case ui::Color::secondary:
-        return appKit.color.secondaryLabelColor;
-    case ui::Color::tertiary:
-        return appKit.color.tertiaryLabelColor;
-    case ui::Color::accent:
-        return appKit.color.controlAccentColor;
-    case ui::Color::green:
-        return appKit.color.systemGreenColor;
-    case ui::Color::white:
-        return appKit.color.whiteColor;
-    case ui::Color::link:
-        return appKit.color.linkColor;
-    case ui::Color::sectionFill:
-        return appKit.color.quaternaryLabelColor;
-    case ui::Color::sectionBorder:
-    case ui::Color::separator:
-        return appKit.color.separatorColor;
-    case ui::Color::primary:
-        break;
+const ClassMessage<id()>& messageNamed(std::string_view name) {
+    const auto& colors = appKit.color;
+    for (const ClassMessage<id()>* const message :
+         {&colors.labelColor, &colors.secondaryLabelColor, &colors.tertiaryLabelColor,
+          &colors.quaternaryLabelColor, &colors.quinaryLabelColor, &colors.quaternarySystemFillColor,
+          &colors.quinarySystemFillColor, &colors.controlAccentColor, &colors.systemGreenColor,
+          &colors.whiteColor, &colors.linkColor, &colors.separatorColor}) {
+        if (message->selectorName() == name) {
+            return *message;
+        }
     }
-    return appKit.color.labelColor;
+    fatal("The binding knows no colour " + std::string(name) + ".");
 }
 
 } // namespace
 
-id platformColor(ui::Color color) { return messageFor(color)(); }
+id platformColor(ui::Color color) {
+    const auto& names = ui::systemColor(color).names;
+    const auto name = std::find_if(names.begin(), names.end(), [](std::string_view candidate) {
+        return messageNamed(candidate).isThere();
+    });
+    return messageNamed(name != names.end() ? *name : names.front())();
+}
 
 id colorWithOpacity(ui::Color color, double opacity) {
     const id opaque = platformColor(color);

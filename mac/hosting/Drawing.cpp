@@ -4,6 +4,7 @@
 #include "mac/hosting/AttributedText.h"
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/Symbols.h"
+#include "ui/Outline.h"
 
 namespace kestrune::mac {
 
@@ -11,6 +12,21 @@ namespace {
 
 Rect movedBy(const Rect& frame, Point origin) {
     return {frame.origin.x - origin.x, frame.origin.y - origin.y, frame.size.width, frame.size.height};
+}
+
+// Borrowed from the innermost pool.
+id pathOf(const ui::ShapeElement& shape, Point origin) {
+    ui::ShapeElement moved = shape;
+    moved.frame = movedBy(shape.frame, origin);
+    const ui::Outline outline = ui::outlineOf(moved);
+    const id path = appKit.bezierPath.bezierPath();
+    appKit.bezierPath.moveToPoint(path, outline.start());
+    for (const ui::OutlineSide& side : outline.sides) {
+        appKit.bezierPath.lineToPoint(path, side.lineEnd);
+        appKit.bezierPath.curveToPoint(path, side.curveEnd, side.firstControl, side.secondControl);
+    }
+    appKit.bezierPath.closePath(path);
+    return path;
 }
 
 struct Painter {
@@ -28,7 +44,13 @@ struct Painter {
 
     void operator()(const ui::ShapeElement& element) const {
         appKit.color.set(colorWithOpacity(element.fill, element.opacity * opacity));
-        fillMask(element, origin);
+        const id path = pathOf(element, origin);
+        if (element.lineWidth > 0) {
+            appKit.bezierPath.setLineWidth(path, element.lineWidth);
+            appKit.bezierPath.stroke(path);
+        } else {
+            appKit.bezierPath.fill(path);
+        }
     }
 };
 
@@ -40,12 +62,7 @@ void draw(const std::vector<ui::Drawing>& drawings, Point origin, double opacity
     }
 }
 
-// A path has no continuous corners. At the radii of controls they are the circular ones within a fraction of
-// a pixel.
-void fillMask(const ui::ShapeElement& shape, Point origin) {
-    appKit.bezierPath.fill(appKit.bezierPath.bezierPathWithRoundedRect(
-        movedBy(shape.frame, origin), shape.cornerRadius, shape.cornerRadius));
-}
+void fillMask(const ui::ShapeElement& shape, Point origin) { appKit.bezierPath.fill(pathOf(shape, origin)); }
 
 BOOL alwaysFlipped(id, SEL) noexcept { return truth(true); }
 

@@ -76,6 +76,9 @@ private:
 
 enum class MethodKind { ofInstances, ofClass };
 
+// Whether the oldest system that the program runs on has the method. Another one is asked for first.
+enum class Availability { everySystem, newerSystems };
+
 // What the self-check knows of a message. `selectorName` and `encoding` must have static storage.
 class MessageDeclaration {
 public:
@@ -84,14 +87,16 @@ public:
 
     const char* selectorName() const { return selectorName_; }
     MethodKind kind() const { return kind_; }
+    Availability availability() const { return availability_; }
     const char* encoding() const { return encoding_; }
     const MessageDeclaration* next() const { return next_; }
 
 protected:
     constexpr MessageDeclaration(ClassReference& receiver, const char* selectorName, MethodKind kind,
-                                 const char* encoding)
+                                 Availability availability, const char* encoding)
         : selectorName_(selectorName),
           kind_(kind),
+          availability_(availability),
           encoding_(encoding),
           next_(std::exchange(receiver.firstMessage_, this)) {}
     ~MessageDeclaration() = default;
@@ -106,6 +111,7 @@ private:
 
     const char* selectorName_;
     MethodKind kind_;
+    Availability availability_;
     const char* encoding_;
     const MessageDeclaration* next_;
     mutable std::atomic<SEL> selector_ = nullptr;
@@ -138,8 +144,10 @@ template <typename Result, typename... Arguments>
 class Message<Result(Arguments...)> : public MessageDeclaration {
 public:
     constexpr Message(ClassReference& receiver, const char* selectorName,
-                      MethodKind kind = MethodKind::ofInstances)
-        : MessageDeclaration(receiver, selectorName, kind, EncodingOfMethod<Result, Arguments...>.data()) {}
+                      MethodKind kind = MethodKind::ofInstances,
+                      Availability availability = Availability::everySystem)
+        : MessageDeclaration(receiver, selectorName, kind, availability,
+                             EncodingOfMethod<Result, Arguments...>.data()) {}
 
     Result operator()(id receiver, std::type_identity_t<Arguments>... arguments) const {
         using Function = Result (*)(id, SEL, Arguments...);
@@ -166,8 +174,14 @@ class ClassMessage;
 template <typename Result, typename... Arguments>
 class ClassMessage<Result(Arguments...)> : private Message<Result(Arguments...)> {
 public:
-    constexpr ClassMessage(ClassReference& receiver, const char* selectorName)
-        : Message<Result(Arguments...)>(receiver, selectorName, MethodKind::ofClass), receiver_(receiver) {}
+    constexpr ClassMessage(ClassReference& receiver, const char* name,
+                           Availability availability = Availability::everySystem)
+        : Message<Result(Arguments...)>(receiver, name, MethodKind::ofClass, availability),
+          receiver_(receiver) {}
+
+    using MessageDeclaration::selectorName;
+
+    bool isThere() const { return class_getClassMethod(receiver_.find(), this->selector()) != nullptr; }
 
     Result operator()(std::type_identity_t<Arguments>... arguments) const {
         return Message<Result(Arguments...)>::operator()(receiver_.object(), arguments...);

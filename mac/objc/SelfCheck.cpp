@@ -22,7 +22,8 @@ void checkMessage(const ClassReference& type, const MessageDeclaration& message,
     const Class found = type.find();
     const Method method = found != nullptr ? methodOf(found, message) : nullptr;
     if (method == nullptr) {
-        result.missingMethods.push_back(nameOf(type, message));
+        (message.availability() == Availability::everySystem ? result.missingMethods : result.laterMethods)
+            .push_back(nameOf(type, message));
         return;
     }
     const char* const encoding = method_getTypeEncoding(method);

@@ -17,6 +17,9 @@ struct SelfCheckResult {
     // Names of classes whose framework is not loaded. Nothing is known of their methods.
     std::vector<std::string> classesNotLoaded;
 
+    // Methods of newer systems than this one.
+    std::vector<std::string> laterMethods;
+
     // Each names a class, or a method and its encodings.
     std::vector<std::string> missingClasses;
     std::vector<std::string> missingMethods;

@@ -213,6 +213,11 @@ struct AppKit : Framework {
         ClassMessage<id()> secondaryLabelColor{*this, "secondaryLabelColor"};
         ClassMessage<id()> tertiaryLabelColor{*this, "tertiaryLabelColor"};
         ClassMessage<id()> quaternaryLabelColor{*this, "quaternaryLabelColor"};
+        ClassMessage<id()> quinaryLabelColor{*this, "quinaryLabelColor", Availability::newerSystems};
+        ClassMessage<id()> quaternarySystemFillColor{*this, "quaternarySystemFillColor",
+                                                     Availability::newerSystems};
+        ClassMessage<id()> quinarySystemFillColor{*this, "quinarySystemFillColor",
+                                                  Availability::newerSystems};
         ClassMessage<id()> controlAccentColor{*this, "controlAccentColor"};
         ClassMessage<id()> systemGreenColor{*this, "systemGreenColor"};
         ClassMessage<id()> whiteColor{*this, "whiteColor"};
@@ -225,9 +230,14 @@ struct AppKit : Framework {
 
     struct NSBezierPath : ClassReference {
         using ClassReference::ClassReference;
-        ClassMessage<id(Rect, double, double)> bezierPathWithRoundedRect{
-            *this, "bezierPathWithRoundedRect:xRadius:yRadius:"};
+        ClassMessage<id()> bezierPath{*this, "bezierPath"};
+        Message<void(Point)> moveToPoint{*this, "moveToPoint:"};
+        Message<void(Point)> lineToPoint{*this, "lineToPoint:"};
+        Message<void(Point, Point, Point)> curveToPoint{*this, "curveToPoint:controlPoint1:controlPoint2:"};
+        Message<void()> closePath{*this, "closePath"};
+        Message<void(double)> setLineWidth{*this, "setLineWidth:"};
         Message<void()> fill{*this, "fill"};
+        Message<void()> stroke{*this, "stroke"};
     } bezierPath{*this, "NSBezierPath"};
 
     struct NSMutableParagraphStyle : ClassReference {

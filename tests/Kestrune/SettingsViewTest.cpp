@@ -50,12 +50,12 @@ protected:
 
 TEST_F(SettingsForm, IsLaidOutFromTopToBottom) {
     EXPECT_EQ(ui::describe(layOut().scene), R"scene(scene 440x215
-  shape 20,20 400x36 radius 10 continuous sectionBorder
-  shape 21,21 398x34 radius 9 continuous sectionFill
+  shape 20,20 400x36 radius 10 continuous sectionFill
+  shape 20,20 400x36 radius 10 continuous line 1 sectionBorder
   text 30,30 105x16 "Launch at login" body accessibilityHidden
   toggle 378,29 32x18 "Launch at login" off small switch 0
-  shape 20,76 400x73 radius 10 continuous sectionBorder
-  shape 21,77 398x71 radius 9 continuous sectionFill
+  shape 20,76 400x73 radius 10 continuous sectionFill
+  shape 20,76 400x73 radius 10 continuous line 1 sectionBorder
   button 30,83 168x22 "Check for Updates…" bordered action 0
   shape 30,112 380x1 separator
   button 30,120 133x22 "Report a Bug…" bordered action 1

@@ -33,6 +33,15 @@ struct ShownButton {
     std::string toolTip;
 };
 
+// From 0 to 255.
+struct SeenColor {
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+
+    friend bool operator==(const SeenColor&, const SeenColor&) = default;
+};
+
 struct ShownWindow {
     std::string title;
     Rect content; // AppKit screen coordinates.

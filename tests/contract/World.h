@@ -192,6 +192,9 @@ public:
     // The application's windows that are to be seen, the frontmost first.
     std::vector<ShownWindow> shownWindows() const;
 
+    // What one of them looks like at a place of its content, from its upper left corner, in light appearance.
+    SeenColor colorAt(Point place, std::size_t window = 0) const;
+
     // The user works on one of them, by its place there: clicks into its title bar, on its close button, on
     // its minimise button, on a button of the view that it hosts, on a switch.
     void clickTitleBar(std::size_t window = 0);

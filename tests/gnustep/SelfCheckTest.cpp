@@ -1,12 +1,16 @@
 // The binding's vocabulary held against GNUstep, with and without what stands in for the Mac.
 #include "mac/objc/SelfCheck.h"
 
+#include "mac/hosting/Colors.h"
+#include "mac/objc/Pool.h"
 #include "platform/Updater.h"
+#include "tests/gnustep/Objects.h"
 #include "tests/gnustep/PrivateHome.h"
 #include "tests/gnustep/Release.h"
 #include "tests/gnustep/standins/MainBundle.h"
 #include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StandIns.h"
+#include "ui/SystemColor.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -57,6 +61,13 @@ const std::vector<std::string> MissingInEveryRelease = {
     "-[SMAppService registerAndReturnError:]",
     "-[SMAppService status]",
     "-[SMAppService unregisterAndReturnError:]",
+};
+
+// Of systems newer than macOS 13; the binding does without.
+const std::vector<std::string> LaterMethods = {
+    "+[NSColor quaternarySystemFillColor]",
+    "+[NSColor quinaryLabelColor]",
+    "+[NSColor quinarySystemFillColor]",
 };
 
 // Of which GNUstep has some by now.
@@ -139,6 +150,7 @@ TEST(SelfCheck, FindsInGNUstepWhatIsNotListedAsMissing) {
     EXPECT_THAT(result.missingClasses, UnorderedElementsAreArray(ClassesMissingInGNUstep));
     EXPECT_THAT(result.classesNotLoaded, UnorderedElementsAreArray(ClassesOfFrameworks));
     EXPECT_THAT(result.missingMethods, UnorderedElementsAreArray(missingInGNUstep()));
+    EXPECT_THAT(result.laterMethods, UnorderedElementsAreArray(LaterMethods));
 }
 
 TEST(SelfCheck, AgreesWithGNUstepsEncodingsButForThoseExplained) {
@@ -155,7 +167,32 @@ TEST(SelfCheck, FindsEverythingWithTheStandIns) {
     EXPECT_THAT(result.classesNotLoaded, IsEmpty());
     EXPECT_THAT(result.missingClasses, IsEmpty());
     EXPECT_THAT(result.missingMethods, IsEmpty());
+    EXPECT_THAT(result.laterMethods, ElementsAre("+[NSColor quinaryLabelColor]")); // behind one that is there
     EXPECT_THAT(methodsOf(result.differences), UnorderedElementsAreArray(explainedMethods()));
+}
+
+// As on macOS 13.
+TEST(SystemColors, AreOlderOnesWhereTheSystemHasNoNewer) {
+    const mac::Pool pool;
+    const id older = mac::appKit.color.quaternaryLabelColor();
+    EXPECT_EQ(send<BOOL>(mac::platformColor(ui::Color::sectionFill), "isEqual:", older), 1);
+    EXPECT_EQ(send<BOOL>(mac::platformColor(ui::Color::sectionBorder), "isEqual:", older), 1);
+}
+
+TEST(SystemColors, AreThoseOfTheTable) {
+    const mac::Pool pool;
+    installStandIns();
+    for (std::size_t index = 0; index < ui::SystemColors.size(); ++index) {
+        const ui::Shade& expected = ui::SystemColors.at(index).light;
+        const id color =
+            send(mac::platformColor(static_cast<ui::Color>(index)),
+                 "colorUsingColorSpaceName:", objectFor(std::string("NSCalibratedRGBColorSpace")));
+        EXPECT_NEAR(send<double>(color, "redComponent") * 255, expected.hexadecimal >> 16, 0.01) << index;
+        EXPECT_NEAR(send<double>(color, "greenComponent") * 255, expected.hexadecimal >> 8 & 0xFF, 0.01)
+            << index;
+        EXPECT_NEAR(send<double>(color, "blueComponent") * 255, expected.hexadecimal & 0xFF, 0.01) << index;
+        EXPECT_NEAR(send<double>(color, "alphaComponent"), expected.alpha, 0.001) << index;
+    }
 }
 
 using SelfCheckDeathTest = testing::Test;

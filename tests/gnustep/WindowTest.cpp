@@ -10,12 +10,12 @@
 #include "tests/gnustep/Allocations.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/ShownWindows.h"
+#include "tests/gnustep/ViewPicture.h"
 #include "tests/gnustep/standins/Accessibility.h"
 #include "tests/gnustep/standins/Deallocation.h"
 #include "ui/View.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -60,28 +60,6 @@ protected:
 
     static void highlight(id button, bool isPressed) {
         send<void>(send(button, "cell"), "setHighlighted:", mac::truth(isPressed));
-    }
-
-    // How much the picture of a view differs from what is behind it, whose colour is at its corner.
-    static double inkOf(id view) {
-        send<void>(view, "display");
-        send<void>(view, "lockFocus");
-        const mac::Retained picture =
-            mac::Retained::adopting(send(send(classObject("NSBitmapImageRep"), "alloc"),
-                                         "initWithFocusedViewRect:", send<Rect>(view, "bounds")));
-        send<void>(view, "unlockFocus");
-        const auto* const bytes = send<const unsigned char*>(picture.get(), "bitmapData");
-        const auto width = send<mac::Integer>(picture.get(), "pixelsWide");
-        const auto height = send<mac::Integer>(picture.get(), "pixelsHigh");
-        const auto bytesPerRow = send<mac::Integer>(picture.get(), "bytesPerRow");
-        const auto bytesPerPixel = send<mac::Integer>(picture.get(), "bitsPerPixel") / 8;
-        double ink = 0;
-        for (mac::Integer y = 0; y < height; ++y) {
-            for (mac::Integer x = 0; x < width * bytesPerPixel; ++x) {
-                ink += std::abs(bytes[y * bytesPerRow + x] - bytes[x % bytesPerPixel]);
-            }
-        }
-        return ink;
     }
 
     id window() const { return window_->state()->window.get(); }
@@ -228,21 +206,21 @@ TEST_F(HostedViewOnGNUstep, SetsASymbolInTheSizeOfItsFontAndScale) {
 TEST_F(HostedViewOnGNUstep, DimsALinkWhileItIsPressed) {
     host([] { return linkButton("Open System Settings"); });
     const id link = button("Open System Settings");
-    const double atRest = inkOf(link);
+    const double atRest = ViewPicture(link).ink();
     highlight(link, true);
-    const double pressed = inkOf(link);
+    const double pressed = ViewPicture(link).ink();
     highlight(link, false);
     EXPECT_GT(pressed, 0.4 * atRest);
     EXPECT_LT(pressed, 0.7 * atRest);
-    EXPECT_EQ(inkOf(link), atRest);
+    EXPECT_EQ(ViewPicture(link).ink(), atRest);
 }
 
 TEST_F(HostedViewOnGNUstep, DimsOnlyTheShapeOfAFilledButtonWhileItIsPressed) {
     host([] { return filledButton(" "); });
     const id filled = button(" ");
-    const double atRest = inkOf(filled);
+    const double atRest = ViewPicture(filled).ink();
     highlight(filled, true);
-    EXPECT_NEAR(inkOf(filled) / atRest, 0.75, 0.02);
+    EXPECT_NEAR(ViewPicture(filled).ink() / atRest, 0.75, 0.02);
 }
 
 TEST_F(HostedViewOnGNUstep, LetsAWindowFollowAHostingView) {

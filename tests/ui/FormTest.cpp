@@ -22,8 +22,8 @@ View launchToggle() {
 TEST_F(AGroupedForm, HasABoxWithAMarginAroundEachSection) {
     EXPECT_EQ(describeView(form({Section({launchToggle()})}), {.width = 440}),
               "scene 440x76\n"
-              "  shape 20,20 400x36 radius 10 continuous sectionBorder\n"
-              "  shape 21,21 398x34 radius 9 continuous sectionFill\n"
+              "  shape 20,20 400x36 radius 10 continuous sectionFill\n"
+              "  shape 20,20 400x36 radius 10 continuous line 1 sectionBorder\n"
               "  text 30,30 42x16 \"Launch\" body accessibilityHidden\n"
               "  toggle 378,29 32x18 \"Launch\" on small switch 0\n");
 }
@@ -31,8 +31,8 @@ TEST_F(AGroupedForm, HasABoxWithAMarginAroundEachSection) {
 TEST_F(AGroupedForm, SeparatesTheRowsOfASection) {
     EXPECT_EQ(describeView(form({Section({Button("One", [] {}), Button("Two", [] {})})}), {.width = 440}),
               "scene 440x113\n"
-              "  shape 20,20 400x73 radius 10 continuous sectionBorder\n"
-              "  shape 21,21 398x71 radius 9 continuous sectionFill\n"
+              "  shape 20,20 400x73 radius 10 continuous sectionFill\n"
+              "  shape 20,20 400x73 radius 10 continuous line 1 sectionBorder\n"
               "  button 30,27 49x22 \"One\" bordered action 0\n"
               "  shape 30,56 380x1 separator\n"
               "  button 30,64 49x22 \"Two\" bordered action 1\n");
@@ -53,11 +53,11 @@ TEST_F(AGroupedForm, HasHigherRowsForHigherContent) {
 TEST_F(AGroupedForm, IsAsWideAsItsWidestRowWhenNothingIsOffered) {
     EXPECT_EQ(describeView(form({Section({Box(100, 10)}), Section({Text("a"), launchToggle()})})),
               "scene 160x169\n"
-              "  shape 20,20 120x36 radius 10 continuous sectionBorder\n"
-              "  shape 21,21 118x34 radius 9 continuous sectionFill\n"
+              "  shape 20,20 120x36 radius 10 continuous sectionFill\n"
+              "  shape 20,20 120x36 radius 10 continuous line 1 sectionBorder\n"
               "  shape 30,33 100x10 primary\n"
-              "  shape 20,76 120x73 radius 10 continuous sectionBorder\n"
-              "  shape 21,77 118x71 radius 9 continuous sectionFill\n"
+              "  shape 20,76 120x73 radius 10 continuous sectionFill\n"
+              "  shape 20,76 120x73 radius 10 continuous line 1 sectionBorder\n"
               "  text 30,86 7x16 \"a\" body\n"
               "  shape 30,112 100x1 separator\n"
               "  text 30,123 42x16 \"Launch\" body accessibilityHidden\n"

@@ -19,8 +19,8 @@ TEST_F(ARoundedRectangle, IsTenPointsLargeWhereNothingIsOffered) {
 }
 
 TEST_F(ARoundedRectangle, IsShownAsItIsDescribed) {
-    const View view = RoundedRectangle({6, CornerStyle::continuous, Color::accent, 0.75});
-    const ShapeElement expected{{0, 0, 10, 10}, 6, CornerStyle::continuous, Color::accent, 0.75};
+    const View view = RoundedRectangle({6, CornerStyle::continuous, Color::accent, 0.75, 2});
+    const ShapeElement expected{{0, 0, 10, 10}, 6, CornerStyle::continuous, Color::accent, 0.75, 2};
     EXPECT_EQ(std::get<ShapeElement>(render(view).scene.elements.at(0)), expected);
 }
 

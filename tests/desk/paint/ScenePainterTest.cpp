@@ -185,24 +185,12 @@ TEST(ScenePainter, PaintsTheSceneWhereItIsToldTo) {
 }
 
 TEST(SceneColors, AreThoseOfThePlatform) {
-    const Palette& light = paletteFor(false);
-    const Palette& dark = paletteFor(true);
-    EXPECT_EQ(sceneColor(light, ui::Color::primary), rgb(0x000000, 0.85));
-    EXPECT_EQ(sceneColor(dark, ui::Color::primary), rgb(0xFFFFFF, 0.85));
-    EXPECT_EQ(sceneColor(light, ui::Color::secondary), rgb(0x000000, 0.50));
-    EXPECT_EQ(sceneColor(dark, ui::Color::secondary), rgb(0xFFFFFF, 0.55));
-    EXPECT_EQ(sceneColor(light, ui::Color::tertiary), rgb(0x000000, 0.26));
-    EXPECT_EQ(sceneColor(dark, ui::Color::tertiary), rgb(0xFFFFFF, 0.25));
-    EXPECT_EQ(sceneColor(light, ui::Color::accent), rgb(0x007AFF));
-    EXPECT_EQ(sceneColor(dark, ui::Color::accent), rgb(0x0A84FF));
-    EXPECT_EQ(sceneColor(light, ui::Color::green), rgb(0x28CD41));
-    EXPECT_EQ(sceneColor(dark, ui::Color::green), rgb(0x32D74B));
-    EXPECT_EQ(sceneColor(light, ui::Color::link), rgb(0x0068DA));
-    EXPECT_EQ(sceneColor(dark, ui::Color::link), rgb(0x419CFF));
-    EXPECT_EQ(sceneColor(dark, ui::Color::white), rgb(0xFFFFFF));
-    EXPECT_EQ(sceneColor(light, ui::Color::sectionFill), light.scene.sectionFill);
-    EXPECT_EQ(sceneColor(light, ui::Color::sectionBorder), light.scene.sectionBorder);
-    EXPECT_EQ(sceneColor(light, ui::Color::separator), light.scene.separator);
+    for (std::size_t index = 0; index < ui::SystemColors.size(); ++index) {
+        const auto color = static_cast<ui::Color>(index);
+        const ui::SystemColor& ofTheSystem = ui::systemColor(color);
+        EXPECT_EQ(sceneColor(paletteFor(false), color), rgb(ofTheSystem.light)) << index;
+        EXPECT_EQ(sceneColor(paletteFor(true), color), rgb(ofTheSystem.dark)) << index;
+    }
 }
 
 } // namespace

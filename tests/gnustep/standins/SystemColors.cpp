@@ -4,39 +4,50 @@
 #include "tests/gnustep/standins/SystemColors.h"
 
 #include "tests/gnustep/standins/Methods.h"
+#include "ui/SystemColor.h"
+
+#include <algorithm>
 
 namespace kestrune::gnustep {
 
 namespace {
 
-id color(double red, double green, double blue, double alpha) {
-    return send(classObject("NSColor"), "colorWithCalibratedRed:green:blue:alpha:", red / 255, green / 255,
-                blue / 255, alpha);
+id color(const ui::Shade& shade) {
+    const auto component = [&shade](int shift) {
+        return static_cast<double>(shade.hexadecimal >> shift & 0xFF) / 255;
+    };
+    return send(classObject("NSColor"), "colorWithCalibratedRed:green:blue:alpha:", component(16),
+                component(8), component(0), shade.alpha);
 }
 
-id labelColor(id, SEL) { return color(0, 0, 0, 0.85); }
-id secondaryLabelColor(id, SEL) { return color(0, 0, 0, 0.5); }
-id tertiaryLabelColor(id, SEL) { return color(0, 0, 0, 0.26); }
-id quaternaryLabelColor(id, SEL) { return color(0, 0, 0, 0.1); }
-id controlAccentColor(id, SEL) { return color(0, 122, 255, 1); }
-id systemGreenColor(id, SEL) { return color(40, 205, 65, 1); }
-id linkColor(id, SEL) { return color(0, 104, 218, 1); }
-id separatorColor(id, SEL) { return color(0, 0, 0, 0.1); }
-id windowBackgroundColor(id, SEL) { return color(236, 236, 236, 1); }
+id windowBackgroundColor(id, SEL) { return color(ui::WindowBackground.light); }
+
+// Whichever of the table's names is asked for.
+id colorOfTheSystem(id, SEL selector) {
+    const std::string_view name = sel_getName(selector);
+    const auto found =
+        std::find_if(ui::SystemColors.begin(), ui::SystemColors.end(),
+                     [name](const ui::SystemColor& candidate) { return candidate.names.front() == name; });
+    return color(found->light);
+}
 
 } // namespace
 
 void installSystemColors() {
     const Class colors = classOf(classNamed("NSColor"));
-    addMethod(colors, "controlAccentColor", controlAccentColor);
-    addMethod(colors, "linkColor", linkColor);
-    addMethod(colors, "separatorColor", separatorColor);
-    replaceMethod(colors, "labelColor", labelColor);
-    replaceMethod(colors, "secondaryLabelColor", secondaryLabelColor);
-    replaceMethod(colors, "tertiaryLabelColor", tertiaryLabelColor);
-    replaceMethod(colors, "quaternaryLabelColor", quaternaryLabelColor);
-    replaceMethod(colors, "systemGreenColor", systemGreenColor);
     replaceMethod(colors, "windowBackgroundColor", windowBackgroundColor);
+    for (const ui::SystemColor& known : ui::SystemColors) {
+        const char* const name = known.names.front().data();
+        // White is white.
+        if (known.light == ui::systemColor(ui::Color::white).light) {
+            continue;
+        }
+        if (class_respondsToSelector(colors, sel_registerName(name)) != 0) {
+            replaceMethod(colors, name, colorOfTheSystem);
+        } else {
+            addMethod(colors, name, colorOfTheSystem);
+        }
+    }
 }
 
 } // namespace kestrune::gnustep
