@@ -1,7 +1,6 @@
 #include "mac/hosting/ButtonSettings.h"
 
 #include "mac/Vocabulary.h"
-#include "mac/objc/Text.h"
 
 namespace kestrune::mac {
 
@@ -23,10 +22,6 @@ void setButtonSize(id button, ui::ControlSize size) {
     appKit.control.setControlSize(button, platformSize(size));
     appKit.control.setFont(
         button, appKit.font.systemFontOfSize(appKit.font.systemFontSizeForControlSize(platformSize(size))));
-}
-
-void setAccessibilityLabel(id control, std::string_view label) {
-    appKit.view.setAccessibilityLabel(control, nsString(label).get());
 }
 
 void setAction(id control, std::size_t action) {

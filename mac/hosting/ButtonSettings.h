@@ -5,7 +5,6 @@
 #include "ui/Style.h"
 
 #include <cstddef>
-#include <string_view>
 
 namespace kestrune::mac {
 
@@ -14,9 +13,6 @@ Unsigned platformSize(ui::ControlSize size);
 
 // The button's font goes with it.
 void setButtonSize(id button, ui::ControlSize size);
-
-// What is read out.
-void setAccessibilityLabel(id control, std::string_view label);
 
 // Which of the scene's actions the control stands for.
 void setAction(id control, std::size_t action);

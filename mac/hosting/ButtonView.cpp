@@ -1,6 +1,7 @@
 #include "mac/hosting/ButtonView.h"
 
 #include "mac/Vocabulary.h"
+#include "mac/hosting/Accessibility.h"
 #include "mac/hosting/ButtonSettings.h"
 #include "mac/objc/Text.h"
 #include "mac/vocabulary/Implemented.h"

@@ -1,5 +1,6 @@
 // Texts, as the platform's labels.
 #include "mac/Vocabulary.h"
+#include "mac/hosting/Accessibility.h"
 #include "mac/hosting/AttributedText.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/objc/NewObject.h"
@@ -34,7 +35,7 @@ private:
             appKit.control.setAttributedStringValue(view(), attributedText(next.text).get());
         }
         if (differs(next, &ui::TextElement::isAccessibilityHidden)) {
-            appKit.view.setAccessibilityElement(view(), truth(!next.isAccessibilityHidden));
+            setAccessibilityElement(view(), !next.isAccessibilityHidden);
         }
     }
 };

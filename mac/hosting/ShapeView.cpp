@@ -1,5 +1,6 @@
-// Filled shapes, as views that draw themselves.
+// Shapes, as views that draw themselves and that VoiceOver passes over.
 #include "mac/Vocabulary.h"
+#include "mac/hosting/Accessibility.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/objc/NewObject.h"
@@ -15,6 +16,7 @@ class ShapeView : public ViewOf<ui::ShapeElement> {
 public:
     ShapeView() : ViewOf(Retained::adopting(appKit.view.initWithFrame(allocate(shapeViewClass()), Rect()))) {
         RuntimeClass::setTarget(view(), this);
+        setAccessibilityElement(view(), false);
     }
     ~ShapeView() override { RuntimeClass::setTarget(view(), nullptr); }
 

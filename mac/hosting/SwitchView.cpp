@@ -1,5 +1,6 @@
 // Toggles, as the platform's switches.
 #include "mac/Vocabulary.h"
+#include "mac/hosting/Accessibility.h"
 #include "mac/hosting/ButtonSettings.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/hosting/SystemControls.h"

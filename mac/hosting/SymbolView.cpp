@@ -1,5 +1,6 @@
 // Symbols, as image views. They accompany a text that says the same, so VoiceOver passes them over.
 #include "mac/Vocabulary.h"
+#include "mac/hosting/Accessibility.h"
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/hosting/Symbols.h"
@@ -15,7 +16,7 @@ class SymbolView : public ViewOf<ui::SymbolElement> {
 public:
     SymbolView() : ViewOf(Retained::adopting(appKit.view.initWithFrame(allocate(appKit.imageView), Rect()))) {
         appKit.imageView.setImageScaling(view(), ScaleNone);
-        appKit.view.setAccessibilityElement(view(), truth(false));
+        setAccessibilityElement(view(), false);
     }
 
 private:

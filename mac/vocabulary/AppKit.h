@@ -111,6 +111,8 @@ struct AppKit : Framework {
         using ClassReference::ClassReference;
         Message<BOOL()> isHighlighted{*this, "isHighlighted"};
         Message<void(BOOL)> setWraps{*this, "setWraps:"};
+        Message<void(BOOL)> setAccessibilityElement{*this, "setAccessibilityElement:"};
+        Message<void(id)> setAccessibilityLabel{*this, "setAccessibilityLabel:"};
     } cell{*this, "NSCell"};
 
     struct NSButtonCell : ClassReference {

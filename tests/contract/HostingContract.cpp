@@ -203,6 +203,38 @@ TEST_F(HostingContract, FlipsASwitch) {
     EXPECT_THAT(flips, ElementsAre(true, false));
 }
 
+TEST_F(HostingContract, TellsVoiceOverWhatToReadAndWhatToPassOver) {
+    using Role = AccessibleElement::Role;
+    host([] {
+        return ui::VStack({},
+                          {ui::Text("Hello").accessibilityHidden(), ui::VerbatimText("read"),
+                           ui::SystemImage("checkmark.circle.fill"), block(10, 10), ui::Button("OK", [] {}),
+                           ui::Button("filled", [] {}).buttonStyle(std::make_shared<FilledStyle>()),
+                           ui::Button("link", [] {}).buttonStyle(ui::ButtonStyle::link()),
+                           ui::Toggle("Launch", true, [](bool) {})});
+    });
+    EXPECT_THAT(
+        shown().elements,
+        ElementsAre(
+            AccessibleElement{Role::text, "Bonjour", false}, AccessibleElement{Role::text, "read", true},
+            AccessibleElement{Role::image, "", false}, AccessibleElement{Role::shape, "", false},
+            AccessibleElement{Role::button, "D'accord", true},
+            AccessibleElement{Role::button, "filled", true}, AccessibleElement{Role::button, "link", true},
+            AccessibleElement{Role::text, "Launch", false}, // the switch has it
+            AccessibleElement{Role::toggle, "Launch", true}));
+}
+
+TEST_F(HostingContract, TellsVoiceOverOfATextThatIsHiddenLater) {
+    host([this] {
+        const ui::View text = ui::VerbatimText("text");
+        return model_->value == 0 ? text : text.accessibilityHidden();
+    });
+    EXPECT_TRUE(shown().elements.at(0).isReadOut);
+    model_->value = 1;
+    world_.runMainQueue();
+    EXPECT_FALSE(shown().elements.at(0).isReadOut);
+}
+
 TEST_F(HostingContract, SurvivesAButtonThatLetsGoOfItsWindow) {
     bool isPressed = false;
     host([this, &isPressed] {

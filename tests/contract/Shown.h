@@ -42,6 +42,17 @@ struct SeenColor {
     friend bool operator==(const SeenColor&, const SeenColor&) = default;
 };
 
+// What VoiceOver makes of an element of a view: it reads the text, or passes over the element.
+struct AccessibleElement {
+    enum class Role { text, image, shape, button, toggle };
+
+    Role role = Role::text;
+    std::string text;
+    bool isReadOut = true;
+
+    friend bool operator==(const AccessibleElement&, const AccessibleElement&) = default;
+};
+
 struct ShownWindow {
     std::string title;
     Rect content; // AppKit screen coordinates.
@@ -57,6 +68,8 @@ struct ShownWindow {
 
     // On, off: of every switch.
     std::vector<bool> switches;
+
+    std::vector<AccessibleElement> elements;
 };
 
 } // namespace kestrune::contract

@@ -46,6 +46,8 @@ const std::vector<std::string> MissingInEveryRelease = {
     "-[NSApplication setActivationPolicy:]",
     "-[NSButton setHasDestructiveAction:]",
     "-[NSButton setImageScaling:]",
+    "-[NSCell setAccessibilityElement:]",
+    "-[NSCell setAccessibilityLabel:]",
     "-[NSControl setControlSize:]",
     "-[NSImage imageWithSymbolConfiguration:]",
     "-[NSImage setTemplate:]",

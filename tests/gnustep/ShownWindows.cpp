@@ -37,6 +37,24 @@ std::vector<id> viewsIn(id window) {
     return views;
 }
 
+contract::AccessibleElement accessibleElement(id view) {
+    using Role = contract::AccessibleElement::Role;
+    const bool isReadOut = isAccessibilityElement(view);
+    if (isKindOf(view, "NSTextField")) {
+        return {Role::text, mac::textOf(send(view, "stringValue")), isReadOut};
+    }
+    if (isKindOf(view, "NSImageView")) {
+        return {Role::image, "", isReadOut};
+    }
+    if (isKindOf(view, "NSSwitch")) {
+        return {Role::toggle, accessibilityLabel(view), isReadOut};
+    }
+    if (isKindOf(view, "NSButton")) {
+        return {Role::button, accessibilityLabel(view), isReadOut};
+    }
+    return {Role::shape, "", isReadOut};
+}
+
 id mouseEvent(mac::Unsigned type, id window, Point location) {
     return send(classObject("NSEvent"),
                 "mouseEventWithType:location:modifierFlags:timestamp:windowNumber:context:eventNumber:"
@@ -78,6 +96,7 @@ contract::ShownWindow describeWindow(id window) {
     shown.isResizable = hasStyle(window, WindowStyleMask::resizable);
     shown.joinsAllSpaces = (send<mac::Unsigned>(window, "collectionBehavior") & CanJoinAllSpaces) != 0;
     for (const id view : viewsIn(window)) {
+        shown.elements.push_back(accessibleElement(view));
         if (isKindOf(view, "NSTextField")) {
             shown.texts.push_back(mac::textOf(send(view, "stringValue")));
         } else if (isKindOf(view, "NSSwitch")) {

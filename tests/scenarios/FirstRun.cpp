@@ -22,9 +22,6 @@ using contract::ShownWindow;
 using contract::Trust;
 using testing::ElementsAre;
 
-// The wizard looks once a second; the rest is for a busy machine.
-constexpr double SecondsForATick = 1.5;
-
 contract::ConnectedDisplay display(DisplayID number, const std::string& name, const Rect& bounds) {
     return {number, name, bounds, "37D8832A-2D66-02CA-B9F7-8F300000000" + std::to_string(number),
             static_cast<std::int64_t>(number)};

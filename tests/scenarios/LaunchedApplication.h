@@ -8,6 +8,9 @@
 
 namespace kestrune::scenarios {
 
+// The wizard looks once a second; the rest is for a busy machine.
+inline constexpr double SecondsForATick = 1.5;
+
 // Runs from here on. A process has one at a time.
 class LaunchedApplication {
 public:

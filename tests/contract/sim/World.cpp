@@ -86,6 +86,24 @@ ShownRow rowOf(const sim::MenuRow& row) {
     return {row.title, row.state, row.isEnabled, row.isSeparator, row.keyEquivalent, row.modifiers};
 }
 
+struct AsAccessibleElement {
+    using Role = AccessibleElement::Role;
+
+    AccessibleElement operator()(const ui::TextElement& text) const {
+        return {Role::text, text.text.string(), !text.isAccessibilityHidden};
+    }
+    AccessibleElement operator()(const ui::SymbolElement& /*symbol*/) const {
+        return {Role::image, "", false};
+    }
+    AccessibleElement operator()(const ui::ShapeElement& /*shape*/) const { return {Role::shape, "", false}; }
+    AccessibleElement operator()(const ui::ButtonElement& button) const {
+        return {Role::button, button.title, true};
+    }
+    AccessibleElement operator()(const ui::ToggleElement& toggle) const {
+        return {Role::toggle, toggle.title, true};
+    }
+};
+
 ShownWindow shownWindow(const Window::State& window, bool isKey) {
     ShownWindow shown;
     shown.title = window.title;
@@ -100,6 +118,9 @@ ShownWindow shownWindow(const Window::State& window, bool isKey) {
     shown.buttons = ui::buttonTitles(scene);
     for (const ui::ToggleElement& toggle : ui::elementsOf<ui::ToggleElement>(scene)) {
         shown.switches.push_back(toggle.isOn);
+    }
+    for (const ui::Element& element : scene.elements) {
+        shown.elements.push_back(std::visit(AsAccessibleElement(), element));
     }
     return shown;
 }

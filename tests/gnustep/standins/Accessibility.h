@@ -12,7 +12,7 @@ void installAccessibility();
 // Empty when nothing was set.
 std::string accessibilityLabel(id view);
 
-// Unless it was said otherwise, it is.
+// Unless it was said otherwise, controls are and other views are not.
 bool isAccessibilityElement(id view);
 
 } // namespace kestrune::gnustep
