@@ -4,7 +4,7 @@
 process_test.py PROGRAM HOME_LIBRARY
 
 With KESTRUNE_MENU_PICTURE in the environment a picture of the open menu is kept under that name, with
-KESTRUNE_WIZARD_PICTURES pictures of the wizard's states in that folder.
+KESTRUNE_WINDOW_PICTURES pictures of the wizard's states and of Settings in that folder.
 """
 
 import os
@@ -77,6 +77,20 @@ class ProcessTest(unittest.TestCase):
         picture = self.folder / "screen.png"
         run("import", "-window", "root", str(picture), env=self.screen.environment)
         return picture
+
+    def keep(self, window, name):
+        folder = os.environ.get("KESTRUNE_WINDOW_PICTURES")
+        if folder:
+            area = window.place.area
+            picture = self.take_picture()
+            crop = f"{round(area.width)}x{round(area.height) + 24}+{round(area.left)}+{round(area.top) - 24}"
+            run("convert", str(picture), "-crop", crop, "+repage", str(pathlib.Path(folder) / f"{name}.png"))
+
+    def wait_until_drawn(self, window, control):
+        def is_drawn():
+            return has_drawing(self.take_picture(), window.controls[control].area)
+
+        wait_for(is_drawn, f"a picture of {control!r}")
 
     def saved(self, key):
         """The application's default as GNUstep's own tool reads it; None when there is none."""
@@ -164,20 +178,6 @@ class WithoutPermission(ProcessTest):
 
 
 class FirstRun(ProcessTest):
-    def keep(self, window, name):
-        folder = os.environ.get("KESTRUNE_WIZARD_PICTURES")
-        if folder:
-            area = window.place.area
-            picture = self.take_picture()
-            crop = f"{round(area.width)}x{round(area.height) + 24}+{round(area.left)}+{round(area.top) - 24}"
-            run("convert", str(picture), "-crop", crop, "+repage", str(pathlib.Path(folder) / f"{name}.png"))
-
-    def wait_until_drawn(self, window, control):
-        def is_drawn():
-            return has_drawing(self.take_picture(), window.controls[control].area)
-
-        wait_for(is_drawn, f"a picture of {control!r}")
-
     def background(self, window):
         return color_at(self.take_picture(), *window.place.area.at(0, 0, 4))
 
@@ -270,6 +270,8 @@ class Settings(ProcessTest):
             window.texts, ["Launch at login", "Kestrune 0.1.0 (1)", "© 2026 Kestrune contributors"]
         )
         self.assertEqual(application.told()["policy"][-1], ["0"])
+        self.wait_until_drawn(window, "Report a Bug…")
+        self.keep(window, "5-settings")
 
         window = self.flip(application, window, True)
         self.assertEqual(application.told()["login item"], [["1"]])
