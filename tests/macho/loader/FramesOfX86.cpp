@@ -42,11 +42,15 @@ std::vector<std::uint8_t> permutation(std::uint32_t count, std::uint32_t number)
     return order;
 }
 
-Frame frameWithPointer(std::uint32_t encoding) {
+Frame frameWithPointer(const Bytes& image, std::uint32_t encoding) {
     Frame frame{FramePointer, 2 * Frame::WordSize, {{FramePointer, 2}}};
     const std::uint32_t words = bitsOf(encoding, 16, 8);
     for (std::uint32_t slot = 0; slot < 5; ++slot) {
-        if (const std::uint32_t reg = bitsOf(encoding, 3 * slot, 3); reg != 0) {
+        const std::uint32_t reg = bitsOf(encoding, 3 * slot, 3);
+        if (reg >= SavedRegisters.size()) {
+            refuseEncoding(image, encoding);
+        }
+        if (reg != 0) {
             frame.saved.push_back({SavedRegisters.at(reg), 2 + words - slot});
         }
     }
@@ -80,7 +84,7 @@ std::optional<Frame> frameOf(const Bytes& image, const UnwoundFunction& function
     case inDwarf:
         return std::nullopt;
     case withFramePointer:
-        return frameWithPointer(encoding);
+        return frameWithPointer(image, encoding);
     case withoutFramePointer:
         return frameWithoutPointer(image, encoding, Frame::WordSize * bitsOf(encoding, 16, 8));
     case withoutFramePointerSizeInCode:

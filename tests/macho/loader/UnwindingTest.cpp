@@ -176,6 +176,8 @@ std::string refusalOf(const TinyUnwind& unwind, const Content& image,
 TEST(CallFrames, RefuseWhatTheyDoNotKnow) {
     EXPECT_EQ(refusalOf({.encoding = 0x05000000}, imageWithFrameOf(0)),
               "Image: has a function with the encoding 0x5000000");
+    EXPECT_EQ(refusalOf({.encoding = 0x01000007}, imageWithFrameOf(0)),
+              "Image: has a function with the encoding 0x1000007");
     EXPECT_EQ(refusalOf({.encoding = 0x02021C00}, imageWithFrameOf(0)),
               "Image: has a function with 7 saved registers");
     EXPECT_EQ(refusalOf({}, Content(0x10)).substr(0, 7), "Image: ");
