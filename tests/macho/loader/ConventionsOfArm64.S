@@ -1,7 +1,8 @@
 // arm64: between Apple's conventions and Linux'.
     .text
 
-// Apple's variable arguments are on the stack. x0 and x1 go on as they came, and then comes where the others are.
+// Apple's variable arguments are on the stack. x0 and x1 go on as they came, and then comes where the others
+// are.
     .macro withArgumentsOnStack name, function, after
     .globl \name
     .type \name, %function

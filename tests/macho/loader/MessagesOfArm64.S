@@ -1,6 +1,6 @@
-// arm64: keeps every register that can hold an argument while the method is looked up, and goes on to it as if the
-// caller had called it. x8 has the place for a structure. Frames are described, as an exception may come out of the
-// look-up.
+// arm64: keeps every register that can hold an argument while the method is looked up, and goes on to it as
+// if the caller had called it. x8 has the place for a structure. Frames are described, as an exception may
+// come out of the look-up.
     .text
 
     .globl kestruneMessage
