@@ -30,7 +30,7 @@ struct LogText {
 // name is the Mac's; elsewhere it means nothing.
 template <LogText Text>
 struct StoredLogText {
-    [[gnu::section("__TEXT,__oslogstring"), clang::internal_linkage]] static constexpr LogText stored = Text;
+    [[gnu::section("__TEXT,__oslogstring"), clang::internal_linkage]] static constexpr LogText Value = Text;
 };
 
 // A message without arguments: a format that is the message itself, by which it is found in the log.
@@ -39,7 +39,7 @@ public:
     template <LogText Text>
     static consteval LogMessage of() {
         static_assert(Text.percentSigns() == 0, "it has no argument");
-        return LogMessage(StoredLogText<Text>::stored.characters);
+        return LogMessage(StoredLogText<Text>::Value.characters);
     }
 
     constexpr const char* text() const { return text_; }
@@ -58,7 +58,7 @@ public:
     template <LogText Text>
     static consteval LogFormat of() {
         static_assert(Text.percentSigns() == 1 && Text.contains(Placeholder), "it has one public string");
-        return LogFormat(StoredLogText<Text>::stored.characters);
+        return LogFormat(StoredLogText<Text>::Value.characters);
     }
 
     constexpr const char* text() const { return text_; }
