@@ -14,8 +14,6 @@ struct OutlineSide {
     Point firstControl;
     Point secondControl;
     Point curveEnd;
-
-    friend bool operator==(const OutlineSide&, const OutlineSide&) = default;
 };
 
 // Starts where the last side ends, and is closed. In the shape's coordinates.
@@ -23,8 +21,6 @@ struct Outline {
     std::array<OutlineSide, 4> sides; // the upper one first, clockwise when y grows downwards
 
     Point start() const { return sides.back().curveEnd; }
-
-    friend bool operator==(const Outline&, const Outline&) = default;
 };
 
 // What is to be filled, or the middle of the line that is to be drawn. A radius that has no room is as large

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <vector>
 
 namespace kestrune::ui {
 
@@ -12,6 +13,14 @@ ShapeElement shape(double radius, CornerStyle style, double lineWidth = 0) {
     ShapeElement element{{10, 20, 200, 100}, radius, style};
     element.lineWidth = lineWidth;
     return element;
+}
+
+std::vector<Point> pointsOf(const ShapeElement& element) {
+    std::vector<Point> points;
+    for (const OutlineSide& side : outlineOf(element).sides) {
+        points.insert(points.end(), {side.lineEnd, side.firstControl, side.secondControl, side.curveEnd});
+    }
+    return points;
 }
 
 // Of the curve at a side's end, from 0 at its beginning to 1.
@@ -63,15 +72,15 @@ TEST(Outline, OfContinuousCornersBeginsEarlierAndHasTheSameMiddle) {
 }
 
 TEST(Outline, HasNoLargerCornersThanThereIsRoomFor) {
-    EXPECT_EQ(outlineOf(shape(80, CornerStyle::circular)), outlineOf(shape(50, CornerStyle::circular)));
-    EXPECT_EQ(outlineOf(shape(80, CornerStyle::continuous)),
-              outlineOf(shape(50 / 1.5, CornerStyle::continuous)));
-    EXPECT_EQ(outlineOf(shape(-5, CornerStyle::circular)), outlineOf(shape(0, CornerStyle::circular)));
+    EXPECT_EQ(pointsOf(shape(80, CornerStyle::circular)), pointsOf(shape(50, CornerStyle::circular)));
+    EXPECT_EQ(pointsOf(shape(80, CornerStyle::continuous)),
+              pointsOf(shape(50 / 1.5, CornerStyle::continuous)));
+    EXPECT_EQ(pointsOf(shape(-5, CornerStyle::circular)), pointsOf(shape(0, CornerStyle::circular)));
 }
 
 TEST(Outline, OfALineIsItsMiddleInsideTheEdge) {
     ShapeElement inside{{11, 21, 198, 98}, 29, CornerStyle::continuous};
-    EXPECT_EQ(outlineOf(shape(30, CornerStyle::continuous, 2)), outlineOf(inside));
+    EXPECT_EQ(pointsOf(shape(30, CornerStyle::continuous, 2)), pointsOf(inside));
     EXPECT_EQ(outlineOf(shape(0.5, CornerStyle::continuous, 2)).sides[0].lineEnd, (Point{209, 21}));
 }
 

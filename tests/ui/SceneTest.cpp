@@ -82,6 +82,7 @@ TEST(Scene, DiffersByEverythingOfAShape) {
         [](ShapeElement& shape) { shape.cornerStyle = CornerStyle::continuous; },
         [](ShapeElement& shape) { shape.fill = Color::accent; },
         [](ShapeElement& shape) { shape.opacity = 0.75; },
+        [](ShapeElement& shape) { shape.lineWidth = 1; },
     });
 }
 

@@ -34,6 +34,12 @@ TEST(SystemColors, HaveNamesOfTheirOwnOfWhichOneIsOnEverySystem) {
     }
 }
 
+TEST(SystemColors, AreTheSameWhenStrengthAndToneAre) {
+    EXPECT_EQ((Shade{0x101010, 0.5}), (Shade{0x101010, 0.5}));
+    EXPECT_NE((Shade{0x101010, 0.5}), (Shade{0x101010, 0.6}));
+    EXPECT_NE((Shade{0x101010, 0.5}), (Shade{0x101011, 0.5}));
+}
+
 // What is behind a section shines through both.
 TEST(SystemColors, OfSectionsAreTranslucentAndDifferInTheLightAndInTheDark) {
     for (const Color color : {Color::sectionFill, Color::sectionBorder}) {
