@@ -29,6 +29,6 @@ if(GNUSTEP_GUI_LIBRARY AND GNUSTEP_BASE_LIBRARY AND EXISTS "${gcc_headers}/objc/
     target_link_options(GNUstep::gui INTERFACE -Wl,--no-as-needed -rdynamic)
     target_link_libraries(GNUstep::gui INTERFACE
         "${GNUSTEP_GUI_LIBRARY}" "${GNUSTEP_BASE_LIBRARY}" "${objc_library}")
-    # g++ looks there anyway; clang++ has headers of its own for everything else.
-    target_compile_options(GNUstep::gui INTERFACE $<$<CXX_COMPILER_ID:Clang>:-idirafter${gcc_headers}>)
+    # That gcc's g++ looks there anyway. Every other compiler has headers of its own for everything else.
+    target_compile_options(GNUstep::gui INTERFACE "-idirafter${gcc_headers}")
 endif()

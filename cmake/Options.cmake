@@ -13,8 +13,6 @@ target_compile_options(kestrune_options INTERFACE
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
     # libstdc++ 12 calls a function of its own that it declares deprecated, and newer clangs tell.
     $<$<AND:$<CXX_COMPILER_ID:Clang>,$<NOT:$<BOOL:${APPLE}>>>:-Wno-deprecated-declarations>
-    # What only clang knows is for clang.
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-attributes=clang::>
     # A fused multiply-add would round once where the platform rounds twice.
     -ffp-contract=off)
 

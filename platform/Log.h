@@ -3,35 +3,12 @@
 // Source: os/log.h (os_log_create, os_log_debug, os_log_info, os_log_error).
 #pragma once
 
-#include <algorithm>
-#include <cstddef>
+#include "base/LogText.h"
+
 #include <memory>
 #include <string_view>
 
 namespace kestrune {
-
-// A text among the program's own, of a length that the compiler knows.
-template <std::size_t Size>
-struct LogText {
-    char characters[Size]{};
-
-    // NOLINTNEXTLINE(google-explicit-constructor): literals are meant
-    consteval LogText(const char (&text)[Size]) { std::copy_n(text, Size, characters); }
-
-    // Wherever there is a percent sign, the log looks for an argument.
-    constexpr std::ptrdiff_t percentSigns() const { return std::count(characters, characters + Size, '%'); }
-
-    constexpr bool contains(std::string_view text) const {
-        return std::string_view(characters, Size).find(text) != std::string_view::npos;
-    }
-};
-
-// Where the log looks for formats, of which it keeps no more than their place in the program's image. The
-// name is the Mac's; elsewhere it means nothing.
-template <LogText Text>
-struct StoredLogText {
-    [[gnu::section("__TEXT,__oslogstring"), clang::internal_linkage]] static constexpr LogText Value = Text;
-};
 
 // A message without arguments: a format that is the message itself, by which it is found in the log.
 class LogMessage {
