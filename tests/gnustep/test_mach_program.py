@@ -5,9 +5,10 @@ import pathlib
 import subprocess
 import unittest
 
-from trees import REPOSITORY, TreeTest
+from releasing import sealing
+from tiny_bundles import FIXUP_OUTSIDE, PROGRAMS, make_application, with_fixup_outside
+from trees import TreeTest
 
-CORPUS = REPOSITORY / "tests/fuzz/corpus/mach-file"
 # Of the loader, and one that it does not run.
 PROCESSOR = os.environ["KESTRUNE_PROCESSOR"]
 OTHER = {"arm64": "x86_64", "x86_64": "arm64"}[PROCESSOR]
@@ -23,9 +24,9 @@ class MachProgram(TreeTest):
         self.assertTrue(result.stderr.startswith(f"{path}: "), result.stderr)
         self.assertIn(reason, result.stderr)
 
-    def changed(self, change):
-        path = self.root / "changed.macho"
-        path.write_bytes(change((CORPUS / f"{PROCESSOR}.macho").read_bytes()))
+    def changed(self, change, path=None):
+        path = path or self.root / "changed.macho"
+        path.write_bytes(change((PROGRAMS / f"{PROCESSOR}.macho").read_bytes()))
         return path
 
     def test_that_is_not_there(self):
@@ -36,13 +37,19 @@ class MachProgram(TreeTest):
         self.assert_refused(self.root / "script", "is no Mach-O file")
 
     def test_for_another_processor(self):
-        self.assert_refused(CORPUS / f"{OTHER}.macho", PROCESSOR)
+        self.assert_refused(PROGRAMS / f"{OTHER}.macho", PROCESSOR)
 
     def test_that_ends_early(self):
         self.assert_refused(self.changed(lambda content: content[: len(content) // 2]), "are there")
 
     def test_without_a_seal(self):
-        self.assert_refused(CORPUS / f"{PROCESSOR}.macho", "signature")
+        self.assert_refused(PROGRAMS / f"{PROCESSOR}.macho", "signature")
+
+    def test_with_a_fixup_outside_its_segments(self):
+        application = make_application(self.root / "Tiny.app")
+        program = self.changed(with_fixup_outside, application / "Contents/MacOS/Tiny")
+        sealing.seal(application)
+        self.assert_refused(program, FIXUP_OUTSIDE)
 
 
 if __name__ == "__main__":

@@ -5,7 +5,7 @@ import struct
 import subprocess
 import unittest
 
-from tiny_bundles import PROGRAMS
+from tiny_bundles import FIXUP_OUTSIDE, PROGRAMS, with_fixup_outside
 from trees import TreeTest
 
 SYSTEM = """--- !tapi-tbd
@@ -91,22 +91,16 @@ class Limits(TreeTest):
         message = "usr/lib/libSystem.tbd: i386-macos is no target that is known here"
         self.assert_unreadable(f"{sdk}/{message}", program, sdk)
 
-    def assert_refused_when_changed(self, message, place, bytes_there):
+    def assert_refused_as(self, message, data):
         changed = self.root / "changed"
-        data = (PROGRAMS / "arm64.macho").read_bytes()
-        changed.write_bytes(data[:place] + bytes_there + data[place + len(bytes_there) :])
+        changed.write_bytes(data)
         self.assert_unreadable(f"{changed}: {message}", changed, self.sdk())
 
     def test_of_a_damaged_program_are_none(self):
-        message = "is for the processor 0x1000012, which is neither arm64 nor x86_64"
-        self.assert_refused_when_changed(message, 4, struct.pack("<I", 0x01000012))
         data = (PROGRAMS / "arm64.macho").read_bytes()
-        # The first pointer of the data, from which the chain goes on to the import.
-        place = data.index(struct.pack("<Q", 1 << 63)) - 8
-        message = (
-            "the chained fixups: the fixup at 0x10001000c is not within its page of the segment __DATA"
-        )
-        self.assert_refused_when_changed(message, place, struct.pack("<Q", 3 << 51))
+        message = "is for the processor 0x1000012, which is neither arm64 nor x86_64"
+        self.assert_refused_as(message, data[:4] + struct.pack("<I", 0x01000012) + data[8:])
+        self.assert_refused_as(FIXUP_OUTSIDE, with_fixup_outside(data))
         short = self.root / "short"
         short.write_bytes(data[:-100])
         result = self.check(short, self.sdk())

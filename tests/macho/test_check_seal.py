@@ -6,12 +6,14 @@ import struct
 import unittest
 
 from tiny_bundles import (
+    FIXUP_OUTSIDE,
     IDENTIFIER,
     SealTest,
     information,
     make_application,
     make_framework,
     put_program,
+    with_fixup_outside,
     write,
 )
 
@@ -329,14 +331,9 @@ class Input(SealedApplication):
 
     def test_with_a_fixup_outside_its_segment_is_named(self):
         put_program(self.program, "arm64")
-        data = self.program.read_bytes()
-        # The first pointer of the data, from which the chain goes on to the import.
-        place = data.index(struct.pack("<Q", 1 << 63)) - 8
-        write(self.program, data[:place] + struct.pack("<Q", 3 << 51) + data[place + 8 :])
+        write(self.program, with_fixup_outside(self.program.read_bytes()))
         self.seal(self.app)
-        fixup = "the fixup at 0x10001000c is not within its page of the segment __DATA"
-        message = f"Tiny.app/Contents/MacOS/Tiny: the chained fixups: {fixup}"
-        self.assert_refused(self.app, message, status=2)
+        self.assert_refused(self.app, f"Tiny.app/Contents/MacOS/Tiny: {FIXUP_OUTSIDE}", status=2)
 
     def test_that_is_not_there_is_named(self):
         result = self.check(self.root / "Other.app")

@@ -2,6 +2,7 @@
 
 import os
 import plistlib
+import struct
 import subprocess
 
 from trees import REPOSITORY, TreeTest
@@ -10,6 +11,9 @@ from releasing import sealing
 
 PROGRAMS = REPOSITORY / "tests/fuzz/corpus/mach-file"
 IDENTIFIER = "org.kestrune.Tiny"
+
+# What is said of a program that was changed by with_fixup_outside.
+FIXUP_OUTSIDE = "the chained fixups: the fixup at 0x10001000c is not within its page of the segment __DATA"
 
 
 def write(path, data):
@@ -20,6 +24,12 @@ def write(path, data):
 def put_program(path, kind="universal"):
     write(path, (PROGRAMS / f"{kind}.macho").read_bytes())
     path.chmod(0o755)
+
+
+def with_fixup_outside(program):
+    """A program with one import whose chain, from the first pointer of the data on, leaves its segment."""
+    place = program.index(struct.pack("<Q", 1 << 63)) - 8
+    return program[:place] + struct.pack("<Q", 3 << 51) + program[place + 8 :]
 
 
 def information(executable, identifier):
