@@ -5,9 +5,10 @@ import pathlib
 import shutil
 import unittest
 
-from tiny_bundles import SealTest
+from tiny_bundles import SealTest, write
 
 from releasing import halves
+from releasing.sealing import machofile
 
 APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
 
@@ -38,6 +39,33 @@ class ApplicationSeal(SealTest):
                 self.assertNotEqual(self.check(self.app).returncode, 0)
                 path.write_bytes(data)
         self.assert_holds(self.app)
+
+    def test_names_the_half_of_a_changed_byte(self):
+        program = self.app / halves.PROGRAM
+        data = program.read_bytes()
+        processors = [half.processor for half in machofile.halves_of(data)]
+        for processor, place in zip(processors, (len(data) // 3, len(data) * 5 // 6), strict=True):
+            with self.subTest(processor):
+                self.change_byte(program, place)
+                result = self.check(self.app)
+                self.assertEqual((result.returncode, result.stdout), (1, ""))
+                name = f"Kestrune.app/{halves.PROGRAM}: {processor} half: page"
+                self.assertRegex(
+                    result.stderr, rf"^kestrune-check-seal: {name} \d+, .* was changed after it was sealed\n$"
+                )
+                program.write_bytes(data)
+
+    def test_notices_a_file_that_was_added(self):
+        for name in ("Contents/Resources/More.icns", "Contents/MacOS/more", "Contents/more"):
+            with self.subTest(name):
+                write(self.app / name, b"more")
+                self.assert_refused(self.app, f"Kestrune.app/{name}: was added after the bundle was sealed")
+                (self.app / name).unlink()
+
+    def test_notices_a_file_that_is_missing(self):
+        (self.app / "Contents/Resources/AppIcon.icns").unlink()
+        message = "Kestrune.app/Contents/Resources/AppIcon.icns: was sealed and is missing"
+        self.assert_refused(self.app, message)
 
 
 if __name__ == "__main__":
