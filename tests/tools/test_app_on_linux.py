@@ -272,7 +272,8 @@ class Parameters(LinuxTest):
     def test_are_looked_at_before_anything_is_built(self):
         self.write({"checkout/tools/sparkle.ini": "[sparkle]\nversion = 2.10.1\nsha256 =\n"})
         result = self.app()
-        self.assert_fails(result, "tools/sparkle.ini has no SHA-256", "give a Sparkle.framework by its path")
+        instead = "give SPARKLE=/path/to/Sparkle.framework or SPARKLE=none "
+        self.assert_fails(result, f"tools/app: {instead}", "tools/sparkle.ini has no SHA-256")
         self.assertEqual(self.calls(), [])
 
     def test_say_what_to_do_without_a_network(self):

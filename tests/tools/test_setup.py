@@ -282,7 +282,8 @@ class LlvmWithOldLists(DebianTest):
         result, log = self.set_up("app")
         looks = looked_for(19, 20, 21, 22)
         self.assertEqual((result.returncode, log), (1, [*looks, UPDATE, *looks]))
-        self.assertIn("no LLVM of a version among 19 20 21 22 is to be had", result.stderr)
+        message = "no LLVM of a version among 19 20 21 22 is to be had"
+        self.assertIn(f"{message}, or the network is not there; please add a source", result.stderr)
 
 
 class InterruptedLlvm(DebianTest):

@@ -11,6 +11,9 @@ PIN = pathlib.Path("tools/sparkle.ini")
 FOLDER = pathlib.Path("build/sparkle")
 ADDRESS = "https://github.com/sparkle-project/Sparkle/releases/download/{version}/Sparkle-{version}.tar.xz"
 
+# The parameter of make, which hands it on.
+INSTEAD = "SPARKLE=/path/to/Sparkle.framework or SPARKLE=none (of tools/app and tools/release: --sparkle)"
+
 VERSION = re.compile(r"\d+(\.\d+)+")
 SHA256 = re.compile(r"[0-9a-f]{64}")
 CHUNK = 1 << 20
@@ -31,7 +34,7 @@ class Release:
     def steps(self):
         fetch = Command(
             *["curl", "--fail", "--location", "--proto", "=https", "--output", self.archive, self.address],
-            advice="without a network give SPARKLE=/path/to/Sparkle.framework, or SPARKLE=none",
+            advice=f"without a network give {INSTEAD}",
         )
         comparison = f"compare the SHA-256 of {self.archive} with {PIN}"
         if not self.sha256:
@@ -46,9 +49,8 @@ class Release:
     def require_checksum(self):
         if not self.sha256:
             raise Failure(
-                f"{PIN} has no SHA-256 for Sparkle {self.version} yet; fetch {self.address}, run "
-                f"shasum -a 256 on it and write the result there, or give a Sparkle.framework by its path, "
-                'or "none"'
+                f"give {INSTEAD}; {PIN} has no SHA-256 for Sparkle {self.version} yet: to have it fetched, "
+                f"download {self.address}, run shasum -a 256 on it and write the result there"
             )
 
     def verify(self):
