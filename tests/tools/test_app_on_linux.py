@@ -178,7 +178,8 @@ class Build(LinuxTest):
         self.use_linux(cmake=CMAKE.replace("*.lproj", "en.lproj"))
         name = "Kestrune/Resources/de.lproj/Localizable.strings"
         result = self.app("--sparkle", "none")
-        self.assert_fails(result, f"tools/app: {name} is not in {BUNDLE}/Contents/Resources as it is")
+        message = f"{name} is not in {BUNDLE}/Contents/Resources as it is"
+        self.assert_fails(result, f"tools/app: {message}; mac/CMakeLists.txt says what is taken")
 
 
 class Framework(LinuxTest):

@@ -1,4 +1,4 @@
-"""Every language of the sources has to be in the bundle: the build names their files one by one."""
+"""Every file of a language has to be in the bundle: the build takes those that it has a pattern for."""
 
 import pathlib
 
@@ -12,4 +12,4 @@ def require_all(application):
     for path in sorted(SOURCES.glob("*.lproj/**/*")):
         copy = resources / path.relative_to(SOURCES)
         if path.is_file() and not (copy.is_file() and copy.read_bytes() == path.read_bytes()):
-            raise Failure(f"{path} is not in {resources} as it is; name it in mac/CMakeLists.txt")
+            raise Failure(f"{path} is not in {resources} as it is; mac/CMakeLists.txt says what is taken")
