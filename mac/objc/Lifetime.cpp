@@ -7,7 +7,7 @@ namespace kestrune::mac {
 // The receiver of a delayed message is retained until it gets it, in the default mode alone; this one has no
 // effect.
 void keepForThisTurn(id object) {
-    foundation.object.performSelector(object, sel_registerName("self"), nullptr, 0);
+    foundation.object.performSelector(object, foundation.object.self.selector(), nullptr, 0);
 }
 
 } // namespace kestrune::mac

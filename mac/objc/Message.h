@@ -91,6 +91,11 @@ public:
     const char* encoding() const { return encoding_; }
     const MessageDeclaration* next() const { return next_; }
 
+    SEL selector() const {
+        const SEL known = selector_.load(std::memory_order_relaxed);
+        return known != nullptr ? known : registerSelector();
+    }
+
 protected:
     constexpr MessageDeclaration(ClassReference& receiver, const char* selectorName, MethodKind kind,
                                  Availability availability, const char* encoding)
@@ -100,11 +105,6 @@ protected:
           encoding_(encoding),
           next_(std::exchange(receiver.firstMessage_, this)) {}
     ~MessageDeclaration() = default;
-
-    SEL selector() const {
-        const SEL known = selector_.load(std::memory_order_relaxed);
-        return known != nullptr ? known : registerSelector();
-    }
 
 private:
     SEL registerSelector() const;

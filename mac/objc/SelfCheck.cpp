@@ -12,9 +12,8 @@ std::string nameOf(const ClassReference& type, const MessageDeclaration& message
 }
 
 Method methodOf(Class type, const MessageDeclaration& message) {
-    const SEL selector = sel_registerName(message.selectorName());
-    return message.kind() == MethodKind::ofClass ? class_getClassMethod(type, selector)
-                                                 : class_getInstanceMethod(type, selector);
+    return message.kind() == MethodKind::ofClass ? class_getClassMethod(type, message.selector())
+                                                 : class_getInstanceMethod(type, message.selector());
 }
 
 void checkMessage(const ClassReference& type, const MessageDeclaration& message, SelfCheckResult& result) {

@@ -18,6 +18,7 @@ struct Foundation : Framework {
         Message<id()> retain{*this, "retain"};
         Message<void()> release{*this, "release"};
         Message<void()> dealloc{*this, "dealloc"};
+        Message<id()> self{*this, "self"};
         Message<void(SEL, id, double)> performSelector{*this, "performSelector:withObject:afterDelay:"};
         Message<BOOL(Class)> isKindOfClass{*this, "isKindOfClass:"};
     } object{*this, "NSObject"};

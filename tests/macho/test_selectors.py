@@ -14,7 +14,8 @@ APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
 # A text of words that end with colons, as in "setFrame:display:". Those without any look like other texts.
 SELECTOR = re.compile(rb"(?<=\0)[a-z]\w{2,}:(?:\w+:)*(?=\0)")
 IN_QUOTES = re.compile(r'"([\w:]+)"')
-ACTION = re.compile(r'"([a-z]\w+:)"')
+ACTION = re.compile(r'\bSelector(?: \w+\{|\()"([\w:]+)"')
+REGISTERED = re.compile(r"\b(?:sel_registerName|sel_getUid|NSSelectorFromString)\b")
 
 
 def texts_in(folder, pattern, glob):
@@ -30,6 +31,19 @@ def declared():
 def actions():
     """What menus are told to send, to the application or along the responder chain."""
     return texts_in("Kestrune", ACTION, "*.cpp")
+
+
+class Sources(unittest.TestCase):
+    def test_register_selectors_where_each_is_given_its_name_and_nowhere_else(self):
+        """A message, a method that the platform calls, and the action of a menu's item."""
+        sources = [path for path in (REPOSITORY / "mac").rglob("*.*") if path.suffix in (".h", ".cpp")]
+        found = {
+            path.relative_to(REPOSITORY / "mac").as_posix()
+            for path in sources
+            if REGISTERED.search(path.read_text(encoding="utf-8"))
+        }
+        declaration = "sdk/usr/include/objc/objc.h"
+        self.assertEqual(found, {declaration, "Menu.cpp", "objc/Message.cpp", "objc/RuntimeClass.h"})
 
 
 @unittest.skipUnless(APPLICATION.is_dir(), "make test has not built it")
