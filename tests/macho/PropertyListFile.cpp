@@ -76,6 +76,17 @@ PropertyValue valueOf(plist_t node) {
     }
 }
 
+// No character of XML. libplist ends the process that asks it for a text with one.
+bool hasZero(std::string_view xml) { return xml.find('\0') != std::string_view::npos; }
+
+bool canBeXml(plist_t list) {
+    char* xml = nullptr;
+    std::uint32_t size = 0;
+    plist_to_xml(list, &xml, &size);
+    const Text owned(xml);
+    return xml && !hasZero({xml, size});
+}
+
 } // namespace
 
 const PropertyValue* PropertyValue::at(const std::string& key) const {
@@ -99,11 +110,11 @@ std::optional<PropertyValue> readPropertyListFile(std::span<const std::uint8_t> 
     plist_t root = nullptr;
     if (std::string_view(data, size).starts_with("bplist")) {
         plist_from_bin(data, size, &root);
-    } else {
+    } else if (!hasZero({data, size})) {
         plist_from_xml(data, size, &root);
     }
     const std::unique_ptr<void, FreeList> owned(root);
-    return root ? std::optional(valueOf(root)) : std::nullopt;
+    return root && canBeXml(root) ? std::optional(valueOf(root)) : std::nullopt;
 }
 
 } // namespace kestrune::macho

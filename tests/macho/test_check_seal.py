@@ -232,7 +232,14 @@ class Identifier(SealedApplication):
 
     def test_is_wanted(self):
         self.seal(self.app)
-        for data in (b"nothing", plistlib.dumps([]), plistlib.dumps({"CFBundleExecutable": "Tiny"})):
+        whole = information("Tiny", IDENTIFIER)
+        for data in (
+            b"nothing",
+            plistlib.dumps([]),
+            plistlib.dumps({"CFBundleExecutable": "Tiny"}),
+            whole.replace(b"Tiny", b"Ti\0y"),
+            plistlib.dumps(plistlib.loads(whole) | {"\u00e9\0": ""}, fmt=plistlib.FMT_BINARY),
+        ):
             write(self.contents / "Info.plist", data)
             name = "Tiny.app/Contents/Info.plist"
             keys = "CFBundleIdentifier and CFBundleExecutable"
