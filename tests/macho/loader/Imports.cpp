@@ -30,9 +30,8 @@ constexpr std::string_view System = "/usr/lib/libSystem.B.dylib";
 constexpr std::string_view AppKit = "/System/Library/Frameworks/AppKit.framework/Versions/C/AppKit";
 
 // Functions of glibc's that are Darwin's. Where the conventions of a processor differ, its own come before.
-constexpr std::array SameInGlibc = {"abort",  "calloc", "fprintf", "fputs",  "free",
-                                    "malloc", "memchr", "memcmp",  "memcpy", "memmove",
-                                    "memset", "modf",   "printf",  "strcmp", "strlen"};
+constexpr std::array SameInGlibc = {"abort",  "calloc",  "fprintf", "memchr", "memcmp",
+                                    "memcpy", "memmove", "printf",  "strcmp", "strlen"};
 
 // The program's C++ library stands beside GCC's, which GNUstep and the stand-ins use. It is made of LLVM's
 // archives so that it finds itself first, and unwinds with what the process unwinds with.
