@@ -74,7 +74,9 @@ template <typename... Types>
 constexpr auto joinedEncodings() {
     std::array<char, (encodingOfType<Types>().size() + ... + 1)> joined{};
     auto* end = joined.begin();
-    ((end = std::copy(encodingOfType<Types>().begin(), encodingOfType<Types>().end(), end)), ...);
+    // Each is asked for once: a literal need not be at the same place twice.
+    const auto append = [&end](std::string_view text) { end = std::copy(text.begin(), text.end(), end); };
+    (append(encodingOfType<Types>()), ...);
     return joined;
 }
 
