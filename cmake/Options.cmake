@@ -2,6 +2,8 @@
 option(KESTRUNE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(KESTRUNE_COVERAGE "Build with gcov instrumentation" OFF)
 option(KESTRUNE_JOIN "Compile files several at a time, but for those of the application" OFF)
+option(KESTRUNE_BINDING_MUTANTS
+    "Build the deliberate mistakes that tests of the binding must find, and the binding file by file" OFF)
 
 add_library(kestrune_options INTERFACE)
 target_compile_features(kestrune_options INTERFACE cxx_std_20)

@@ -1,5 +1,6 @@
 // What shapes and grouped forms look like in a window.
 #include "tests/contract/HostedViews.h"
+#include "tests/contract/SeenColors.h"
 #include "tests/contract/WindowFixture.h"
 #include "ui/SystemColor.h"
 #include "ui/View.h"
@@ -8,8 +9,6 @@
 
 namespace kestrune::contract {
 namespace {
-
-constexpr int Tolerance = 2; // of two painters that round otherwise
 
 // A colour that shines through lies over another one.
 SeenColor over(const SeenColor& below, const ui::Shade& shade) {
@@ -23,15 +22,6 @@ SeenColor over(const SeenColor& below, const ui::Shade& shade) {
 SeenColor over(const SeenColor& below, ui::Color color) { return over(below, ui::systemColor(color).light); }
 
 SeenColor behindEverything() { return over({}, ui::WindowBackground.light); }
-
-MATCHER_P(Like, expected,
-          "is about " + testing::PrintToString(expected.red) + " " + testing::PrintToString(expected.green) +
-              " " + testing::PrintToString(expected.blue)) {
-    *result_listener << "which is " << arg.red << " " << arg.green << " " << arg.blue;
-    return std::abs(arg.red - expected.red) <= Tolerance &&
-           std::abs(arg.green - expected.green) <= Tolerance &&
-           std::abs(arg.blue - expected.blue) <= Tolerance;
-}
 
 using testing::Not;
 

@@ -79,12 +79,15 @@ bool passes(const std::string& test, int (*runTests)()) {
     return status == 0;
 }
 
-// How many tests failed.
+// How many tests failed; whoever asks GoogleTest to fail fast gets no further than the first.
 int failuresOf(int runs, const std::vector<std::string>& tests, int (*runTests)()) {
     int failures = 0;
     for (int run = 0; run < runs; ++run) {
         for (const std::string& test : tests) {
             failures += passes(test, runTests) ? 0 : 1;
+            if (failures > 0 && GTEST_FLAG_GET(fail_fast)) {
+                return failures;
+            }
         }
     }
     return failures;

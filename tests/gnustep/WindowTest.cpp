@@ -58,6 +58,11 @@ protected:
         world_.runMainQueue();
     }
 
+    static void turnTheRunLoop(id mode) {
+        send<BOOL>(send(classObject("NSRunLoop"), "currentRunLoop"), "runMode:beforeDate:", mode,
+                   send(classObject("NSDate"), "date"));
+    }
+
     static void highlight(id button, bool isPressed) {
         send<void>(send(button, "cell"), "setHighlighted:", mac::truth(isPressed));
     }
@@ -134,9 +139,7 @@ TEST_F(HostedViewOnGNUstep, KeepsAButtonThatGoesWhileItIsPressed) {
             const id pressed = button("Request");
             whenDeallocated(pressed, this, [&isGone] { isGone = true; });
             model_->value = 1;
-            send<BOOL>(send(classObject("NSRunLoop"), "currentRunLoop"),
-                       "runMode:beforeDate:", NSEventTrackingRunLoopMode,
-                       send(classObject("NSDate"), "date"));
+            turnTheRunLoop(NSEventTrackingRunLoopMode);
             wasThereAfterItWentOut = button("Request") == nullptr && !isGone;
         });
     });
@@ -160,6 +163,40 @@ TEST_F(HostedViewOnGNUstep, LetsGoOfTheWindowAfterItsOwnButtonDid) {
     world_.clickButton("Finish");
     world_.letTimePass(0.1);
     EXPECT_TRUE(wasThereAfterTheAction);
+    EXPECT_TRUE(isGone);
+}
+
+// GNUstep itself keeps what it sends events to for longer.
+TEST_F(HostedViewOnGNUstep, KeepsAViewThatGoesUntilItsTurnIsOver) {
+    bool isGone = false;
+    host([this] { return model_->value == 0 ? filledButton("Request") : ui::VerbatimText("nothing"); });
+    {
+        const mac::Pool pool;
+        whenDeallocated(button("Request"), this, [&isGone] { isGone = true; });
+        model_->value = 1;
+        turnTheRunLoop(NSEventTrackingRunLoopMode);
+    }
+    EXPECT_THAT(views("NSButton"), IsEmpty());
+    EXPECT_FALSE(isGone);
+    world_.letTimePass(0.1);
+    EXPECT_TRUE(isGone);
+}
+
+TEST_F(HostedViewOnGNUstep, KeepsAWindowThatItsOwnButtonLetsGoOfUntilTheTurnIsOver) {
+    bool isGone = false;
+    host([&, this] {
+        return filledButton("Finish", [&, this] {
+            window_->orderOut();
+            window_.reset();
+        });
+    });
+    whenDeallocated(window(), this, [&isGone] { isGone = true; });
+    {
+        const mac::Pool pool;
+        send<void>(send(window(), "contentView"), "pressButton:", button("Finish"));
+    }
+    EXPECT_FALSE(isGone);
+    world_.letTimePass(0.1);
     EXPECT_TRUE(isGone);
 }
 

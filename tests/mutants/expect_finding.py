@@ -1,29 +1,24 @@
-"""Runs random sessions with a deliberate mistake and expects that they find it.
+"""Runs a program with a deliberate mistake, and expects that its random sessions or its test find it.
 
 usage: expect_finding.py PROGRAM ARGUMENT...
 
 Succeeds when the program ends with exit status 1 and names a finding; a crash is no finding.
 """
 
-import subprocess
 import sys
+
+import judging
 
 
 def search(command):
-    """What the sessions have found, which sessions those were, and how it ended.
-
-    The first is None when they found nothing; the second is the name of the program without a mistake.
-    """
-    run = subprocess.run([*command, "--findings", "1"], capture_output=True, text=True, check=False)
-    lines = run.stdout.splitlines()
-    found = [line for line in lines if line.startswith("Finding at seed ")]
-    sessions = lines[0].split(" ")[0] if lines else ""
-    ending = f"exit status {run.returncode}\n{run.stdout[-2000:]}\n{run.stderr[-2000:]}"
-    return (found[0] if run.returncode == 1 and found else None), sessions, ending
+    """What was found first, or nothing, and all that the program said, with how it ended."""
+    status, output = judging.run(command)
+    found = judging.findings(output)
+    return (found[0] if status == 1 and found else ""), f"exit status {status}\n{output[-4000:]}"
 
 
 def main() -> int:
-    found, _, ending = search(sys.argv[1:])
+    found, ending = search(sys.argv[1:])
     if found:
         print(found)
         return 0

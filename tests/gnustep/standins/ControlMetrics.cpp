@@ -2,7 +2,8 @@
 // of which GNUstep lacks, or has in the cell alone.
 //
 // This is what we believe the Mac does, and no proof of it: a switch has one size for each control size, a
-// button is as large as its cell, and what is seen of a control fills its frame.
+// button is as large as its cell, what is seen of a control fills its frame, and a button's role changes
+// nothing of that.
 #include "tests/gnustep/standins/ControlMetrics.h"
 
 #include "base/Geometry.h"
@@ -10,6 +11,7 @@
 #include "tests/gnustep/standins/Methods.h"
 
 #include <unordered_map>
+#include <unordered_set>
 
 namespace kestrune::gnustep {
 
@@ -20,7 +22,7 @@ constexpr mac::Unsigned Small = 1;
 constexpr mac::Unsigned Mini = 2;
 constexpr double NoIntrinsicMetric = -1;
 
-// Of controls without a cell.
+// Of controls, of which not every one has a cell.
 std::unordered_map<id, mac::Unsigned>& sizes() {
     static auto& all = *new std::unordered_map<id, mac::Unsigned>;
     return all;
@@ -35,8 +37,7 @@ void setControlSize(id control, SEL, mac::Unsigned size) {
 }
 
 Size sizeOfSwitch(id control, SEL) {
-    const auto entry = sizes().find(control);
-    switch (entry != sizes().end() ? entry->second : Regular) {
+    switch (controlSize(control)) {
     case Small:
         return {32, 18};
     case Mini:
@@ -52,7 +53,18 @@ Size noSize(id, SEL) { return {NoIntrinsicMetric, NoIntrinsicMetric}; }
 
 Rect frameForAlignmentRect(id, SEL, Rect alignmentRect) { return alignmentRect; }
 
-void setHasDestructiveAction(id, SEL, BOOL) {}
+std::unordered_set<id>& destructiveButtons() {
+    static auto& all = *new std::unordered_set<id>;
+    return all;
+}
+
+void setHasDestructiveAction(id button, SEL, BOOL isDestructive) {
+    destructiveButtons().erase(button);
+    if (isDestructive != 0) {
+        destructiveButtons().insert(button);
+        whenDeallocated(button, &destructiveButtons(), [button] { destructiveButtons().erase(button); });
+    }
+}
 
 } // namespace
 
@@ -64,5 +76,12 @@ void installControlMetrics() {
     addMethod(classNamed("NSView"), "intrinsicContentSize", noSize);
     addMethod(classNamed("NSButton"), "setHasDestructiveAction:", setHasDestructiveAction);
 }
+
+mac::Unsigned controlSize(id control) {
+    const auto entry = sizes().find(control);
+    return entry != sizes().end() ? entry->second : Regular;
+}
+
+bool hasDestructiveAction(id button) { return destructiveButtons().contains(button); }
 
 } // namespace kestrune::gnustep

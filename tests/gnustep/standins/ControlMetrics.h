@@ -1,8 +1,15 @@
-// The sizes of controls.
+// The sizes of controls, and the role of a button.
 #pragma once
+
+#include "mac/objc/Runtime.h"
 
 namespace kestrune::gnustep {
 
 void installControlMetrics();
+
+// As NSControlSize, regular unless another one was set.
+mac::Unsigned controlSize(id control);
+
+bool hasDestructiveAction(id button);
 
 } // namespace kestrune::gnustep

@@ -21,17 +21,10 @@ namespace kestrune::gnustep {
 
 namespace {
 
-constexpr double BodySize = 13; // points
-constexpr double RegularWeight = 0;
 constexpr mac::Integer SmallScale = 1;
-constexpr mac::Integer Medium = 2;
 constexpr mac::Integer Large = 3;
 
-struct Configuration {
-    double pointSize = BodySize;
-    double weight = RegularWeight;
-    mac::Integer scale = Medium;
-};
+using Configuration = SymbolConfiguration;
 
 // What an image's representation draws.
 struct Symbol {
@@ -126,6 +119,13 @@ void installSymbols() {
               "imageWithSystemSymbolName:accessibilityDescription:", imageWithSystemSymbolName);
     addMethod(image, "imageWithSymbolConfiguration:", imageWithSymbolConfiguration);
     addMethod(classNamed("NSImageView"), "setContentTintColor:", setContentTintColor);
+}
+
+std::optional<ShownSymbol> symbolIn(id image) {
+    const Symbol* const symbol = symbolOf(image);
+    return symbol != nullptr
+               ? std::optional(ShownSymbol{symbol->name, symbol->configuration, symbol->color.get()})
+               : std::nullopt;
 }
 
 } // namespace kestrune::gnustep

@@ -1,0 +1,41 @@
+# Mistakes in the binding to the platform, beside its views.
+set(CONTRACT DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_standins)
+set(SELF_CHECK DRIVER selfcheck_tests_gnustep_driver kestrune_standins)
+set(VIEWS DRIVER window_tests_gnustep_driver kestrune_standins)
+
+kestrune_mutant(MissingImageIsThere FILE mac/Image.cpp ${CONTRACT}
+    TEST ImageContract.IsAbsentWhenTheBundleHasNoneOfThatName
+    FROM "image == nullptr" TO "false")
+
+set(SLEEP FILE mac/MainActor.cpp ${CONTRACT})
+kestrune_mutant(SleepEndsAtOnce ${SLEEP} TEST SleepingTaskContract.WorksWhenItHasSleptAndNotBefore
+    FROM "delay.count()" TO "0")
+kestrune_mutant(CancellingDoesNotWake ${SLEEP} TEST SleepingTaskContract.WorksAtOnceWhenItsSleepIsCancelled
+    FROM "    if (state_->isAsleep) {" TO "    if (false) {")
+kestrune_mutant(CancellingIsNotRemembered ${SLEEP}
+    TEST SleepingTaskContract.DoesNotFallAsleepWhenItWasCancelledBefore
+    FROM "    state_->isCancelled = true;
+" TO "")
+kestrune_mutant(TaskNeverFallsAsleep ${SLEEP} TEST SleepingTaskContract.WorksAtOnceWhenItsSleepIsCancelled
+    FROM "        state->isAsleep = true;
+" TO "")
+kestrune_mutant(TaskWorksTwice ${SLEEP} TEST SleepingTaskContract.WorksAtOnceWhenItsSleepIsCancelled
+    FROM "std::exchange(work, nullptr)" TO "work")
+
+set(ENCODING FILE mac/objc/TypeEncoding.cpp ${SELF_CHECK} TEST TypeEncoding.GivesEveryScalarOneLetter)
+kestrune_mutant(LongStaysLong ${ENCODING} FROM "return \"q\";" TO "return \"l\";")
+kestrune_mutant(UnsignedLongIsSigned ${ENCODING} FROM "return \"Q\";" TO "return \"q\";")
+kestrune_mutant(CharacterIsNoTruthValue ${ENCODING} FROM "return \"B\";" TO "return \"c\";")
+kestrune_mutant(UnsignedCharacterIsNoTruthValue ${ENCODING} FROM "        case 'C':
+" TO "")
+
+set(WINDOW_IS_KEPT HostedViewOnGNUstep.KeepsAWindowThatItsOwnButtonLetsGoOfUntilTheTurnIsOver)
+kestrune_mutant(NothingIsKeptForThisTurn FILE mac/objc/Lifetime.cpp ${VIEWS} TEST ${WINDOW_IS_KEPT}
+    FROM "    foundation.object.performSelector(object, sel_registerName(\"self\"), nullptr, 0);
+" TO "")
+kestrune_mutant(WindowIsNotKeptForThisTurn FILE mac/hosting/HostedView.cpp ${VIEWS} TEST ${WINDOW_IS_KEPT}
+    FROM "    keepForThisTurn(appKit.view.window(view));
+" TO "")
+kestrune_mutant(RemovedViewIsNotKeptForThisTurn FILE mac/hosting/SceneView.cpp ${VIEWS}
+    TEST HostedViewOnGNUstep.KeepsAViewThatGoesUntilItsTurnIsOver
+    FROM "keepForThisTurn(view->view());" TO "")

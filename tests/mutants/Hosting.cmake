@@ -1,0 +1,148 @@
+# Mistakes in what views become on a Mac.
+#
+# kestrune_hosting_mutant(NAME FILE TEST FROM TO): in a file of mac/hosting, and found by a test of what is
+# hosted.
+function(kestrune_hosting_mutant name file test from to)
+    kestrune_mutant(${name} FILE mac/hosting/${file}.cpp TEST Hosted${test} FROM "${from}" TO "${to}"
+        DRIVER window_tests_gnustep_driver kestrune_standins)
+endfunction()
+
+# kestrune_weight_mutant(NAME FROM TO): the number of another weight in the place of one.
+function(kestrune_weight_mutant name from to)
+    kestrune_hosting_mutant(${name} Fonts TextOnGNUstep.HasThePlatformsNumberForEveryWeight
+        "return ${from};" "return ${to};")
+endfunction()
+kestrune_weight_mutant(UltraLightIsThin -0.8 -0.6)
+kestrune_weight_mutant(ThinIsLight -0.6 -0.4)
+kestrune_weight_mutant(LightIsRegular -0.4 0)
+kestrune_weight_mutant(MediumIsSemibold 0.23 0.3)
+kestrune_weight_mutant(SemiboldIsBold 0.3 0.4)
+kestrune_weight_mutant(BoldIsSemibold 0.4 0.3)
+kestrune_weight_mutant(HeavyIsBlack 0.56 0.62)
+kestrune_weight_mutant(BlackIsHeavy 0.62 0.56)
+kestrune_weight_mutant(RegularIsMedium 0 0.23)
+kestrune_hosting_mutant(EveryRunHasTheWeightOfTheText AttributedText
+    TextOnGNUstep.SetsEachRunInItsWeightAndTheSizeOfTheText
+    "run.weight" "text.font.weight")
+kestrune_hosting_mutant(EveryTextHasTheSizeOfTheBody Fonts
+    TextOnGNUstep.SetsEachRunInItsWeightAndTheSizeOfTheText
+    "font.size," "13,")
+
+# kestrune_alignment_mutant(NAME FROM TO)
+function(kestrune_alignment_mutant name from to)
+    kestrune_hosting_mutant(${name} AttributedText TextOnGNUstep.AlignsParagraphsAsTheTextIs
+        "return ${from};" "return ${to};")
+endfunction()
+kestrune_alignment_mutant(CentredIsTrailing Center Right)
+kestrune_alignment_mutant(TrailingIsCentred Right Center)
+kestrune_alignment_mutant(LeadingIsCentred Left Center)
+kestrune_hosting_mutant(ParagraphsHaveNoStyle AttributedText TextOnGNUstep.AlignsParagraphsAsTheTextIs
+    "        set(NSParagraphStyleAttributeName, style.get());
+" "")
+kestrune_hosting_mutant(TextIsAlwaysOpaque AttributedText
+    TextOnGNUstep.ColoursEachRunLessOpaquelyWhereItIsSaid
+    "colorWithOpacity(text.color, opacity)" "colorWithOpacity(text.color, 1)")
+kestrune_hosting_mutant(TextIsAlwaysPrimary AttributedText
+    TextOnGNUstep.ColoursEachRunLessOpaquelyWhereItIsSaid
+    "colorWithOpacity(text.color, opacity)" "colorWithOpacity(ui::Color::primary, opacity)")
+
+# kestrune_label_mutant(NAME TEST FROM TO)
+function(kestrune_label_mutant name test from to)
+    kestrune_hosting_mutant(${name} Label TextOnGNUstep.ShowsALabel${test} "${from}" "${to}")
+endfunction()
+kestrune_label_mutant(LabelIsSelectable ThatNobodyCanEditOrSelect
+    "setSelectable(view(), truth(false))" "setSelectable(view(), truth(true))")
+kestrune_label_mutant(LabelHasABezel WithoutBezelAndBackground
+    "setBezeled(view(), truth(false))" "setBezeled(view(), truth(true))")
+kestrune_label_mutant(LabelHasABackground WithoutBezelAndBackground
+    "setDrawsBackground(view(), truth(false))" "setDrawsBackground(view(), truth(true))")
+kestrune_label_mutant(LabelDoesNotWrap WithoutBezelAndBackground
+    "appKit.control.cell(view()), truth(true)" "appKit.control.cell(view()), truth(false)")
+kestrune_label_mutant(LabelHasNoInset WhoseTextLiesInItsFrame "Inset = 2;" "Inset = 0;")
+kestrune_label_mutant(LabelHasAnInsetAtTheLeftAlone WhoseTextLiesInItsFrame "+ 2 * Inset" "+ Inset")
+
+# kestrune_size_mutant(NAME FROM TO)
+function(kestrune_size_mutant name from to)
+    kestrune_hosting_mutant(${name} ButtonSettings ControlsOnGNUstep.HaveThePlatformsNumberForEverySize
+        "return ${from};" "return ${to};")
+endfunction()
+kestrune_size_mutant(MiniIsSmall 2 1)
+kestrune_size_mutant(SmallIsMini 1 2)
+kestrune_size_mutant(LargeIsRegular 3 0)
+kestrune_size_mutant(RegularIsLarge 0 3)
+kestrune_hosting_mutant(ButtonsHaveTheRegularFont ButtonSettings
+    ControlsOnGNUstep.SetATitleInTheFontOfTheirSize
+    "systemFontSizeForControlSize(platformSize(size))" "systemFontSizeForControlSize(0)")
+kestrune_hosting_mutant(SwitchIsMeasuredInTheRegularSize PlatformMeasurer
+    ControlsOnGNUstep.AreMeasuredInTheirSize
+    "setControlSize(control.get(), platformSize(size))" "setControlSize(control.get(), 0)")
+
+# kestrune_button_mutant(NAME FILE TEST FROM TO)
+function(kestrune_button_mutant name file test from to)
+    kestrune_hosting_mutant(${name} ${file} ControlsOnGNUstep.${test} "${from}" "${to}")
+endfunction()
+kestrune_button_mutant(NoRoleIsDestructive PushButton AreDestructiveInThatRoleAlone
+    "next.role == ui::ButtonRole::destructive" "false")
+kestrune_button_mutant(EveryRoleIsDestructive PushButton AreDestructiveInThatRoleAlone
+    "next.role == ui::ButtonRole::destructive" "next.role != ui::ButtonRole::none")
+kestrune_button_mutant(CancelIsReturn ButtonView HaveTheKeyOfTheirShortcut "\\x1b" "\\r")
+kestrune_button_mutant(TheDefaultIsEscape ButtonView HaveTheKeyOfTheirShortcut "\\r" "\\x1b")
+kestrune_button_mutant(NoShortcutIsReturn ButtonView HaveTheKeyOfTheirShortcut
+    "return \"\";" "return \"\\r\";")
+kestrune_button_mutant(BezelIsRound SystemControls DrawABorderedButtonWithThePlatformsBezel
+    "Push = 1;" "Push = 2;")
+kestrune_button_mutant(DrawnButtonHasABorder DrawnButton DrawNoBorderAroundAButtonThatBringsItsLook
+    "setBordered(view(), truth(false))" "setBordered(view(), truth(true))")
+kestrune_button_mutant(DrawnButtonStaysPressed DrawnButton AreButtonsThatGoBackWhenTheyAreLetGo
+    "setButtonType(view(), MomentaryPushIn)" "setButtonType(view(), 1)")
+kestrune_button_mutant(BorderedButtonStaysPressed SystemControls AreButtonsThatGoBackWhenTheyAreLetGo
+    "setButtonType(button, MomentaryPushIn)" "setButtonType(button, 1)")
+kestrune_button_mutant(SwitchIsDisabled SwitchView AreFlippedWhereTheyAreEnabled
+    "setEnabled(view(), truth(true))" "setEnabled(view(), truth(false))")
+
+# kestrune_picture_mutant(NAME FILE TEST FROM TO)
+function(kestrune_picture_mutant name file test from to)
+    kestrune_hosting_mutant(${name} ${file} PicturesOnGNUstep.${test} "${from}" "${to}")
+endfunction()
+set(SYMBOL_IS_SHOWN ShowASymbolInItsFontScaleAndTint)
+kestrune_picture_mutant(SmallScaleIsMedium Symbols ${SYMBOL_IS_SHOWN} "return 1;" "return 2;")
+kestrune_picture_mutant(LargeScaleIsMedium Symbols ${SYMBOL_IS_SHOWN} "return 3;" "return 2;")
+kestrune_picture_mutant(MediumScaleIsLarge Symbols ${SYMBOL_IS_SHOWN} "return 2;" "return 3;")
+kestrune_picture_mutant(SymbolIsAlwaysRegular Symbols ${SYMBOL_IS_SHOWN}
+    "platformWeight(symbol.font.weight)" "0")
+kestrune_picture_mutant(SymbolHasTheSizeOfTheBody Symbols ${SYMBOL_IS_SHOWN} "symbol.font.size" "13")
+kestrune_picture_mutant(SymbolHasNoTint SymbolView ${SYMBOL_IS_SHOWN}
+    "            appKit.imageView.setContentTintColor(view(), platformColor(next.symbol.color));
+" "")
+kestrune_picture_mutant(SymbolHasTheTintOfText SymbolView ${SYMBOL_IS_SHOWN}
+    "platformColor(next.symbol.color)" "platformColor(ui::Color::primary)")
+kestrune_picture_mutant(SymbolIsScaled SymbolView LeaveASymbolItsSizeInItsFrame
+    "ScaleNone = 2;" "ScaleNone = 3;")
+kestrune_picture_mutant(SymbolIsDrawnAtTheLeft Symbols DrawASymbolInTheMiddleOfItsPlaceInAButton
+    "frame.origin.x + (frame.size.width - size.width) / 2" "frame.origin.x")
+kestrune_picture_mutant(SymbolIsDrawnAtTheTop Symbols DrawASymbolInTheMiddleOfItsPlaceInAButton
+    "frame.origin.y + (frame.size.height - size.height) / 2" "frame.origin.y")
+kestrune_picture_mutant(SymbolIsDrawnInTheColourOfText Symbols DrawASymbolInItsColourInAButton
+    "platformColor(symbol.color)" "platformColor(ui::Color::primary)")
+kestrune_picture_mutant(SymbolIsDrawnWithoutItsColour Symbols DrawASymbolInItsColourInAButton
+    "    NSRectFillUsingOperation(all, SourceAtop);
+" "")
+kestrune_picture_mutant(TintFillsTheWholePlace Symbols DrawASymbolInItsColourInAButton
+    "SourceAtop = 5;" "SourceAtop = 2;")
+kestrune_picture_mutant(MaskHasSharpCorners Drawing FillAShapeAtItsPlaceWithRoundCorners
+    "    moved.frame = movedBy(shape.frame, origin);
+" "    moved.frame = movedBy(shape.frame, origin);
+    moved.cornerRadius = 0;
+")
+kestrune_picture_mutant(ShapeIsAlwaysPrimary Drawing FillAShapeAtItsPlaceWithRoundCorners
+    "colorWithOpacity(element.fill," "colorWithOpacity(ui::Color::primary,")
+kestrune_picture_mutant(FocusRingIsNeverTheShape DrawnButton DrawTheFocusRingAroundTheShapeOfAButton
+    "shape != body.end()" "false")
+kestrune_picture_mutant(FocusRingNeedsAShape DrawnButton DrawTheFocusRingAroundAllOfAButtonWithoutAShape
+    "        whole.frame = self->shown()->frame;
+" "")
+kestrune_picture_mutant(FocusRingHasNoBounds DrawnButton DrawTheFocusRingAroundTheShapeOfAButton
+    "            type.addMethod(implemented::focusRingMaskBounds, focusRingMaskBounds);
+" "")
+kestrune_picture_mutant(ButtonIsNotDrawnAgain DrawnButton DrawAButtonAgainWhenWhatItShowsIsAnother
+    "appKit.view.setNeedsDisplay(view(), truth(true));" "")
