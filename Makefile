@@ -4,6 +4,8 @@ SEED ?= 1
 SEEDS ?= 1000
 RUNS ?= 200
 FUZZ_SECONDS ?= 30
+FOLDER ?= mac
+COUNT ?= 100
 # ON where a commit is proved. Elsewhere the next compiler may warn of what is right, and nobody is stopped.
 WARNINGS_AS_ERRORS ?= OFF
 
@@ -39,7 +41,7 @@ ctest --test-dir $(DIR) $(1) --no-tests=error --max-width 90 --output-on-failure
 status=$$?; tools/count-tests $(DIR)/tests.xml && exit $$status
 endef
 
-.PHONY: help run app test check bench simulate first-run soak fuzz coverage clean
+.PHONY: help run app test check bench simulate first-run soak mutants fuzz coverage clean
 .NOTPARALLEL:
 .DEFAULT_GOAL := help
 
@@ -52,6 +54,7 @@ help:
 	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
 	@echo "make first-run           the wizard's story, simulated, on GNUstep and as Macs get it, step by step"
 	@echo "make soak                RUNS=$(RUNS) times all tests on GNUstep, four runs at a time"
+	@echo "make mutants             COUNT=$(COUNT) random mistakes in FOLDER=$(FOLDER), and which tests find"
 	@echo "make fuzz                every fuzzer for FUZZ_SECONDS=$(FUZZ_SECONDS) seconds"
 	@echo "make coverage            line and branch coverage of Kestrune/, base/ and ui/; fails under 100 %"
 	@echo "make clean               remove everything that was built"
@@ -146,6 +149,13 @@ soak:
 	$(call build,test $(for_macs),gnustep-tests kestrune-on-gnustep kestrune_home $(mac_process))
 	$(build-for-macs)
 	@tests/gnustep/soak $(DIR)/tests/gnustep $(RUNS)
+
+# It builds only the tests that can judge the folder.
+mutants: override PRESET = mutants
+mutants:
+	@tools/setup mutants $(PRESET)
+	$(configure)
+	@tests/mutants/by_rule --build $(DIR) --seed "$(SEED)" --count "$(COUNT)" "$(FOLDER)"
 
 fuzz: override PRESET = fuzz
 fuzz:

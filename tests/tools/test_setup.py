@@ -10,7 +10,7 @@ UPDATE = f"{APT_GET} update"
 INSTALL = f"{APT_GET} install --yes --no-install-recommends"
 DOWNLOAD = f"{APT_GET} -o APT::Sandbox::User=root download"
 
-GROUPS = ("build", "run", "test", "check", "bench", "simulate", "fuzz", "coverage", "resources")
+GROUPS = ("build", "run", "test", "check", "bench", "simulate", "fuzz", "coverage", "mutants", "resources")
 PRESETS = ("gcc", "clang", "sanitize", "coverage", "fuzz")
 
 
