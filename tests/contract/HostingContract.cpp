@@ -66,6 +66,20 @@ TEST_F(HostingContract, LeavesTheWindowAloneUnlessItIsToFollow) {
     EXPECT_EQ(shown().content.size, (Size{240, 90}));
 }
 
+TEST_F(HostingContract, LeavesTheWindowAloneWhenItIsToldNotToFollow) {
+    HostingController controller({[this] { return block(240, model_->value == 0 ? 90 : 150); }, model_});
+    window_->setContentViewController(controller);
+    show(*window_);
+    model_->value = 1;
+    world_.runMainQueue();
+    controller.setSizingOptions(HostingSizingOptions::none);
+    world_.runMainQueue();
+    EXPECT_EQ(shown().content.size, (Size{240, 90}));
+    controller.setSizingOptions(HostingSizingOptions::preferredContentSize);
+    world_.runMainQueue();
+    EXPECT_EQ(shown().content.size, (Size{240, 150}));
+}
+
 TEST_F(HostingContract, ShowsTextsInTheUsersLanguage) {
     host([] {
         return ui::VStack({}, {ui::Text("Hello"), ui::Text("Unknown"), ui::VerbatimText("Hello"),

@@ -1,4 +1,5 @@
 // What a button's and a switch's properties are to the platform.
+#include "mac/hosting/Accessibility.h"
 #include "mac/hosting/PlatformMeasurer.h"
 #include "mac/objc/Text.h"
 #include "tests/gnustep/ShownScene.h"
@@ -178,6 +179,31 @@ TEST_F(HostedControlsOnGNUstep, MoveToTheirPlace) {
     element.frame = {40, 50, 38, 22};
     EXPECT_EQ(show(element), toggle);
     EXPECT_EQ(send<Rect>(toggle, "frame"), Rect(40, 50, 38, 22));
+}
+
+TEST_F(HostedControlsOnGNUstep, AreLeftAloneWhenTheirElementIsTheSame) {
+    for (const Kind kind : {Kind::bordered, Kind::custom}) {
+        const id button = show(buttonOf(kind));
+        send<void>(button, "setTitle:", mac::nsString("somebody else's").get());
+        send<void>(button, "setKeyEquivalent:", mac::nsString("x").get());
+        send<void>(button, "setControlSize:", Mini);
+        send<void>(button, "setHasDestructiveAction:", mac::truth(true));
+        send<void>(button, "setFrame:", Rect(1, 2, 3, 4));
+        EXPECT_EQ(show(buttonOf(kind)), button);
+        EXPECT_EQ(mac::textOf(send(button, "title")), "somebody else's");
+        EXPECT_EQ(mac::textOf(send(button, "keyEquivalent")), "x");
+        EXPECT_EQ(controlSize(button), Mini);
+        EXPECT_TRUE(hasDestructiveAction(button));
+        EXPECT_EQ(send<Rect>(button, "frame"), Rect(1, 2, 3, 4));
+    }
+    const id toggle = show(toggleOf(ui::ControlSize::regular));
+    send<void>(toggle, "setControlSize:", Mini);
+    mac::setAccessibilityLabel(toggle, "somebody else's");
+    send<void>(toggle, "setFrame:", Rect(1, 2, 3, 4));
+    EXPECT_EQ(show(toggleOf(ui::ControlSize::regular)), toggle);
+    EXPECT_EQ(controlSize(toggle), Mini);
+    EXPECT_EQ(accessibilityLabel(toggle), "somebody else's");
+    EXPECT_EQ(send<Rect>(toggle, "frame"), Rect(1, 2, 3, 4));
 }
 
 TEST_F(HostedControlsOnGNUstep, AreOthersWithAnotherTitle) {

@@ -79,6 +79,37 @@ TEST_F(HostedPicturesOnGNUstep, LeaveASymbolItsSizeInItsFrame) {
     EXPECT_EQ(send<Size>(send(view, "image"), "size"), mac::PlatformMeasurer().measureSymbol(element.symbol));
 }
 
+TEST_F(HostedPicturesOnGNUstep, LeaveAViewAloneWhoseElementIsTheSame) {
+    const ui::SymbolElement symbol{{20, 30, 40, 40}, symbolOf(ui::Color::green)};
+    const id symbolView = show(symbol);
+    send<void>(symbolView, "setImage:", id{});
+    send<void>(symbolView, "setFrame:", Rect(1, 2, 3, 4));
+    EXPECT_EQ(show(symbol), symbolView);
+    EXPECT_EQ(send(symbolView, "image"), id{});
+    EXPECT_EQ(send<Rect>(symbolView, "frame"), Rect(1, 2, 3, 4));
+    ui::ShapeElement shape;
+    shape.frame = {30, 34, 40, 30};
+    const id shapeView = show(shape);
+    send<void>(shapeView, "setFrame:", Rect(1, 2, 30, 40));
+    send<void>(shapeView, "display");
+    EXPECT_EQ(show(shape), shapeView);
+    EXPECT_EQ(send<Rect>(shapeView, "frame"), Rect(1, 2, 30, 40));
+    EXPECT_EQ(send<BOOL>(shapeView, "needsDisplay"), 0);
+    const ui::ButtonElement element = buttonThatDraws(symbol);
+    const id button = show(element);
+    send<void>(button, "display");
+    EXPECT_EQ(show(element), button);
+    EXPECT_EQ(send<BOOL>(button, "needsDisplay"), 0);
+}
+
+TEST_F(HostedPicturesOnGNUstep, MoveASymbolToItsPlace) {
+    ui::SymbolElement element{{20, 30, 40, 40}, symbolOf(ui::Color::green)};
+    const id view = show(element);
+    element.frame = {25, 35, 45, 45};
+    EXPECT_EQ(show(element), view);
+    EXPECT_EQ(send<Rect>(view, "frame"), element.frame);
+}
+
 TEST_F(HostedPicturesOnGNUstep, DrawASymbolInTheMiddleOfItsPlaceInAButton) {
     const ViewPicture picture = pictureOf(ui::SymbolElement{{25, 34, 40, 30}, symbolOf(ui::Color::green)});
     EXPECT_EQ(picture.inked(), Rect(5 + 14, 4 + 9, 12, 12));

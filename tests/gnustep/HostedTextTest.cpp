@@ -110,6 +110,16 @@ TEST_F(HostedTextOnGNUstep, ShowsALabelWhoseTextLiesInItsFrame) {
               Rect(23, 40, 94, 32));
 }
 
+TEST_F(HostedTextOnGNUstep, LeavesALabelAloneWhoseElementIsTheSame) {
+    const ui::TextElement element{{20, 30, 100, 16}, textOf({{"text"}})};
+    const id label = show(element);
+    send<void>(label, "setStringValue:", mac::nsString("somebody else's").get());
+    send<void>(label, "setFrame:", Rect(1, 2, 3, 4));
+    EXPECT_EQ(show(element), label);
+    EXPECT_EQ(mac::textOf(send(label, "stringValue")), "somebody else's");
+    EXPECT_EQ(send<Rect>(label, "frame"), Rect(1, 2, 3, 4));
+}
+
 TEST_F(HostedTextOnGNUstep, ShowsAnotherTextInTheSameLabel) {
     const id label = show(ui::TextElement{{20, 30, 100, 16}, textOf({{"text"}})});
     EXPECT_EQ(show(ui::TextElement{{20, 30, 100, 16}, textOf({{"other"}})}), label);

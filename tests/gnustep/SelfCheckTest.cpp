@@ -197,12 +197,26 @@ TEST(SystemColors, AreThoseOfTheTable) {
     }
 }
 
+TEST(SelfCheck, IsCleanWhenNothingIsMissingAndNothingDiffers) {
+    mac::SelfCheckResult result;
+    result.classesNotLoaded = {"SPUUpdater"};
+    EXPECT_TRUE(result.isClean());
+    for (const auto list : {&mac::SelfCheckResult::missingClasses, &mac::SelfCheckResult::missingMethods,
+                            &mac::SelfCheckResult::differences}) {
+        mac::SelfCheckResult other = result;
+        (other.*list).emplace_back("name");
+        EXPECT_FALSE(other.isClean());
+    }
+}
+
 using SelfCheckDeathTest = testing::Test;
 
 TEST_F(SelfCheckDeathTest, NamesWhatIsMissingAndWhatDiffers) {
-    EXPECT_DEATH(mac::requireVocabulary(),
-                 "no method -.NSStatusItem button.\n(.*\n)*  another encoding: -.NSString "
-                 "initWithBytes:length:encoding:.: expected @@:.vQQ, found ");
+    EXPECT_DEATH(
+        mac::requireVocabulary(),
+        "The platform is not as the binding expects it:\n  no class NSImageSymbolConfiguration\n(.*\n)*"
+        "  no method -.NSStatusItem button.\n(.*\n)*  another encoding: -.NSString "
+        "initWithBytes:length:encoding:.: expected @@:.vQQ, found ");
 }
 
 struct Mistakes : mac::Framework {
@@ -231,6 +245,11 @@ struct Mistakes : mac::Framework {
         using ClassReference::ClassReference;
     } misspelledClass{*this, "NSScren"};
 };
+
+TEST_F(SelfCheckDeathTest, StopsWhoeverSendsAMessageToAClassThatIsMissing) {
+    static constinit const Mistakes mistakes;
+    EXPECT_DEATH(mistakes.misspelledClass.object(), "The platform has no class NSScren\\.");
+}
 
 TEST(SelfCheck, FindsDeliberateMistakes) {
     static constinit const Mistakes mistakes;

@@ -23,6 +23,7 @@
 // platform's.
 extern "C" {
 extern const id NSEventTrackingRunLoopMode;
+extern id NSApp;
 }
 // NOLINTEND(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)
 
@@ -92,6 +93,21 @@ TEST_F(HostedViewOnGNUstep, KeepsTheViewsOfWhatStaysWhenSomethingComesBeforeThem
     EXPECT_EQ(views("NSTextField").at(0), text);
     EXPECT_EQ(mac::textOf(send(text, "stringValue")), "after");
     EXPECT_EQ(views("NSView"), (std::vector<id>{text, button("Open"), request}));
+}
+
+TEST_F(HostedViewOnGNUstep, KeepsAButtonThatATextComesBefore) {
+    host([this] {
+        std::vector<ui::View> column = {filledButton("Request"), ui::VerbatimText("below")};
+        if (model_->value != 0) {
+            column.insert(column.begin(), ui::VerbatimText("above"));
+        }
+        return ui::VStack({}, column);
+    });
+    const id request = button("Request");
+    const id below = views("NSTextField").at(0);
+    setModel(1);
+    EXPECT_EQ(button("Request"), request);
+    EXPECT_EQ(views("NSTextField").at(1), below);
 }
 
 TEST_F(HostedViewOnGNUstep, DoesNotTurnAButtonIntoAnotherOne) {
@@ -258,6 +274,15 @@ TEST_F(HostedViewOnGNUstep, DimsOnlyTheShapeOfAFilledButtonWhileItIsPressed) {
     const double atRest = ViewPicture(filled).ink();
     highlight(filled, true);
     EXPECT_NEAR(ViewPicture(filled).ink() / atRest, 0.75, 0.02);
+}
+
+TEST_F(HostedViewOnGNUstep, IsInOneOfTheWindowsThatThereAre) {
+    std::vector<id> windows;
+    for (const Window& each : application_->windows()) {
+        windows.push_back(each.state()->window.get());
+    }
+    EXPECT_EQ(windows.size(), send<mac::Unsigned>(send(NSApp, "windows"), "count"));
+    EXPECT_NE(std::find(windows.begin(), windows.end(), window()), windows.end());
 }
 
 TEST_F(HostedViewOnGNUstep, LetsAWindowFollowAHostingView) {

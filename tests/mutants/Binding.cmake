@@ -22,6 +22,14 @@ kestrune_mutant(TaskNeverFallsAsleep ${SLEEP} TEST SleepingTaskContract.WorksAtO
 kestrune_mutant(TaskWorksTwice ${SLEEP} TEST SleepingTaskContract.WorksAtOnceWhenItsSleepIsCancelled
     FROM "std::exchange(work, nullptr)" TO "work")
 
+kestrune_mutant(TaskThatIsAwakeIsWokenAgain FILE mac/MainActor.cpp ${VIEWS}
+    TEST SleepingTaskOnGNUstep.IsNotWokenAfterItsWork
+    FROM "        isAsleep = false;
+" TO "")
+kestrune_mutant(TaskIsWokenBeforeItSleeps FILE mac/MainActor.cpp ${VIEWS}
+    TEST SleepingTaskOnGNUstep.IsNotWokenBeforeItSleeps
+    FROM "if (state_->isAsleep)" TO "if (true)")
+
 set(ENCODING FILE mac/objc/TypeEncoding.cpp ${SELF_CHECK} TEST TypeEncoding.GivesEveryScalarOneLetter)
 kestrune_mutant(LongStaysLong ${ENCODING} FROM "return \"q\";" TO "return \"l\";")
 kestrune_mutant(UnsignedLongIsSigned ${ENCODING} FROM "return \"Q\";" TO "return \"q\";")

@@ -8,8 +8,10 @@ import subprocess
 import sys
 import threading
 
-# How random sessions and GoogleTest name what is wrong.
-FINDING = re.compile(r"^(?:Finding at seed |\[  FAILED  \] (?=\w+[./])).*", re.MULTILINE)
+# How random sessions, GoogleTest, and whoever runs each of its tests by itself name what is wrong.
+FINDING = re.compile(
+    r"^(?:Finding at seed .*|\[  FAILED  \] (?=\w+[./]).*|[\w./]+ ended with -?\d+(?=:$))", re.MULTILINE
+)
 
 _running = set()
 _lock = threading.Lock()

@@ -59,8 +59,12 @@ class Build:
         return objects
 
     def objects_of(self, file):
-        """The programs' objects that a file of the repository goes into, itself or by being included."""
-        return self._objects.get((self.root / file).resolve(), [])
+        """The programs' objects that a file of the repository goes into, itself or by being included.
+
+        Those of several files at a time come last, as they take the longest to compile.
+        """
+        objects = self._objects.get((self.root / file).resolve(), [])
+        return sorted(objects, key=lambda name: "/Unity/" in name)
 
 
 class Trial:

@@ -22,6 +22,7 @@ struct Descriptor {
     unsigned long size;
     void (*copy)(void* target, const void* source);
     void (*dispose)(const void* literal);
+    const char* signature;
 };
 
 struct Literal {
@@ -62,6 +63,11 @@ Class makeClass() {
 }
 
 } // namespace
+
+BlockLayout layoutOf(id block) {
+    const Literal& literal = *literalOf(block);
+    return {literal.flags, literal.descriptor->size, literal.descriptor->signature};
+}
 
 void callBlock(id block) { literalOf(block)->invoke(literalOf(block), nullptr); }
 

@@ -3,9 +3,19 @@
 
 #include "mac/objc/Runtime.h"
 
+#include <string>
+
 namespace kestrune::gnustep {
 
 // Calls a block without argument, or with nil as its only one.
 void callBlock(id block);
+
+// What the blocks runtime reads of a block, in the ABI's words.
+struct BlockLayout {
+    int flags;
+    unsigned long size;
+    std::string signature;
+};
+BlockLayout layoutOf(id block);
 
 } // namespace kestrune::gnustep

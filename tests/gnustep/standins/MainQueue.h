@@ -5,4 +5,7 @@ namespace kestrune::gnustep {
 
 void installMainQueue();
 
+// How much has been dispatched to it so far, apart from what is for later.
+unsigned dispatchedTasks();
+
 } // namespace kestrune::gnustep

@@ -1,0 +1,72 @@
+// What the binding makes by hand for the runtime: blocks, and classes.
+#include "mac/objc/Block.h"
+#include "mac/objc/Pool.h"
+#include "mac/objc/Retained.h"
+#include "mac/objc/RuntimeClass.h"
+#include "tests/gnustep/Send.h"
+#include "tests/gnustep/standins/Blocks.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace kestrune::gnustep {
+namespace {
+
+using mac::Block;
+using mac::RuntimeClass;
+
+// Source of the flags: clang.llvm.org/docs/Block-ABI-Apple.html; the blocks runtime frees what has bit 24.
+TEST(BlockOnGNUstep, IsLaidOutAsTheRuntimeReadsIt) {
+    const Block block([](id) {});
+    const BlockLayout layout = layoutOf(block.get());
+    constexpr int OneReference = 2;
+    EXPECT_EQ(layout.flags, OneReference | 1 << 24 | 1 << 25 | 1 << 30);
+    EXPECT_EQ(layout.size, 40U);
+    EXPECT_EQ(layout.signature, "v16@?0@8");
+}
+
+TEST(BlockOnGNUstep, KeepsItsFunctionUntilItsLastReferenceGoes) {
+    const auto kept = std::make_shared<int>(0);
+    id copied = nullptr;
+    {
+        const Block block([kept](id) { ++*kept; });
+        copied = static_cast<id>(_Block_copy(block.get()));
+    }
+    callBlock(copied);
+    EXPECT_EQ(*kept, 1);
+    EXPECT_EQ(kept.use_count(), 2);
+    _Block_release(copied);
+    EXPECT_EQ(kept.use_count(), 1);
+}
+
+TEST(RuntimeClassOnGNUstep, PointsAtNothingUntilItIsSaidAtWhat) {
+    const mac::Pool pool;
+    const Class made = RuntimeClass("RuntimeTestTarget").finish();
+    const auto instance = mac::Retained::adopting(send(send(reinterpret_cast<id>(made), "alloc"), "init"));
+    EXPECT_EQ(RuntimeClass::target(instance.get()), nullptr);
+    int target = 0;
+    RuntimeClass::setTarget(instance.get(), &target);
+    EXPECT_EQ(RuntimeClass::target(instance.get()), &target);
+    const Ivar variable = class_getInstanceVariable(made, "kestruneTarget");
+    EXPECT_STREQ(ivar_getTypeEncoding(variable), "^v");
+    EXPECT_EQ(ivar_getOffset(variable) % static_cast<std::ptrdiff_t>(sizeof(void*)), 0);
+}
+
+TEST(RuntimeClassOnGNUstepDeathTest, IsMadeOncePerName) {
+    EXPECT_DEATH(RuntimeClass("NSObject"), "There is a class named NSObject already.");
+}
+
+TEST(RuntimeClassOnGNUstepDeathTest, HasAMethodOnce) {
+    constexpr mac::ImplementedMethod<void()> method{"doSomething"};
+    EXPECT_DEATH(
+        {
+            RuntimeClass type("RuntimeTestMethods");
+            type.addMethod(method, [](id, SEL) noexcept {});
+            type.addMethod(method, [](id, SEL) noexcept {});
+        },
+        "There is a method doSomething already.");
+}
+
+} // namespace
+} // namespace kestrune::gnustep
