@@ -2,24 +2,10 @@
 #include "tests/contract/HostedViews.h"
 #include "tests/contract/SeenColors.h"
 #include "tests/contract/WindowFixture.h"
-#include "ui/SystemColor.h"
 #include "ui/View.h"
-
-#include <cmath>
 
 namespace kestrune::contract {
 namespace {
-
-// A colour that shines through lies over another one.
-SeenColor over(const SeenColor& below, const ui::Shade& shade) {
-    const auto blended = [&shade](int lower, std::uint32_t upper) {
-        return static_cast<int>(std::lround(lower + (static_cast<double>(upper) - lower) * shade.alpha));
-    };
-    return {blended(below.red, shade.hexadecimal >> 16), blended(below.green, shade.hexadecimal >> 8 & 0xFF),
-            blended(below.blue, shade.hexadecimal & 0xFF)};
-}
-
-SeenColor over(const SeenColor& below, ui::Color color) { return over(below, ui::systemColor(color).light); }
 
 SeenColor behindEverything() { return over({}, ui::WindowBackground.light); }
 

@@ -206,6 +206,18 @@ TEST_F(HostedControlsOnGNUstep, AreLeftAloneWhenTheirElementIsTheSame) {
     EXPECT_EQ(send<Rect>(toggle, "frame"), Rect(1, 2, 3, 4));
 }
 
+TEST_F(HostedControlsOnGNUstep, KeepTheirOrderUntilThereAreOthers) {
+    const id button = show(buttonOf(Kind::custom));
+    EXPECT_EQ(send(content(), "nextKeyView"), button);
+    send<void>(content(), "setNextKeyView:", content());
+    show(buttonOf(Kind::custom));
+    EXPECT_EQ(send(content(), "nextKeyView"), content());
+    ui::ButtonElement other = buttonOf(Kind::custom);
+    other.title = "Cancel";
+    EXPECT_NE(show(other), button);
+    EXPECT_EQ(send(content(), "nextKeyView"), show(other));
+}
+
 TEST_F(HostedControlsOnGNUstep, AreOthersWithAnotherTitle) {
     ui::ToggleElement toggle = toggleOf(ui::ControlSize::regular);
     const mac::Retained first = mac::Retained::retaining(show(toggle));

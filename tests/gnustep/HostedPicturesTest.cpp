@@ -1,9 +1,12 @@
 // What a symbol, a shape and whatever a button draws itself look like: which picture, where, in which colour.
+#include "mac/hosting/ElementViews.h"
 #include "mac/hosting/PlatformMeasurer.h"
 #include "mac/hosting/Symbols.h"
+#include "mac/objc/RuntimeClass.h"
 #include "tests/contract/SeenColors.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/ShownScene.h"
+#include "tests/gnustep/ShownWindows.h"
 #include "tests/gnustep/standins/Symbols.h"
 
 #include <cmath>
@@ -13,6 +16,7 @@ namespace kestrune::gnustep {
 namespace {
 
 using contract::Like;
+using contract::over;
 
 constexpr Rect ButtonFrame(20, 30, 60, 40);
 
@@ -125,6 +129,17 @@ TEST_F(HostedPicturesOnGNUstep, DrawASymbolInItsColourInAButton) {
     EXPECT_THAT(accent.at({30, 20}), Like(colorOf("controlAccentColor")));
 }
 
+TEST_F(HostedPicturesOnGNUstep, DrawASymbolTheRightWayUpInAButton) {
+    const ui::StyledSymbol dock{"dock.rectangle", ui::Font::system(25), ui::ImageScale::medium,
+                                ui::Color::green};
+    const ViewPicture picture = pictureOf(ui::SymbolElement{ButtonFrame, dock});
+    const Rect symbol = picture.inked();
+    const double middle = symbol.minX() + symbol.width() / 2;
+    const auto row = [&symbol](double part) { return symbol.minY() + symbol.height() * part; };
+    EXPECT_THAT(picture.at({middle, row(0.75)}), Like(colorOf("systemGreenColor")));
+    EXPECT_EQ(picture.at({middle, row(0.3)}), picture.at({0, 0}));
+}
+
 TEST_F(HostedPicturesOnGNUstep, DrawNothingForASymbolThatThePlatformDoesNotHave) {
     EXPECT_FALSE(mac::symbolImage({"no.such.symbol", {}}));
     EXPECT_EQ(pictureOf(ui::SymbolElement{{20, 30, 60, 40}, {"no.such.symbol", {}}}).ink(), 0);
@@ -166,6 +181,39 @@ TEST_F(HostedPicturesOnGNUstep, FillAShapeThatIsAViewOfItsOwn) {
     EXPECT_EQ(show(shape), view);
     EXPECT_NE(send<BOOL>(view, "needsDisplay"), 0);
     EXPECT_THAT(ViewPicture(view).at({20, 15}), Like(colorOf("controlAccentColor")));
+}
+
+TEST_F(HostedPicturesOnGNUstep, DrawAShapeOfALinkAsTransparentAsBothSay) {
+    ui::ShapeElement shape;
+    shape.frame = {30, 34, 40, 30};
+    shape.fill = ui::Color::accent;
+    shape.opacity = 0.5;
+    ui::ButtonElement link = buttonThatDraws(shape);
+    link.kind = ui::ButtonElement::Kind::link;
+    const id button = show(link);
+    highlight(button, true);
+    const ViewPicture picture(button);
+    ui::Shade dimmed = ui::systemColor(ui::Color::accent).light;
+    dimmed.alpha = 0.5 * 0.55;
+    EXPECT_THAT(picture.at({30, 19}), Like(over(picture.at({0, 0}), dimmed)));
+}
+
+TEST_F(HostedPicturesOnGNUstep, DrawNothingBeforeTheirFirstElementAndAfterTheirLast) {
+    const auto early = mac::makeDrawnButton(content());
+    EXPECT_NE(mac::RuntimeClass::target(early->view()), nullptr);
+    send<void>(early->view(), "drawFocusRingMask");
+    send<void>(send(early->view(), "cell"), "drawWithFrame:inView:", Rect(), early->view());
+    ui::ShapeElement shape;
+    shape.frame = {30, 34, 40, 30};
+    for (const ui::Element& element : {ui::Element(buttonThatDraws(shape)), ui::Element(shape)}) {
+        const mac::Retained late = mac::Retained::retaining(show(element));
+        scene_.show({});
+        EXPECT_EQ(mac::RuntimeClass::target(late.get()), nullptr);
+        send<void>(content(), "addSubview:", late.get());
+        EXPECT_EQ(ViewPicture(late.get()).ink(), 0);
+        EXPECT_NE(send<BOOL>(late.get(), "isFlipped"), 0);
+        send<void>(late.get(), "removeFromSuperview");
+    }
 }
 
 TEST_F(HostedPicturesOnGNUstep, DrawAButtonAgainWhenWhatItShowsIsAnother) {

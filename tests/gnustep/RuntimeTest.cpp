@@ -22,6 +22,8 @@ TEST(BlockOnGNUstep, IsLaidOutAsTheRuntimeReadsIt) {
     const BlockLayout layout = layoutOf(block.get());
     constexpr int OneReference = 2;
     EXPECT_EQ(layout.flags, OneReference | 1 << 24 | 1 << 25 | 1 << 30);
+    EXPECT_EQ(layout.reserved, 0);
+    EXPECT_EQ(layout.reservedOfDescriptor, 0U);
     EXPECT_EQ(layout.size, 40U);
     EXPECT_EQ(layout.signature, "v16@?0@8");
 }
@@ -48,9 +50,17 @@ TEST(RuntimeClassOnGNUstep, PointsAtNothingUntilItIsSaidAtWhat) {
     int target = 0;
     RuntimeClass::setTarget(instance.get(), &target);
     EXPECT_EQ(RuntimeClass::target(instance.get()), &target);
-    const Ivar variable = class_getInstanceVariable(made, "kestruneTarget");
-    EXPECT_STREQ(ivar_getTypeEncoding(variable), "^v");
-    EXPECT_EQ(ivar_getOffset(variable) % static_cast<std::ptrdiff_t>(sizeof(void*)), 0);
+    EXPECT_STREQ(ivar_getTypeEncoding(class_getInstanceVariable(made, "kestruneTarget")), "^v");
+}
+
+TEST(RuntimeClassOnGNUstep, KeepsItsTargetBehindWhatTheSuperclassKeepsAndAligned) {
+    const Class superclass = objc_allocateClassPair(classNamed("NSObject"), "RuntimeTestSuperclass", 0);
+    class_addIvar(superclass, "pointer", sizeof(void*), 3, "^v");
+    class_addIvar(superclass, "truth", 1, 0, "B");
+    objc_registerClassPair(superclass);
+    const Class made = RuntimeClass("RuntimeTestSubclass", superclass).finish();
+    EXPECT_EQ(ivar_getOffset(class_getInstanceVariable(superclass, "truth")), 16);
+    EXPECT_EQ(ivar_getOffset(class_getInstanceVariable(made, "kestruneTarget")), 24);
 }
 
 TEST(RuntimeClassOnGNUstepDeathTest, IsMadeOncePerName) {

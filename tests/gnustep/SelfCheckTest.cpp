@@ -255,6 +255,7 @@ TEST(SelfCheck, FindsDeliberateMistakes) {
     static constinit const Mistakes mistakes;
     const std::array<const mac::Framework*, 1> frameworks = {&mistakes};
     const mac::SelfCheckResult result = mac::checkVocabulary(frameworks);
+    EXPECT_EQ(result.classes, 5U);
     EXPECT_EQ(result.messages, 5U);
     EXPECT_THAT(result.missingClasses, ElementsAre("NSScren"));
     EXPECT_THAT(result.missingMethods,

@@ -134,6 +134,10 @@ void click(id view) {
           send<Point>(view, "convertPoint:toView:", Point{size.width / 2, size.height / 2}, id{}));
 }
 
+void highlight(id button, bool isPressed) {
+    send<void>(send(button, "cell"), "setHighlighted:", mac::truth(isPressed));
+}
+
 void pressKeyInWindow(std::string_view character, EventModifierFlags modifiers) {
     const id window = send(NSApp, "keyWindow");
     if (window == nullptr) {

@@ -26,6 +26,9 @@ id buttonNamed(id window, std::string_view title);
 void clickTitleBar(id window);
 void click(id view);
 
+// As a button is while the mouse is held on it, or again after that.
+void highlight(id button, bool isPressed);
+
 // An event of the keyboard, for the key window.
 void pressKeyInWindow(std::string_view character, EventModifierFlags modifiers);
 

@@ -64,10 +64,6 @@ protected:
                    send(classObject("NSDate"), "date"));
     }
 
-    static void highlight(id button, bool isPressed) {
-        send<void>(send(button, "cell"), "setHighlighted:", mac::truth(isPressed));
-    }
-
     id window() const { return window_->state()->window.get(); }
     id button(std::string_view title) const { return buttonNamed(window(), title); }
     std::vector<id> views(const char* className) const { return viewsIn(window(), className); }
@@ -289,6 +285,7 @@ TEST_F(HostedViewOnGNUstep, LetsAWindowFollowAHostingView) {
     const HostingView content(
         {[this] { return ui::RoundedRectangle({}).frame({.width = 240, .height = 90.0 + model_->value}); },
          model_});
+    EXPECT_EQ(send<Rect>(content.state()->view.get(), "frame"), Rect(0, 0, 240, 90));
     window_->setContentView(content);
     show(*window_);
     EXPECT_EQ(send(window(), "contentView"), content.state()->view.get());

@@ -66,7 +66,8 @@ Class makeClass() {
 
 BlockLayout layoutOf(id block) {
     const Literal& literal = *literalOf(block);
-    return {literal.flags, literal.descriptor->size, literal.descriptor->signature};
+    const Descriptor& descriptor = *literal.descriptor;
+    return {literal.flags, literal.reserved, descriptor.reserved, descriptor.size, descriptor.signature};
 }
 
 void callBlock(id block) { literalOf(block)->invoke(literalOf(block), nullptr); }

@@ -13,6 +13,8 @@ void callBlock(id block);
 // What the blocks runtime reads of a block, in the ABI's words.
 struct BlockLayout {
     int flags;
+    int reserved;
+    unsigned long reservedOfDescriptor;
     unsigned long size;
     std::string signature;
 };
