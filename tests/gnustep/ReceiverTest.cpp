@@ -48,5 +48,15 @@ TEST_F(ReceiverOnGNUstep, DoesNothingForAnActionThatItsObjectDoesNotHave) {
     EXPECT_THAT(target->received(), SizeIs(0));
 }
 
+// The platform's own would go on to the other one here, and end the process all the same.
+TEST_F(ReceiverOnGNUstep, RefusesBothWaysInWhichThePlatformMakesItsOwnWindowController) {
+    const contract::RecordingWindowController known(makeWindow("one"));
+    for (const char* const initializer : {"initWithCoder:", "initWithWindow:"}) {
+        const SEL selector = sel_registerName(initializer);
+        EXPECT_NE(class_getMethodImplementation(classNamed("RecordingWindowController"), selector),
+                  class_getMethodImplementation(classNamed("NSWindowController"), selector));
+    }
+}
+
 } // namespace
 } // namespace kestrune::gnustep

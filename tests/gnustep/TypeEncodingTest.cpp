@@ -10,6 +10,19 @@ namespace {
 
 using mac::normalizedEncoding;
 
+template <typename... Arguments>
+std::string encodingOf() {
+    return mac::EncodingOfMethod<Arguments...>.data();
+}
+
+TEST(TypeEncoding, OfAMethodIsMadeOfThoseOfItsTypes) {
+    EXPECT_EQ((encodingOf<void, bool, signed char, unsigned char, double, float>()), "v@:BcCdf");
+    EXPECT_EQ((encodingOf<int, unsigned, long, unsigned long, long long, unsigned long long>()), "i@:IqQqQ");
+    EXPECT_EQ((encodingOf<id, id*, Class, SEL, const char*, const void*>()), "@@:^@#:*^v");
+    EXPECT_EQ((encodingOf<Rect, Point, Size>()), "{CGRect={CGPoint=dd}{CGSize=dd}}@:{CGPoint=dd}{CGSize=dd}");
+    EXPECT_EQ(encodingOf<OperatingSystemVersion>(), "{?=qqq}@:");
+}
+
 TEST(TypeEncoding, GivesEveryScalarOneLetter) {
     EXPECT_EQ(normalizedEncoding("cCBislqISLQfdv*#:"), "BBBisqqISQQfdv*#:");
 }
