@@ -141,6 +141,17 @@ class ByRule(MutantsTest):
             last, f"{killed} of {counted} mutants killed, {share}; {len(report)} are known, seed 1"
         )
 
+    def test_counts_nothing_that_another_file_does_not_compile_with(self):
+        self.sources["a folder/base/Small.h"] = HEADER + "constexpr int size() { return 4; }\n"
+        self.sources["a folder/base/Small.cpp"] = SOURCE + "int sized() { return size(); }\n"
+        self.sources["a folder/tests/ui_tests.cpp"] = (
+            '#include "base/Small.h"\nstatic_assert(size() == 4);\n' + NOTHING
+        )
+        self.configure_small()
+        report = self.report("--count", "1000")
+        begin = "not counted: base/Small.h:5: constant: 4 -> 5: does not compile"
+        self.assertEqual(len([line for line in report if line.startswith(begin)]), 1, report)
+
     def test_judges_files_that_are_compiled_as_one(self):
         self.configure_small("-D", "JOINED=ON")
         report = self.report("--count", "1000")
