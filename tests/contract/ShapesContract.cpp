@@ -36,10 +36,12 @@ TEST_F(ShapesContract, FillTheirFrame) {
 }
 
 TEST_F(ShapesContract, LetThroughWhatIsBehindThem) {
-    hostShape({.fill = ui::Color::green, .opacity = 0.5});
-    ui::Shade half = ui::systemColor(ui::Color::green).light;
-    half.alpha = 0.5;
-    EXPECT_THAT(at(100, 80), Like(over(behindEverything(), half)));
+    for (const ui::Color color : {ui::Color::green, ui::Color::secondary}) {
+        hostShape({.fill = color, .opacity = 0.5});
+        ui::Shade half = ui::systemColor(color).light;
+        half.alpha *= 0.5;
+        EXPECT_THAT(at(100, 80), Like(over(behindEverything(), half)));
+    }
 }
 
 // Where a quarter circle has reached the edge, a corner that eases into it has not.

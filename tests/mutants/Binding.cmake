@@ -1,6 +1,7 @@
 # Mistakes in the binding to the platform, beside its views.
 set(CONTRACT DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_standins)
 set(SELF_CHECK DRIVER selfcheck_tests_gnustep_driver kestrune_standins)
+set(APPLICATION DRIVER application_tests_gnustep_driver kestrune_kestrune kestrune_standins)
 set(VIEWS DRIVER window_tests_gnustep_driver kestrune_standins)
 
 kestrune_mutant(MissingImageIsThere FILE mac/Image.cpp ${CONTRACT}
@@ -47,3 +48,24 @@ kestrune_mutant(WindowIsNotKeptForThisTurn FILE mac/hosting/HostedView.cpp ${VIE
 kestrune_mutant(RemovedViewIsNotKeptForThisTurn FILE mac/hosting/SceneView.cpp ${VIEWS}
     TEST HostedViewOnGNUstep.KeepsAViewThatGoesUntilItsTurnIsOver
     FROM "keepForThisTurn(view->view());" TO "")
+
+kestrune_mutant(MissingProtocolIsNamedEachTime FILE mac/Protocols.cpp ${APPLICATION}
+    TEST ProtocolsOnGNUstep.AreNamedOnceWhenTheyAreMissing
+    FROM "logged.insert(protocolName).second" TO "true")
+kestrune_mutant(MenusDelegateIsNone FILE mac/ObjectClass.cpp ${APPLICATION}
+    TEST ProtocolsOnGNUstep.AreAdoptedByEveryDelegate
+    FROM "        adopt(type, \"NSMenuDelegate\");
+" TO "")
+kestrune_mutant(WindowsDelegateIsAMenus FILE mac/ObjectClass.cpp ${APPLICATION}
+    TEST ProtocolsOnGNUstep.AreAdoptedByTheWizards
+    FROM "adopt(type, \"NSWindowDelegate\")" TO "adopt(type, \"NSMenuDelegate\")")
+
+set(LOG FILE mac/Log.cpp ${CONTRACT})
+kestrune_mutant(SubsystemIsTheCategory ${LOG} TEST LogContract.KeepsAnErrorWithItsSubsystemAndCategory
+    FROM "os_log_create(std::string(subsystem).c_str(), std::string(category).c_str())"
+    TO "os_log_create(std::string(category).c_str(), std::string(subsystem).c_str())")
+kestrune_mutant(ArgumentDoesNotEnd ${LOG} TEST LogContract.FillsATextIntoAFormatAndKeepsThat
+    FROM "argument(text.c_str())" TO "argument(publicString.data())")
+kestrune_mutant(ErrorIsForDebugging ${LOG} TEST LogContract.KeepsAnErrorWithItsSubsystemAndCategory
+    FROM "write(state_->log, ErrorType, _os_log_error_impl, message)"
+    TO "write(state_->log, DebugType, _os_log_debug_impl, message)")

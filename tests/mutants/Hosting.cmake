@@ -146,3 +146,50 @@ kestrune_picture_mutant(FocusRingHasNoBounds DrawnButton DrawTheFocusRingAroundT
 " "")
 kestrune_picture_mutant(ButtonIsNotDrawnAgain DrawnButton DrawAButtonAgainWhenWhatItShowsIsAnother
     "appKit.view.setNeedsDisplay(view(), truth(true));" "")
+
+# kestrune_shape_mutant(NAME FILE TEST FROM TO): found by the pixels that a window shows.
+function(kestrune_shape_mutant name file test from to)
+    kestrune_mutant(${name} FILE ${file}.cpp TEST ShapesContract.${test} FROM "${from}" TO "${to}"
+        DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_standins)
+endfunction()
+kestrune_shape_mutant(EveryCornerIsContinuous ui/Outline HaveCircularCorners
+    "shape.cornerStyle == CornerStyle::continuous" "true")
+kestrune_shape_mutant(NoCornerIsContinuous ui/Outline HaveContinuousCorners
+    "shape.cornerStyle == CornerStyle::continuous" "false")
+kestrune_shape_mutant(CornersAreStraight mac/hosting/Drawing HaveCircularCorners
+    "        appKit.bezierPath.curveToPoint(path, side.curveEnd, side.firstControl, side.secondControl);
+" "        appKit.bezierPath.lineToPoint(path, side.curveEnd);
+")
+kestrune_shape_mutant(EdgesAreFilled mac/hosting/Drawing DrawALineAlongTheInsideOfTheirEdge
+    "appKit.bezierPath.stroke(path)" "appKit.bezierPath.fill(path)")
+kestrune_shape_mutant(EveryLineIsAPointWide mac/hosting/Drawing DrawALineAlongTheInsideOfTheirEdge
+    "            appKit.bezierPath.setLineWidth(path, element.lineWidth);
+" "")
+kestrune_shape_mutant(OpacityIsInsteadOfTheColoursOwn mac/hosting/Colors LetThroughWhatIsBehindThem
+    "appKit.color.alphaComponent(opaque) * opacity" "opacity")
+
+kestrune_mutant(TheNewestNameIsTheOnlyOne FILE mac/hosting/Colors.cpp
+    DRIVER selfcheck_tests_gnustep_driver kestrune_standins
+    TEST SystemColors.AreOlderOnesWhereTheSystemHasNoNewer
+    FROM "name != names.end() ? *name : names.front()" TO "names.front()")
+
+# The table of the system's colours is one object, whoever includes it: a wrong one has a program of its own.
+set(TABLE FILE ui/SystemColor.h COMPILES tests/ui/SystemColorTest.cpp
+    DRIVER kestrune_ui kestrune_options GTest::gtest_main
+    TEST SystemColors.HaveNamesOfTheirOwnOfWhichOneIsOnEverySystem)
+kestrune_mutant(GreenIsTheLinks ${TABLE} FROM "{{\"systemGreenColor\"}" TO "{{\"linkColor\"}")
+kestrune_mutant(OlderSystemsHaveNoBorder ${TABLE}
+    FROM "{{\"quaternarySystemFillColor\", \"quaternaryLabelColor\"}" TO "{{\"quaternarySystemFillColor\"}")
+
+# kestrune_accessibility_mutant(NAME FROM TO): in what VoiceOver is told.
+function(kestrune_accessibility_mutant name from to)
+    kestrune_mutant(${name} FILE mac/hosting/Accessibility.cpp FROM "${from}" TO "${to}"
+        TEST HostingContract.TellsVoiceOverWhatToReadAndWhatToPassOver
+        DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_standins)
+endfunction()
+kestrune_accessibility_mutant(CellIsReadOutAnyway
+    "    appKit.cell.setAccessibilityElement(cellOf(view), truth(isElement));
+" "")
+kestrune_accessibility_mutant(CellHasNoLabel
+    "    appKit.cell.setAccessibilityLabel(cellOf(view), text.get());
+" "")
