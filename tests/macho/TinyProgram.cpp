@@ -42,7 +42,7 @@ public:
     }
     Writer& text(std::string_view text, std::size_t size) {
         content_.insert(content_.end(), text.begin(), text.end());
-        content_.resize(content_.size() + size - text.size());
+        content_.insert(content_.end(), size - text.size(), 0);
         return *this;
     }
     Writer& append(const Content& more) {
