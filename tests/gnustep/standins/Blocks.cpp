@@ -70,7 +70,10 @@ BlockLayout layoutOf(id block) {
     return {literal.flags, literal.reserved, descriptor.reserved, descriptor.size, descriptor.signature};
 }
 
-void callBlock(id block) { literalOf(block)->invoke(literalOf(block), nullptr); }
+// As everybody who calls a block: its function knows it by another type than the caller.
+__attribute__((no_sanitize("undefined"))) void callBlock(id block) {
+    literalOf(block)->invoke(literalOf(block), nullptr);
+}
 
 extern "C" void* _Block_copy(const void* block) {
     std::atomic_ref(literalOf(block)->flags).fetch_add(OneReference);
