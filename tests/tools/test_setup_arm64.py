@@ -65,6 +65,13 @@ class Arm64(DebianTest):
         self.assert_stands()
         self.assertEqual(self.set_up("arm64")[1], [])
 
+    def test_is_looked_at_again_by_the_build_for_it_alone(self):
+        for build in ("gcc", "arm64"):
+            self.configured(build)
+        self.set_up("arm64")
+        marked = [path.parent.name for path in self.folder.glob("build/*/configure-afresh")]
+        self.assertEqual(marked, ["arm64"])
+
     def test_is_unpacked_by_no_other_group(self):
         self.set_up("test", "app", "gcc")
         self.assertFalse(self.place.exists())
