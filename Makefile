@@ -122,13 +122,19 @@ test:
 endif
 endif
 
-# clang-tidy understands the flags of clang++ only. What both implementations define is seen where they are
-# built.
-check: override PRESET = check
-check: override WARNINGS_AS_ERRORS = ON
-check:
+# What both implementations define is seen where they are built.
+.PHONY: implementations
+implementations: override PRESET = gcc
+implementations:
 	$(call build,check app,kestrune_contract kestrune_sim kestrune_mac)
-	@tools/check --build $(DIR)
+
+# clang-tidy understands the flags of clang++ only, and builds nothing.
+check: private override PRESET = check
+check: private override WARNINGS_AS_ERRORS = ON
+check: implementations
+	@tools/setup check app $(PRESET)
+	$(configure)
+	@tools/check --build $(DIR) --build build/gcc
 
 bench:
 	$(call build,bench $(for_macs),bench)

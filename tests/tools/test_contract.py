@@ -66,6 +66,10 @@ class Contract(TreeTest):
         examined = self.run_check(contract, {}, [build]).examined
         self.assertEqual(examined, "2 functions and 1 callbacks of the seam")
 
+    def test_looks_into_the_build_that_is_built(self):
+        build = self.build()
+        self.assert_clean(contract, FILES, builds=[self.root / "build/check", build])
+
     def test_finds_a_function_that_one_of_them_lacks(self):
         build = self.build(mac=IMPLEMENTATION.replace("void Timer::invalidate(int) {}", ""))
         self.assert_found(

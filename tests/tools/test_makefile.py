@@ -101,7 +101,8 @@ class Configuration(MakefileTest):
 
 class Warnings(MakefileTest):
     def test_are_errors_in_the_check(self):
-        self.assertEqual(self.configurations("check"), self.configuration("check", True))
+        implementations = self.configuration("gcc", False)
+        self.assertEqual(self.configurations("check"), implementations + self.configuration("check", True))
 
     def test_are_none_for_whoever_builds(self):
         self.assertEqual(self.configurations("test"), self.configuration("gcc", False))
@@ -140,7 +141,7 @@ class FolderWithASpace(MakefileTest):
         self.assertEqual(self.make("run")[-1], "desk --tour out/tour")
 
     def test_is_checked(self):
-        self.assertEqual(self.make("check")[-1], "check --build build/check")
+        self.assertEqual(self.make("check")[-1], "check --build build/check --build build/gcc")
 
 
 if __name__ == "__main__":

@@ -46,6 +46,12 @@ class Tidy(TreeTest):
         database.write_text(text, encoding="utf-8")
         self.assert_found(tidy, {}, "base/A.h:3: invalid case style for struct 'bad_name'", builds=[build])
 
+    def test_follows_what_happens_in_each_of_several_files(self):
+        build = self.configure("clang", ["base/A.cpp", "base/B.cpp"])
+        bad = "int value(const int* number) {\n    number = nullptr;\n    return *number;\n}\n"
+        files = {"base/A.h": HEADER, "base/A.cpp": GOOD, "base/B.cpp": bad}
+        self.assert_found(tidy, files, "base/B.cpp:3: Dereference of null pointer", builds=[build])
+
     def test_finds_a_mistake_in_one_of_several_tests(self):
         build = self.configure("clang", ["tests/base/ATest.cpp", "tests/base/BTest.cpp"])
         good = "int same(int value) { return value; }\n"
@@ -53,7 +59,7 @@ class Tidy(TreeTest):
         files = {"tests/base/ATest.cpp": good, "tests/base/BTest.cpp": bad}
         self.assert_found(tidy, files, "tests/base/BTest.cpp:1: both sides of operator", builds=[build])
 
-    def test_does_not_mind_that_two_tests_have_names_in_common(self):
+    def test_does_not_mind_that_two_files_have_names_in_common(self):
         build = self.configure("clang", ["tests/base/ATest.cpp", "tests/base/BTest.cpp"])
         text = "namespace {\nconstexpr int Width = 5;\n} // namespace\nint %s() { return Width; }\n"
         files = {"tests/base/ATest.cpp": text % "widthOfA", "tests/base/BTest.cpp": text % "widthOfB"}

@@ -17,18 +17,20 @@ _CALLBACK = re.compile(r"^\s*virtual\b.*?\b(\w+)\([^)]*\)[^;]*= 0;", re.MULTILIN
 
 
 def run(tree):
-    findings, counts = [], []
+    findings, counts, not_built = [], [], []
     for build in tree.builds:
         files = [build / archive for archive in IMPLEMENTATIONS.values()]
         suites = sorted((build / SUITES).rglob("*.o"))
         missing = [file for file in files if not file.exists()] + ([] if suites else [build / SUITES])
         if missing:
-            findings += [Finding(str(file), 1, "is not built; build it first") for file in missing]
+            not_built += [Finding(str(file), 1, "is not built; build it first") for file in missing]
             continue
         found = {name: _functions(build / archive, name) for name, archive in IMPLEMENTATIONS.items()}
         called = _symbols(suites, "--undefined-only")
         findings += _only_in_one(found) + _not_called(set.union(*found.values()), called)
         counts.append(len(set.union(*found.values())))
+    if not counts:
+        findings += not_built
     callbacks = [(path, name) for path in _seam(tree) for name in _CALLBACK.findall(tree.text(path))]
     suites = "\n".join(tree.text(path) for path in tree.cpp_files if path.startswith("tests/contract/"))
     findings += [

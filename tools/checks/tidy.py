@@ -27,8 +27,7 @@ bool probe(const badly_named& object) { return object.isItself(1); }
 """
 PROBE_CHECKS = {"readability-identifier-naming", "misc-redundant-expression"}
 
-# Most of the time goes into the headers of the test framework, so tests are looked at several at a time.
-JOINED_FOLDER = "tests"
+# Most of the time goes into the headers of the libraries, so files are looked at several at a time.
 JOINED_FILES = 12
 
 
@@ -44,13 +43,11 @@ def run(tree):
             concurrent.futures.ThreadPoolExecutor(max_workers=os.cpu_count()) as pool,
         ):
             joined = _joined_files(tree, files, pathlib.Path(database))
-            single = sorted(set(files).difference(*joined.values()))
             # A file that is there twice would be looked at twice.
             entries = [tree.compiled[path] for path in files]
             entries += [_entry_of_joined(tree, *each) for each in joined.items()]
             pathlib.Path(database, "compile_commands.json").write_text(json.dumps(entries), encoding="utf-8")
             looks = [pool.submit(_joined_findings, tree, *each, database) for each in joined.items()]
-            looks += [pool.submit(_file_findings, tree, path, database) for path in single]
             for look in looks:
                 findings += look.result()
     # A header's finding appears with each file that includes it.
@@ -83,23 +80,24 @@ def _configuration_findings(tree):
 
 
 def _joined_files(tree, files, folder):
-    """New sources that each include some tests compiled alike, beside copies of our configuration."""
+    """New sources that each include some files of a folder compiled alike, beside copies of our configuration."""
     alike = {}
     for path in files:
-        if path.startswith(JOINED_FOLDER + "/"):
-            alike.setdefault(tuple(_flags(tree.compiled[path])), []).append(path)
+        alike.setdefault((path.split("/")[0], *_flags(tree.compiled[path])), []).append(path)
     groups = [
-        paths[start : start + JOINED_FILES]
-        for paths in alike.values()
+        (own_folder, paths[start : start + JOINED_FILES])
+        for (own_folder, *_), paths in alike.items()
         for start in range(0, len(paths), JOINED_FILES)
     ]
-    (folder / JOINED_FOLDER).mkdir()
-    for configuration in (".clang-tidy", f"{JOINED_FOLDER}/.clang-tidy"):
-        if configuration in tree.files:
-            shutil.copy(tree.root / configuration, folder / configuration)
+    for path in tree.files:
+        if path.split("/")[-1] == ".clang-tidy":
+            copy = folder / path
+            copy.parent.mkdir(exist_ok=True)
+            shutil.copy(tree.root / path, copy)
     joined = {}
-    for number, group in enumerate(groups):
-        source = folder / JOINED_FOLDER / f"joined{number}.cpp"
+    for number, (own_folder, group) in enumerate(groups):
+        source = folder / own_folder / f"joined{number}.cpp"
+        source.parent.mkdir(exist_ok=True)
         lines = [f'#include "{tree.root / path}"\n' for path in group]
         source.write_text("".join(lines), encoding="utf-8")
         joined[source] = group

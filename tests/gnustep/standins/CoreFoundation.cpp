@@ -56,8 +56,6 @@ const void* valueOfKey(CFDictionaryRef dictionary, const void* key) {
 
 extern "C" {
 
-CFTypeRef CFRetain(CFTypeRef object) { return mac::foundation.object.retain(objectOf(object)); }
-
 void CFRelease(CFTypeRef object) { mac::foundation.object.release(objectOf(object)); }
 
 // Its entries are constants, which need no retaining.

@@ -4,6 +4,7 @@
 // connection of its display, and its string belongs to whoever asked for it.
 #include "tests/gnustep/standins/DisplayUUIDs.h"
 
+#include "mac/Vocabulary.h"
 #include "mac/c/Quartz.h"
 #include "mac/objc/Text.h"
 #include "tests/gnustep/standins/CoreFoundation.h"
@@ -43,7 +44,7 @@ CFStringRef CFUUIDCreateString(CFAllocatorRef /*allocator*/, CFUUIDRef uuid) {
         return nullptr;
     }
     const mac::Retained string = mac::nsString(Subclass<UUID>::of(objectOf(uuid)).text);
-    return static_cast<CFStringRef>(CFRetain(string.get()));
+    return reinterpret_cast<CFStringRef>(mac::foundation.object.retain(string.get()));
 }
 
 } // extern "C"
