@@ -80,7 +80,7 @@ def _configuration_findings(tree):
 
 
 def _joined_files(tree, files, folder):
-    """New sources that each include some files of a folder compiled alike, beside copies of our configuration."""
+    """New sources, each of some files of a folder that are compiled alike, beside our configuration."""
     alike = {}
     for path in files:
         alike.setdefault((path.split("/")[0], *_flags(tree.compiled[path])), []).append(path)
