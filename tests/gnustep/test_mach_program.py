@@ -32,6 +32,9 @@ class MachProgram(TreeTest):
     def test_that_is_not_there(self):
         self.assert_refused(pathlib.Path("/nowhere/Kestrune"), "No such file or directory")
 
+    def test_that_is_a_folder(self):
+        self.assert_refused(self.root, "Is a directory")
+
     def test_of_another_kind(self):
         self.write({"script": "#!/bin/sh\n"})
         self.assert_refused(self.root / "script", "is no Mach-O file")

@@ -35,16 +35,15 @@ FileTree FileTree::below(const std::string& path) const {
     return tree;
 }
 
-FileContent readFile(const std::string& path) {
+FileContent readFile(const std::string& path) try {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
         refuse(path, std::error_code(errno, std::generic_category()));
     }
-    FileContent content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (!file) {
-        refuse(path, std::make_error_code(std::errc::io_error));
-    }
-    return content;
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+} catch (const std::ios_base::failure& error) {
+    // The iterators read from the buffer, which throws, as for a folder, whatever the stream is set to.
+    refuse(path, error.code());
 }
 
 FileTree readFileTree(const std::string& path, const std::string& name) try {

@@ -86,6 +86,7 @@ class Limits(TreeTest):
         self.write({"script": "#!/bin/sh\n"})
         self.assert_unreadable(f"{script}: is no Mach-O file: it starts with 0x622f2123", script, sdk)
         self.assert_unreadable(f"{self.root}/none: No such file or directory", self.root / "none", sdk)
+        self.assert_unreadable(f"{self.root}: Is a directory", self.root, sdk)
         self.assert_unreadable(f"{self.root}/none: No such file or directory", program, self.root / "none")
         self.sdk("exports:\n  - targets: [ i386-macos ]\n    symbols: [ _a ]\ninstall-name: A\n")
         message = "usr/lib/libSystem.tbd: i386-macos is no target that is known here"

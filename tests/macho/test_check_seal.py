@@ -349,6 +349,9 @@ class Input(SealedApplication):
             result.stderr, f"kestrune-check-seal: {self.root}/Other.app: No such file or directory\n"
         )
 
+    def test_that_is_no_folder_is_named(self):
+        self.assert_refused(self.program, f"{self.program}: Not a directory", status=2)
+
     def test_that_is_neither_file_nor_folder_is_named(self):
         os.mkfifo(self.contents / "Resources/pipe")
         result = self.check(self.app)
