@@ -1,6 +1,7 @@
 #include "tests/macho/Limits.h"
 
 #include "tests/macho/Fixups.h"
+#include "tests/macho/MissingImports.h"
 
 #include <string>
 #include <string_view>
@@ -40,7 +41,7 @@ public:
                      version.minimumSystem,
                      version.sdk,
                      {},
-                     {}};
+                     missingImports(slice_, fixups.imports, stubs_)};
         compare(measures_.bytes, limits_.bytes, "bytes");
         compare(measures_.initializers, limits_.initializers, "initializers before main");
         compare(measures_.imports, limits_.imports, "imports");
@@ -49,15 +50,11 @@ public:
         }
         compare(version.minimumSystem, limits_.minimumSystem, "is for macOS ");
         compare(version.sdk, limits_.sdk, "names the SDK ");
-        for (const Import& import : fixups.imports) {
-            lookUp(import);
-        }
         return std::move(measures_);
     }
 
 private:
     void complain(const std::string& what) { measures_.violations.push_back(slice_.name() + ": " + what); }
-    void miss(const std::string& what) { measures_.missing.push_back(slice_.name() + ": imports " + what); }
 
     void compare(std::uint64_t number, std::uint64_t limit, std::string_view what) {
         if (number > limit) {
@@ -69,21 +66,6 @@ private:
     void compare(const Version& version, const Version& wanted, const std::string& what) {
         if (version != wanted) {
             complain(what + version.text() + ", not " + wanted.text());
-        }
-    }
-
-    // What any library may have, the loader would look for in all of them at every start.
-    void lookUp(const Import& import) {
-        if (import.ordinal <= 0) {
-            miss(printable(import.name) + " from no library in particular");
-            return;
-        }
-        const std::string_view library =
-            slice_.libraries()[static_cast<std::size_t>(import.ordinal) - 1].installName;
-        if (!stubs_.knows(library)) {
-            miss("from " + printable(library) + ", which no stub is about");
-        } else if (!stubs_.has(library, import.name, slice_.processor())) {
-            miss(printable(import.name) + ", which is not in the stub of " + printable(library));
         }
     }
 

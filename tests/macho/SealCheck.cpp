@@ -3,6 +3,7 @@
 #include "tests/macho/CodeSignature.h"
 #include "tests/macho/Fixups.h"
 #include "tests/macho/MachFile.h"
+#include "tests/macho/MissingImports.h"
 #include "tests/macho/PropertyListFile.h"
 #include "tests/macho/ResourceSeal.h"
 #include "tests/macho/SealError.h"
@@ -43,10 +44,23 @@ struct Sealed {
     const FileContent* resources = nullptr;
     std::string resourcesName;
     std::optional<std::string> identifier;
+    const TextStubs* stubs = nullptr; // what its imports have to be in
 };
 
 std::optional<std::span<const std::uint8_t>> contentOf(const FileContent* file) {
     return file ? std::optional<std::span<const std::uint8_t>>(*file) : std::nullopt;
+}
+
+void checkImports(const MachSlice& slice, const TextStubs* stubs) {
+    // Older ways to say what has to be fixed up are not read; frameworks for older systems have them.
+    if (!stubs && !slice.command(Command::chainedFixups)) {
+        return;
+    }
+    const Fixups fixups = readFixups(slice);
+    const auto missing = stubs ? missingImports(slice, fixups.imports, *stubs) : std::vector<std::string>();
+    if (!missing.empty()) {
+        throw MachError(missing.front());
+    }
 }
 
 SealedHalf checkHalf(const MachSlice& slice, const Sealed& sealed) {
@@ -62,10 +76,7 @@ SealedHalf checkHalf(const MachSlice& slice, const Sealed& sealed) {
     if (!signature.covers(Slot::resources, contentOf(sealed.resources))) {
         refuse(sealed.resourcesName, "is not the one that was sealed with " + slice.name());
     }
-    // Older ways to say what has to be fixed up are not read; frameworks for older systems have them.
-    if (slice.command(Command::chainedFixups)) {
-        readFixups(slice);
-    }
+    checkImports(slice, sealed.stubs);
     const auto version = slice.buildVersion();
     return {slice.processor(),    slice.content().size(), version ? version->minimumSystem : Version(),
             signature.identifier, signature.cdhash,       signature.pages.size()};
@@ -81,7 +92,7 @@ std::vector<SealedHalf> checkHalves(const MachFile& file, const Sealed& sealed) 
 
 // A folder with everything that one seal covers.
 std::vector<SealedHalf> checkContents(const FileTree& contents, const std::string& informationPath,
-                                      const std::string& programs) {
+                                      const std::string& programs, const TextStubs* stubs) {
     const FileContent* const information = contents.file(informationPath);
     const std::string informationName = contents.name + "/" + informationPath;
     if (!information) {
@@ -99,8 +110,8 @@ std::vector<SealedHalf> checkContents(const FileTree& contents, const std::strin
         refuse(resourcesName, "is missing");
     }
     const MachFile file(*program, printable(contents.name + "/" + programPath));
-    auto halves =
-        checkHalves(file, {information, informationName, resources, resourcesName, identity.identifier});
+    auto halves = checkHalves(
+        file, {information, informationName, resources, resourcesName, identity.identifier, stubs});
     checkResources(contents, programPath, *resources);
     return halves;
 }
@@ -121,7 +132,7 @@ void requireNothingBeside(const FileTree& bundle, const std::string& folder) {
 
 } // namespace
 
-std::vector<SealedHalf> checkSeal(const FileTree& bundle) {
+std::vector<SealedHalf> checkSeal(const FileTree& bundle, const TextStubs* stubs) {
     std::string folder = "Contents";
     if (isFramework(bundle)) {
         const auto current = bundle.entries.find("Versions/Current");
@@ -135,8 +146,8 @@ std::vector<SealedHalf> checkSeal(const FileTree& bundle) {
     requireNothingBeside(bundle, folder);
     requireLinksWithin(bundle);
     const FileTree contents = bundle.below(folder);
-    return isFramework(bundle) ? checkContents(contents, "Resources/Info.plist", "")
-                               : checkContents(contents, "Info.plist", "MacOS/");
+    return isFramework(bundle) ? checkContents(contents, "Resources/Info.plist", "", stubs)
+                               : checkContents(contents, "Info.plist", "MacOS/", stubs);
 }
 
 std::vector<SealedHalf> checkProgramSeal(const FileContent& program, const std::string& name) {

@@ -4,6 +4,7 @@
 
 #include "tests/macho/FileTree.h"
 #include "tests/macho/MachSlice.h"
+#include "tests/macho/TextStubs.h"
 
 #include <array>
 #include <cstddef>
@@ -23,8 +24,10 @@ struct SealedHalf {
 };
 
 // One for each processor, in the order of the file. Throws SealError for a seal that does not hold, and
-// MachError for a program that cannot be read. The name of the tree has to end like that of the bundle.
-std::vector<SealedHalf> checkSeal(const FileTree& bundle);
+// MachError for a program that cannot be read or, where there are stubs, imports what is in none of them. The
+// name of the tree has to end like that of the bundle. Code within it comes from elsewhere as a rule, and
+// imports what nobody has listed.
+std::vector<SealedHalf> checkSeal(const FileTree& bundle, const TextStubs* stubs = nullptr);
 
 // Of a program without a bundle; `name` is what messages call it.
 std::vector<SealedHalf> checkProgramSeal(const FileContent& program, const std::string& name);

@@ -18,17 +18,35 @@ Processor processorOf(const std::string& target, const std::string& name) {
     throw MachError(name + ": " + printable(target) + " is no target that is known here");
 }
 
+std::set<Processor> processorsOf(const YAML::Node& targets, const std::string& name) {
+    std::set<Processor> processors;
+    for (const YAML::Node& target : targets) {
+        processors.insert(processorOf(target.as<std::string>(), name));
+    }
+    return processors;
+}
+
 } // namespace
+
+TextStubs TextStubs::in(const FileTree& sdk) {
+    TextStubs stubs;
+    for (const auto& [path, entry] : sdk.entries) {
+        const auto* const content = std::get_if<FileContent>(&entry);
+        if (content && path.ends_with(".tbd")) {
+            stubs.add(std::string(content->begin(), content->end()), sdk.name + "/" + path);
+        }
+    }
+    return stubs;
+}
 
 void TextStubs::add(const std::string& text, const std::string& name) {
     try {
         const YAML::Node stub = YAML::Load(text);
         Symbols& symbols = libraries_[stub["install-name"].as<std::string>()];
         for (const YAML::Node& part : stub["exports"]) {
+            const std::set<Processor> processors = processorsOf(part["targets"], name);
             for (const YAML::Node& symbol : part["symbols"]) {
-                for (const YAML::Node& target : part["targets"]) {
-                    symbols[symbol.as<std::string>()].insert(processorOf(target.as<std::string>(), name));
-                }
+                symbols[symbol.as<std::string>()].insert(processors.begin(), processors.end());
             }
         }
     } catch (const YAML::Exception& error) {

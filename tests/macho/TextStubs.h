@@ -3,6 +3,7 @@
 // Source: LLVM, llvm/lib/TextAPI.
 #pragma once
 
+#include "tests/macho/FileTree.h"
 #include "tests/macho/MachSlice.h"
 
 #include <map>
@@ -17,6 +18,9 @@ class TextStubs {
 public:
     // The text of a stub. Throws MachError, with the name.
     void add(const std::string& text, const std::string& name);
+
+    // Those in a folder, wherever they lie in it.
+    static TextStubs in(const FileTree& sdk);
 
     bool knows(std::string_view library) const { return libraries_.contains(library); }
     bool has(std::string_view library, std::string_view symbol, Processor processor) const;

@@ -5,8 +5,8 @@
 //
 // Exit status 1 for a program that is over a limit or for other systems. 2 for what no system would run or
 // nobody can read, whatever it costs: no Mach-O file, one for another processor, one that ends early or has
-// fixups outside of its segments, an import that is in no stub, a folder that is no SDK. Each finding is a
-// line that says what is wrong and where.
+// fixups outside of its segments, imports that are in no stub, a folder that is no SDK. Each finding, so each
+// of the imports, is a line that says what is wrong and where.
 #include "tests/macho/FileTree.h"
 #include "tests/macho/Limits.h"
 #include "tests/macho/MachFile.h"
@@ -62,29 +62,13 @@ Limits limitsIn(std::span<char*>& arguments) {
     return limits;
 }
 
-struct SDK {
-    TextStubs stubs;
-    Version version;
-};
-
-SDK sdkIn(const std::string& folder) {
-    const auto textOf = [](const FileContent& content) {
-        return std::string(content.begin(), content.end());
-    };
-    const FileTree tree = readFileTree(folder, folder);
-    const FileContent* const settings = tree.file("SDKSettings.json");
+Version versionOf(const FileTree& sdk) {
+    const std::string name = sdk.name + "/SDKSettings.json";
+    const FileContent* const settings = sdk.file("SDKSettings.json");
     if (!settings) {
-        throw MachError(folder + "/SDKSettings.json: is missing");
+        throw MachError(name + ": is missing");
     }
-    SDK sdk;
-    sdk.version = versionOfSettings(textOf(*settings), folder + "/SDKSettings.json");
-    for (const auto& [path, entry] : tree.entries) {
-        const auto* const content = std::get_if<FileContent>(&entry);
-        if (content && path.ends_with(".tbd")) {
-            sdk.stubs.add(textOf(*content), folder + "/" + path);
-        }
-    }
-    return sdk;
+    return versionOfSettings(std::string(settings->begin(), settings->end()), name);
 }
 
 void print(const MachSlice& slice, const Measures& measures, const Limits& limits) {
@@ -104,15 +88,16 @@ bool complain(const std::vector<std::string>& findings) {
 
 int check(std::span<char*> arguments) {
     Limits limits = limitsIn(arguments);
-    const SDK sdk = sdkIn(arguments[1]);
-    limits.sdk = sdk.version;
+    const FileTree sdk = readFileTree(arguments[1], arguments[1]);
+    limits.sdk = versionOf(sdk);
+    const TextStubs stubs = TextStubs::in(sdk);
     const std::string path = arguments[0];
     const FileContent program = readFile(path);
     const MachFile file(program, path);
     // All before the first line, as of a program that cannot be read nothing is said.
     std::vector<Measures> halves;
     for (const MachSlice& slice : file.slices()) {
-        halves.push_back(measure(slice, limits, sdk.stubs));
+        halves.push_back(measure(slice, limits, stubs));
     }
     int status = 0;
     for (std::size_t index = 0; index < halves.size(); ++index) {

@@ -6,11 +6,13 @@ import shutil
 import unittest
 
 from tiny_bundles import SealTest, write
+from trees import REPOSITORY
 
 from releasing import halves
 from releasing.sealing import machofile
 
 APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
+SDK = REPOSITORY / "mac/sdk"
 
 
 @unittest.skipUnless(APPLICATION.exists(), "make test has not built it")
@@ -21,7 +23,7 @@ class ApplicationSeal(SealTest):
         shutil.copytree(APPLICATION, self.app, symlinks=True)
 
     def test_holds_for_both_processors(self):
-        lines = self.assert_holds(self.app)
+        lines = self.assert_holds(self.app, SDK)
         self.assertEqual(sorted(line.split(":")[0] for line in lines), ["arm64", "x86_64"])
         for line in lines:
             self.assertIn(", for macOS 13.0, org.kestrune.Kestrune, cdhash ", line)
@@ -54,6 +56,16 @@ class ApplicationSeal(SealTest):
                     result.stderr, rf"^kestrune-check-seal: {name} \d+, .* was changed after it was sealed\n$"
                 )
                 program.write_bytes(data)
+
+    def test_notices_an_import_that_no_system_has(self):
+        program = self.app / halves.PROGRAM
+        program.write_bytes(program.read_bytes().replace(b"\0_CFRelease\0", b"\0_CFReleasf\0"))
+        self.seal(self.app)
+        self.assert_holds(self.app)
+        half = f"Kestrune.app/{halves.PROGRAM}: x86_64 half"
+        library = "/System/Library/Frameworks/CoreFoundation.framework/Versions/A/CoreFoundation"
+        message = f"{half}: imports _CFReleasf, which is not in the stub of {library}"
+        self.assert_refused(self.app, message, SDK, status=2)
 
     def test_notices_a_file_that_was_added(self):
         for name in ("Contents/Resources/More.icns", "Contents/MacOS/more", "Contents/more"):

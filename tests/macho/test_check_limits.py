@@ -5,16 +5,9 @@ import struct
 import subprocess
 import unittest
 
-from tiny_bundles import FIXUP_OUTSIDE, PROGRAMS, with_fixup_outside
+from tiny_bundles import FIXUP_OUTSIDE, PROGRAMS, SYSTEM, with_fixup_outside
 from trees import TreeTest
 
-SYSTEM = """--- !tapi-tbd
-install-name: '/usr/lib/libSystem.B.dylib'
-exports:
-  - targets: [ x86_64-macos, arm64-macos ]
-    symbols: [ %s ]
-...
-"""
 SETTINGS = '{"CanonicalName": "macosx13.0", "Version": "13.0"}'
 MEASURED = "bytes, 1 of 60 initializers, 1 of 170 imports, for macOS 13.0, SDK 13.0"
 

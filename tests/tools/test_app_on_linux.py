@@ -113,7 +113,7 @@ class DryRun(LinuxTest):
                     *["cmake", "--build", "--preset", "gcc"],
                     *["--target", "kestrune-check-limits", "kestrune-check-seal"],
                 ],
-                [f"{CHECKS}/kestrune-check-seal", BUNDLE],
+                [f"{CHECKS}/kestrune-check-seal", BUNDLE, "mac/sdk"],
                 [f"{CHECKS}/kestrune-check-limits", f"{BUNDLE}/{PROGRAM}", "mac/sdk"],
             ],
         )

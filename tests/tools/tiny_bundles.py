@@ -12,6 +12,15 @@ from releasing import sealing
 PROGRAMS = REPOSITORY / "tests/fuzz/corpus/mach-file"
 IDENTIFIER = "org.kestrune.Tiny"
 
+# A stub of the library that tiny programs import from, with whatever symbols.
+SYSTEM = """--- !tapi-tbd
+install-name: '/usr/lib/libSystem.B.dylib'
+exports:
+  - targets: [ x86_64-macos, arm64-macos ]
+    symbols: [ %s ]
+...
+"""
+
 # What is said of a program that was changed by with_fixup_outside.
 FIXUP_OUTSIDE = "the chained fixups: the fixup at 0x10001000c is not within its page of the segment __DATA"
 
@@ -72,13 +81,13 @@ class SealTest(TreeTest):
         program = os.environ["KESTRUNE_CHECK_SEAL"]
         return subprocess.run([program, *map(str, arguments)], capture_output=True, encoding="utf-8")
 
-    def assert_holds(self, bundle):
-        result = self.check(bundle)
+    def assert_holds(self, bundle, *sdk):
+        result = self.check(bundle, *sdk)
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         return result.stdout.splitlines()
 
-    def assert_refused(self, bundle, message, status=1):
-        result = self.check(bundle)
+    def assert_refused(self, bundle, message, *sdk, status=1):
+        result = self.check(bundle, *sdk)
         self.assertEqual((result.stdout, result.stderr), ("", f"kestrune-check-seal: {message}\n"))
         self.assertEqual(result.returncode, status)
 
@@ -86,3 +95,11 @@ class SealTest(TreeTest):
         data = bytearray(path.read_bytes())
         data[place] ^= 1
         path.write_bytes(data)
+
+
+class SealedApplication(SealTest):
+    def setUp(self):
+        super().setUp()
+        self.app = make_application(self.root / "Tiny.app")
+        self.contents = self.app / "Contents"
+        self.program = self.contents / "MacOS/Tiny"

@@ -69,7 +69,7 @@ class Linux:
             Work(f"seal {self.application} and the code in it", lambda: sealing.seal(self.application)),
             Command("tools/configure", self.preset),
             Command("cmake", "--build", "--preset", self.preset, "--target", *checks),
-            Command(place / "kestrune-check-seal", self.application, judge=self._take_halves),
+            Command(place / "kestrune-check-seal", self.application, SDK, judge=self._take_halves),
             Command(place / "kestrune-check-limits", program, SDK),
         ]
 
