@@ -51,6 +51,13 @@ class DeliberateFaults(TreeTest):
             self.assertIn(part, result.stdout + result.stderr)
         return result
 
+    def assert_refused(self, *parts):
+        """Before it runs, in one line that names the file and its half."""
+        result = self.assert_named(*parts)
+        self.assertEqual((result.returncode, result.stderr.count("\n")), (UNREADABLE, 1), result.stderr)
+        beginning = f"{self.program}: {PROCESSOR} half: "
+        self.assertTrue(result.stderr.startswith(beginning), result.stderr)
+
     def test_none_is_found_in_the_program_as_it_is(self):
         result = self.run_story()
         self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
@@ -64,20 +71,23 @@ class DeliberateFaults(TreeTest):
     def test_a_symbol_that_no_library_has(self):
         self.replace(b"\0_CFRelease\0", b"\0_CFReleasf\0")
         sealing.seal(self.application)
-        result = self.assert_named("imports what is not there: _CFReleasf of ", "/CoreFoundation")
-        self.assertEqual((result.returncode, result.stderr.count("\n")), (UNREADABLE, 1), result.stderr)
+        self.assert_refused("imports what is not there: _CFReleasf of ", "/CoreFoundation")
+
+    def test_a_symbol_that_the_system_here_has_for_itself(self):
+        self.replace(b"\0_memcpy\0", b"\0_getpid\0")
+        sealing.seal(self.application)
+        symbol = "_getpid of /usr/lib/libSystem.B.dylib"
+        self.assert_refused(f"{symbol} is found in libc, which may be another function")
 
     @unittest.skipUnless(PROCESSOR == "arm64", "only there strings have two layouts")
     def test_a_function_that_has_strings_of_another_layout(self):
         self.replace(b"\0__ZNSt3__19to_stringEj\0", b"\0__ZNSt3__19to_stringEd\0")
         sealing.seal(self.application)
-        result = self.assert_named("_ZNSt3__19to_stringEd may have to do with strings")
-        self.assertEqual(result.returncode, UNREADABLE)
+        self.assert_refused("_ZNSt3__19to_stringEd may have to do with strings")
 
     def test_a_page_that_is_not_what_was_sealed(self):
         self.replace(b"\0Pin Dock to:\0", b"\0Pin Dock at:\0")
-        result = self.assert_named(f"{self.program}: ", ": page ", "was changed after it was sealed")
-        self.assertEqual(result.returncode, UNREADABLE)
+        self.assert_refused(": page ", "was changed after it was sealed")
 
 
 if __name__ == "__main__":

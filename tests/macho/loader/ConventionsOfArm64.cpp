@@ -58,15 +58,17 @@ void* made(const Stub& stub) {
 }
 
 // GNUstep calls the program's methods.
-BOOL addMethod(Class type, SEL selector, IMP implementation, const char* encoding) {
+BOOL addMethod(Class type, SEL selector, IMP implementation, const char* encoding) try {
     const auto instructions = instructionsThatFill(encoding);
     if (!instructions) {
-        fatal(std::string("-[") + class_getName(type) + " " + sel_getName(selector) + "], which is " +
-              encoding + ", takes what is passed to it in another way here");
+        throw MachError("takes what is passed to it in another way here");
     }
     const Stub stub{*instructions, 0, std::bit_cast<std::uint64_t>(implementation)};
     return class_addMethod(type, selector,
                            instructions->empty() ? implementation : std::bit_cast<IMP>(made(stub)), encoding);
+} catch (const MachError& error) { // by then the program runs, and no file is loaded
+    fatal(std::string("-[") + class_getName(type) + " " + sel_getName(selector) + "], which is " + encoding +
+          ": " + error.what());
 }
 
 std::uint64_t numberOf(void* address) { return std::bit_cast<std::uint64_t>(address); }

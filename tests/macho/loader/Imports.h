@@ -7,7 +7,7 @@
 
 namespace kestrune::macho {
 
-// The process ends with a line when a name is found where the library of the Mac's could not have it.
+// Refuses a name that is found where the library of the Mac's could not have it.
 Resolve importsOfThisProcess(MessageChecks checks);
 
 } // namespace kestrune::macho

@@ -133,7 +133,11 @@ std::vector<void*> LoadedImage::resolved(const std::vector<Import>& imports, con
             slice_.content().refuse("imports " + printable(import.name) +
                                     " from no library in particular, which this loader does not look for");
         }
-        places.push_back(resolve(library, import.name));
+        try {
+            places.push_back(resolve(library, import.name));
+        } catch (const MachError& error) {
+            slice_.content().refuse(error.what());
+        }
         if (places.back() == nullptr && !import.isWeak) {
             missing += (missing.empty() ? "" : ", ") + printable(import.name) + " of " + printable(library);
         }

@@ -14,7 +14,8 @@
 namespace kestrune::macho {
 
 // Where this process has what a library of the Mac's has under a name; null when it has nothing like it. The
-// library is called by its install name, and by nothing when any may have it.
+// library is called by its install name. Throws MachError that says why what it has will not do; which file
+// asks for it, the image adds.
 using Resolve = std::function<void*(std::string_view library, std::string_view name)>;
 
 // As long as anything that it gave to others may be called, it has to stay.

@@ -104,6 +104,16 @@ TEST(LoadedImage, NeedsItsImports) {
               "/usr/lib/libSystem.B.dylib");
 }
 
+TEST(LoadedImage, SaysOfWhichFileAnImportIsRefused) {
+    const Content bytes = programForThisProcess().bytes();
+    const MachFile file(bytes, "Tiny");
+    const auto refuse = [](std::string_view /*library*/, std::string_view name) -> void* {
+        throw MachError(std::string(name) + " is another function");
+    };
+    EXPECT_EQ(macho::refusalOf([&] { const LoadedImage image(file.slices().front(), refuse); }),
+              "Tiny: _exit is another function");
+}
+
 TEST(LoadedImage, TakesImportsFromTheirLibrariesOnly) {
     TinyProgram program = programForThisProcess();
     program.imports = {{Import::WeakDefinition, false, "_exit", 0}};
