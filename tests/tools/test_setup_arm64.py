@@ -14,6 +14,8 @@ if [[ -n ${APT_CONFIG-} ]]; then
         grep -qx "$name" "$SYSTEM/arm64" || exit 100
         echo > "${APT_CONFIG%/*}/archives/${name}_1_arm64.deb"
     done
+elif [[ $last == update ]]; then
+    cp "$SYSTEM/server" "$SYSTEM/emulators"
 elif [[ $* == *" download qemu"* ]]; then
     grep -qx "$last" "$SYSTEM/emulators" && echo > "${last}_1_amd64.deb"
 fi
@@ -43,7 +45,8 @@ class Arm64(DebianTest):
         self.debian(release=BOOKWORM | llvm(19))
         self.program("apt-get", APT_GET)
         self.program("dpkg-deb", DPKG_DEB)
-        self.system_has(emulators="qemu-user-static qemu-user", libraries="lib", arm64=" ".join(NAMES))
+        self.system_has(server="", emulators="qemu-user-static qemu-user")
+        self.system_has(libraries="lib", arm64=" ".join(NAMES))
 
     def system_has(self, **names):
         for what, of in names.items():
@@ -100,12 +103,24 @@ class Arm64(DebianTest):
         self.set_up("arm64")
         self.assert_stands(emulator="later")
 
+    def test_has_an_emulator_after_one_update_of_old_lists(self):
+        self.debian(user=0, release=BOOKWORM | llvm(19))
+        self.program("apt-get", APT_GET)
+        self.program("dpkg-deb", DPKG_DEB)
+        self.system_has(emulators="", server="qemu-user")
+        log = self.set_up("arm64")[1]
+        self.assertEqual(len([line for line in log if line.endswith(" update")]), 2)
+        self.assert_stands(emulator="later")
+
     def test_says_what_is_not_to_be_had(self):
+        self.debian(user=0, release=BOOKWORM | llvm(19))
+        self.program("apt-get", APT_GET)
+        self.program("dpkg-deb", DPKG_DEB)
         self.system_has(emulators="")
         result = self.set_up("arm64")[0]
         self.assertEqual(result.returncode, 1)
         self.assertIn(NO_EMULATOR, result.stderr)
-        self.system_has(arm64="g++")
+        self.system_has(emulators="qemu-user", arm64="g++")
         result = self.set_up("arm64")[0]
         self.assertEqual(result.returncode, 1)
         self.assertIn("the packages for arm64 are not to be had", result.stderr)
