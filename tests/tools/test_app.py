@@ -10,6 +10,7 @@ from releases import FEED_URL, PUBLIC_KEY, REAL_IDENTITY, SIGNED_PROGRAM, Releas
 from trees import REPOSITORY
 
 BUNDLE = "build/mac/Kestrune.app"
+ARCHIVE = "build/mac/Kestrune.zip"
 SYMBOLS = f"{BUNDLE}.dSYM"
 PROGRAM = "Contents/MacOS/Kestrune"
 FRAMEWORK = f"{BUNDLE}/Contents/Frameworks/Sparkle.framework"
@@ -47,7 +48,7 @@ class DryRun(AppTest):
                 ["tar", "-xf", archive, "-C", "build/sparkle/2.10.1"],
                 ["cmake", "--preset", "mac"],
                 ["cmake", "--build", "--preset", "mac", "--parallel"],
-                ["rm", "-rf", BUNDLE, SYMBOLS],
+                ["rm", "-rf", ARCHIVE, BUNDLE, SYMBOLS],
                 ["mkdir", "-p", "build/mac"],
                 ["ditto", "--noextattr", "--noqtn", "build/mac/mac/Kestrune.app", BUNDLE],
                 [

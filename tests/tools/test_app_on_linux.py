@@ -96,7 +96,7 @@ class DryRun(LinuxTest):
                 ["cmake", "--build", "build/cross-arm64", "--target", "Kestrune"],
                 ["tools/configure", "cross-x86_64"],
                 ["cmake", "--build", "build/cross-x86_64", "--target", "Kestrune"],
-                ["rm", "-rf", BUNDLE, symbols],
+                ["rm", "-rf", ARCHIVE, BUNDLE, symbols],
                 ["mkdir", "-p", "build/cross"],
                 ["cp", "-R", "-H", "build/cross-arm64/mac/Kestrune.app", BUNDLE],
                 [f"{LLVM}/llvm-strip", "-o", halves[0], built[0]],
@@ -147,8 +147,11 @@ class Build(LinuxTest):
         program = self.path(f"{BUNDLE}/{PROGRAM}").read_bytes()
         self.assertEqual(program.count(hashlib.sha256(information).digest()), 2)
 
-    def test_ends_when_a_check_does_not_hold(self):
+    def test_ends_without_an_archive_when_a_check_does_not_hold(self):
         for check in ("seal", "limits"):
+            self.use_linux()
+            self.assertEqual(self.app("--sparkle", "none").returncode, 0)
+            self.assertTrue(self.path(ARCHIVE).exists())
             self.use_linux(**{f"kestrune-check-{check}": "exit 1"})
             beginning = f"tools/app: failed with exit status 1: {CHECKS}/kestrune-check-{check} {BUNDLE}"
             self.assert_fails(self.app("--sparkle", "none"), beginning)

@@ -26,7 +26,7 @@ def steps(options, system):
     return [
         *(release.steps() if release else []),
         *system.build(),
-        Command("rm", "-rf", system.application, symbols.folder),
+        Command("rm", "-rf", packed, system.application, symbols.folder),
         Command("mkdir", "-p", system.application.parent),
         *system.copy(system.built, system.application),
         *system.strip(symbols),

@@ -11,9 +11,12 @@ LEVEL = 9
 
 
 def pack(bundle, archive):
-    with zipfile.ZipFile(archive, "w") as packed:
+    """Under its name it is whole."""
+    incomplete = archive.with_name(f"{archive.name}.incomplete")
+    with zipfile.ZipFile(incomplete, "w") as packed:
         for path in sorted([bundle, *bundle.rglob("*")], key=lambda path: path.parts):
             _add(packed, path, path.relative_to(bundle.parent).as_posix())
+    incomplete.replace(archive)
 
 
 def _add(packed, path, name):
