@@ -8,7 +8,6 @@
 #include "mac/objc/Lifetime.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
-#include "mac/vocabulary/Implemented.h"
 #include "platform/Application.h"
 #include "platform/Updater.h"
 
@@ -117,39 +116,41 @@ void addActions(RuntimeClass& made, const Object& object) {
     for (const ActionMethod& method : object.actionMethods()) {
         const std::string selector(method.selector.name());
         if (selector.ends_with(':')) {
-            made.addMethod(ImplementedMethod<void(id)>{selector.c_str()}, performAction);
+            made.addMethod(Action<void(id)>{selector.c_str()}, performAction);
         } else {
-            made.addMethod(ImplementedMethod<void()>{selector.c_str()}, performActionWithoutSender);
+            made.addMethod(Action<void()>{selector.c_str()}, performActionWithoutSender);
         }
     }
 }
 
 void addUserDriverMethods(RuntimeClass& made) {
     using Delegate = StandardUserDriverDelegate;
-    made.addMethod(implemented::supportsGentleScheduledUpdateReminders, supportsGentleReminders);
-    made.addMethod(implemented::standardUserDriverWillHandleShowingUpdate, willHandleShowingUpdate);
-    made.addMethod(implemented::standardUserDriverWillFinishUpdateSession,
+    made.addMethod(sparkle.userDriverDelegate.supportsGentleScheduledUpdateReminders,
+                   supportsGentleReminders);
+    made.addMethod(sparkle.userDriverDelegate.standardUserDriverWillHandleShowingUpdate,
+                   willHandleShowingUpdate);
+    made.addMethod(sparkle.userDriverDelegate.standardUserDriverWillFinishUpdateSession,
                    tell<Delegate, &Delegate::standardUserDriverWillFinishUpdateSession>);
-    made.addMethod(implemented::standardUserDriverWillShowModalAlert,
+    made.addMethod(sparkle.userDriverDelegate.standardUserDriverWillShowModalAlert,
                    tell<Delegate, &Delegate::standardUserDriverWillShowModalAlert>);
-    made.addMethod(implemented::standardUserDriverDidShowModalAlert,
+    made.addMethod(sparkle.userDriverDelegate.standardUserDriverDidShowModalAlert,
                    tell<Delegate, &Delegate::standardUserDriverDidShowModalAlert>);
 }
 
 void addDelegateMethods(RuntimeClass& made, const Object& object) {
     if (dynamic_cast<const MenuDelegate*>(&object) != nullptr) {
-        made.addMethod(implemented::menuWillOpen, menuWillOpen);
+        made.addMethod(appKit.menuDelegate.menuWillOpen, menuWillOpen);
     }
     if (dynamic_cast<const ApplicationDelegate*>(&object) != nullptr) {
-        made.addMethod(implemented::applicationDidFinishLaunching,
+        made.addMethod(appKit.applicationDelegate.applicationDidFinishLaunching,
                        hearOf<ApplicationDelegate, &ApplicationDelegate::applicationDidFinishLaunching>);
-        made.addMethod(implemented::applicationWillTerminate,
+        made.addMethod(appKit.applicationDelegate.applicationWillTerminate,
                        hearOf<ApplicationDelegate, &ApplicationDelegate::applicationWillTerminate>);
     }
     if (dynamic_cast<const WindowDelegate*>(&object) != nullptr) {
-        made.addMethod(implemented::windowDidBecomeKey,
+        made.addMethod(appKit.windowDelegate.windowDidBecomeKey,
                        hearOf<WindowDelegate, &WindowDelegate::windowDidBecomeKey>);
-        made.addMethod(implemented::windowWillClose, windowWillClose);
+        made.addMethod(appKit.windowDelegate.windowWillClose, windowWillClose);
     }
     if (dynamic_cast<const StandardUserDriverDelegate*>(&object) != nullptr) {
         addUserDriverMethods(made);
@@ -159,25 +160,26 @@ void addDelegateMethods(RuntimeClass& made, const Object& object) {
 // Those of Sparkle's are there when it is loaded.
 void adoptProtocols(Class type, const Object& object) {
     if (dynamic_cast<const MenuDelegate*>(&object) != nullptr) {
-        adopt(type, "NSMenuDelegate");
+        adopt(type, appKit.menuDelegate);
     }
     if (dynamic_cast<const ApplicationDelegate*>(&object) != nullptr) {
-        adopt(type, "NSApplicationDelegate");
+        adopt(type, appKit.applicationDelegate);
     }
     if (dynamic_cast<const WindowDelegate*>(&object) != nullptr) {
-        adopt(type, "NSWindowDelegate");
+        adopt(type, appKit.windowDelegate);
     }
 }
 
 Class makeClass(const std::string& name, const Object& object) {
     const auto* const controller = dynamic_cast<const WindowController*>(&object);
-    RuntimeClass made(name.c_str(),
-                      controller != nullptr ? appKit.windowController.find() : foundation.object.find());
+    RuntimeClass made(name.c_str(), controller != nullptr
+                                        ? static_cast<const ClassReference&>(appKit.windowController)
+                                        : foundation.object);
     addActions(made, object);
     addDelegateMethods(made, object);
     if (controller != nullptr) {
-        made.addMethod(implemented::initWithCoder, refuseConstruction);
-        made.addMethod(implemented::initWithWindow, refuseConstruction);
+        made.addMethod(appKit.windowController.initWithCoder, refuseConstruction);
+        made.addMethod(appKit.windowController.initWithWindow, refuseConstruction);
     }
     const Class finished = made.finish();
     if (controller != nullptr) {

@@ -1,32 +1,21 @@
 #include "mac/Protocols.h"
 
-#include "platform/Bundle.h"
-#include "platform/Log.h"
-
-#include <string>
-#include <unordered_set>
+#include "mac/objc/Missing.h"
 
 namespace kestrune::mac {
 
 namespace {
 
-constexpr LogFormat Missing = LogFormat::of<"There is no protocol %{public}s at run time">();
-
-void logMissing(const char* protocolName) {
-    static std::unordered_set<std::string> logged;
-    if (logged.insert(protocolName).second) {
-        Log(Bundle::mainBundle().bundleIdentifier().value_or(""), "app").error(Missing, protocolName);
-    }
-}
+constexpr LogFormat MissingProtocol = LogFormat::of<"There is no protocol %{public}s at run time">();
 
 } // namespace
 
-void adopt(Class type, const char* protocolName) {
-    Protocol* const protocol = objc_getProtocol(protocolName);
-    if (protocol == nullptr) {
-        logMissing(protocolName);
+void adopt(Class type, const ProtocolReference& protocol) {
+    Protocol* const found = protocol.find();
+    if (found == nullptr) {
+        logMissing(MissingProtocol, protocol.name());
     } else {
-        class_addProtocol(type, protocol);
+        class_addProtocol(type, found);
     }
 }
 

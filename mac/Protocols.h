@@ -1,12 +1,12 @@
 // The protocols of the platform's delegates.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/objc/Message.h"
 
 namespace kestrune::mac {
 
-// A protocol is there at run time only when an image that is loaded has kept it. Nobody needs one whose
-// methods are asked for, so one that is missing is named in the log, once, and that is all.
-void adopt(Class type, const char* protocolName);
+// Nobody needs a protocol whose methods are asked for, so one that is missing is named in the log, and that
+// is all.
+void adopt(Class type, const ProtocolReference& protocol);
 
 } // namespace kestrune::mac

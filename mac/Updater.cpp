@@ -46,9 +46,9 @@ std::optional<Error> loadFramework() {
 }
 
 // The framework has brought its protocols.
-void adopt(id delegate, const char* protocolName) {
+void adopt(id delegate, const mac::ProtocolReference& protocol) {
     if (delegate != nullptr) {
-        mac::adopt(object_getClass(delegate), protocolName);
+        mac::adopt(object_getClass(delegate), protocol);
     }
 }
 
@@ -65,9 +65,9 @@ StandardUserDriver::StandardUserDriver(const Bundle& /*hostBundle*/,
     mac::requireVocabulary();
 #endif
     const id instance = Object::Counterpart::of(delegate);
-    adopt(instance, "SPUStandardUserDriverDelegate");
+    adopt(instance, mac::sparkle.userDriverDelegate);
     state_->driver = mac::Retained::adopting(mac::sparkle.standardUserDriver.initWithHostBundle(
-        mac::allocate(mac::sparkle.standardUserDriver.find()), mac::theMainBundle(), instance));
+        mac::allocate(mac::sparkle.standardUserDriver), mac::theMainBundle(), instance));
 }
 
 Updater::Updater(const Bundle& /*hostBundle*/, const Bundle& /*applicationBundle*/,
@@ -79,9 +79,9 @@ Updater::Updater(const Bundle& /*hostBundle*/, const Bundle& /*applicationBundle
         return;
     }
     const id instance = Object::Counterpart::of(delegate);
-    adopt(instance, "SPUUpdaterDelegate");
+    adopt(instance, mac::sparkle.updaterDelegate);
     state_->updater = mac::Retained::adopting(mac::sparkle.updater.initWithHostBundle(
-        mac::allocate(mac::sparkle.updater.find()), mac::theMainBundle(), mac::theMainBundle(),
+        mac::allocate(mac::sparkle.updater), mac::theMainBundle(), mac::theMainBundle(),
         userDriver.state()->driver.get(), instance));
 }
 

@@ -1,4 +1,4 @@
-// Every class and message of the platform that the binding uses.
+// Every class, protocol and message of the platform that the binding uses.
 //
 // A message is named after its selector. `checkVocabulary` holds what is declared against the runtime.
 #pragma once

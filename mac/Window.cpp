@@ -63,7 +63,9 @@ void Window::setContentView(const HostingView& view) {
     const id hosted = view.state()->view.get();
     mac::appKit.window.setContentView(state_->window.get(), hosted);
     // Which gives the view the window's size, where a hosting view gives the window its own.
-    mac::HostedView::of(hosted).fitWindow();
+    if (const mac::HostedView* const host = mac::HostedView::of(hosted)) {
+        host->fitWindow();
+    }
 }
 
 void Window::setDelegate(const std::weak_ptr<WindowDelegate>& delegate) {

@@ -4,7 +4,7 @@
 #include "mac/hosting/Accessibility.h"
 #include "mac/hosting/ButtonSettings.h"
 #include "mac/objc/Text.h"
-#include "mac/vocabulary/Implemented.h"
+#include "mac/vocabulary/Actions.h"
 
 namespace kestrune::mac {
 
@@ -27,7 +27,7 @@ const char* keyOf(ui::KeyboardShortcut shortcut) {
 
 void ButtonView::connect(id target) {
     appKit.control.setTarget(view(), target);
-    appKit.control.setAction(view(), implemented::pressButton.selector());
+    appKit.control.setAction(view(), actions::pressButton.selector());
 }
 
 void ButtonView::update(const ui::ButtonElement& next) {

@@ -7,7 +7,6 @@
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
-#include "mac/vocabulary/Implemented.h"
 
 #include <algorithm>
 
@@ -87,11 +86,11 @@ private:
 
     static Class buttonClass() {
         static const Class made = [] {
-            RuntimeClass type("KestruneDrawnButton", appKit.button.find());
-            type.addMethod(implemented::isFlipped, alwaysFlipped);
-            type.addMethod(implemented::wantsUpdateLayer, wantsUpdateLayer);
-            type.addMethod(implemented::focusRingMaskBounds, focusRingMaskBounds);
-            type.addMethod(implemented::drawFocusRingMask, drawFocusRingMask);
+            RuntimeClass type("KestruneDrawnButton", appKit.button);
+            type.addMethod(appKit.view.isFlipped, alwaysFlipped);
+            type.addMethod(appKit.view.wantsUpdateLayer, wantsUpdateLayer);
+            type.addMethod(appKit.view.focusRingMaskBounds, focusRingMaskBounds);
+            type.addMethod(appKit.view.drawFocusRingMask, drawFocusRingMask);
             return type.finish();
         }();
         return made;
@@ -99,8 +98,8 @@ private:
 
     static Class cellClass() {
         static const Class made = [] {
-            RuntimeClass type("KestruneDrawnButtonCell", appKit.buttonCell.find());
-            type.addMethod(implemented::drawWithFrame, drawCell);
+            RuntimeClass type("KestruneDrawnButtonCell", appKit.buttonCell);
+            type.addMethod(appKit.cell.drawWithFrame, drawCell);
             return type.finish();
         }();
         return made;

@@ -8,7 +8,7 @@
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 #include "mac/objc/Text.h"
-#include "mac/vocabulary/Implemented.h"
+#include "mac/vocabulary/Actions.h"
 #include "platform/Bundle.h"
 #include "platform/MainActor.h"
 
@@ -29,7 +29,7 @@ std::string uppercase(std::string_view text) {
 }
 
 // What the action lets go of, the window among it, stays until AppKit has finished with the event.
-HostedView& hostOf(id view, id control) {
+HostedView* hostOf(id view, id control) {
     keepForThisTurn(control);
     keepForThisTurn(appKit.view.window(view));
     return HostedView::of(view);
@@ -37,12 +37,12 @@ HostedView& hostOf(id view, id control) {
 
 void pressButton(id view, SEL, id button) noexcept {
     const Pool pool;
-    hostOf(view, button).press(actionOf(button));
+    hostOf(view, button)->press(actionOf(button));
 }
 
 void flipSwitch(id view, SEL, id control) noexcept {
     const Pool pool;
-    hostOf(view, control).flip(actionOf(control), appKit.switchControl.state(control) != 0);
+    hostOf(view, control)->flip(actionOf(control), appKit.switchControl.state(control) != 0);
 }
 
 // Otherwise the window would order the controls by their places.
@@ -60,12 +60,12 @@ void dealloc(id view, SEL) noexcept {
 
 Class viewClass() {
     static const Class made = [] {
-        RuntimeClass type("KestruneHostingView", appKit.view.find());
-        type.addMethod(implemented::isFlipped, alwaysFlipped);
-        type.addMethod(implemented::pressButton, pressButton);
-        type.addMethod(implemented::flipSwitch, flipSwitch);
-        type.addMethod(implemented::viewDidMoveToWindow, viewDidMoveToWindow);
-        type.addMethod(implemented::dealloc, dealloc);
+        RuntimeClass type("KestruneHostingView", appKit.view);
+        type.addMethod(appKit.view.isFlipped, alwaysFlipped);
+        type.addMethod(actions::pressButton, pressButton);
+        type.addMethod(actions::flipSwitch, flipSwitch);
+        type.addMethod(appKit.view.viewDidMoveToWindow, viewDidMoveToWindow);
+        type.addMethod(foundation.object.dealloc, dealloc);
         return type.finish();
     }();
     return made;
@@ -77,12 +77,15 @@ Retained newView() { return Retained::adopting(appKit.view.initWithFrame(allocat
 
 Retained HostedView::make(ui::RootView root) {
     Retained view = newView();
+    if (!view) {
+        return view;
+    }
     std::unique_ptr<HostedView> made(new HostedView(view.get(), std::move(root)));
     RuntimeClass::setTarget(view.get(), made.release());
     return view;
 }
 
-HostedView& HostedView::of(id view) { return *static_cast<HostedView*>(RuntimeClass::target(view)); }
+HostedView* HostedView::of(id view) { return static_cast<HostedView*>(RuntimeClass::target(view)); }
 
 HostedView::HostedView(id view, ui::RootView root)
     : shown_(view),

@@ -18,8 +18,8 @@ public:
     // The native view, as large as the view wants to be.
     static Retained make(ui::RootView root);
 
-    // Of a view that was made here.
-    static HostedView& of(id view);
+    // Of a view that was made here; null for nil.
+    static HostedView* of(id view);
 
     HostedView(const HostedView&) = delete;
     HostedView& operator=(const HostedView&) = delete;

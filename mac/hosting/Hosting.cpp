@@ -10,6 +10,16 @@
 
 namespace kestrune {
 
+namespace {
+
+void setSizing(const mac::Retained& view, HostingSizingOptions options) {
+    if (mac::HostedView* const host = mac::HostedView::of(view.get())) {
+        host->setSizing(options);
+    }
+}
+
+} // namespace
+
 HostingController::HostingController(ui::RootView rootView) {
     const mac::Pool pool;
     mac::Retained controller = mac::Retained::adopting(mac::appKit.viewController.initWithNibName(
@@ -21,13 +31,13 @@ HostingController::HostingController(ui::RootView rootView) {
 
 void HostingController::setSizingOptions(HostingSizingOptions options) {
     const mac::Pool pool;
-    mac::HostedView::of(state_->view.get()).setSizing(options);
+    setSizing(state_->view, options);
 }
 
 HostingView::HostingView(ui::RootView rootView) {
     const mac::Pool pool;
     mac::Retained view = mac::HostedView::make(std::move(rootView));
-    mac::HostedView::of(view.get()).setSizing(HostingSizingOptions::preferredContentSize);
+    setSizing(view, HostingSizingOptions::preferredContentSize);
     state_ = std::make_shared<State>(State{std::move(view)});
 }
 

@@ -6,7 +6,6 @@
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
-#include "mac/vocabulary/Implemented.h"
 
 namespace kestrune::mac {
 
@@ -39,9 +38,9 @@ private:
 
     static Class shapeViewClass() {
         static const Class made = [] {
-            RuntimeClass type("KestruneShapeView", appKit.view.find());
-            type.addMethod(implemented::isFlipped, alwaysFlipped);
-            type.addMethod(implemented::drawRect, drawRect);
+            RuntimeClass type("KestruneShapeView", appKit.view);
+            type.addMethod(appKit.view.isFlipped, alwaysFlipped);
+            type.addMethod(appKit.view.drawRect, drawRect);
             return type.finish();
         }();
         return made;

@@ -4,7 +4,7 @@
 #include "mac/hosting/ButtonSettings.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/hosting/SystemControls.h"
-#include "mac/vocabulary/Implemented.h"
+#include "mac/vocabulary/Actions.h"
 
 namespace kestrune::mac {
 
@@ -14,7 +14,7 @@ class SwitchView : public ViewOf<ui::ToggleElement> {
 public:
     explicit SwitchView(id target) : ViewOf(newSwitch()) {
         appKit.control.setTarget(view(), target);
-        appKit.control.setAction(view(), implemented::flipSwitch.selector());
+        appKit.control.setAction(view(), actions::flipSwitch.selector());
         appKit.control.setEnabled(view(), truth(true));
     }
 

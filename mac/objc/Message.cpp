@@ -1,12 +1,24 @@
 #include "mac/objc/Message.h"
 
-#include "base/Fatal.h"
-
-#include <string>
+#include "mac/Vocabulary.h"
+#include "mac/objc/Missing.h"
 
 namespace kestrune::mac {
 
-Class ClassReference::find() const { return reinterpret_cast<Class>(objc_getClass(name_)); }
+namespace {
+
+constexpr LogFormat MissingClass = LogFormat::of<"There is no class %{public}s at run time">();
+constexpr LogFormat MissingMethod = LogFormat::of<"There is no method %{public}s at run time">();
+
+bool answersFor(id receiver, SEL selector) {
+    const auto& question = foundation.object.respondsToSelector;
+    return class_getInstanceMethod(object_getClass(receiver), question.selector()) != nullptr &&
+           question(receiver, selector) != 0;
+}
+
+} // namespace
+
+Class ClassReference::find() const { return reinterpret_cast<Class>(objc_getClass(name())); }
 
 id ClassReference::object() const {
     if (const id known = object_.load(std::memory_order_relaxed); known != nullptr) {
@@ -14,7 +26,7 @@ id ClassReference::object() const {
     }
     const id found = reinterpret_cast<id>(find());
     if (found == nullptr) {
-        fatal(std::string("The platform has no class ") + name_ + ".");
+        logMissing(MissingClass, name());
     }
     object_.store(found, std::memory_order_relaxed);
     return found;
@@ -25,6 +37,21 @@ SEL MessageDeclaration::registerSelector() const {
     const SEL selector = sel_registerName(selectorName_);
     selector_.store(selector, std::memory_order_relaxed);
     return selector;
+}
+
+// Who forwards messages answers for more methods than its class has.
+bool MessageDeclaration::hasMethod(id receiver) const {
+    const Class type = object_getClass(receiver);
+    if (class_getInstanceMethod(type, selector()) == nullptr && !answersFor(receiver, selector())) {
+        logMissing(MissingMethod, methodName(kind_, object_getClassName(receiver), selectorName_));
+        return false;
+    }
+    lastReceiver_.store(type, std::memory_order_relaxed);
+    return true;
+}
+
+std::string methodName(MethodKind kind, const std::string& owner, const char* selectorName) {
+    return std::string(kind == MethodKind::ofClass ? "+[" : "-[") + owner + " " + selectorName + "]";
 }
 
 } // namespace kestrune::mac

@@ -9,10 +9,10 @@ namespace kestrune::mac {
 // Owned by the caller, who initializes it. Nil for no class.
 id allocate(Class type);
 
-// Stops the process when there is no such class.
+// Nil, which the log says once, when there is no such class.
 id allocate(const ClassReference& type);
 
-// Allocated and initialized with `init`.
+// Allocated and initialized with `init`; empty when there is no such class.
 Retained newObject(const ClassReference& type);
 
 } // namespace kestrune::mac

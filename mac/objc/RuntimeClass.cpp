@@ -21,10 +21,17 @@ void** targetVariable(id instance) {
 
 } // namespace
 
-RuntimeClass::RuntimeClass(const char* name) : RuntimeClass(name, foundation.object.find()) {}
+RuntimeClass::RuntimeClass(const char* name) : RuntimeClass(name, foundation.object) {}
 
+RuntimeClass::RuntimeClass(const char* name, const ClassReference& superclass)
+    : RuntimeClass(name, reinterpret_cast<Class>(superclass.object())) {}
+
+// Without a superclass the runtime would make a root class, which can do nothing that is asked of it.
 RuntimeClass::RuntimeClass(const char* name, Class superclass)
-    : class_(objc_allocateClassPair(superclass, name, 0)) {
+    : class_(superclass != nullptr ? objc_allocateClassPair(superclass, name, 0) : nullptr) {
+    if (superclass == nullptr) {
+        return;
+    }
     if (class_ == nullptr) {
         fatal(std::string("There is a class named ") + name + " already.");
     }
@@ -32,18 +39,24 @@ RuntimeClass::RuntimeClass(const char* name, Class superclass)
 }
 
 void RuntimeClass::add(SEL selector, IMP implementation, const char* encoding) {
-    if (class_addMethod(class_, selector, implementation, encoding) == 0) {
+    if (class_ != nullptr && class_addMethod(class_, selector, implementation, encoding) == 0) {
         fatal(std::string("There is a method ") + sel_getName(selector) + " already.");
     }
 }
 
 Class RuntimeClass::finish() {
-    objc_registerClassPair(class_);
+    if (class_ != nullptr) {
+        objc_registerClassPair(class_);
+    }
     return class_;
 }
 
-void* RuntimeClass::target(id instance) { return *targetVariable(instance); }
+void* RuntimeClass::target(id instance) { return instance != nullptr ? *targetVariable(instance) : nullptr; }
 
-void RuntimeClass::setTarget(id instance, void* target) { *targetVariable(instance) = target; }
+void RuntimeClass::setTarget(id instance, void* target) {
+    if (instance != nullptr) {
+        *targetVariable(instance) = target;
+    }
+}
 
 } // namespace kestrune::mac

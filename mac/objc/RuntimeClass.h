@@ -1,16 +1,15 @@
 // Classes made at run time, whose instances point at a C++ object.
 #pragma once
 
-#include "mac/objc/Runtime.h"
-#include "mac/objc/TypeEncoding.h"
+#include "mac/objc/Message.h"
 
 #include <type_traits>
 
 namespace kestrune::mac {
 
-// A method of ours that the platform calls. `selectorName` has to live as long as the method is named by it.
+// An action of our own. `selectorName` has to live as long as the action is named by it.
 template <typename Signature>
-struct ImplementedMethod {
+struct Action {
     const char* selectorName;
 
     SEL selector() const { return sel_registerName(selectorName); }
@@ -21,20 +20,23 @@ class RuntimeClass {
 public:
     // Of NSObject. `name` must not be taken.
     explicit RuntimeClass(const char* name);
+
+    // Without that class no instance can be made.
+    RuntimeClass(const char* name, const ClassReference& superclass);
     RuntimeClass(const char* name, Class superclass);
 
     // The implementation is `noexcept`, as no C++ exception may cross into the platform.
-    template <typename Result, typename... Arguments>
-    void addMethod(const ImplementedMethod<Result(Arguments...)>& method,
+    template <template <typename> typename Declaration, typename Result, typename... Arguments>
+    void addMethod(const Declaration<Result(Arguments...)>& method,
                    std::type_identity_t<Result (*)(id, SEL, Arguments...) noexcept> implementation) {
         add(method.selector(), asImplementation(implementation),
             EncodingOfMethod<Result, Arguments...>.data());
     }
 
-    // From here on instances can be made and no method can be added.
+    // From here on instances can be made and no method can be added. Null without a superclass.
     Class finish();
 
-    // What an instance points at; null at first.
+    // What an instance points at; null at first, and for nil.
     static void* target(id instance);
     static void setTarget(id instance, void* target);
 

@@ -6,45 +6,65 @@ namespace kestrune::mac {
 
 namespace {
 
-std::string nameOf(const ClassReference& type, const MessageDeclaration& message) {
-    return std::string(message.kind() == MethodKind::ofClass ? "+[" : "-[") + type.name() + " " +
-           message.selectorName() + "]";
+// Null when there is no such method.
+const char* encodingIn(Class type, const MessageDeclaration& message) {
+    const Method method = message.kind() == MethodKind::ofClass
+                              ? class_getClassMethod(type, message.selector())
+                              : class_getInstanceMethod(type, message.selector());
+    return method != nullptr ? method_getTypeEncoding(method) : nullptr;
 }
 
-Method methodOf(Class type, const MessageDeclaration& message) {
-    return message.kind() == MethodKind::ofClass ? class_getClassMethod(type, message.selector())
-                                                 : class_getInstanceMethod(type, message.selector());
-}
-
-void checkMessage(const ClassReference& type, const MessageDeclaration& message, SelfCheckResult& result) {
-    ++result.messages;
-    const Class found = type.find();
-    const Method method = found != nullptr ? methodOf(found, message) : nullptr;
-    if (method == nullptr) {
-        (message.availability() == Availability::everySystem ? result.missingMethods : result.laterMethods)
-            .push_back(nameOf(type, message));
-        return;
+// The same, whether the protocol requires the method or not.
+const char* encodingIn(Protocol* protocol, const MessageDeclaration& message) {
+    for (const bool isRequired : {true, false}) {
+        const char* const encoding =
+            protocol_getMethodDescription(protocol, message.selector(), truth(isRequired), truth(true)).types;
+        if (encoding != nullptr) {
+            return encoding;
+        }
     }
-    const char* const encoding = method_getTypeEncoding(method);
-    const std::string actual = encoding != nullptr ? encoding : "";
-    if (normalizedEncoding(actual) != normalizedEncoding(message.encoding())) {
-        result.differences.push_back(nameOf(type, message) + ": expected " + message.encoding() + ", found " +
-                                     actual);
+    return nullptr;
+}
+
+// `found` is a class or a protocol; null when it is missing, as its methods are then.
+template <typename Found>
+void checkMessage(const std::string& owner, Found found, const MessageDeclaration& message,
+                  SelfCheckResult& result) {
+    ++result.messages;
+    const std::string name = methodName(message.kind(), owner, message.selectorName());
+    const char* const actual = found != nullptr ? encodingIn(found, message) : nullptr;
+    if (actual == nullptr) {
+        (message.availability() == Availability::everySystem ? result.missingMethods : result.laterMethods)
+            .push_back(name);
+    } else if (normalizedEncoding(actual) != normalizedEncoding(message.encoding())) {
+        result.differences.push_back(name + ": expected " + message.encoding() + ", found " + actual);
     }
 }
 
 void checkClass(const ClassReference& type, Presence presence, SelfCheckResult& result) {
-    const bool isThere = type.find() != nullptr;
-    if (!isThere && presence == Presence::onceLoaded) {
+    const Class found = type.find();
+    if (found == nullptr && presence == Presence::onceLoaded) {
         result.classesNotLoaded.emplace_back(type.name());
         return;
     }
     ++result.classes;
-    if (!isThere) {
+    if (found == nullptr) {
         result.missingClasses.emplace_back(type.name());
     }
     for (const auto* message = type.firstMessage(); message != nullptr; message = message->next()) {
-        checkMessage(type, *message, result);
+        checkMessage(type.name(), found, *message, result);
+    }
+}
+
+void checkProtocol(const ProtocolReference& protocol, SelfCheckResult& result) {
+    Protocol* const found = protocol.find();
+    if (found == nullptr) {
+        result.protocolsNotThere.emplace_back(protocol.name());
+        return;
+    }
+    const std::string owner = std::string("<") + protocol.name() + ">";
+    for (const auto* message = protocol.firstMessage(); message != nullptr; message = message->next()) {
+        checkMessage(owner, found, *message, result);
     }
 }
 
@@ -55,6 +75,10 @@ SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks) {
     for (const Framework* const framework : frameworks) {
         for (const auto* type = framework->firstClass(); type != nullptr; type = type->next()) {
             checkClass(*type, framework->presence(), result);
+        }
+        for (const auto* protocol = framework->firstProtocol(); protocol != nullptr;
+             protocol = protocol->next()) {
+            checkProtocol(*protocol, result);
         }
     }
     return result;

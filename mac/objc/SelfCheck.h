@@ -11,16 +11,19 @@
 namespace kestrune::mac {
 
 struct SelfCheckResult {
-    std::size_t classes = 0; // declared, but for those below
-    std::size_t messages = 0;
+    std::size_t classes = 0;  // declared, but for those below
+    std::size_t messages = 0; // of classes and of protocols that are there
 
     // Names of classes whose framework is not loaded. Nothing is known of their methods.
     std::vector<std::string> classesNotLoaded;
 
+    // Names of protocols that are not there. Nobody needs them, and nothing is known of their methods.
+    std::vector<std::string> protocolsNotThere;
+
     // Methods of newer systems than this one.
     std::vector<std::string> laterMethods;
 
-    // Each names a class, or a method and its encodings.
+    // Each names a class, or a method and its encodings. A protocol stands between angle brackets.
     std::vector<std::string> missingClasses;
     std::vector<std::string> missingMethods;
     std::vector<std::string> differences;
@@ -28,7 +31,7 @@ struct SelfCheckResult {
     bool isClean() const { return missingClasses.empty() && missingMethods.empty() && differences.empty(); }
 };
 
-// Holds every declared class and message of the frameworks against the runtime.
+// Holds every declared class, protocol and message of the frameworks against the runtime.
 SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks = Frameworks);
 
 // Stops the process unless that finds nothing, and names everything that it finds.

@@ -1,4 +1,4 @@
-// Classes and messages of AppKit.
+// Classes, protocols and messages of AppKit, those that classes of ours have methods for among them.
 //
 // Source: its public headers.
 #pragma once
@@ -39,6 +39,12 @@ struct AppKit : Framework {
         Message<void(id)> terminate{*this, "terminate:"};
     } application{*this, "NSApplication"};
 
+    struct NSApplicationDelegate : ProtocolReference {
+        using ProtocolReference::ProtocolReference;
+        Message<void(id)> applicationDidFinishLaunching{*this, "applicationDidFinishLaunching:"};
+        Message<void(id)> applicationWillTerminate{*this, "applicationWillTerminate:"};
+    } applicationDelegate{*this, "NSApplicationDelegate"};
+
     struct NSMenu : ClassReference {
         using ClassReference::ClassReference;
         Message<id(id)> initWithTitle{*this, "initWithTitle:"};
@@ -46,6 +52,11 @@ struct AppKit : Framework {
         Message<void(id)> addItem{*this, "addItem:"};
         Message<void(id)> setDelegate{*this, "setDelegate:"};
     } menu{*this, "NSMenu"};
+
+    struct NSMenuDelegate : ProtocolReference {
+        using ProtocolReference::ProtocolReference;
+        Message<void(id)> menuWillOpen{*this, "menuWillOpen:"};
+    } menuDelegate{*this, "NSMenuDelegate"};
 
     struct NSMenuItem : ClassReference {
         using ClassReference::ClassReference;
@@ -113,6 +124,7 @@ struct AppKit : Framework {
         Message<void(BOOL)> setWraps{*this, "setWraps:"};
         Message<void(BOOL)> setAccessibilityElement{*this, "setAccessibilityElement:"};
         Message<void(id)> setAccessibilityLabel{*this, "setAccessibilityLabel:"};
+        Message<void(Rect, id)> drawWithFrame{*this, "drawWithFrame:inView:"};
     } cell{*this, "NSCell"};
 
     struct NSButtonCell : ClassReference {
@@ -132,6 +144,12 @@ struct AppKit : Framework {
         Message<Rect(Rect)> frameForAlignmentRect{*this, "frameForAlignmentRect:"};
         Message<void(BOOL)> setAccessibilityElement{*this, "setAccessibilityElement:"};
         Message<void(id)> setAccessibilityLabel{*this, "setAccessibilityLabel:"};
+        Message<BOOL()> isFlipped{*this, "isFlipped"};
+        Message<BOOL()> wantsUpdateLayer{*this, "wantsUpdateLayer"};
+        Message<void(Rect)> drawRect{*this, "drawRect:"};
+        Message<Rect()> focusRingMaskBounds{*this, "focusRingMaskBounds"};
+        Message<void()> drawFocusRingMask{*this, "drawFocusRingMask"};
+        Message<void()> viewDidMoveToWindow{*this, "viewDidMoveToWindow"};
     } view{*this, "NSView"};
 
     struct NSControl : ClassReference {
@@ -197,9 +215,16 @@ struct AppKit : Framework {
         Message<Rect(Rect)> frameRectForContentRect{*this, "frameRectForContentRect:"};
     } window{*this, "NSWindow"};
 
+    struct NSWindowDelegate : ProtocolReference {
+        using ProtocolReference::ProtocolReference;
+        Message<void(id)> windowDidBecomeKey{*this, "windowDidBecomeKey:"};
+        Message<void(id)> windowWillClose{*this, "windowWillClose:"};
+    } windowDelegate{*this, "NSWindowDelegate"};
+
     struct NSWindowController : ClassReference {
         using ClassReference::ClassReference;
         Message<id(id)> initWithWindow{*this, "initWithWindow:"};
+        Message<id(id)> initWithCoder{*this, "initWithCoder:"};
     } windowController{*this, "NSWindowController"};
 
     struct NSFont : ClassReference {

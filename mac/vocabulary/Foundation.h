@@ -21,6 +21,7 @@ struct Foundation : Framework {
         Message<id()> self{*this, "self"};
         Message<void(SEL, id, double)> performSelector{*this, "performSelector:withObject:afterDelay:"};
         Message<BOOL(Class)> isKindOfClass{*this, "isKindOfClass:"};
+        Message<BOOL(SEL)> respondsToSelector{*this, "respondsToSelector:"};
     } object{*this, "NSObject"};
 
     struct NSAutoreleasePool : ClassReference {

@@ -1,6 +1,7 @@
-// Classes and messages of Sparkle, which are there once the framework has been loaded.
+// Classes, protocols and messages of Sparkle, which are there once the framework has been loaded.
 //
-// Source: Sparkle 2, SPUStandardUserDriver.h, SPUUpdater.h.
+// Source: Sparkle 2, SPUStandardUserDriver.h, SPUStandardUserDriverDelegate.h, SPUUpdater.h,
+// SPUUpdaterDelegate.h.
 #pragma once
 
 #include "mac/objc/Message.h"
@@ -17,6 +18,18 @@ struct Sparkle : Framework {
         Message<id(id, id)> initWithHostBundle{*this, "initWithHostBundle:delegate:"};
     } standardUserDriver{*this, "SPUStandardUserDriver"};
 
+    struct SPUStandardUserDriverDelegate : ProtocolReference {
+        using ProtocolReference::ProtocolReference;
+        Message<BOOL()> supportsGentleScheduledUpdateReminders{*this,
+                                                               "supportsGentleScheduledUpdateReminders"};
+        Message<void(BOOL, id, id)> standardUserDriverWillHandleShowingUpdate{
+            *this, "standardUserDriverWillHandleShowingUpdate:forUpdate:state:"};
+        Message<void()> standardUserDriverWillFinishUpdateSession{
+            *this, "standardUserDriverWillFinishUpdateSession"};
+        Message<void()> standardUserDriverWillShowModalAlert{*this, "standardUserDriverWillShowModalAlert"};
+        Message<void()> standardUserDriverDidShowModalAlert{*this, "standardUserDriverDidShowModalAlert"};
+    } userDriverDelegate{*this, "SPUStandardUserDriverDelegate"};
+
     struct SPUUpdater : ClassReference {
         using ClassReference::ClassReference;
         Message<id(id, id, id, id)> initWithHostBundle{
@@ -25,6 +38,10 @@ struct Sparkle : Framework {
         Message<void(BOOL)> setAutomaticallyDownloadsUpdates{*this, "setAutomaticallyDownloadsUpdates:"};
         Message<void()> checkForUpdates{*this, "checkForUpdates"};
     } updater{*this, "SPUUpdater"};
+
+    struct SPUUpdaterDelegate : ProtocolReference {
+        using ProtocolReference::ProtocolReference;
+    } updaterDelegate{*this, "SPUUpdaterDelegate"};
 };
 
 extern const Sparkle sparkle;

@@ -1,11 +1,7 @@
-// What the platform is told that the application's delegates are, and what becomes of it where it has no such
-// protocols.
-#include "mac/Protocols.h"
-
+// What the platform is told that the application's delegates are.
 #include "mac/objc/Pool.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/SettingsFixture.h"
-#include "tests/gnustep/standins/Protocols.h"
 
 #include <string>
 
@@ -16,9 +12,7 @@ using contract::LoggedMessage;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::Field;
-using testing::IsEmpty;
 using testing::Not;
-using testing::UnorderedElementsAre;
 
 const std::vector<const char*> EveryProtocol = {"NSApplicationDelegate", "NSMenuDelegate", "NSWindowDelegate",
                                                 "SPUStandardUserDriverDelegate", "SPUUpdaterDelegate"};
@@ -35,12 +29,6 @@ std::vector<std::string> protocolsOf(const char* className) {
         }
     }
     return conformedTo;
-}
-
-LoggedMessage missing(const std::string& protocol) {
-    return {LoggedMessage::Level::error, "org.kestrune.Kestrune", "app",
-            "There is no protocol " + protocol + " at run time",
-            "There is no protocol %{public}s at run time"};
 }
 
 class ProtocolsOnGNUstep : public SettingsFixture {};
@@ -60,38 +48,6 @@ TEST_F(ProtocolsOnGNUstep, AreAdoptedByTheWizards) {
     world_.setTrust(contract::Trust::switchedOff);
     launch();
     EXPECT_THAT(protocolsOf("WelcomeWindowController"), ElementsAre("NSWindowDelegate"));
-}
-
-TEST_F(ProtocolsOnGNUstep, AreNamedOnceWhenTheyAreMissing) {
-    mac::adopt(classNamed("NSObject"), "SPUMissingDelegate");
-    mac::adopt(classNamed("NSArray"), "SPUMissingDelegate");
-    mac::adopt(classNamed("NSArray"), "SPUOtherDelegate");
-    EXPECT_THAT(world_.loggedMessages(),
-                ElementsAre(missing("SPUMissingDelegate"), missing("SPUOtherDelegate")));
-}
-
-struct LeftOut {
-    LeftOut() { leaveDelegateProtocolsOut(); }
-};
-
-// In this order: what is left out has to be so before there is a world.
-class WithoutProtocols : LeftOut, public SettingsFixture {};
-
-TEST_F(WithoutProtocols, TheApplicationGoesOnAndItsDelegatesAreCalled) {
-    launchAndOpen();
-    EXPECT_THAT(titles(), ElementsAre("Kestrune Settings"));
-    world_.clickCloseButton();
-    world_.runMainQueue();
-    EXPECT_EQ(world_.activationPolicy(), ActivationPolicy::accessory);
-    std::vector<LoggedMessage> errors;
-    for (const LoggedMessage& message : logged("app")) {
-        if (message.level == LoggedMessage::Level::error) {
-            errors.push_back(message);
-        }
-    }
-    EXPECT_THAT(errors, UnorderedElementsAre(missing("NSApplicationDelegate"), missing("NSMenuDelegate"),
-                                             missing("NSWindowDelegate")));
-    EXPECT_THAT(protocolsOf("KestruneApp"), IsEmpty());
 }
 
 } // namespace

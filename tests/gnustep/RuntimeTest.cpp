@@ -68,7 +68,7 @@ TEST(RuntimeClassOnGNUstepDeathTest, IsMadeOncePerName) {
 }
 
 TEST(RuntimeClassOnGNUstepDeathTest, HasAMethodOnce) {
-    constexpr mac::ImplementedMethod<void()> method{"doSomething"};
+    constexpr mac::Action<void()> method{"doSomething"};
     EXPECT_DEATH(
         {
             RuntimeClass type("RuntimeTestMethods");

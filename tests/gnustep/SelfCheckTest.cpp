@@ -32,6 +32,14 @@ using testing::UnorderedElementsAreArray;
 // Classes and methods that stand-ins alone have; the check tells nothing about their encodings.
 const std::vector<std::string> ClassesMissingInGNUstep = {"NSImageSymbolConfiguration", "SMAppService"};
 
+const std::vector<std::string> ProtocolsMissingInGNUstep = {
+    "NSApplicationDelegate", "NSMenuDelegate", "NSWindowDelegate", "SPUStandardUserDriverDelegate",
+    "SPUUpdaterDelegate"};
+
+// Methods that the application has, and that only the Mac's AppKit calls.
+const std::vector<std::string> SentByTheMacAlone = {
+    "-[NSView drawFocusRingMask]", "-[NSView focusRingMaskBounds]", "-[NSView wantsUpdateLayer]"};
+
 // Of a framework that may be missing; GNUstep knows nothing of it.
 const std::vector<std::string> ClassesOfFrameworks = {"SPUStandardUserDriver", "SPUUpdater"};
 const std::vector<std::string> MissingInEveryRelease = {
@@ -83,6 +91,7 @@ const LateMethod MissingOnce[] = {
 
 std::vector<std::string> missingInGNUstep() {
     std::vector<std::string> missing = MissingInEveryRelease;
+    missing.insert(missing.end(), SentByTheMacAlone.begin(), SentByTheMacAlone.end());
     for (const LateMethod& late : MissingOnce) {
         if (release() < late.release) {
             missing.push_back(late.method);
@@ -152,6 +161,7 @@ TEST(SelfCheck, FindsInGNUstepWhatIsNotListedAsMissing) {
     EXPECT_THAT(result.missingClasses, UnorderedElementsAreArray(ClassesMissingInGNUstep));
     EXPECT_THAT(result.classesNotLoaded, UnorderedElementsAreArray(ClassesOfFrameworks));
     EXPECT_THAT(result.missingMethods, UnorderedElementsAreArray(missingInGNUstep()));
+    EXPECT_THAT(result.protocolsNotThere, UnorderedElementsAreArray(ProtocolsMissingInGNUstep));
     EXPECT_THAT(result.laterMethods, UnorderedElementsAreArray(LaterMethods));
 }
 
@@ -168,7 +178,8 @@ TEST(SelfCheck, FindsEverythingWithTheStandIns) {
     const mac::SelfCheckResult result = mac::checkVocabulary();
     EXPECT_THAT(result.classesNotLoaded, IsEmpty());
     EXPECT_THAT(result.missingClasses, IsEmpty());
-    EXPECT_THAT(result.missingMethods, IsEmpty());
+    EXPECT_THAT(result.missingMethods, UnorderedElementsAreArray(SentByTheMacAlone));
+    EXPECT_THAT(result.protocolsNotThere, IsEmpty());
     EXPECT_THAT(result.laterMethods, ElementsAre("+[NSColor quinaryLabelColor]")); // behind one that is there
     EXPECT_THAT(methodsOf(result.differences), UnorderedElementsAreArray(explainedMethods()));
 }
@@ -244,25 +255,34 @@ struct Mistakes : mac::Framework {
     struct NSScren : mac::ClassReference {
         using ClassReference::ClassReference;
     } misspelledClass{*this, "NSScren"};
-};
 
-TEST_F(SelfCheckDeathTest, StopsWhoeverSendsAMessageToAClassThatIsMissing) {
-    static constinit const Mistakes mistakes;
-    EXPECT_DEATH(mistakes.misspelledClass.object(), "The platform has no class NSScren\\.");
-}
+    struct NSCoding : mac::ProtocolReference {
+        using ProtocolReference::ProtocolReference;
+        mac::Message<void(int)> wrongArgument{*this, "encodeWithCoder:"};
+        mac::Message<void()> misspelled{*this, "encodeWithCodre:"};
+    } coding{*this, "NSCoding"};
+
+    struct NSCodign : mac::ProtocolReference {
+        using ProtocolReference::ProtocolReference;
+        mac::Message<void(id)> unknown{*this, "encodeWithCoder:"};
+    } misspelledProtocol{*this, "NSCodign"};
+};
 
 TEST(SelfCheck, FindsDeliberateMistakes) {
     static constinit const Mistakes mistakes;
     const std::array<const mac::Framework*, 1> frameworks = {&mistakes};
     const mac::SelfCheckResult result = mac::checkVocabulary(frameworks);
     EXPECT_EQ(result.classes, 5U);
-    EXPECT_EQ(result.messages, 5U);
+    EXPECT_EQ(result.messages, 7U);
     EXPECT_THAT(result.missingClasses, ElementsAre("NSScren"));
     EXPECT_THAT(result.missingMethods,
-                UnorderedElementsAre("-[NSBundle infoDictionairy]", "+[NSBundle infoDictionary]"));
+                UnorderedElementsAre("-[NSBundle infoDictionairy]", "+[NSBundle infoDictionary]",
+                                     "-[<NSCoding> encodeWithCodre:]"));
+    EXPECT_THAT(result.protocolsNotThere, ElementsAre("NSCodign"));
     EXPECT_THAT(result.differences,
                 UnorderedElementsAre(StartsWith("-[NSArray count]: expected i@:, found "),
                                      StartsWith("-[NSNumber doubleValue]: expected f@:, found "),
+                                     StartsWith("-[<NSCoding> encodeWithCoder:]: expected v@:i, found "),
                                      StartsWith("-[NSScreen frame]: expected {CGSize=dd}@:, found ")));
 }
 

@@ -44,6 +44,9 @@ int main(int argc, char** argv) {
     for (const std::string& name : result.classesNotLoaded) {
         std::fprintf(stderr, "The class %s is not loaded; it is left out.\n", name.c_str());
     }
+    for (const std::string& name : result.protocolsNotThere) {
+        std::fprintf(stderr, "No image that is loaded has the protocol %s; it is left out.\n", name.c_str());
+    }
     if (shouldBeComplete && !result.classesNotLoaded.empty()) {
         return EXIT_FAILURE;
     }

@@ -142,7 +142,7 @@ kestrune_picture_mutant(FocusRingNeedsAShape DrawnButton DrawTheFocusRingAroundA
     "        whole.frame = self->shown()->frame;
 " "")
 kestrune_picture_mutant(FocusRingHasNoBounds DrawnButton DrawTheFocusRingAroundTheShapeOfAButton
-    "            type.addMethod(implemented::focusRingMaskBounds, focusRingMaskBounds);
+    "            type.addMethod(appKit.view.focusRingMaskBounds, focusRingMaskBounds);
 " "")
 kestrune_picture_mutant(ButtonIsNotDrawnAgain DrawnButton DrawAButtonAgainWhenWhatItShowsIsAnother
     "appKit.view.setNeedsDisplay(view(), truth(true));" "")

@@ -54,11 +54,11 @@ mac::Unsigned countReferences(id block, SEL) noexcept {
 
 Class makeClass() {
     mac::RuntimeClass made("KestruneHeapBlock");
-    made.addMethod(mac::ImplementedMethod<id()>{"copy"}, copyBlock);
-    made.addMethod(mac::ImplementedMethod<id(const void*)>{"copyWithZone:"}, copyBlockWithZone);
-    made.addMethod(mac::ImplementedMethod<id()>{"retain"}, copyBlock);
-    made.addMethod(mac::ImplementedMethod<void()>{"release"}, releaseBlock);
-    made.addMethod(mac::ImplementedMethod<mac::Unsigned()>{"retainCount"}, countReferences);
+    made.addMethod(mac::Action<id()>{"copy"}, copyBlock);
+    made.addMethod(mac::Action<id(const void*)>{"copyWithZone:"}, copyBlockWithZone);
+    made.addMethod(mac::Action<id()>{"retain"}, copyBlock);
+    made.addMethod(mac::Action<void()>{"release"}, releaseBlock);
+    made.addMethod(mac::Action<mac::Unsigned()>{"retainCount"}, countReferences);
     return made.finish();
 }
 

@@ -65,6 +65,9 @@ LoginItem& loginItem() {
 }
 
 void installLoginItem() {
+    if (isLeftOut("SMAppService")) {
+        return;
+    }
     service = Subclass<NoValue>("SMAppService")
                   .method("status", status)
                   .method("registerAndReturnError:", registerItem)

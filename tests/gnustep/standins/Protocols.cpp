@@ -15,33 +15,40 @@ namespace {
 // As compilers lay it out.
 //
 // Source: libobjc of GCC 12, objc-private/module-abi-8.h.
+struct MethodList {
+    int count;
+    objc_method_description methods[8];
+};
 struct ProtocolLayout {
     Class type;
     const char* name;
     void* protocols = nullptr;
-    void* instanceMethods = nullptr;
+    const MethodList* instanceMethods = nullptr;
     void* classMethods = nullptr;
 };
 
-bool areDelegateProtocolsLeftOut = false; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+// What tells of something: it takes a notification, or a menu.
+constexpr const char* Telling = "v24@0:8@16";
 
 } // namespace
 
 void installDelegateProtocols() {
-    if (areDelegateProtocolsLeftOut) {
-        return;
-    }
-    for (const char* const name : {"NSApplicationDelegate", "NSMenuDelegate", "NSWindowDelegate"}) {
-        if (objc_getProtocol(name) == nullptr) {
-            makeProtocol(name);
-        }
-    }
+    makeProtocol("NSApplicationDelegate",
+                 {{"applicationDidFinishLaunching:", Telling}, {"applicationWillTerminate:", Telling}});
+    makeProtocol("NSMenuDelegate", {{"menuWillOpen:", Telling}});
+    makeProtocol("NSWindowDelegate", {{"windowDidBecomeKey:", Telling}, {"windowWillClose:", Telling}});
 }
 
-void leaveDelegateProtocolsOut() { areDelegateProtocolsLeftOut = true; }
-
-void makeProtocol(const char* name) {
-    __objc_protocols_add_protocol(name, new ProtocolLayout{classNamed("Protocol"), name});
+void makeProtocol(const char* name, const std::vector<ProtocolMethod>& methods) {
+    if (objc_getProtocol(name) != nullptr || isLeftOut(name)) {
+        return;
+    }
+    auto* const list = new MethodList{};
+    for (const ProtocolMethod& method : methods) {
+        list->methods[list->count++] = {sel_registerName(method.selectorName),
+                                        const_cast<char*>(method.encoding)};
+    }
+    __objc_protocols_add_protocol(name, new ProtocolLayout{classNamed("Protocol"), name, nullptr, list});
 }
 
 bool adopts(Class type, const char* protocol) {

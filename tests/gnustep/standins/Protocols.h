@@ -6,15 +6,21 @@
 
 #include "mac/objc/Runtime.h"
 
+#include <vector>
+
 namespace kestrune::gnustep {
 
-// Those of AppKit's delegates, whose names alone GNUstep knows. Before anything else is installed a test may
-// leave them out.
+// Those of AppKit's delegates, whose names alone GNUstep knows.
 void installDelegateProtocols();
-void leaveDelegateProtocolsOut();
 
-// Once for each name; without methods.
-void makeProtocol(const char* name);
+// A method of a protocol, with the encoding that Apple's compiler gives it. The texts are kept.
+struct ProtocolMethod {
+    const char* selectorName;
+    const char* encoding;
+};
+
+// Unless there is one of that name.
+void makeProtocol(const char* name, const std::vector<ProtocolMethod>& methods);
 
 bool adopts(Class type, const char* protocol);
 

@@ -137,8 +137,13 @@ void checkForUpdates(id, SEL) {
 }
 
 void makeClasses() {
-    makeProtocol(UserDriverDelegate);
-    makeProtocol(UpdaterDelegate);
+    makeProtocol(UserDriverDelegate,
+                 {{"supportsGentleScheduledUpdateReminders", "B16@0:8"},
+                  {"standardUserDriverWillHandleShowingUpdate:forUpdate:state:", "v36@0:8B16@20@28"},
+                  {"standardUserDriverWillFinishUpdateSession", "v16@0:8"},
+                  {"standardUserDriverWillShowModalAlert", "v16@0:8"},
+                  {"standardUserDriverDidShowModalAlert", "v16@0:8"}});
+    makeProtocol(UpdaterDelegate, {});
     Subclass<NoValue>("SPUStandardUserDriver").method("initWithHostBundle:delegate:", initUserDriver);
     Subclass<UpdaterVariables>("SPUUpdater")
         .method("initWithHostBundle:applicationBundle:userDriver:delegate:", initUpdater)
