@@ -40,7 +40,7 @@ kestrune_mutant(UnsignedCharacterIsNoTruthValue ${ENCODING} FROM "        case '
 
 set(WINDOW_IS_KEPT HostedViewOnGNUstep.KeepsAWindowThatItsOwnButtonLetsGoOfUntilTheTurnIsOver)
 kestrune_mutant(NothingIsKeptForThisTurn FILE mac/objc/Lifetime.cpp ${VIEWS} TEST ${WINDOW_IS_KEPT}
-    FROM "    foundation.object.performSelector(object, sel_registerName(\"self\"), nullptr, 0);
+    FROM "    foundation.object.performSelector(object, foundation.object.self.selector(), nullptr, 0);
 " TO "")
 kestrune_mutant(WindowIsNotKeptForThisTurn FILE mac/hosting/HostedView.cpp ${VIEWS} TEST ${WINDOW_IS_KEPT}
     FROM "    keepForThisTurn(appKit.view.window(view));
@@ -49,16 +49,32 @@ kestrune_mutant(RemovedViewIsNotKeptForThisTurn FILE mac/hosting/SceneView.cpp $
     TEST HostedViewOnGNUstep.KeepsAViewThatGoesUntilItsTurnIsOver
     FROM "keepForThisTurn(view->view());" TO "")
 
-kestrune_mutant(MissingProtocolIsNamedEachTime FILE mac/Protocols.cpp ${APPLICATION}
-    TEST ProtocolsOnGNUstep.AreNamedOnceWhenTheyAreMissing
-    FROM "logged.insert(protocolName).second" TO "true")
+kestrune_mutant(WhatIsMissingIsNamedEachTime FILE mac/objc/Missing.cpp ${APPLICATION}
+    TEST WhatIsMissing.GivesZeroAndIsNamedOnceAsAMethod
+    FROM "logged.insert(name).second" TO "true")
+kestrune_mutant(MissingClassIsNotNamed FILE mac/objc/Message.cpp ${APPLICATION}
+    TEST WhatIsMissing.IsNilAndNamedOnceAsAClass
+    FROM "        logMissing(MissingClass, name());
+" TO "")
+kestrune_mutant(MissingMethodIsSent FILE mac/objc/Message.cpp ${APPLICATION}
+    TEST WhatIsMissing.GivesZeroAndIsNamedOnceAsAMethod
+    FROM "        return false;
+" TO "        return true;
+")
+kestrune_mutant(ForwardersAreNotAsked FILE mac/objc/Message.cpp ${APPLICATION}
+    TEST WhatIsMissing.IsNotWhatTheReceiverForwards
+    FROM " && !answersFor(receiver, selector())" TO "")
+kestrune_mutant(MissingSuperclassMakesARootClass FILE mac/objc/RuntimeClass.cpp ${APPLICATION}
+    TEST WhatIsMissing.LeavesItsSubclassWithoutInstances
+    FROM "superclass != nullptr ? objc_allocateClassPair(superclass, name, 0) : nullptr"
+    TO "objc_allocateClassPair(superclass, name, 0)")
 kestrune_mutant(MenusDelegateIsNone FILE mac/ObjectClass.cpp ${APPLICATION}
     TEST ProtocolsOnGNUstep.AreAdoptedByEveryDelegate
-    FROM "        adopt(type, \"NSMenuDelegate\");
+    FROM "        adopt(type, appKit.menuDelegate);
 " TO "")
 kestrune_mutant(WindowsDelegateIsAMenus FILE mac/ObjectClass.cpp ${APPLICATION}
     TEST ProtocolsOnGNUstep.AreAdoptedByTheWizards
-    FROM "adopt(type, \"NSWindowDelegate\")" TO "adopt(type, \"NSMenuDelegate\")")
+    FROM "adopt(type, appKit.windowDelegate)" TO "adopt(type, appKit.menuDelegate)")
 
 set(LOG FILE mac/Log.cpp ${CONTRACT})
 kestrune_mutant(SubsystemIsTheCategory ${LOG} TEST LogContract.KeepsAnErrorWithItsSubsystemAndCategory
