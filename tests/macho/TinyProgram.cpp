@@ -14,6 +14,7 @@ constexpr std::uint64_t LinkEditAddress = TinyProgram::DataAddress + 0x10000;
 constexpr std::uint64_t HeaderSize = 32;
 constexpr std::uint64_t SignatureSize = 16;
 constexpr std::uint64_t PointerSize = 8;
+constexpr std::uint32_t SectionOfTexts = 2; // that end with a zero
 
 std::uint32_t kindOf(Processor processor) { return processor == Processor::arm64 ? KindOfArm64 : KindOfX86; }
 
@@ -64,6 +65,7 @@ private:
 struct Layout {
     std::uint64_t initializers = 0;
     std::uint64_t code = 0;
+    std::uint64_t texts = 0;
     std::uint64_t data = 0;
     std::uint64_t linkEdit = 0;
     std::uint64_t exports = 0;
@@ -97,7 +99,10 @@ void addSection(Writer& writer, std::string_view name, std::string_view segment,
 
 class Builder {
 public:
-    explicit Builder(const TinyProgram& program) : program_(program), fixups_(chainedFixups()) { layOut(); }
+    explicit Builder(const TinyProgram& program)
+        : program_(program), texts_(texts()), fixups_(chainedFixups()) {
+        layOut();
+    }
 
     Content build() const {
         Writer writer;
@@ -108,7 +113,10 @@ public:
         for (std::uint32_t index = 0; index < program_.initializers; ++index) {
             writer.words({layout_.code});
         }
-        writer.append(Content(program_.codeSize, 0x90)).alignTo(PointerSize).append(pointers());
+        writer.append(Content(program_.codeSize, 0x90))
+            .append(texts_)
+            .alignTo(PointerSize)
+            .append(pointers());
         writer.append(fixups_).alignTo(PointerSize).append(exports());
         writer.alignTo(16).append(Content(SignatureSize));
         return writer.content();
@@ -121,7 +129,8 @@ private:
         };
         layout_.initializers = HeaderSize + loadCommands().size();
         layout_.code = layout_.initializers + 4 * program_.initializers;
-        layout_.data = aligned(layout_.code + program_.codeSize, PointerSize);
+        layout_.texts = layout_.code + program_.codeSize;
+        layout_.data = aligned(layout_.texts + texts_.size(), PointerSize);
         layout_.linkEdit = layout_.data + PointerSize * (1 + program_.imports.size());
         layout_.exports = aligned(layout_.linkEdit + fixups_.size(), PointerSize);
         layout_.signature = aligned(layout_.exports + exports().size(), 16);
@@ -157,12 +166,16 @@ private:
 
     void addSegments(Writer& writer) const {
         const std::uint64_t base = TinyProgram::LoadAddress;
-        Writer text =
-            segment("__TEXT", {base, 0x10000, 0, layout_.data}, Segment::Readable | Segment::Executable, 2);
+        Writer text = segment("__TEXT", {base, 0x10000, 0, layout_.data},
+                              Segment::Readable | Segment::Executable, texts_.empty() ? 2 : 3);
         addSection(text, "__init_offsets", "__TEXT",
                    {base + layout_.initializers, 4 * program_.initializers, layout_.initializers, 0},
                    Section::InitializerOffsets);
         addSection(text, "__text", "__TEXT", {base + layout_.code, program_.codeSize, layout_.code, 0}, 0);
+        if (!texts_.empty()) {
+            addSection(text, "__cstring", "__TEXT", {base + layout_.texts, texts_.size(), layout_.texts, 0},
+                       SectionOfTexts);
+        }
         writer.append(command(Command::segment, text));
 
         const std::uint64_t size = layout_.linkEdit - layout_.data;
@@ -175,6 +188,14 @@ private:
             Command::segment,
             segment("__LINKEDIT", {LinkEditAddress, 0x4000, layout_.linkEdit, layout_.end - layout_.linkEdit},
                     Segment::Readable, 0)));
+    }
+
+    Content texts() const {
+        Writer writer;
+        for (const std::string& text : program_.texts) {
+            writer.text(text, text.size() + 1);
+        }
+        return writer.content();
     }
 
     // Of the four segments of a program, or the three of a library, only the data has any.
@@ -229,6 +250,7 @@ private:
     }
 
     const TinyProgram& program_;
+    Content texts_;
     Content fixups_;
     Layout layout_;
 };
@@ -278,6 +300,13 @@ std::map<std::string, std::vector<std::uint8_t>> tinyPrograms() {
         {2, false, "_objc_retain", 0}, {1, true, "_maybe", 0}, {Import::WeakDefinition, false, "__Znwm", 0}};
     imports.pointerFormat = 2;
     imports.sizeOfPages = 0x1000;
+    TinyProgram names = intel;
+    names.libraries.emplace_back("/System/Library/Frameworks/AppKit.framework/Versions/C/AppKit");
+    names.imports = {{1, false, "_exit", 0}, {2, false, "_NSApp", 0}, {2, false, "_NSBeep", 0}};
+    names.texts = {"NSView",        "NSMenuDelegate", "setFrame:display:", "selectAll:", "NSScreenNumber",
+                   "circle.dashed", "v16@?0@8",       "Pin Dock to:",      "a:",         "UTF8String"};
+    TinyProgram namesOnArm = names;
+    namesOnArm.processor = Processor::arm64;
     TinyProgram armLibrary;
     armLibrary.type = FileType::library;
     TinyProgram intelLibrary = armLibrary;
@@ -285,6 +314,7 @@ std::map<std::string, std::vector<std::uint8_t>> tinyPrograms() {
     return {{"arm64.macho", TinyProgram().bytes()},
             {"imports.macho", imports.bytes()},
             {"library.macho", universal({intelLibrary, armLibrary})},
+            {"names.macho", universal({names, namesOnArm})},
             {"universal.macho", universal({intel, arm})},
             {"x86_64.macho", intel.bytes()}};
 }

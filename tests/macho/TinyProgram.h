@@ -27,6 +27,7 @@ struct TinyProgram {
     Version minimumSystem{13, 0, 0};
     std::vector<std::string> libraries{"/usr/lib/libSystem.B.dylib"};
     std::vector<Import> imports{{1, false, "_exit", 0}};
+    std::vector<std::string> texts; // constants; without any there is no section for them
 
     std::vector<std::uint8_t> bytes() const;
 };

@@ -40,10 +40,10 @@ class Half:
         magic, self.kind, self.subtype, self.type, count = struct.unpack_from("<IIIII", self.data)
         if magic != PROGRAM or self.kind not in PROCESSORS:
             raise Failure(f"is a program for no processor of macOS 13 ({magic:#x}, {self.kind:#x})")
-        self._commands, place = [], LOAD_COMMANDS
+        self.commands, place = [], LOAD_COMMANDS  # the kind of each, and where it is
         for _ in range(count):
             kind, size = struct.unpack_from("<II", self.data, place)
-            self._commands.append((kind, place))
+            self.commands.append((kind, place))
             place += size
         self._signature = self._command(CODE_SIGNATURE)
         if self._signature is None:
@@ -113,7 +113,7 @@ class Half:
 
     def _sections(self):
         """Where the sections start in the file, 0 for those that are filled with zeros."""
-        for kind, segment in self._commands:
+        for kind, segment in self.commands:
             if kind == SEGMENT:
                 for header in self._section_headers(segment):
                     yield struct.unpack_from("<I", self.data, header + 48)[0]
@@ -128,10 +128,10 @@ class Half:
 
     def _command(self, wanted):
         """Where the first load command of a kind starts, None without one."""
-        return next((place for kind, place in self._commands if kind == wanted), None)
+        return next((place for kind, place in self.commands if kind == wanted), None)
 
     def _segment(self, name):
-        for kind, place in self._commands:
+        for kind, place in self.commands:
             if kind == SEGMENT and self.data[place + 8 : place + 24].rstrip(b"\0") == name:
                 return place
         raise Failure(f"has no segment {name.decode()} ({self.processor})")
