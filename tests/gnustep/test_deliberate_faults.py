@@ -1,11 +1,13 @@
-"""Programs for Macs with one fault each: running them names it."""
+"""Programs for Macs with one fault each: it is named by what judges the file, or by running it."""
 
 import os
 import pathlib
 import shutil
+import struct
 import subprocess
 import unittest
 
+import names
 import worlds
 from releasing import sealing
 from releasing.halves import PROGRAM
@@ -16,6 +18,17 @@ APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
 PROCESSOR = os.environ["KESTRUNE_PROCESSOR"]
 
 UNREADABLE = 2
+
+DRAWS_IN_A_VIEW = b"v@:{CGRect={CGPoint=dd}{CGSize=dd}}"
+
+
+def flags_of_blocks(flags):
+    """What may be in the program for them: the number itself, or an instruction that puts its upper half into
+    one of the registers."""
+    if PROCESSOR == "x86_64":
+        return [struct.pack("<I", flags)]
+    move_upper_half = 0x72A00000  # Arm Architecture Reference Manual, MOVK
+    return [struct.pack("<I", move_upper_half | (flags >> 16) << 5 | register) for register in range(31)]
 
 
 class DeliberateFaults(TreeTest):
@@ -39,10 +52,28 @@ class DeliberateFaults(TreeTest):
         self.program.write_bytes(content.replace(old, new))
 
     def run_story(self):
-        settings = {"GTEST_FILTER": worlds.FIRST_RUN, "KESTRUNE_PROGRAM": str(self.program)}
+        settings = {
+            "GTEST_FILTER": worlds.FIRST_RUN,
+            "KESTRUNE_PROGRAM": str(self.program),
+            "OS_ACTIVITY_DT_MODE": "YES",
+        }
         return subprocess.run(
             [STORIES], env=self.environment | settings, capture_output=True, encoding="utf-8", timeout=120
         )
+
+    def assert_judged(self, *findings):
+        """Of either half."""
+        expected = [f"{half}: {finding}" for half in ("x86_64", "arm64") for finding in findings]
+        judged = [str(finding) for finding in names.judge_program(self.program)]
+        self.assertEqual(sorted(judged), sorted(expected))
+
+    def assert_logged_once(self, name, message):
+        """The story, which does not need it, comes to its end."""
+        sealing.seal(self.application)
+        result = self.run_story()
+        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+        (line,) = [line for line in result.stderr.splitlines() if name in line]
+        self.assertRegex(line, rf"^\[org\.kestrune\.Kestrune:app\] {message}$")
 
     def assert_named(self, *parts):
         result = self.run_story()
@@ -61,6 +92,45 @@ class DeliberateFaults(TreeTest):
     def test_none_is_found_in_the_program_as_it_is(self):
         result = self.run_story()
         self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+        self.assertNotIn("There is no ", result.stderr)
+        self.assert_judged()
+
+    def test_a_wrong_selector(self):
+        self.replace(b"\0setToolTip:\0", b"\0setToolTep:\0")
+        self.assert_judged(
+            "selector setToolTep: is declared nowhere",
+            "selector setToolTip: is declared, and not in the program",
+        )
+        self.assert_logged_once("setToolTep:", r"There is no method -\[\w+ setToolTep:\] at run time")
+
+    def test_a_missing_protocol(self):
+        self.replace(b"\0NSMenuDelegate\0", b"\0NSMenuDelegata\0")
+        self.assert_judged(
+            "name NSMenuDelegata is declared nowhere",
+            "protocol NSMenuDelegate is declared, and not in the program",
+        )
+        self.assert_logged_once("NSMenuDelegata", "There is no protocol NSMenuDelegata at run time")
+
+    def test_a_block_with_a_wrong_layout(self):
+        """Whoever copies it would take it for one on the stack."""
+        content = self.program.read_bytes()
+        changes = zip(flags_of_blocks(0x43000002), flags_of_blocks(0x42000002))
+        ((right, wrong),) = [change for change in changes if change[0] in content]
+        self.assertEqual(content.count(right), 1)
+        self.replace(right, wrong)
+        sealing.seal(self.application)
+        self.assert_named(
+            "A block is not laid out as it has to be: its flags do not say that it is on the heap"
+        )
+
+    def test_a_wrong_encoding_of_a_method_that_the_platform_calls(self):
+        self.replace(DRAWS_IN_A_VIEW + b"@\0", DRAWS_IN_A_VIEW + b"q\0")
+        sealing.seal(self.application)
+        self.assert_named(
+            "-[KestruneDrawnButtonCell drawWithFrame:inView:] has the encoding "
+            f"{DRAWS_IN_A_VIEW.decode()}q, and NS",
+            "'s has v",
+        )
 
     @unittest.skipIf(PROCESSOR == "arm64", "there every structure is returned in the same way")
     def test_a_structure_that_is_returned_in_another_way(self):

@@ -1,4 +1,4 @@
-"""Each of the platform's names in the shipped program is declared, and each declared one is in either half."""
+"""The platform's names in the shipped program are declared, and each declared one is in either half."""
 
 import os
 import pathlib

@@ -12,6 +12,8 @@
 
 #include <dlfcn.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string>
@@ -92,8 +94,12 @@ void keep(LoggedMessage::Level level, void* image, os_log_t log, std::uint8_t ty
           const std::uint8_t* buffer, std::uint32_t size) {
     require(type == typeOf(level), "a message has another type than its function");
     requireInImage(format, image);
-    loggedMessages().push_back(
-        {level, log->subsystem, log->category, messageIn(format, buffer, size), format});
+    const std::string message = messageIn(format, buffer, size);
+    loggedMessages().push_back({level, log->subsystem, log->category, message, format});
+    // Whatever it is set to, the Mac's says everything on standard error as well.
+    if (std::getenv("OS_ACTIVITY_DT_MODE") != nullptr) {
+        std::fprintf(stderr, "[%s:%s] %s\n", log->subsystem.c_str(), log->category.c_str(), message.c_str());
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "mac/Vocabulary.h"
 #include "mac/objc/Block.h"
 #include "mac/objc/NewObject.h"
+#include "tests/macho/loader/ClassChecks.h"
 #include "tests/macho/loader/Conventions.h"
 
 #include <dlfcn.h>
@@ -68,6 +69,7 @@ Functions replacements(MessageChecks checks) {
         {"___stack_chk_guard", &stackGuard},
         {"___stderrp", addressOf(&stderr)},
     };
+    functions.merge(classFunctions());
     functions.merge(messageFunctions(checks));
     functions.merge(functionsOfOtherConventions());
     return functions;
