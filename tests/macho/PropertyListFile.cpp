@@ -1,11 +1,14 @@
 #include "tests/macho/PropertyListFile.h"
 
+#include "tests/macho/Bytes.h"
+#include "tests/macho/SealError.h"
+
 #include <plist/plist.h>
 
 #include <cstdlib>
-#include <limits>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 namespace kestrune::macho {
 
@@ -32,7 +35,7 @@ PropertyValue dictionaryOf(plist_t node) {
         plist_dict_next_item(node, next, &key, &value);
         const Text owned(key);
         if (!value) {
-            return {dictionary};
+            return {std::move(dictionary)};
         }
         dictionary[key] = valueOf(value);
     }
@@ -101,8 +104,13 @@ std::optional<std::string> PropertyValue::text(const std::string& key) const {
     return text ? std::optional(*text) : std::nullopt;
 }
 
-std::optional<PropertyValue> readPropertyListFile(std::span<const std::uint8_t> content) {
-    if (content.empty() || content.size() > std::numeric_limits<std::uint32_t>::max()) {
+std::optional<PropertyValue> readPropertyListFile(std::span<const std::uint8_t> content,
+                                                  const std::string& name) {
+    if (content.size() > LargestPropertyList) {
+        throw SealError(printable(name) + ": has " + std::to_string(content.size()) +
+                        " bytes, and lists of up to " + std::to_string(LargestPropertyList) + " are read");
+    }
+    if (content.empty()) {
         return std::nullopt;
     }
     const char* const data = reinterpret_cast<const char*>(content.data());

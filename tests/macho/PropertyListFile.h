@@ -1,6 +1,7 @@
 // Property lists, in XML or binary, as values.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -29,7 +30,14 @@ struct PropertyValue {
     std::optional<std::string> text(const std::string& key) const;
 };
 
-// Absent when it is no property list.
-std::optional<PropertyValue> readPropertyListFile(std::span<const std::uint8_t> content);
+// Larger ones than this are not read. What libplist 2.2 does with a list recurses, and the stack's 8 MB, as
+// measured, are full at 26,000 dictionaries or 28,000 arrays one within the other. Of 5 bytes for each, the
+// least that there are, so many bytes hold 13,000. The lists of an application with two hundred resources
+// fit.
+constexpr std::size_t LargestPropertyList = 65'536;
+
+// Absent when it is no property list. Throws SealError, with the name, for one that is too large.
+std::optional<PropertyValue> readPropertyListFile(std::span<const std::uint8_t> content,
+                                                  const std::string& name);
 
 } // namespace kestrune::macho

@@ -25,7 +25,7 @@ class Check {
 public:
     Check(const FileTree& contents, const std::string& program, const FileContent& codeResources)
         : contents_(contents), program_(program) {
-        const auto seal = readPropertyListFile(codeResources);
+        const auto seal = readPropertyListFile(codeResources, nameOf(std::string(SealFile)));
         files_ = dictionaryIn(seal, "files2");
         oldFiles_ = dictionaryIn(seal, "files");
         // With other rules a seal could leave out whatever it likes.
@@ -47,8 +47,10 @@ public:
     }
 
 private:
+    std::string nameOf(const std::string& path) const { return contents_.name + "/" + path; }
+
     [[noreturn]] void refuse(const std::string& path, const std::string& what) const {
-        throw SealError(printable(contents_.name + "/" + path) + ": " + what);
+        throw SealError(printable(nameOf(path)) + ": " + what);
     }
 
     Dictionary dictionaryIn(const std::optional<PropertyValue>& seal, const std::string& key) const {

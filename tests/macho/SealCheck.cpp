@@ -28,7 +28,7 @@ struct Identity {
 };
 
 Identity identityIn(const FileContent& information, const std::string& name) {
-    const auto properties = readPropertyListFile(information);
+    const auto properties = readPropertyListFile(information, name);
     const auto identifier = properties ? properties->text("CFBundleIdentifier") : std::nullopt;
     const auto program = properties ? properties->text("CFBundleExecutable") : std::nullopt;
     if (!identifier || !program) {

@@ -83,6 +83,11 @@ class Input(SealedApplication):
         self.seal(self.app)
         self.assert_refused(self.app, f"Tiny.app/Contents/MacOS/Tiny: {FIXUP_OUTSIDE}", status=2)
 
+    def test_that_is_a_list_of_endless_depth_is_named(self):
+        write(self.contents / "Info.plist", b"<plist>" + b"<array>" * 50_000 + b"</array>" * 50_000)
+        message = "has 750007 bytes, and lists of up to 65536 are read"
+        self.assert_refused(self.app, f"Tiny.app/Contents/Info.plist: {message}")
+
     def test_that_is_not_there_is_named(self):
         result = self.check(self.root / "Other.app")
         self.assertEqual(result.returncode, 2)

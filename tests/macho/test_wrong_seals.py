@@ -51,6 +51,12 @@ class ListOfResources(WrongSeal):
         for key in ("files", "files2"):
             self.assert_list_refused(lambda sealed, key=key: sealed.pop(key), f"{LIST}: has no {key}")
 
+    def test_of_more_files_than_an_application_has_is_refused(self):
+        more = {f"Resources/{number}": {"hash2": bytes(32)} for number in range(1000)}
+        self.seal_with_list(lambda sealed: sealed["files2"].update(more))
+        size = (self.app.parent / LIST).stat().st_size
+        self.assert_refused(self.app, f"{LIST}: has {size} bytes, and lists of up to 65536 are read")
+
     def test_that_lets_a_resource_be_left_out_is_refused(self):
         name = "Resources/Icon.icns"
         self.assert_list_refused(
