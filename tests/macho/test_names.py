@@ -59,6 +59,16 @@ class Sources(unittest.TestCase):
         declaration = "sdk/usr/include/objc/objc.h"
         self.assertEqual(found, {declaration, "Menu.cpp", "objc/Message.cpp", "objc/RuntimeClass.h"})
 
+    def test_declare_messages_in_the_vocabulary_and_nowhere_else(self):
+        declaration = re.compile(r"\b(?:Class)?Message<[^;{]*>\s+\w+\s*\{\s*\*?\w+,\s*\"")
+        sources = [path for path in (REPOSITORY / "mac").rglob("*.*") if path.suffix in (".h", ".cpp")]
+        found = {
+            path.relative_to(REPOSITORY / "mac").parts[0]
+            for path in sources
+            if declaration.search(path.read_text(encoding="utf-8"))
+        }
+        self.assertEqual(found, {"vocabulary"})
+
     def test_declare_messages_in_a_form_that_is_understood(self):
         for header in sorted((REPOSITORY / "mac/vocabulary").glob("*.h")):
             with self.subTest(header.name):
