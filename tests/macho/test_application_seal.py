@@ -38,7 +38,7 @@ class ApplicationSeal(SealTest):
             with self.subTest(name):
                 data = path.read_bytes()
                 self.change_byte(path, len(data) // 3)
-                self.assertNotEqual(self.check(self.app).returncode, 0)
+                self.assert_noticed(self.app)
                 path.write_bytes(data)
         self.assert_holds(self.app)
 

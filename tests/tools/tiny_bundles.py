@@ -91,6 +91,13 @@ class SealTest(TreeTest):
         self.assertEqual((result.stdout, result.stderr), ("", f"kestrune-check-seal: {message}\n"))
         self.assertEqual(result.returncode, status)
 
+    def assert_noticed(self, bundle, what="", statuses=(1,)):
+        """In one line, whatever it says; a crash is no such status."""
+        result = self.check(bundle)
+        self.assertIn(result.returncode, statuses, what)
+        self.assertEqual(result.stdout, "", what)
+        self.assertRegex(result.stderr, rf"\Akestrune-check-seal: {bundle.name}/.+\n\Z", what)
+
     def change_byte(self, path, place):
         data = bytearray(path.read_bytes())
         data[place] ^= 1
