@@ -1,7 +1,9 @@
 // What a button's and a switch's properties are to the platform.
+#include "mac/Vocabulary.h"
 #include "mac/hosting/Accessibility.h"
 #include "mac/hosting/PlatformMeasurer.h"
 #include "mac/objc/Text.h"
+#include "mac/objc/NewObject.h"
 #include "tests/gnustep/ShownScene.h"
 #include "tests/gnustep/standins/Accessibility.h"
 #include "tests/gnustep/standins/ControlMetrics.h"
@@ -204,6 +206,15 @@ TEST_F(HostedControlsOnGNUstep, AreLeftAloneWhenTheirElementIsTheSame) {
     EXPECT_EQ(controlSize(toggle), Mini);
     EXPECT_EQ(accessibilityLabel(toggle), "somebody else's");
     EXPECT_EQ(send<Rect>(toggle, "frame"), Rect(1, 2, 3, 4));
+}
+
+// What is no control has no cell that is asked.
+TEST_F(HostedControlsOnGNUstep, AreReadOutAsIsSaidOfTheView) {
+    const mac::Retained view = mac::newObject(mac::appKit.view);
+    for (const bool isElement : {true, false}) {
+        mac::setAccessibilityElement(view.get(), isElement);
+        EXPECT_EQ(isAccessibilityElement(view.get()), isElement);
+    }
 }
 
 TEST_F(HostedControlsOnGNUstep, KeepTheirOrderUntilThereAreOthers) {

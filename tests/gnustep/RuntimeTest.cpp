@@ -1,10 +1,12 @@
-// What the binding makes by hand for the runtime: blocks, and classes.
+// What the binding makes by hand: blocks and classes for the runtime, arguments for the log.
 #include "mac/objc/Block.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
 #include "mac/objc/RuntimeClass.h"
+#include "platform/Log.h"
 #include "tests/gnustep/Send.h"
 #include "tests/gnustep/standins/Blocks.h"
+#include "tests/gnustep/standins/UnifiedLog.h"
 
 #include <gtest/gtest.h>
 
@@ -76,6 +78,16 @@ TEST(RuntimeClassOnGNUstepDeathTest, HasAMethodOnce) {
             type.addMethod(method, [](id, SEL) noexcept {});
         },
         "There is a method doSomething already.");
+}
+
+TEST(LogOnGNUstep, IsHandedNothingThatItDoesNotTake) {
+    const Log log("subsystem", "category");
+    for (const bool isEnabled : {false, true}) {
+        setLogEnabled(isEnabled);
+        log.debug(LogMessage::of<"message">());
+        log.error(LogFormat::of<"%{public}s">(), "argument");
+        EXPECT_EQ(loggedMessages().size(), isEnabled ? 2U : 0U);
+    }
 }
 
 } // namespace

@@ -212,6 +212,12 @@ TEST_F(HostedViewOnGNUstep, KeepsAWindowThatItsOwnButtonLetsGoOfUntilTheTurnIsOv
     EXPECT_TRUE(isGone);
 }
 
+TEST_F(HostedViewOnGNUstep, BeginsAtItsOriginWhileItIsInNoWindow) {
+    const HostingView view({[] { return ui::VerbatimText("text").frame({.width = 30, .height = 20}); },
+                            std::make_shared<contract::Counter>()});
+    EXPECT_EQ(send<Rect>(view.state()->view.get(), "frame"), Rect(0, 0, 30, 20));
+}
+
 TEST_F(HostedViewOnGNUstep, TurnsASwitchBackThatTheModelDoesNotFollow) {
     host([] { return ui::Toggle("switch", false, [](bool) {}); });
     world_.clickSwitch(0);

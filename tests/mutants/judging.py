@@ -49,6 +49,8 @@ def run(command, seconds=None, **options):
         _kill(process)
         return None, process.communicate()[0]
     finally:
+        # A program that has ended may have left one that never does.
+        _kill(process)
         with _lock:
             _running.discard(process)
 

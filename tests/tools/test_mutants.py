@@ -1,13 +1,19 @@
 """Random mutants of a small project: what is made of its sources, and what its tests make of that."""
 
+import os
 import pathlib
+import select
 import shutil
 import signal
 import subprocess
+import sys
 import time
 import unittest
 
 from trees import REPOSITORY, TreeTest
+
+sys.path.append(str(REPOSITORY / "tests/mutants"))
+import judging  # noqa: E402
 
 PYTHON = "/usr/bin/python3"  # which has the system's packages
 HAS_LIBCLANG = subprocess.run([PYTHON, "-c", "import clang.cindex"], capture_output=True).returncode == 0
@@ -195,6 +201,17 @@ class ByRule(MutantsTest):
         self.assertEqual(running.wait(), 128 + signal.SIGTERM)
         self.assertLess(time.monotonic() - started, 20)
         self.assertFalse(pathlib.Path("/proc", process.read_text().strip()).exists())
+
+
+class Programs(unittest.TestCase):
+    def test_leave_nothing_behind_when_they_end(self):
+        """Of what the program started nothing holds the end of the pipe any more."""
+        reading, writing = os.pipe()
+        self.addCleanup(os.close, reading)
+        left = ["sh", "-c", "tail -f /dev/null >/dev/null 2>&1 & echo started"]
+        self.assertEqual(judging.run(left, pass_fds=(writing,)), (0, "started\n"))
+        os.close(writing)
+        self.assertEqual(select.select([reading], [], [], 10)[0], [reading])
 
 
 if __name__ == "__main__":

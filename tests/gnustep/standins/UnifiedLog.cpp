@@ -90,6 +90,8 @@ std::uint8_t typeOf(LoggedMessage::Level level) {
     return 16;
 }
 
+bool isLogEnabled = true; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
 void keep(LoggedMessage::Level level, void* image, os_log_t log, std::uint8_t type, const char* format,
           const std::uint8_t* buffer, std::uint32_t size) {
     require(type == typeOf(level), "a message has another type than its function");
@@ -104,6 +106,8 @@ void keep(LoggedMessage::Level level, void* image, os_log_t log, std::uint8_t ty
 
 } // namespace
 
+void setLogEnabled(bool isEnabled) { isLogEnabled = isEnabled; }
+
 std::vector<LoggedMessage>& loggedMessages() {
     static std::vector<LoggedMessage> messages;
     return messages;
@@ -116,7 +120,7 @@ os_log_t os_log_create(const char* subsystem, const char* category) {
     return logs.emplace_back(new os_log_s{subsystem, category}).get();
 }
 
-bool os_log_type_enabled(os_log_t /*log*/, std::uint8_t /*type*/) { return true; }
+bool os_log_type_enabled(os_log_t /*log*/, std::uint8_t /*type*/) { return isLogEnabled; }
 
 void _os_log_impl(void* image, os_log_t log, std::uint8_t type, const char* format, std::uint8_t* buffer,
                   std::uint32_t size) {

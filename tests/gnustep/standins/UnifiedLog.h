@@ -9,4 +9,7 @@ namespace kestrune::gnustep {
 
 std::vector<contract::LoggedMessage>& loggedMessages();
 
+// Whether it takes messages at all; at first it does.
+void setLogEnabled(bool isEnabled);
+
 } // namespace kestrune::gnustep
