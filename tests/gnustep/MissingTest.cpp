@@ -42,7 +42,7 @@ struct Missing : mac::Framework {
         using ProtocolReference::ProtocolReference;
     } fontDelegate{*this, "NSFontDelegate"};
 };
-constinit const Missing missing;
+constinit const Missing Absent;
 
 class WhatIsMissing : public SettingsFixture {
 protected:
@@ -58,7 +58,7 @@ protected:
 };
 
 TEST_F(WhatIsMissing, IsFoundInTheLogByItsFormat) {
-    missing.screen.object();
+    Absent.screen.object();
     EXPECT_THAT(world_.loggedMessages(),
                 ElementsAre(LoggedMessage{LoggedMessage::Level::error, "org.kestrune.Kestrune", "app",
                                           "There is no class NSScren at run time",
@@ -67,16 +67,16 @@ TEST_F(WhatIsMissing, IsFoundInTheLogByItsFormat) {
 
 TEST_F(WhatIsMissing, IsNilAndNamedOnceAsAClass) {
     const mac::Pool pool;
-    EXPECT_EQ(missing.screen.object(), nullptr);
-    EXPECT_EQ(missing.screen.screens(), nullptr);
-    EXPECT_FALSE(missing.screen.screens.isThere());
-    EXPECT_EQ(mac::newObject(missing.screen).get(), nullptr);
+    EXPECT_EQ(Absent.screen.object(), nullptr);
+    EXPECT_EQ(Absent.screen.screens(), nullptr);
+    EXPECT_FALSE(Absent.screen.screens.isThere());
+    EXPECT_EQ(mac::newObject(Absent.screen).get(), nullptr);
     EXPECT_THAT(errors(), ElementsAre("There is no class NSScren at run time"));
 }
 
 TEST_F(WhatIsMissing, LeavesItsSubclassWithoutInstances) {
     const mac::Pool pool;
-    RuntimeClass type("KestruneMissing", missing.screen);
+    RuntimeClass type("KestruneMissing", Absent.screen);
     type.addMethod(mac::foundation.object.dealloc, [](id, SEL) noexcept {});
     const Class made = type.finish();
     EXPECT_EQ(made, nullptr);
@@ -93,9 +93,9 @@ TEST_F(WhatIsMissing, GivesZeroAndIsNamedOnceAsAMethod) {
     const Retained object = mac::newObject(mac::foundation.object);
     const Retained array = mac::newObject(mac::foundation.mutableArray);
     for (int time = 0; time < 2; ++time) {
-        EXPECT_EQ(missing.object.misspelled(object.get(), array.get()), nullptr);
-        EXPECT_EQ(missing.object.structure(object.get()), Rect());
-        EXPECT_EQ(missing.object.ofClass(), 0);
+        EXPECT_EQ(Absent.object.misspelled(object.get(), array.get()), nullptr);
+        EXPECT_EQ(Absent.object.structure(object.get()), Rect());
+        EXPECT_EQ(Absent.object.ofClass(), 0);
     }
     EXPECT_THAT(errors(), ElementsAre("There is no method -[NSObject isEquall:] at run time",
                                       "There is no method -[NSObject fraame] at run time",
@@ -135,9 +135,9 @@ TEST_F(WhatIsMissing, IsNotWhatTheReceiverForwards) {
 }
 
 TEST_F(WhatIsMissing, IsNamedOnceAsAProtocol) {
-    mac::adopt(classNamed("NSObject"), missing.screenDelegate);
-    mac::adopt(classNamed("NSArray"), missing.screenDelegate);
-    mac::adopt(classNamed("NSArray"), missing.fontDelegate);
+    mac::adopt(classNamed("NSObject"), Absent.screenDelegate);
+    mac::adopt(classNamed("NSArray"), Absent.screenDelegate);
+    mac::adopt(classNamed("NSArray"), Absent.fontDelegate);
     EXPECT_THAT(errors(), ElementsAre("There is no protocol NSScreenDelegate at run time",
                                       "There is no protocol NSFontDelegate at run time"));
 }
