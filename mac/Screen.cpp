@@ -18,7 +18,7 @@ namespace {
 // A number is whole unless it is stored as a floating-point one.
 DeviceDescriptionValue valueOfNumber(id number) {
     const char* type = mac::foundation.number.objCType(number);
-    if (std::strcmp(type, "d") == 0 || std::strcmp(type, "f") == 0) {
+    if (type != nullptr && (std::strcmp(type, "d") == 0 || std::strcmp(type, "f") == 0)) {
         return mac::foundation.number.doubleValue(number);
     }
     return std::int64_t{mac::foundation.number.longLongValue(number)};

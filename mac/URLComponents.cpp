@@ -2,6 +2,7 @@
 
 #include "mac/URLState.h"
 #include "mac/Vocabulary.h"
+#include "mac/objc/Collections.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
@@ -39,7 +40,7 @@ void URLComponents::setQueryItems(std::span<const URLQueryItem> items) {
     const mac::Pool pool;
     const mac::Retained list = mac::newObject(mac::foundation.mutableArray);
     for (const URLQueryItem& item : items) {
-        mac::foundation.mutableArray.addObject(list.get(), queryItem(item));
+        mac::append(list, queryItem(item));
     }
     mac::foundation.urlComponents.setQueryItems(state_->components.get(), list.get());
 }

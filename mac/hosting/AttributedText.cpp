@@ -4,6 +4,7 @@
 #include "mac/c/TextAttributes.h"
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/Fonts.h"
+#include "mac/objc/Collections.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Text.h"
 
@@ -41,12 +42,9 @@ Retained attributedText(const ui::StyledText& text, double opacity) {
     Retained result = newObject(appKit.mutableAttributedString);
     for (const ui::TextRun& run : text.runs) {
         const Retained attributes = newObject(foundation.mutableDictionary);
-        const auto set = [&attributes](id key, id value) {
-            foundation.mutableDictionary.setObject(attributes.get(), value, key);
-        };
-        set(NSFontAttributeName, platformFont(text.font, run.weight));
-        set(NSForegroundColorAttributeName, colorWithOpacity(text.color, opacity));
-        set(NSParagraphStyleAttributeName, style.get());
+        set(attributes, NSFontAttributeName, platformFont(text.font, run.weight));
+        set(attributes, NSForegroundColorAttributeName, colorWithOpacity(text.color, opacity));
+        set(attributes, NSParagraphStyleAttributeName, style.get());
         const Retained part = Retained::adopting(appKit.attributedString.initWithString(
             allocate(appKit.attributedString), nsString(run.text).get(), attributes.get()));
         appKit.mutableAttributedString.appendAttributedString(result.get(), part.get());

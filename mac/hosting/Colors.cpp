@@ -31,7 +31,7 @@ const ClassMessage<id()>& messageNamed(std::string_view name) {
 id platformColor(ui::Color color) {
     const auto& names = ui::systemColor(color).names;
     const auto name = std::find_if(names.begin(), names.end(), [](std::string_view candidate) {
-        return messageNamed(candidate).isThere();
+        return !candidate.empty() && messageNamed(candidate).isThere();
     });
     return messageNamed(name != names.end() ? *name : names.front())();
 }

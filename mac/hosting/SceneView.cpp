@@ -1,6 +1,7 @@
 #include "mac/hosting/SceneView.h"
 
 #include "mac/Vocabulary.h"
+#include "mac/objc/Collections.h"
 #include "mac/objc/Lifetime.h"
 #include "mac/objc/NewObject.h"
 
@@ -61,7 +62,7 @@ void SceneView::keepRemoved(const Views& views) {
 void SceneView::arrangeSubviews() const {
     const Retained list = newObject(foundation.mutableArray);
     for (const auto& view : views_) {
-        foundation.mutableArray.addObject(list.get(), view->view());
+        append(list, view->view());
     }
     appKit.view.setSubviews(view_, list.get());
 }

@@ -50,7 +50,9 @@ Retained symbolImage(const ui::StyledSymbol& symbol) {
     const id image = appKit.image.imageWithSystemSymbolName(nsString(symbol.name).get(), nullptr);
     const id configuration = appKit.imageSymbolConfiguration.configurationWithPointSize(
         symbol.font.size, platformWeight(symbol.font.weight), platformScale(symbol.scale));
-    return Retained::retaining(appKit.image.imageWithSymbolConfiguration(image, configuration));
+    const id configured =
+        configuration != nullptr ? appKit.image.imageWithSymbolConfiguration(image, configuration) : nullptr;
+    return Retained::retaining(configured != nullptr ? configured : image);
 }
 
 void drawSymbol(const ui::StyledSymbol& symbol, const Rect& frame, double opacity) {

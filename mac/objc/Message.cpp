@@ -50,6 +50,16 @@ bool MessageDeclaration::hasMethod(id receiver) const {
     return true;
 }
 
+bool MessageDeclaration::isImplementedBy(Class type) const {
+    if (class_getInstanceMethod(type, selector()) != nullptr) {
+        return true;
+    }
+    // A class has the name of its metaclass.
+    const id object = reinterpret_cast<id>(type);
+    logMissing(MissingMethod, methodName(kind_, object_getClassName(object), selectorName_));
+    return false;
+}
+
 std::string methodName(MethodKind kind, const std::string& owner, const char* selectorName) {
     return std::string(kind == MethodKind::ofClass ? "+[" : "-[") + owner + " " + selectorName + "]";
 }

@@ -138,6 +138,9 @@ public:
     }
 
 protected:
+    // The log says once that it is not.
+    bool isImplementedBy(Class type) const;
+
     constexpr MessageDeclaration(MessageOwner& owner, const char* selectorName, MethodKind kind,
                                  Availability availability, const char* encoding)
         : selectorName_(selectorName),
@@ -202,11 +205,11 @@ public:
     }
 
     // As `type` implements it, whatever the receiver's own class does: what `super` is to a subclass. Zero
-    // for nil.
+    // for nil, and where the type does not implement it.
     Result asImplementedBy(Class type, id receiver, std::type_identity_t<Arguments>... arguments) const {
         static_assert(!std::is_class_v<Result>, "a structure may be returned in another way");
         using Function = Result (*)(id, SEL, Arguments...);
-        if (receiver == nullptr) {
+        if (receiver == nullptr || !isImplementedBy(type)) {
             return Result();
         }
         const SEL name = selector();

@@ -2,6 +2,7 @@
 
 import os
 import pathlib
+import re
 import shutil
 import struct
 import subprocess
@@ -18,6 +19,14 @@ APPLICATION = pathlib.Path(os.environ["KESTRUNE_BUNDLE"])
 PROCESSOR = os.environ["KESTRUNE_PROCESSOR"]
 
 UNREADABLE = 2
+
+# Classes and selectors, each of which something would be nil or zero without.
+LACKED = """NSImageView NSMutableParagraphStyle NSTextField NSSwitch
+    configurationWithPointSize:weight:scale: initWithWindow: isMainThread objCType secondaryLabelColor
+    separatorColor systemFontOfSize:weight:""".split()
+
+# What VoiceOver would read of Settings.
+READ_OUT = "ReadOut.OfSettingsIsTheLabelOfASwitchOnceAndNoBox"
 
 DRAWS_IN_A_VIEW = b"v@:{CGRect={CGPoint=dd}{CGSize=dd}}"
 
@@ -51,9 +60,9 @@ class DeliberateFaults(TreeTest):
         self.assertEqual(len(old), len(new))
         self.program.write_bytes(content.replace(old, new))
 
-    def run_story(self):
+    def run_story(self, stories=worlds.FIRST_RUN):
         settings = {
-            "GTEST_FILTER": worlds.FIRST_RUN,
+            "GTEST_FILTER": stories,
             "KESTRUNE_PROGRAM": str(self.program),
             "OS_ACTIVITY_DT_MODE": "YES",
         }
@@ -110,6 +119,23 @@ class DeliberateFaults(TreeTest):
             "protocol NSMenuDelegate is declared, and not in the program",
         )
         self.assert_logged_once("NSMenuDelegata", "There is no protocol NSMenuDelegata at run time")
+
+    def test_a_name_that_the_platform_lacks(self):
+        """What depends on it may fail in the stories, and the process goes on to their end."""
+        for name in LACKED:
+            other = name[:-2] + name[-2:].translate(str.maketrans("abcdefghijklmnopqrstuvwxyz", "z" * 26))
+            with self.subTest(name):
+                shutil.rmtree(self.application)
+                shutil.copytree(APPLICATION, self.application)
+                self.replace(f"\0{name}\0".encode(), f"\0{other}\0".encode())
+                sealing.seal(self.application)
+                lines = set()
+                for story in (worlds.FIRST_RUN, READ_OUT):
+                    result = self.run_story(story)
+                    self.assertIn(result.returncode, (0, 1), result.stdout + result.stderr)
+                    lines |= set(re.findall(rf".*\b{other}(?!\w).*", result.stderr))
+                self.assertEqual(len(lines), 1, lines)
+                self.assertIn(" at run time", *lines)
 
     def test_a_block_with_a_wrong_layout(self):
         """Whoever copies it would take it for one on the stack."""

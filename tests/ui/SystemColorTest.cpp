@@ -16,8 +16,12 @@ bool isOfNewerSystems(std::string_view name) { return name.starts_with("qu") && 
 
 TEST(SystemColors, AreInTheOrderOfTheEnumerators) {
     EXPECT_EQ(systemColor(Color::primary).names.front(), "labelColor");
+    EXPECT_EQ(systemColor(Color::secondary).names.front(), "secondaryLabelColor");
+    EXPECT_EQ(systemColor(Color::tertiary).names.front(), "tertiaryLabelColor");
     EXPECT_EQ(systemColor(Color::accent).names.front(), "controlAccentColor");
-    EXPECT_EQ(systemColor(Color::white).light, systemColor(Color::white).dark);
+    EXPECT_EQ(systemColor(Color::green).names.front(), "systemGreenColor");
+    EXPECT_EQ(systemColor(Color::white).names.front(), "whiteColor");
+    EXPECT_EQ(systemColor(Color::link).names.front(), "linkColor");
     EXPECT_EQ(systemColor(Color::sectionFill).names.front(), "quinarySystemFillColor");
     EXPECT_EQ(systemColor(Color::sectionBorder).names.front(), "quaternarySystemFillColor");
     EXPECT_EQ(systemColor(Color::separator).names.front(), "separatorColor");
