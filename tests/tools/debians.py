@@ -8,10 +8,11 @@ from trees import REPOSITORY, TreeTest
 
 # Each package with what else it provides, as dpkg tells it. These have the same name in every release.
 COMMON = dict.fromkeys(
-    """ca-certificates clang clang-format clang-tidy cmake curl fonts-inter g++ gcovr git gnustep-base-runtime
-    imagemagick libbenchmark-dev libcairo2-dev libclang-rt-dev libgmock-dev libgnustep-gui-dev libgtest-dev
-    libpango1.0-dev libplist-dev librapidcheck-dev librsvg2-bin libssl-dev libyaml-cpp-dev llvm ninja-build python3
-    python3-clang valgrind x11-utils xauth xdotool xvfb xz-utils""".split(),
+    """ca-certificates clang clang-format clang-tidy cmake curl fonts-inter g++ gcovr git
+    gnustep-base-runtime imagemagick libbenchmark-dev libcairo2-dev libclang-rt-dev libgmock-dev
+    libgnustep-gui-dev libgtest-dev libpango1.0-dev libplist-dev librapidcheck-dev librsvg2-bin libssl-dev
+    libyaml-cpp-dev llvm ninja-build python3 python3-clang valgrind x11-utils xauth xdotool xvfb
+    xz-utils""".split(),
     "",
 )
 SDL_AND_PKG_CONFIG = {"libsdl2-dev": "", "pkg-config": ""}
