@@ -37,7 +37,7 @@ kestrune_alignment_mutant(CentredIsTrailing Center Right)
 kestrune_alignment_mutant(TrailingIsCentred Right Center)
 kestrune_alignment_mutant(LeadingIsCentred Left Center)
 kestrune_hosting_mutant(ParagraphsHaveNoStyle AttributedText TextOnGNUstep.AlignsParagraphsAsTheTextIs
-    "        set(NSParagraphStyleAttributeName, style.get());
+    "        set(attributes, NSParagraphStyleAttributeName, style.get());
 " "")
 kestrune_hosting_mutant(TextIsAlwaysOpaque AttributedText
     TextOnGNUstep.ColoursEachRunLessOpaquelyWhereItIsSaid
