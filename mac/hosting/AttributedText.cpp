@@ -10,31 +10,18 @@
 
 namespace kestrune::mac {
 
-namespace {
-
-// NSTextAlignment, which is not the same on both processors.
-#if defined(__APPLE__) && defined(__aarch64__)
-constexpr Integer Center = 1;
-constexpr Integer Right = 2;
-#else
-constexpr Integer Center = 2;
-constexpr Integer Right = 1;
-#endif
-constexpr Integer Left = 0;
-
-Integer platformAlignment(ui::TextAlignment alignment) {
+Integer platformAlignment(ui::TextAlignment alignment, AlignmentNumbers numbers) {
+    const bool isApples = numbers == AlignmentNumbers::ofApplesProcessors;
     switch (alignment) {
     case ui::TextAlignment::center:
-        return Center;
+        return isApples ? 1 : 2;
     case ui::TextAlignment::trailing:
-        return Right;
+        return isApples ? 2 : 1;
     case ui::TextAlignment::leading:
         break;
     }
-    return Left;
+    return 0;
 }
-
-} // namespace
 
 Retained attributedText(const ui::StyledText& text, double opacity) {
     const Retained style = newObject(appKit.mutableParagraphStyle);

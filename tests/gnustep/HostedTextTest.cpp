@@ -4,6 +4,7 @@
 #include "mac/objc/Text.h"
 #include "tests/gnustep/ShownScene.h"
 
+#include <array>
 #include <string>
 #include <utility>
 #include <vector>
@@ -63,6 +64,18 @@ TEST_F(HostedTextOnGNUstep, SetsEachRunInItsWeightAndTheSizeOfTheText) {
     EXPECT_THAT(fontOf(text, 0), Pair("Inter-Bold", 17));
     EXPECT_THAT(fontOf(text, 3), Pair("Inter-Bold", 17));
     EXPECT_THAT(fontOf(text, 4), Pair("Inter-Light", 17));
+}
+
+// Of which this program has one kind, and a Mac the other.
+TEST_F(HostedTextOnGNUstep, HasThePlatformsNumberForEveryAlignmentOnEitherProcessor) {
+    using enum ui::TextAlignment;
+    using Numbers = mac::AlignmentNumbers;
+    const auto numbers = [](Numbers kind) {
+        return std::array{mac::platformAlignment(leading, kind), mac::platformAlignment(center, kind),
+                          mac::platformAlignment(trailing, kind)};
+    };
+    EXPECT_THAT(numbers(Numbers::ofApplesProcessors), testing::ElementsAre(0, 1, 2));
+    EXPECT_THAT(numbers(Numbers::ofOthers), testing::ElementsAre(0, 2, 1));
 }
 
 TEST_F(HostedTextOnGNUstep, AlignsParagraphsAsTheTextIs) {

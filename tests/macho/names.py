@@ -22,6 +22,8 @@ SELECTOR = re.compile(r"[a-z]\w{2,}:(?:\w+:)*")
 PREFIXED = re.compile(r"_?k?[A-Z]{2}\w+")
 # Of SF Symbols.
 SYMBOL = re.compile(r"[a-z0-9]+(?:\.[a-z0-9]+)+")
+# Of places in the system's own applications.
+ADDRESS = re.compile(r"x-[a-z.-]+:\S+")
 BLOCK = re.compile(r"[^ ]*@\?[^ ]*")
 
 OWNER = re.compile(
@@ -164,6 +166,7 @@ def judge(half, names):
     yield from undeclared("selector", SELECTOR, names.selectors, names.actions)
     yield from undeclared("name", PREFIXED, names.classes, names.protocols, names.constants, names.selectors)
     yield from undeclared("symbol", SYMBOL, names.constants)
+    yield from undeclared("address", ADDRESS, names.constants)
     yield from undeclared("block", BLOCK, names.signatures)
     for library, name in imports_of(half):
         if library.startswith(FRAMEWORKS) and name.removeprefix("_") not in names.imports:

@@ -33,9 +33,11 @@ function(kestrune_alignment_mutant name from to)
     kestrune_hosting_mutant(${name} AttributedText TextOnGNUstep.AlignsParagraphsAsTheTextIs
         "return ${from};" "return ${to};")
 endfunction()
-kestrune_alignment_mutant(CentredIsTrailing Center Right)
-kestrune_alignment_mutant(TrailingIsCentred Right Center)
-kestrune_alignment_mutant(LeadingIsCentred Left Center)
+kestrune_alignment_mutant(CentredIsTrailing "isApples ? 1 : 2" "isApples ? 2 : 1")
+kestrune_alignment_mutant(TrailingIsCentred "isApples ? 2 : 1" "isApples ? 1 : 2")
+kestrune_alignment_mutant(LeadingIsCentred 0 2)
+kestrune_hosting_mutant(CentredIsTheSameOnApplesProcessors AttributedText
+    TextOnGNUstep.HasThePlatformsNumberForEveryAlignmentOnEitherProcessor "isApples ? 1 : 2" "2")
 kestrune_hosting_mutant(ParagraphsHaveNoStyle AttributedText TextOnGNUstep.AlignsParagraphsAsTheTextIs
     "        set(attributes, NSParagraphStyleAttributeName, style.get());
 " "")

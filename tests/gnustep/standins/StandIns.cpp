@@ -8,6 +8,7 @@
 #include "tests/gnustep/standins/ContentViewControllers.h"
 #include "tests/gnustep/standins/ControlMetrics.h"
 #include "tests/gnustep/standins/Deallocation.h"
+#include "tests/gnustep/standins/FocusRing.h"
 #include "tests/gnustep/standins/LabelInsets.h"
 #include "tests/gnustep/standins/LastWindow.h"
 #include "tests/gnustep/standins/LocalizedCase.h"
@@ -46,6 +47,7 @@ void installStandIns() {
     installCollectionBehavior();
     installContentViewControllers();
     installControlMetrics();
+    installFocusRing();
     installLabelInsets();
     installLastWindow();
     installLocalizedCase();
