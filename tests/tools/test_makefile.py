@@ -141,6 +141,8 @@ class FolderWithASpace(MakefileTest):
         self.assertEqual(self.make("run")[-1], "desk --tour out/tour")
 
     def test_is_checked(self):
+        """Of which files there are, the build is asked again."""
+        self.assertIn("cmake --build build/check --target build.ninja", self.make("check"))
         self.assertEqual(self.make("check")[-1], "check --build build/check --build build/gcc")
 
 
