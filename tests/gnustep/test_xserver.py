@@ -9,7 +9,9 @@ import sys
 import tempfile
 import unittest
 
-SCRIPT = pathlib.Path(__file__).with_name("xserver.py")
+import xserver
+
+SCRIPT = pathlib.Path(xserver.__file__)
 
 
 class SharedServer(unittest.TestCase):
@@ -47,6 +49,16 @@ class SharedServer(unittest.TestCase):
         display, other = self.start()
         self.assertNotEqual(other, process)
         self.assertTrue(self.answers(display))
+
+    def test_is_beside_others(self):
+        displays = []
+        for _ in range(2):
+            display, server = xserver.launch("640x480")
+            self.addCleanup(server.wait)
+            self.addCleanup(server.terminate)
+            displays.append(display)
+        self.assertNotEqual(*displays)
+        self.assertTrue(all(map(self.answers, displays)))
 
     def test_is_not_taken_for_another_process(self):
         self.file.write_text(f":99 {os.getpid()}\n")

@@ -43,7 +43,7 @@ def stage():
         server = folder / "display"
         xserver.start(server)
         try:
-            yield folder, {**os.environ, "DISPLAY": server.read_text().split()[0]}
+            yield folder, {**os.environ, "KESTRUNE_DISPLAY_FILE": str(server)}
         finally:
             xserver.stop(server)
 

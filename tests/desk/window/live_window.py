@@ -11,6 +11,9 @@ import tempfile
 import time
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "gnustep"))
+import xserver  # noqa: E402
+
 PROGRAMS = ["Xvfb", "xdotool", "import", "convert", "identify"]
 SKIPPED = 77
 PATIENCE = 40  # seconds, for whatever is waited for
@@ -34,26 +37,14 @@ def run(*command, env=None):
 
 
 class VirtualScreen:
-    """An X server of its own on a free display number."""
+    """An X server of its own."""
 
     def __init__(self):
-        read_end, write_end = os.pipe()
-        # A server that resets when its last client leaves would turn away the next one meanwhile.
-        options = ["-screen", "0", "1600x1000x24", "-nolisten", "tcp", "-noreset"]
-        self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), *options],
-            pass_fds=[write_end],
-            stderr=subprocess.DEVNULL,
-        )
-        os.close(write_end)
-        with os.fdopen(read_end) as number:
-            display = number.readline().strip()
-        if not display:
-            raise AssertionError("Xvfb did not start")
+        display, self.server = xserver.launch("1600x1000")
         self.environment = {key: value for key, value in os.environ.items() if key != "WAYLAND_DISPLAY"}
         # A virtual screen has no graphics hardware to draw with.
         self.environment |= {
-            "DISPLAY": f":{display}",
+            "DISPLAY": display,
             "SDL_VIDEODRIVER": "x11",
             "SDL_RENDER_DRIVER": "software",
             "SDL_FRAMEBUFFER_ACCELERATION": "0",
