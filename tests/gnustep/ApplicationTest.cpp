@@ -43,6 +43,13 @@ const Point HeldOnTheRight{2000, 1075};
 // The watcher looks once a second; the rest is for a busy machine.
 constexpr double SecondsForATick = 1.3;
 
+bool isOfSomeClass(SEL method) {
+    std::vector<Class> classes(static_cast<std::size_t>(objc_getClassList(nullptr, 0)));
+    objc_getClassList(classes.data(), static_cast<int>(classes.size()));
+    return std::any_of(classes.begin(), classes.end(),
+                       [method](Class type) { return class_getInstanceMethod(type, method) != nullptr; });
+}
+
 class ApplicationOnGNUstep : public ApplicationFixture {
 protected:
     using ApplicationFixture::ApplicationFixture;
@@ -63,23 +70,46 @@ TEST_F(ApplicationOnGNUstep, LaunchesAsAnAccessoryWithItsDelegate) {
     EXPECT_TRUE(isGuarded());
 }
 
-TEST_F(ApplicationOnGNUstep, HasItsMainMenu) {
-    launch();
-    const mac::Pool pool;
-    std::vector<std::string> titles;
+// Row after row of every menu, top to bottom.
+std::vector<id> rowsOfMainMenu() {
+    std::vector<id> all;
     const id items = send(send(NSApp, "mainMenu"), "itemArray");
     for (mac::Unsigned menu = 0; menu < mac::foundation.array.count(items); ++menu) {
         const id rows = send(send(mac::foundation.array.objectAtIndex(items, menu), "submenu"), "itemArray");
         for (mac::Unsigned row = 0; row < mac::foundation.array.count(rows); ++row) {
-            const id item = mac::foundation.array.objectAtIndex(rows, row);
-            titles.push_back(send<BOOL>(item, "isSeparatorItem") != 0
-                                 ? "---"
-                                 : mac::textOf(send(item, "title")) + " " +
-                                       mac::textOf(send(item, "keyEquivalent")));
+            all.push_back(mac::foundation.array.objectAtIndex(rows, row));
         }
+    }
+    return all;
+}
+
+TEST_F(ApplicationOnGNUstep, HasItsMainMenu) {
+    launch();
+    const mac::Pool pool;
+    std::vector<std::string> titles;
+    for (const id item : rowsOfMainMenu()) {
+        titles.push_back(send<BOOL>(item, "isSeparatorItem") != 0
+                             ? "---"
+                             : mac::textOf(send(item, "title")) + " " +
+                                   mac::textOf(send(item, "keyEquivalent")));
     }
     EXPECT_THAT(titles, ElementsAre("Settings… ,", "---", "Quit Kestrune q", "Undo z", "Redo z", "---",
                                     "Cut x", "Copy c", "Paste v", "Select All a"));
+}
+
+// Whoever is the first that has it, which only a selection decides.
+TEST_F(ApplicationOnGNUstep, SendsActionsFromItsMainMenuThatSomeClassOfThePlatformHas) {
+    launch();
+    const mac::Pool pool;
+    int count = 0;
+    for (const id item : rowsOfMainMenu()) {
+        const SEL action = send<SEL>(item, "action");
+        if (action != nullptr && send(item, "target") == nullptr) {
+            EXPECT_TRUE(isOfSomeClass(action)) << sel_getName(action);
+            ++count;
+        }
+    }
+    EXPECT_EQ(count, 7);
 }
 
 TEST_F(ApplicationOnGNUstep, ShowsItsIcon) {

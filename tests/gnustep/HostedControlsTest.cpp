@@ -215,6 +215,8 @@ TEST_F(HostedControlsOnGNUstep, AreReadOutAsIsSaidOfTheView) {
         mac::setAccessibilityElement(view.get(), isElement);
         EXPECT_EQ(isAccessibilityElement(view.get()), isElement);
     }
+    mac::setAccessibilityLabel(view.get(), "label");
+    EXPECT_EQ(accessibilityLabel(view.get()), "label");
 }
 
 TEST_F(HostedControlsOnGNUstep, KeepTheirOrderUntilThereAreOthers) {

@@ -1,7 +1,8 @@
 // The numbers that the platform is handed for what the seam has names for. Whatever else reads them here,
 // reads them by the same names.
 //
-// Source: NSWindow.h, NSGraphics.h, NSCell.h.
+// Source: NSWindow.h, NSGraphics.h, NSCell.h, NSStringDrawing.h.
+#include "mac/hosting/AttributedText.h"
 #include "platform/StatusBar.h"
 #include "platform/Window.h"
 
@@ -23,6 +24,7 @@ TEST(NumbersOfThePlatform, AreThoseOfItsHeaders) {
     EXPECT_EQ(static_cast<int>(ImageScaling::axesIndependently), 1);
     EXPECT_EQ(static_cast<int>(ImageScaling::none), 2);
     EXPECT_EQ(static_cast<int>(ImageScaling::proportionallyUpOrDown), 3);
+    EXPECT_EQ(mac::TextLayoutOptions, (1 << 0) | (1 << 1));
 }
 
 } // namespace

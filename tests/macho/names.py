@@ -174,6 +174,7 @@ def judge(half, names):
     yield from missing("class", names.classes)
     yield from missing("protocol", names.protocols)
     yield from missing("selector", names.selectors)
+    yield from missing("action", names.actions)
     yield from missing("constant", names.constants)
     yield from missing("block", names.signatures)
 

@@ -72,12 +72,19 @@ kestrune_size_mutant(MiniIsSmall 2 1)
 kestrune_size_mutant(SmallIsMini 1 2)
 kestrune_size_mutant(LargeIsRegular 3 0)
 kestrune_size_mutant(RegularIsLarge 0 3)
+kestrune_hosting_mutant(ButtonIsShownInTheRegularSize PushButton
+    ControlsOnGNUstep.HaveThePlatformsNumberForEverySize
+    "setButtonSize(view(), next.size)" "setButtonSize(view(), ui::ControlSize::regular)")
+kestrune_hosting_mutant(SwitchIsShownInTheRegularSize SwitchView
+    ControlsOnGNUstep.HaveThePlatformsNumberForEverySize "platformSize(next.size)" "0")
 kestrune_hosting_mutant(ButtonsHaveTheRegularFont ButtonSettings
     ControlsOnGNUstep.SetATitleInTheFontOfTheirSize
     "systemFontSizeForControlSize(platformSize(size))" "systemFontSizeForControlSize(0)")
-kestrune_hosting_mutant(SwitchIsMeasuredInTheRegularSize PlatformMeasurer
+kestrune_hosting_mutant(ButtonIsMeasuredInTheRegularSize PlatformMeasurer
     ControlsOnGNUstep.AreMeasuredInTheirSize
-    "setControlSize(control.get(), platformSize(size))" "setControlSize(control.get(), 0)")
+    "setButtonSize(button.get(), size)" "setButtonSize(button.get(), ui::ControlSize::regular)")
+kestrune_hosting_mutant(SwitchIsMeasuredInTheRegularSize PlatformMeasurer
+    ControlsOnGNUstep.AreMeasuredInTheirSize "platformSize(size)" "0")
 
 # kestrune_button_mutant(NAME FILE TEST FROM TO)
 function(kestrune_button_mutant name file test from to)
@@ -99,6 +106,11 @@ kestrune_button_mutant(DrawnButtonStaysPressed DrawnButton AreButtonsThatGoBackW
     "setButtonType(view(), MomentaryPushIn)" "setButtonType(view(), 1)")
 kestrune_button_mutant(BorderedButtonStaysPressed SystemControls AreButtonsThatGoBackWhenTheyAreLetGo
     "setButtonType(button, MomentaryPushIn)" "setButtonType(button, 1)")
+kestrune_button_mutant(DrawnButtonIsThePictureOfALayer DrawnButton
+    DrawNoBorderAroundAButtonThatBringsItsLook
+    "wantsUpdateLayer(id, SEL) noexcept { return truth(false); }"
+    "wantsUpdateLayer(id, SEL) noexcept { return truth(true); }")
+kestrune_button_mutant(SwitchIsOnWhenItIsOff SwitchView AreFlippedWhereTheyAreEnabled "? 1 : 0" "? 0 : 1")
 kestrune_button_mutant(SwitchIsDisabled SwitchView AreFlippedWhereTheyAreEnabled
     "setEnabled(view(), truth(true))" "setEnabled(view(), truth(false))")
 
@@ -107,6 +119,8 @@ function(kestrune_picture_mutant name file test from to)
     kestrune_hosting_mutant(${name} ${file} PicturesOnGNUstep.${test} "${from}" "${to}")
 endfunction()
 set(SYMBOL_IS_SHOWN ShowASymbolInItsFontScaleAndTint)
+kestrune_picture_mutant(EverySymbolIsACheckMark Symbols ${SYMBOL_IS_SHOWN}
+    "nsString(symbol.name)" "nsString(\"checkmark.circle.fill\")")
 kestrune_picture_mutant(SmallScaleIsMedium Symbols ${SYMBOL_IS_SHOWN} "return 1;" "return 2;")
 kestrune_picture_mutant(LargeScaleIsMedium Symbols ${SYMBOL_IS_SHOWN} "return 3;" "return 2;")
 kestrune_picture_mutant(MediumScaleIsLarge Symbols ${SYMBOL_IS_SHOWN} "return 2;" "return 3;")
@@ -138,6 +152,8 @@ kestrune_picture_mutant(MaskHasSharpCorners Drawing FillAShapeAtItsPlaceWithRoun
 ")
 kestrune_picture_mutant(ShapeIsAlwaysPrimary Drawing FillAShapeAtItsPlaceWithRoundCorners
     "colorWithOpacity(element.fill," "colorWithOpacity(ui::Color::primary,")
+kestrune_picture_mutant(PressedLinkHasTheOpacityOfAButton DrawnButton
+    DrawAShapeOfALinkAsTransparentAsBothSay "PressedLinkOpacity = 0.55" "PressedLinkOpacity = 0.75")
 kestrune_picture_mutant(FocusRingIsNeverTheShape DrawnButton DrawTheFocusRingAroundTheShapeOfAButton
     "shape != body.end()" "false")
 kestrune_picture_mutant(FocusRingNeedsAShape DrawnButton DrawTheFocusRingAroundAllOfAButtonWithoutAShape
@@ -175,23 +191,55 @@ kestrune_mutant(TheNewestNameIsTheOnlyOne FILE mac/hosting/Colors.cpp
     TEST SystemColors.AreOlderOnesWhereTheSystemHasNoNewer
     FROM "name != names.end() ? *name : names.front()" TO "names.front()")
 
-# The table of the system's colours is one object, whoever includes it: a wrong one has a program of its own.
-set(TABLE FILE ui/SystemColor.h COMPILES tests/ui/SystemColorTest.cpp
-    DRIVER kestrune_ui kestrune_options GTest::gtest_main
-    TEST SystemColors.HaveNamesOfTheirOwnOfWhichOneIsOnEverySystem)
-kestrune_mutant(GreenIsTheLinks ${TABLE} FROM "{{\"systemGreenColor\"}" TO "{{\"linkColor\"}")
-kestrune_mutant(OlderSystemsHaveNoBorder ${TABLE}
-    FROM "{{\"quaternarySystemFillColor\", \"quaternaryLabelColor\"}" TO "{{\"quaternarySystemFillColor\"}")
+# kestrune_inline_mutant(NAME LIBRARY FILE COMPILES TEST FROM TO): in a header of a library whose constants
+# are one object, whoever includes it, so that a wrong one has a program of its own: that test alone.
+function(kestrune_inline_mutant name library file compiles test from to)
+    kestrune_mutant(${name} FILE ${file} COMPILES ${compiles} TEST ${test} FROM "${from}" TO "${to}"
+        DRIVER ${library} kestrune_options GTest::gtest_main)
+endfunction()
+kestrune_inline_mutant(LinesOfTextHaveNoLeading kestrune_mac
+    mac/hosting/AttributedText.h tests/gnustep/NumbersTest.cpp NumbersOfThePlatform.AreThoseOfItsHeaders
+    "TextLayoutOptions = 1 | 2" "TextLayoutOptions = 1")
 
-# kestrune_accessibility_mutant(NAME FROM TO): in what VoiceOver is told.
-function(kestrune_accessibility_mutant name from to)
-    kestrune_mutant(${name} FILE mac/hosting/Accessibility.cpp FROM "${from}" TO "${to}"
+# kestrune_color_mutant(NAME COLOR OTHER): another of the system's colours in the place of one.
+function(kestrune_color_mutant name color other)
+    kestrune_inline_mutant(${name} kestrune_ui ui/SystemColor.h tests/ui/SystemColorTest.cpp
+        SystemColors.AreInTheOrderOfTheEnumerators "{{\"${color}\"" "{{\"${other}\"")
+endfunction()
+kestrune_color_mutant(PrimaryIsSecondary labelColor secondaryLabelColor)
+kestrune_color_mutant(SecondaryIsTertiary secondaryLabelColor tertiaryLabelColor)
+kestrune_color_mutant(TertiaryIsQuaternary tertiaryLabelColor quaternaryLabelColor)
+kestrune_color_mutant(AccentIsTheLinks controlAccentColor linkColor)
+kestrune_color_mutant(GreenIsTheLinks systemGreenColor linkColor)
+kestrune_color_mutant(WhiteIsPrimary whiteColor labelColor)
+kestrune_color_mutant(LinksAreTheAccent linkColor controlAccentColor)
+kestrune_color_mutant(FillOfSectionsIsTheBorders quinarySystemFillColor quaternarySystemFillColor)
+kestrune_color_mutant(BorderOfSectionsIsTheFills quaternarySystemFillColor quinarySystemFillColor)
+kestrune_color_mutant(SeparatorIsTheBorder separatorColor quaternarySystemFillColor)
+kestrune_inline_mutant(OlderSystemsHaveNoBorder kestrune_ui ui/SystemColor.h tests/ui/SystemColorTest.cpp
+    SystemColors.HaveNamesOfTheirOwnOfWhichOneIsOnEverySystem
+    "{{\"quaternarySystemFillColor\", \"quaternaryLabelColor\"}" "{{\"quaternarySystemFillColor\"}")
+
+# kestrune_accessibility_mutant(NAME FILE FROM TO): in what VoiceOver is told.
+function(kestrune_accessibility_mutant name file from to)
+    kestrune_mutant(${name} FILE mac/hosting/${file}.cpp FROM "${from}" TO "${to}"
         TEST HostingContract.TellsVoiceOverWhatToReadAndWhatToPassOver
         DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_standins)
 endfunction()
-kestrune_accessibility_mutant(CellIsReadOutAnyway
+kestrune_accessibility_mutant(CellIsReadOutAnyway Accessibility
     "    appKit.cell.setAccessibilityElement(cellOf(view), truth(isElement));
 " "")
-kestrune_accessibility_mutant(CellHasNoLabel
+kestrune_accessibility_mutant(CellHasNoLabel Accessibility
     "    appKit.cell.setAccessibilityLabel(cellOf(view), text.get());
+" "")
+kestrune_accessibility_mutant(HiddenTextIsReadOut Label "!next.isAccessibilityHidden" "true")
+kestrune_accessibility_mutant(SymbolIsReadOut SymbolView
+    "setAccessibilityElement(view(), false)" "setAccessibilityElement(view(), true)")
+kestrune_accessibility_mutant(ShapeIsReadOut ShapeView
+    "setAccessibilityElement(view(), false)" "setAccessibilityElement(view(), true)")
+kestrune_hosting_mutant(ViewIsReadOutAnyway Accessibility ControlsOnGNUstep.AreReadOutAsIsSaidOfTheView
+    "    appKit.view.setAccessibilityElement(view, truth(isElement));
+" "")
+kestrune_hosting_mutant(ViewHasNoLabel Accessibility ControlsOnGNUstep.AreReadOutAsIsSaidOfTheView
+    "    appKit.view.setAccessibilityLabel(view, text.get());
 " "")
