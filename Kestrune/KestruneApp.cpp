@@ -75,6 +75,12 @@ void KestruneApp::applicationDidFinishLaunching() noexcept {
     observeScreenParameters();
 }
 
+// Nothing is left for AppKit to do, whether a window is to be seen or not.
+bool KestruneApp::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) noexcept {
+    menuOpenSettings();
+    return false;
+}
+
 void KestruneApp::applicationWillTerminate() noexcept { dockGuard_->stop(); }
 
 void KestruneApp::installMainMenu() {

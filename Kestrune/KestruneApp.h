@@ -31,9 +31,13 @@ public:
     explicit KestruneApp(Construction /*by make*/);
 
     void applicationDidFinishLaunching() noexcept override;
+
+    // Where the menu bar has no room for the icon, this is the way to Settings, and to the wizard.
+    bool applicationShouldHandleReopen(bool hasVisibleWindows) noexcept override;
+
     void applicationWillTerminate() noexcept override;
 
-    // Action of the main menu's "Settings…".
+    // Action of the main menu's "Settings…": the wizard instead, while the setup is not complete.
     void menuOpenSettings();
 
     // Brings the Settings window forward.

@@ -72,6 +72,13 @@ void tell(id instance, SEL selector) noexcept {
 }
 
 // Without a delegate as without the method.
+BOOL shouldHandleReopen(id instance, SEL, id /*application*/, BOOL hasVisibleWindows) noexcept {
+    const Pool pool;
+    const auto delegate = std::dynamic_pointer_cast<ApplicationDelegate>(objectOf(instance));
+    return truth(!delegate || delegate->applicationShouldHandleReopen(hasVisibleWindows != 0));
+}
+
+// Without a delegate as without the method.
 BOOL supportsGentleReminders(id instance, SEL) noexcept {
     const Pool pool;
     const auto delegate = std::dynamic_pointer_cast<StandardUserDriverDelegate>(objectOf(instance));
@@ -144,6 +151,7 @@ void addDelegateMethods(RuntimeClass& made, const Object& object) {
     if (dynamic_cast<const ApplicationDelegate*>(&object) != nullptr) {
         made.addMethod(appKit.applicationDelegate.applicationDidFinishLaunching,
                        hearOf<ApplicationDelegate, &ApplicationDelegate::applicationDidFinishLaunching>);
+        made.addMethod(appKit.applicationDelegate.applicationShouldHandleReopen, shouldHandleReopen);
         made.addMethod(appKit.applicationDelegate.applicationWillTerminate,
                        hearOf<ApplicationDelegate, &ApplicationDelegate::applicationWillTerminate>);
     }

@@ -27,6 +27,11 @@ public:
     // applicationDidFinishLaunching:, before the first event is handled.
     virtual void applicationDidFinishLaunching() noexcept = 0;
 
+    // applicationShouldHandleReopen:hasVisibleWindows:, each time the user opens the application while it
+    // runs, in the Finder or with Spotlight. A window in the Dock counts as visible. The result is whether
+    // AppKit goes on as it would by itself, bringing such a window out of the Dock.
+    virtual bool applicationShouldHandleReopen(bool hasVisibleWindows) noexcept = 0;
+
     // applicationWillTerminate:, the last call before the process exits.
     virtual void applicationWillTerminate() noexcept = 0;
 };

@@ -128,6 +128,21 @@ void Session::startApplication() {
     }
 }
 
+bool Session::reopenApplication() {
+    if (!application_.isRunning) {
+        return false;
+    }
+    windows_.setActive(true);
+    const auto delegate = application_.delegate.lock();
+    if (!delegate) {
+        return true;
+    }
+    const bool hasVisibleWindows = !windows_.shown().empty() || !windows_.miniaturized().empty();
+    journal_.record("-[", delegate->className(), " applicationShouldHandleReopen:hasVisibleWindows:] ",
+                    hasVisibleWindows);
+    return delegate->applicationShouldHandleReopen(hasVisibleWindows);
+}
+
 void Session::endApplication() {
     ++processNumber_;
     timers_.clear();

@@ -137,6 +137,10 @@ public:
     // The application's process has its shared application.
     void startApplication();
 
+    // The user opens the application that runs already: the system makes it the active one and tells its
+    // delegate. Whether AppKit goes on by itself, which is not simulated.
+    bool reopenApplication();
+
     // The process ends, by itself or by force: its taps, timers, observers, status items and tasks go, and
     // what is left of its objects has no effect any more. Another process may start.
     void endApplication();

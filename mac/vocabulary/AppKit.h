@@ -42,6 +42,8 @@ struct AppKit : Framework {
     struct NSApplicationDelegate : ProtocolReference {
         using ProtocolReference::ProtocolReference;
         Message<void(id)> applicationDidFinishLaunching{*this, "applicationDidFinishLaunching:"};
+        Message<BOOL(id, BOOL)> applicationShouldHandleReopen{
+            *this, "applicationShouldHandleReopen:hasVisibleWindows:"};
         Message<void(id)> applicationWillTerminate{*this, "applicationWillTerminate:"};
     } applicationDelegate{*this, "NSApplicationDelegate"};
 

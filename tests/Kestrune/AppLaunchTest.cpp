@@ -214,6 +214,32 @@ TEST_F(AppLaunch, LogsAFailedStartOnceAndGoesOn) {
     EXPECT_TRUE(guard->isRunning());
 }
 
+TEST_F(AppLaunch, OpensSettingsWhenItIsOpenedAgain) {
+    launchAndSettle();
+    EXPECT_FALSE(session.reopenApplication());
+    ASSERT_NE(app->settingsWindowController(), nullptr);
+    EXPECT_EQ(session.windows().shown().size(), 1U);
+    EXPECT_FALSE(session.reopenApplication());
+    EXPECT_EQ(session.windows().shown().size(), 1U);
+    EXPECT_EQ(app->welcomeWindowController(), nullptr);
+}
+
+TEST_F(AppLaunch, BringsSettingsOutOfTheDockWhenItIsOpenedAgain) {
+    launchAndSettle();
+    session.reopenApplication();
+    session.windows().miniaturizeByUser(session.windows().shown().at(0));
+    EXPECT_FALSE(session.reopenApplication());
+    EXPECT_EQ(session.windows().shown().size(), 1U);
+}
+
+TEST_F(AppLaunchWithoutPermission, OpensTheWizardWhenItIsOpenedAgain) {
+    launchAndSettle();
+    session.windows().closeByUser(session.windows().shown().at(0));
+    EXPECT_FALSE(session.reopenApplication());
+    EXPECT_EQ(session.windows().shown().size(), 1U);
+    EXPECT_EQ(app->settingsWindowController(), nullptr);
+}
+
 TEST_F(AppLaunch, StopsTheGuardAtTheEnd) {
     launchAndSettle();
     app->applicationWillTerminate();

@@ -3,6 +3,7 @@
 #include "platform/MainActor.h"
 #include "platform/Workspace.h"
 #include "tests/contract/RecordingObjects.h"
+#include "tests/contract/WindowFixture.h"
 #include "tests/contract/World.h"
 
 #include <gmock/gmock.h>
@@ -139,6 +140,38 @@ TEST_F(ApplicationContract, TerminatesByAMenuItemWithoutTarget) {
     world_.catchTermination([this] { world_.pressKey("q", EventModifierFlags::command); });
     EXPECT_THAT(delegate_->received(),
                 ElementsAre("applicationDidFinishLaunching:", "applicationWillTerminate:"));
+}
+
+class ReopeningContract : public WindowFixture {
+protected:
+    ReopeningContract() { application_->setDelegate(delegate_); }
+
+    std::shared_ptr<RecordingApplicationDelegate> delegate_ =
+        std::make_shared<RecordingApplicationDelegate>();
+};
+
+TEST_F(ReopeningContract, AsksTheDelegateAndTellsItWhetherAWindowIsThere) {
+    EXPECT_FALSE(world_.reopenApplication());
+    Window window = makeWindow("window", WindowStyleMask::titled | WindowStyleMask::miniaturizable);
+    show(window);
+    EXPECT_TRUE(world_.reopenApplication());
+    world_.clickMinimizeButton();
+    EXPECT_THAT(shownTitles(), IsEmpty());
+    EXPECT_TRUE(world_.reopenApplication());
+    EXPECT_THAT(delegate_->received(), ElementsAre("applicationShouldHandleReopen:hasVisibleWindows: NO",
+                                                   "applicationShouldHandleReopen:hasVisibleWindows: YES",
+                                                   "applicationShouldHandleReopen:hasVisibleWindows: YES"));
+}
+
+TEST_F(ReopeningContract, MakesTheApplicationActive) {
+    world_.activateAnotherApplication();
+    world_.reopenApplication();
+    EXPECT_TRUE(world_.isActive());
+}
+
+TEST_F(ReopeningContract, IsLeftToTheSystemWithoutADelegate) {
+    delegate_.reset();
+    EXPECT_TRUE(world_.reopenApplication());
 }
 
 TEST(URLContract, IsThereForAnAddressInSystemSettings) {

@@ -50,6 +50,12 @@ void RecordingApplicationDelegate::applicationDidFinishLaunching() noexcept {
     }
 }
 
+bool RecordingApplicationDelegate::applicationShouldHandleReopen(bool hasVisibleWindows) noexcept {
+    received_.push_back(std::string("applicationShouldHandleReopen:hasVisibleWindows: ") +
+                        (hasVisibleWindows ? "YES" : "NO"));
+    return hasVisibleWindows;
+}
+
 void RecordingApplicationDelegate::applicationWillTerminate() noexcept {
     received_.emplace_back("applicationWillTerminate:");
 }

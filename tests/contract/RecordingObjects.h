@@ -74,6 +74,7 @@ public:
     std::string_view className() const override { return "RecordingApplicationDelegate"; }
     std::span<const ActionMethod> actionMethods() const override;
     void applicationDidFinishLaunching() noexcept override;
+    bool applicationShouldHandleReopen(bool hasVisibleWindows) noexcept override;
     void applicationWillTerminate() noexcept override;
 
     // Called with the launch after it was written down.

@@ -164,6 +164,9 @@ public:
     // The user makes it the active application, or another one.
     void activateApplication();
     void activateAnotherApplication();
+
+    // The user opens it once more, while it runs. Whether the system then goes on by itself.
+    bool reopenApplication();
     bool isActive() const;
     ActivationPolicy activationPolicy() const;
 

@@ -85,6 +85,16 @@ std::vector<id> visibleWindows() {
     return windows;
 }
 
+bool hasWindowOnScreenOrInDock() {
+    const id list = send(NSApp, "windows");
+    for (mac::Unsigned index = 0; index < mac::foundation.array.count(list); ++index) {
+        if (send<BOOL>(mac::foundation.array.objectAtIndex(list, index), "isMiniaturized") != 0) {
+            return true;
+        }
+    }
+    return !visibleWindows().empty();
+}
+
 contract::ShownWindow describeWindow(id window) {
     constexpr auto CanJoinAllSpaces = static_cast<mac::Unsigned>(WindowCollectionBehavior::canJoinAllSpaces);
     contract::ShownWindow shown;

@@ -13,6 +13,9 @@ namespace kestrune::gnustep {
 // Those that are on the screen, the frontmost first; without menus and GNUstep's own panels.
 std::vector<id> visibleWindows();
 
+// As AppKit looks for visible windows when the application is opened again.
+bool hasWindowOnScreenOrInDock();
+
 // Read from the native window and the views in it.
 contract::ShownWindow describeWindow(id window);
 

@@ -204,6 +204,16 @@ void World::activateApplication() { setActive(true); }
 
 void World::activateAnotherApplication() { setActive(false); }
 
+// GNUstep tells no delegate of it.
+bool World::reopenApplication() {
+    const mac::Pool pool;
+    setActive(true);
+    const id delegate = send(NSApp, "delegate");
+    constexpr const char* Reopen = "applicationShouldHandleReopen:hasVisibleWindows:";
+    return send<BOOL>(delegate, "respondsToSelector:", sel_registerName(Reopen)) == 0 ||
+           send<BOOL>(delegate, Reopen, NSApp, mac::truth(hasWindowOnScreenOrInDock())) != 0;
+}
+
 bool World::isActive() const { return gnustep::isActive(); }
 
 ActivationPolicy World::activationPolicy() const { return gnustep::activationPolicy(); }

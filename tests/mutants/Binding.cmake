@@ -75,6 +75,12 @@ kestrune_mutant(MenusDelegateIsNone FILE mac/ObjectClass.cpp ${APPLICATION}
 kestrune_mutant(WindowsDelegateIsAMenus FILE mac/ObjectClass.cpp ${APPLICATION}
     TEST ProtocolsOnGNUstep.AreAdoptedByTheWizards
     FROM "adopt(type, appKit.windowDelegate)" TO "adopt(type, appKit.menuDelegate)")
+kestrune_mutant(NoWindowIsEverThereWhenItIsOpenedAgain FILE mac/ObjectClass.cpp ${CONTRACT}
+    TEST ReopeningContract.AsksTheDelegateAndTellsItWhetherAWindowIsThere
+    FROM "hasVisibleWindows != 0" TO "false")
+kestrune_mutant(TheSystemAlwaysGoesOnWhenItIsOpenedAgain FILE mac/ObjectClass.cpp ${CONTRACT}
+    TEST ReopeningContract.AsksTheDelegateAndTellsItWhetherAWindowIsThere
+    FROM "!delegate || delegate->" TO "!delegate || !delegate->")
 
 set(LOG FILE mac/Log.cpp ${CONTRACT})
 kestrune_mutant(SubsystemIsTheCategory ${LOG} TEST LogContract.KeepsAnErrorWithItsSubsystemAndCategory

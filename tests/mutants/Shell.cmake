@@ -3,6 +3,13 @@ set(DELEGATE FILE Kestrune/KestruneApp.cpp DRIVER kestrune_shell_driver SEEDS 40
 
 kestrune_mutant(StartsInTheDock ${DELEGATE}
     FROM "ActivationPolicy::accessory" TO "ActivationPolicy::regular")
+kestrune_mutant(ReopeningOpensNothing ${DELEGATE}
+    FROM "    menuOpenSettings();
+    return false;" TO "    return false;")
+kestrune_mutant(ReopeningOpensSettingsBeforeTheSetup ${DELEGATE}
+    FROM "    menuOpenSettings();
+    return false;" TO "    openSettingsWindow();
+    return false;")
 kestrune_mutant(StartsWhileSwitchedOff ${DELEGATE}
     FROM "!preferences_->isEnabled() || dockGuard_->isRunning()" TO "dockGuard_->isRunning()")
 kestrune_mutant(StartsWhileRunning ${DELEGATE}

@@ -100,6 +100,13 @@ void ShellModel::letGoOfDelegate(bool controllerStays) {
     }
 }
 
+void ShellModel::reopen() {
+    setActive(true);
+    if (process_ && process_->hasDelegate) {
+        openSettings();
+    }
+}
+
 void ShellModel::openSettings() {
     if (isSetUp()) {
         openSettingsWindow();

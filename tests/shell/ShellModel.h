@@ -97,7 +97,7 @@ public:
     void terminate();
     void kill();
     void letGoOfDelegate(bool controllerStays);
-    void openSettings();
+    void reopen();
     void setActive(bool isActive);
 
     // The user at the menus. Each answers what the session must answer.
@@ -224,6 +224,7 @@ private:
     bool open(const std::string& address);
 
     // Settings.
+    void openSettings();
     void openSettingsWindow();
     void setLaunchAtLogin(bool isOn);
     void toggleLoginItem(bool isOn);

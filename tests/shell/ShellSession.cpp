@@ -87,12 +87,10 @@ void ShellSession::letGoOfDelegate(bool controllerStays) {
     check();
 }
 
-void ShellSession::openSettingsByAction() {
-    if (app_) {
-        app_->menuOpenSettings();
-        model_.openSettings();
-        check();
-    }
+void ShellSession::reopen() {
+    session_.reopenApplication();
+    model_.reopen();
+    check();
 }
 
 void ShellSession::setActive(bool isActive) {

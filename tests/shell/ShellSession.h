@@ -26,7 +26,7 @@ public:
     void launch();
     void terminate();
     void kill();
-    void openSettingsByAction();
+    void reopen();
     void setActive(bool isActive);
 
     // The delegate goes while the process lives; the menu bar controller may be held by somebody else.

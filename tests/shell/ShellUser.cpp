@@ -71,7 +71,7 @@ const std::vector<ShellUser::Choice>& ShellUser::choices() {
         {0.4, &ShellUser::terminate},
         {0.4, &ShellUser::kill},
         {0.4, &ShellUser::letGoOfDelegate},
-        {1.5, &ShellUser::openSettingsByAction},
+        {1.5, &ShellUser::reopen},
         {2, &ShellUser::activate},
         {9, &ShellUser::openMenu},
         {1, &ShellUser::openMainMenu},
@@ -170,9 +170,9 @@ std::string ShellUser::letGoOfDelegate() {
     return controllerStays ? "the delegate goes, the menu bar controller stays" : "the delegate goes";
 }
 
-std::string ShellUser::openSettingsByAction() {
-    session_->openSettingsByAction();
-    return "the main menu's Settings are asked for";
+std::string ShellUser::reopen() {
+    session_->reopen();
+    return "the application is opened again";
 }
 
 std::string ShellUser::activate() {

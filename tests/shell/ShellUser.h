@@ -44,7 +44,7 @@ private:
     std::string terminate();
     std::string kill();
     std::string letGoOfDelegate();
-    std::string openSettingsByAction();
+    std::string reopen();
     std::string activate();
 
     // The menus.

@@ -87,7 +87,7 @@ std::string ShellUser::checkAsScheduled() {
 
 std::string ShellUser::checkInSettings() {
     if (!placeOf(WindowKind::settings)) {
-        session_->openSettingsByAction();
+        session_->reopen();
     }
     if (const auto place = placeOf(WindowKind::settings)) {
         session_->pressButton(*place, 0);

@@ -215,6 +215,8 @@ void World::activateApplication() { state_->session.windows().setActive(true); }
 
 void World::activateAnotherApplication() { state_->session.windows().setActive(false); }
 
+bool World::reopenApplication() { return state_->session.reopenApplication(); }
+
 bool World::isActive() const { return state_->session.application().isActive; }
 
 ActivationPolicy World::activationPolicy() const { return state_->session.application().policy; }

@@ -34,7 +34,9 @@ constexpr const char* Telling = "v24@0:8@16";
 
 void installDelegateProtocols() {
     makeProtocol("NSApplicationDelegate",
-                 {{"applicationDidFinishLaunching:", Telling}, {"applicationWillTerminate:", Telling}});
+                 {{"applicationDidFinishLaunching:", Telling},
+                  {"applicationShouldHandleReopen:hasVisibleWindows:", "B28@0:8@16B24"},
+                  {"applicationWillTerminate:", Telling}});
     makeProtocol("NSMenuDelegate", {{"menuWillOpen:", Telling}});
     makeProtocol("NSWindowDelegate", {{"windowDidBecomeKey:", Telling}, {"windowWillClose:", Telling}});
 }
