@@ -19,11 +19,15 @@ PROPERTIES = {
     "CFBundleInfoDictionaryVersion": "6.0",
     "CFBundleName": "Kestrune",
     "CFBundlePackageType": "APPL",
+    "LSAppNapIsDisabled": True,
     "LSApplicationCategoryType": "public.app-category.utilities",
     "LSMinimumSystemVersion": "13.0",
+    "LSMultipleInstancesProhibited": True,
     "LSUIElement": True,
     "NSHighResolutionCapable": True,
     "NSPrincipalClass": "NSApplication",
+    "SUAllowsAutomaticUpdates": False,
+    "SUEnableAutomaticChecks": True,
 }
 # Numbers here would leave a question mark where the application shows its version.
 VERSIONS = ("CFBundleShortVersionString", "CFBundleVersion")
