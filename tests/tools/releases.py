@@ -114,7 +114,7 @@ class ReleaseTest(TreeTest):
         with tarfile.open(archive, "w") as file:
             file.add(self.root / "given", arcname=".")
         digest = sha256 or hashlib.sha256(archive.read_bytes()).hexdigest()
-        self.write({"checkout/tools/sparkle.ini": f"[sparkle]\nversion = 2.10.1\nsha256 = {digest}\n"})
+        self.write({"checkout/tools/sparkle.ini": f"[sparkle]\nversion = 2.10.0\nsha256 = {digest}\n"})
 
     def call(self, *command, **environment):
         # Nothing of the settings of whoever runs the tests, the parameters of make among them.

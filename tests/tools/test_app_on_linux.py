@@ -273,13 +273,6 @@ class Parameters(LinuxTest):
         self.assert_fails(result, "tools/app: --identity", "a certificate signs on a Mac only")
         self.assertEqual(self.calls(), [])
 
-    def test_are_looked_at_before_anything_is_built(self):
-        self.write({"checkout/tools/sparkle.ini": "[sparkle]\nversion = 2.10.1\nsha256 =\n"})
-        result = self.app()
-        instead = "give SPARKLE=/path/to/Sparkle.framework or SPARKLE=none "
-        self.assert_fails(result, f"tools/app: {instead}", "tools/sparkle.ini has no SHA-256")
-        self.assertEqual(self.calls(), [])
-
     def test_say_what_to_do_without_a_network(self):
         self.pin_archive()
         self.use_linux(curl=LOG + "exit 6")

@@ -11,9 +11,7 @@ from .symbols import Symbols
 
 def require_sparkle(options):
     """Before a long build, what the build would end with."""
-    if not options.sparkle:
-        sparkle.pinned().require_checksum()
-    elif options.sparkle != NO_SPARKLE:
+    if options.sparkle and options.sparkle != NO_SPARKLE:
         sparkle.require_framework(options.sparkle)
 
 
