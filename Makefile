@@ -46,7 +46,7 @@ endef
 .DEFAULT_GOAL := help
 
 help:
-	@echo "make run                 build Kestrune and start it on a simulated Mac (on Linux)"
+	@echo "make run                 build Kestrune and start it, on Linux on a simulated Mac"
 	@echo "make app                 Kestrune.app for both processors, with Sparkle inside and signed"
 	@echo "make test                build everything and run every test"
 	@echo "make check               format, include rules, unbuilt files, strings, contract tests, clang-tidy"
@@ -62,12 +62,13 @@ help:
 	@echo "PRESET=gcc, clang or sanitize chooses the build; PRESET=arm64 runs the half of Kestrune.app for"
 	@echo "Apple's processors in an emulator. Every target installs what it needs."
 
+# The parameters go through the environment: names of certificates have spaces and parentheses. "-" is an
+# ad-hoc signature.
+export DEV_IDENTITY ?= -
 ifeq ($(SYSTEM),Darwin)
 run:
 	@tools/setup run
-	cmake --preset mac
-	cmake --build --preset mac --parallel
-	open build/mac/mac/Kestrune.app
+	@tools/run --identity "$$DEV_IDENTITY"
 else
 run:
 	$(call build,run,kestrune-desk)
@@ -76,8 +77,7 @@ run:
 	    echo "No display server: the tour's pictures and its report are in out/tour"; fi
 endif
 
-# The parameters go through the environment: names of certificates have spaces and parentheses. IDENTITY=- is
-# an ad-hoc signature; SPARKLE is the path of a Sparkle.framework or "none".
+# SPARKLE is the path of a Sparkle.framework or "none".
 export IDENTITY ?= -
 export SPARKLE FEED_URL PUBLIC_KEY
 app:
@@ -89,7 +89,7 @@ ifeq ($(SYSTEM),Darwin)
 test:
 	@tools/setup test
 	cmake --preset mac
-	cmake --build --preset mac --parallel
+	cmake --build --preset mac --parallel "$$(sysctl -n hw.ncpu)"
 	ctest --test-dir build/mac --no-tests=error --output-on-failure
 else
 # Builds, seals and checks what Macs get, for the tests of the part that runs here: on its processor, and

@@ -22,12 +22,14 @@ COPIED = (
     "tools/app",
     "tools/configure",
     "tools/release",
+    "tools/run",
     "tools/setup",
     "tools/sparkle.ini",
     "tools/releasing",
 )
 SYSTEM_PROGRAMS = ("bash", "cat", "cp", "dirname", "env", "git", "ln", "make", "mkdir", "rm", "sh", "tar")
 
+REAL_IDENTITY = "Developer ID Application: Some One (TEAM123456)"
 SIGNED_PROGRAM = REPOSITORY / "tests/fuzz/corpus/code-seal/universal.macho"
 
 LOG = r"""printf '%s\x1f' "${0##*/}" "$@" >> "$LOG"; echo >> "$LOG"
@@ -38,9 +40,12 @@ STAND_INS = {
     "brew": "exit 1",
     "cmake": LOG
     + """[[ $1 == --build ]] || exit 0
-mkdir -p build/mac/mac/Kestrune.app/Contents/MacOS
-cp Kestrune/Resources/Info.plist build/mac/mac/Kestrune.app/Contents
-echo program with symbols > build/mac/mac/Kestrune.app/Contents/MacOS/Kestrune""",
+contents=build/$3/mac/Kestrune.app/Contents
+mkdir -p $contents/MacOS
+cp Kestrune/Resources/Info.plist $contents
+echo program with symbols > $contents/MacOS/Kestrune
+ln -sf "$(type -p kestrune-self-check)" build/$3/mac""",
+    "kestrune-self-check": LOG,
     "dsymutil": LOG + 'mkdir -p "$4"',
     # What is left is signed already, which codesign's stand-in does not do.
     "strip": LOG + f'cp "{SIGNED_PROGRAM}" "$1"',
@@ -50,13 +55,15 @@ echo program with symbols > build/mac/mac/Kestrune.app/Contents/MacOS/Kestrune""
 if [[ $1 == -c ]]; then echo "archive of $source" > "$target"; else cp -RP "$source" "$target"; fi""",
     "codesign": LOG + '[[ -e ${@: -1} && ! -e ${@: -1}/XPCServices && ! -L ${@: -1}/XPCServices ]]',
     "xcrun": LOG,
+    "open": LOG + '[[ -f $3/Contents/MacOS/Kestrune ]] && echo "what it says" > "$2"',
+    "osascript": LOG,
+    "security": LOG + f"""echo '  1) {"0A" * 20} "{REAL_IDENTITY}"'""",
     "curl": LOG + 'while [[ $1 != --output ]]; do shift; done; cp "$ARCHIVE" "$2"',
 }
 SIGN_UPDATE = f"""#!/usr/bin/env bash
 {LOG}length=$(cat "$1"); echo "sparkle:edSignature=\\"c2lnbmVk\\" length=\\"$((${{#length}} + 1))\\""
 """
 
-REAL_IDENTITY = "Developer ID Application: Some One (TEAM123456)"
 PUBLIC_KEY = base64.b64encode(bytes(range(32))).decode()
 FEED_URL = "https://example.org/appcast.xml"
 DOWNLOAD_URL = "https://example.org/downloads/"

@@ -1,5 +1,6 @@
 """tools/app puts Kestrune.app together and signs it on a Mac, seen with stand-ins for a Mac's programs."""
 
+import os
 import plistlib
 import re
 import subprocess
@@ -9,6 +10,7 @@ import zipfile
 from releases import FEED_URL, PUBLIC_KEY, REAL_IDENTITY, SIGNED_PROGRAM, ReleaseTest
 from trees import REPOSITORY
 
+BUILD = "build/mac-universal"
 BUNDLE = "build/mac/Kestrune.app"
 ARCHIVE = "build/mac/Kestrune.zip"
 SYMBOLS = f"{BUNDLE}.dSYM"
@@ -49,14 +51,14 @@ class DryRun(AppTest):
                     *["--output", fetched, address],
                 ],
                 ["tar", "-xf", archive, "-C", "build/sparkle/2.10.0"],
-                ["cmake", "--preset", "mac"],
-                ["cmake", "--build", "--preset", "mac", "--parallel"],
+                ["cmake", "--preset", "mac-universal"],
+                ["cmake", "--build", "--preset", "mac-universal", "--parallel", str(os.cpu_count())],
                 ["rm", "-rf", ARCHIVE, BUNDLE, SYMBOLS],
                 ["mkdir", "-p", "build/mac"],
-                ["ditto", "--noextattr", "--noqtn", "build/mac/mac/Kestrune.app", BUNDLE],
+                ["ditto", "--noextattr", "--noqtn", f"{BUILD}/mac/Kestrune.app", BUNDLE],
                 [
-                    *["dsymutil", "--oso-prepend-path", "build/mac", "-o", SYMBOLS],
-                    f"build/mac/mac/Kestrune.app/{PROGRAM}",
+                    *["dsymutil", "--oso-prepend-path", BUILD, "-o", SYMBOLS],
+                    f"{BUILD}/mac/Kestrune.app/{PROGRAM}",
                 ],
                 ["strip", f"{BUNDLE}/{PROGRAM}"],
                 ["dwarfdump", "--uuid", SYMBOLS],
@@ -170,7 +172,7 @@ class Build(AppTest):
     def test_strips_the_program_and_keeps_the_symbols(self):
         self.build("--sparkle", "none")
         self.assertEqual(self.path(f"{BUNDLE}/{PROGRAM}").read_bytes(), SIGNED_PROGRAM.read_bytes())
-        self.assertIn(b"with symbols", self.path(f"build/mac/mac/Kestrune.app/{PROGRAM}").read_bytes())
+        self.assertIn(b"with symbols", self.path(f"{BUILD}/mac/Kestrune.app/{PROGRAM}").read_bytes())
         self.assertTrue(self.path(SYMBOLS).is_dir())
 
     def test_ends_with_the_path_and_a_line_for_each_half(self):
@@ -199,6 +201,7 @@ class Build(AppTest):
         result = self.app("--sparkle", self.framework)
         beginning = "tools/app: failed with exit status 3: codesign --force --sign -"
         self.assert_fails(result, beginning, "Autoupdate")
+        self.assertEqual(list(self.path("build/mac").iterdir()), [])
 
 
 class Checksum(AppTest):

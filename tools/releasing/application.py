@@ -5,7 +5,7 @@ With which programs it is built, stripped and signed is a Mac's or Linux' matter
 
 from . import archive, information, localizations, sparkle
 from .parameters import NO_SPARKLE
-from .steps import Command, Work
+from .steps import Anew, Command, Work
 from .symbols import Symbols
 
 
@@ -24,7 +24,7 @@ def steps(options, system):
     return [
         *(release.steps() if release else []),
         *system.build(),
-        Command("rm", "-rf", packed, system.application, symbols.folder),
+        Anew(packed, system.application, symbols.folder),
         Command("mkdir", "-p", system.application.parent),
         *system.copy(system.built, system.application),
         *system.strip(symbols),

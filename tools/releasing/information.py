@@ -29,6 +29,10 @@ def versions(path=PATH):
     return Versions(*(properties[key] for key in keys))
 
 
+def identifier(path=PATH):
+    return _read(path)["CFBundleIdentifier"]
+
+
 def with_updates(properties, feed_url, public_key):
     """The properties with the address and the key that Sparkle reads, each only when it is given."""
     given = {"SUFeedURL": feed_url, "SUPublicEDKey": public_key}

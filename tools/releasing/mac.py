@@ -1,5 +1,6 @@
 """The application as a Mac builds and signs it, with Apple's own programs."""
 
+import os
 import pathlib
 import shutil
 
@@ -7,21 +8,23 @@ from . import halves, signing
 from .steps import Command, Failure, Work
 from .symbols import extraction
 
-BUILD = pathlib.Path("build/mac")
-# In the build.
+# In a build.
 BUNDLE = pathlib.Path("mac/Kestrune.app")
 
 
 class Mac:
     sealed = "signed"
     dwarfdump = "dwarfdump"
-    built = BUILD / BUNDLE
-    # Not the build's own: it would link again into a bundle that is signed.
-    application = BUILD / BUNDLE.name
+    # The one bundle that is opened, whichever build it is of: two of one identifier would share a row of the
+    # permission. Not a build's own, as the linker would write into what is signed.
+    application = pathlib.Path("build/mac/Kestrune.app")
     programs = ("codesign", "ditto", "dsymutil", "dwarfdump", "strip")
 
-    def __init__(self, more_programs=()):
+    def __init__(self, more_programs=(), preset="mac-universal"):
         self.programs = (*self.programs, *more_programs)
+        self.preset = preset
+        self.folder = pathlib.Path("build", preset)
+        self.built = self.folder / BUNDLE
         self.halves = []
 
     def require(self, options):
@@ -32,8 +35,9 @@ class Mac:
 
     def build(self):
         return [
-            Command("cmake", "--preset", "mac"),
-            Command("cmake", "--build", "--preset", "mac", "--parallel"),
+            Command("cmake", "--preset", self.preset),
+            # Without a number make would start a compiler for every file at once.
+            Command("cmake", "--build", "--preset", self.preset, "--parallel", os.cpu_count()),
         ]
 
     def copy(self, source, target):
@@ -41,7 +45,7 @@ class Mac:
 
     def strip(self, symbols):
         return [
-            extraction("dsymutil", BUILD, BUNDLE / halves.PROGRAM, symbols.folder),
+            extraction("dsymutil", self.folder, BUNDLE / halves.PROGRAM, symbols.folder),
             Command("strip", symbols.program),
         ]
 

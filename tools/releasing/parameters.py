@@ -25,8 +25,12 @@ class OneLineParser(argparse.ArgumentParser):
         self.exit(2, f"{self.prog}: {message}; {self.prog} --help explains the parameters\n")
 
 
-def add_build_parameters(parser):
+def add_dry_run(parser):
     parser.add_argument("--dry-run", action="store_true", help="print what would be run, and run nothing")
+
+
+def add_build_parameters(parser):
+    add_dry_run(parser)
     parser.add_argument(
         "--identity",
         metavar="NAME",
@@ -43,12 +47,16 @@ def add_build_parameters(parser):
     parser.add_argument("--public-key", metavar="KEY", help="what updates are verified with, base64")
 
 
-def check(options):
-    """Raises Failure for the first value that cannot be right. Absent ones are none of its business."""
+def check_texts(options):
+    """Raises Failure for the first value that would not come out of make as it went in."""
     for name, value in vars(options).items():
         if isinstance(value, str) and ("$" in value or "\n" in value):
-            # They would not come out of make as they went in.
             raise Failure(f"{flag(name)} {value!r} holds a dollar sign or a new line")
+
+
+def check(options):
+    """Raises Failure for the first value that cannot be right. Absent ones are none of its business."""
+    check_texts(options)
     for name in ("feed_url", "download_url"):
         value = getattr(options, name, None)
         if value and not ADDRESS.fullmatch(value):

@@ -11,13 +11,15 @@ class Failure(Exception):
 
 class Command:
     """A program that is run. `judge` is given what it printed, with `judges_errors` also what it said beside
-    that, and raises Failure when that will not do. `advice` is for when the program fails."""
+    that, and raises Failure when that will not do. `advice` is for when the program fails. `goes_on` says why
+    the steps after it are taken all the same then."""
 
-    def __init__(self, *arguments, judge=None, judges_errors=False, advice=""):
+    def __init__(self, *arguments, judge=None, judges_errors=False, advice="", goes_on=""):
         self.arguments = [str(argument) for argument in arguments]
         self.judge = judge
         self.errors = subprocess.STDOUT if judges_errors else None
         self.advice = advice and f"; {advice}"
+        self.goes_on = goes_on
 
     def __str__(self):
         return shlex.join(self.arguments)
@@ -35,9 +37,22 @@ class Command:
         if result.returncode:
             if self.errors:
                 sys.stderr.write(result.stdout)
-            raise Failure(f"failed with exit status {result.returncode}: {self}{self.advice}")
-        if self.judge:
+            self._fail(result.returncode)
+        elif self.judge:
             self.judge(result.stdout)
+
+    def _fail(self, status):
+        failure = f"failed with exit status {status}: {self}{self.advice}"
+        if not self.goes_on:
+            raise Failure(failure)
+        print(f"{failure}; {self.goes_on}", file=sys.stderr, flush=True)
+
+
+class Anew(Command):
+    """Removes what later steps make, now and again when one of them fails: it would be half made."""
+
+    def __init__(self, *paths):
+        super().__init__("rm", "-rf", *paths)
 
 
 class Work:
@@ -52,9 +67,17 @@ class Work:
 
 
 def run(steps):
-    for step in steps:
-        print(step, flush=True)
-        step.run()
+    removals = []
+    try:
+        for step in steps:
+            print(step, flush=True)
+            step.run()
+            if isinstance(step, Anew):
+                removals.append(step)
+    except BaseException:  # also when somebody interrupts it
+        for removal in removals:
+            removal.run()
+        raise
 
 
 def show(steps, indent=""):
