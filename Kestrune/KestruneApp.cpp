@@ -2,6 +2,7 @@
 
 #include "Kestrune/AccessibilityList.h"
 #include "Kestrune/ApplicationLog.h"
+#include "Kestrune/FatalErrors.h"
 #include "Kestrune/MainMenu.h"
 #include "Kestrune/RunningApplication.h"
 #include "Kestrune/UpdaterManager.h"
@@ -40,6 +41,7 @@ void requireMainActor(const char* message) {
 } // namespace
 
 std::shared_ptr<KestruneApp> runKestrune() {
+    reportFatalErrors();
     Application application = Application::sharedApplication();
     std::shared_ptr<KestruneApp> delegate = KestruneApp::make();
     application.setDelegate(delegate);

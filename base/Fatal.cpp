@@ -2,17 +2,36 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace kestrune {
 
-void fatal(std::string_view message) noexcept {
-    std::fprintf(stderr, "Fatal error: %.*s\n", static_cast<int>(message.size()), message.data());
+namespace {
+
+// Never destroyed, as what runs while the process ends may be fatal, too.
+FatalErrorReporter& theReporter() {
+    static auto& reporter = *new FatalErrorReporter;
+    return reporter;
+}
+
+[[noreturn]] void endWith(const std::string& line) {
+    std::fprintf(stderr, "%s\n", line.c_str());
+    if (const FatalErrorReporter report = std::exchange(theReporter(), nullptr)) {
+        report(line);
+    }
     std::abort();
 }
 
+std::string lineFor(std::string_view message) { return "Fatal error: " + std::string(message); }
+
+} // namespace
+
+void fatal(std::string_view message) noexcept { endWith(lineFor(message)); }
+
 void fatal(std::string_view message, std::string_view sourcePath) noexcept {
-    std::fprintf(stderr, "%.*s: ", static_cast<int>(sourcePath.size()), sourcePath.data());
-    fatal(message);
+    endWith(std::string(sourcePath) + ": " + lineFor(message));
 }
+
+void setFatalErrorReporter(FatalErrorReporter reporter) { theReporter() = std::move(reporter); }
 
 } // namespace kestrune

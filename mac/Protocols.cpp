@@ -13,7 +13,7 @@ constexpr LogFormat MissingProtocol = LogFormat::of<"There is no protocol %{publ
 void adopt(Class type, const ProtocolReference& protocol) {
     Protocol* const found = protocol.find();
     if (found == nullptr) {
-        logMissing(MissingProtocol, protocol.name());
+        logOnce(MissingProtocol, protocol.name());
     } else {
         class_addProtocol(type, found);
     }

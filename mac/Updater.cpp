@@ -11,6 +11,8 @@
 #include "mac/objc/SelfCheck.h"
 #include "mac/objc/Text.h"
 
+#include <array>
+
 namespace kestrune {
 
 struct StandardUserDriver::State {
@@ -61,9 +63,7 @@ StandardUserDriver::StandardUserDriver(const Bundle& /*hostBundle*/,
     if (loadFramework()) {
         return;
     }
-#if defined(__APPLE__) && !defined(NDEBUG)
-    mac::requireVocabulary();
-#endif
+    mac::logFindings(std::array<const mac::Framework*, 1>{&mac::sparkle});
     const id instance = Object::Counterpart::of(delegate);
     adopt(instance, mac::sparkle.userDriverDelegate);
     state_->driver = mac::Retained::adopting(mac::sparkle.standardUserDriver.initWithHostBundle(

@@ -5,9 +5,6 @@
 
 int main() {
     const kestrune::mac::Pool pool;
-// GNUstep's few differences are explained where the binding is tested on it.
-#if defined(__APPLE__) && !defined(NDEBUG)
-    kestrune::mac::requireVocabulary();
-#endif
+    kestrune::mac::logFindings();
     const auto delegate = kestrune::runKestrune();
 }

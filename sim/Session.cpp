@@ -38,7 +38,10 @@ Session::Session(SessionOptions options)
     }
 }
 
-Session::~Session() { current_ = nullptr; }
+Session::~Session() {
+    setFatalErrorReporter({}); // the application's, which would call the platform
+    current_ = nullptr;
+}
 
 Session* Session::withNumber(std::uint64_t number) {
     return current_ != nullptr && current_->number_ == number ? current_ : nullptr;

@@ -198,6 +198,10 @@ public:
     const std::vector<LogRecord>& logRecords() const { return logRecords_; }
     void appendLogRecord(LogRecord record) { logRecords_.push_back(std::move(record)); }
 
+    // What the report of a crash would say, empty for nothing.
+    const std::string& crashReportMessage() const { return crashReportMessage_; }
+    void setCrashReportMessage(const std::string& message) { crashReportMessage_ = message; }
+
     // Objects of the platform's that the application retains.
     std::int64_t liveObjects() const { return liveObjects_; }
     void countLiveObject(std::int64_t change) { liveObjects_ += change; }
@@ -251,6 +255,7 @@ private:
     Duration mainThreadFreeAt_{0};
     Duration longestHold_{0};
     std::vector<LogRecord> logRecords_;
+    std::string crashReportMessage_;
     std::int64_t liveObjects_ = 0;
 };
 

@@ -6,11 +6,11 @@
 
 namespace kestrune::mac {
 
-// A name is known before it is logged, as the log's own messages may be what is missing.
-void logMissing(LogFormat format, const std::string& name) {
+// A text is known before it is logged, as the log's own messages may be what is missing.
+void logOnce(LogFormat format, const std::string& text) {
     static std::unordered_set<std::string> logged;
-    if (logged.insert(name).second) {
-        Log(Bundle::mainBundle().bundleIdentifier().value_or(""), "app").error(format, name);
+    if (logged.insert(text).second) {
+        Log(Bundle::mainBundle().bundleIdentifier().value_or(""), "app").error(format, text);
     }
 }
 

@@ -1,4 +1,4 @@
-// What the platform has not at run time. The application goes on without it, as far as it can.
+// What the platform has not at run time, or has otherwise. The application goes on, as far as it can.
 #pragma once
 
 #include "platform/Log.h"
@@ -7,7 +7,7 @@
 
 namespace kestrune::mac {
 
-// One error in the log for each name. On the main thread.
-void logMissing(LogFormat format, const std::string& name);
+// One error in the log for each text. On the main thread.
+void logOnce(LogFormat format, const std::string& text);
 
 } // namespace kestrune::mac

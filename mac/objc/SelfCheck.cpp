@@ -1,10 +1,13 @@
 #include "mac/objc/SelfCheck.h"
 
-#include "base/Fatal.h"
+#include "mac/objc/Missing.h"
 
 namespace kestrune::mac {
 
 namespace {
+
+constexpr LogFormat NotAsExpected =
+    LogFormat::of<"The platform is not as the binding expects it: %{public}s">();
 
 // Null when there is no such method.
 const char* encodingIn(Class type, const MessageDeclaration& message) {
@@ -84,21 +87,23 @@ SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks) {
     return result;
 }
 
-void requireVocabulary() {
-    const SelfCheckResult result = checkVocabulary();
-    if (result.isClean()) {
-        return;
-    }
-    std::string message = "The platform is not as the binding expects it:";
-    const auto append = [&message](const char* kind, const std::vector<std::string>& names) {
+std::vector<std::string> SelfCheckResult::findings() const {
+    std::vector<std::string> lines;
+    const auto append = [&lines](const char* kind, const std::vector<std::string>& names) {
         for (const std::string& name : names) {
-            message += std::string("\n  ") + kind + " " + name;
+            lines.push_back(std::string(kind) + " " + name);
         }
     };
-    append("no class", result.missingClasses);
-    append("no method", result.missingMethods);
-    append("another encoding:", result.differences);
-    fatal(message);
+    append("no class", missingClasses);
+    append("no method", missingMethods);
+    append("another encoding:", differences);
+    return lines;
+}
+
+void logFindings(std::span<const Framework* const> frameworks) {
+    for (const std::string& finding : checkVocabulary(frameworks).findings()) {
+        logOnce(NotAsExpected, finding);
+    }
 }
 
 } // namespace kestrune::mac

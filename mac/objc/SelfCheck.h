@@ -28,13 +28,14 @@ struct SelfCheckResult {
     std::vector<std::string> missingMethods;
     std::vector<std::string> differences;
 
-    bool isClean() const { return missingClasses.empty() && missingMethods.empty() && differences.empty(); }
+    // A line for each of the latter three.
+    std::vector<std::string> findings() const;
 };
 
 // Holds every declared class, protocol and message of the frameworks against the runtime.
 SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks = Frameworks);
 
-// Stops the process unless that finds nothing, and names everything that it finds.
-void requireVocabulary();
+// Logs an error for each finding of that, and goes on. On the main thread.
+void logFindings(std::span<const Framework* const> frameworks = Frameworks);
 
 } // namespace kestrune::mac

@@ -11,7 +11,9 @@ using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
-const Calls EntryPoint = {"NSApplication.sharedApplication",
+const Calls EntryPoint = {"-[NSBundle bundleIdentifier]",
+                          "os_log_create(org.kestrune.Kestrune, app)",
+                          "NSApplication.sharedApplication",
                           "NSUserDefaults.standardUserDefaults",
                           "-[KestruneApp init]",
                           "-[NSApplication setDelegate:] KestruneApp",

@@ -143,6 +143,9 @@ public:
 
     std::vector<LoggedMessage> loggedMessages() const;
 
+    // What a crash report would say beside the stack; empty for nothing.
+    std::string crashReportMessage() const;
+
     // The main thread's run loop runs for that long, so that timers fire and deferred work is done.
     void letTimePass(double seconds);
 

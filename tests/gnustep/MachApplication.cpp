@@ -1,5 +1,6 @@
 // The application of the stories as it is built for a Mac.
 #include "tests/gnustep/SuspendedProgram.h"
+#include "tests/gnustep/standins/CrashReporter.h"
 #include "tests/scenarios/LaunchedApplication.h"
 
 namespace kestrune::scenarios {
@@ -7,6 +8,7 @@ namespace kestrune::scenarios {
 struct LaunchedApplication::State {};
 
 LaunchedApplication::LaunchedApplication(contract::World& world) {
+    gnustep::lookForCrashReportIn([] { return macho::sectionOfProgram("__crash_info"); });
     world.launch(
         [] { gnustep::launchProgram(gnustep::programForMacs(), macho::MessageChecks::structureReturns); });
     world.runMainQueue();

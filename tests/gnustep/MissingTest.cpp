@@ -5,11 +5,13 @@
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
+#include "mac/objc/SelfCheck.h"
 #include "tests/gnustep/Objects.h"
 #include "tests/gnustep/SettingsFixture.h"
 #include "tests/gnustep/standins/LeftOut.h"
 #include "tests/gnustep/standins/Protocols.h"
 
+#include <array>
 #include <string>
 
 namespace kestrune::gnustep {
@@ -140,6 +142,31 @@ TEST_F(WhatIsMissing, IsNamedOnceAsAProtocol) {
     mac::adopt(classNamed("NSArray"), Absent.fontDelegate);
     EXPECT_THAT(errors(), ElementsAre("There is no protocol NSScreenDelegate at run time",
                                       "There is no protocol NSFontDelegate at run time"));
+}
+
+TEST_F(WhatIsMissing, IsNamedBeforeItIsUsed) {
+    const mac::Pool pool;
+    mac::logFindings(std::array<const mac::Framework*, 1>{&Absent});
+    const std::string notAsExpected = "The platform is not as the binding expects it: ";
+    EXPECT_THAT(errors(), UnorderedElementsAre(notAsExpected + "no class NSScren",
+                                               notAsExpected + "no method +[NSScren screens]",
+                                               notAsExpected + "no method -[NSObject isEquall:]",
+                                               notAsExpected + "no method -[NSObject fraame]",
+                                               notAsExpected + "no method +[NSObject versoin]"));
+}
+
+struct SparkleLeftOut {
+    SparkleLeftOut() { leaveOut("checkForUpdates"); }
+};
+class WithoutAMethodOfSparkle : SparkleLeftOut, public WhatIsMissing {};
+
+// It has its methods only now, and is looked at alone.
+TEST_F(WithoutAMethodOfSparkle, IsToldOfOnceSparkleIsLoaded) {
+    world_.setUpdateFramework(contract::UpdateFramework::working);
+    EXPECT_THAT(errors(), IsEmpty());
+    launchAndOpen();
+    EXPECT_THAT(errors(), ElementsAre("The platform is not as the binding expects it: "
+                                      "no method -[SPUUpdater checkForUpdates]"));
 }
 
 struct LeftOut {

@@ -16,6 +16,7 @@
 #include "tests/gnustep/standins/AccessibilityTrust.h"
 #include "tests/gnustep/standins/Activation.h"
 #include "tests/gnustep/standins/ActivationPolicy.h"
+#include "tests/gnustep/standins/CrashReporter.h"
 #include "tests/gnustep/standins/DisplayUUIDs.h"
 #include "tests/gnustep/standins/EventTaps.h"
 #include "tests/gnustep/standins/LoginItem.h"
@@ -346,6 +347,8 @@ void World::constructFromArchive(std::string_view className) {
 void World::constructFromWindow(std::string_view className) {
     send(send(classObject(std::string(className).c_str()), "alloc"), "initWithWindow:", id{});
 }
+
+std::string World::crashReportMessage() const { return gnustep::crashReportMessage(); }
 
 std::vector<std::string> World::openedURLs() const { return gnustep::openedURLs(); }
 

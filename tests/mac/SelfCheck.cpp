@@ -1,5 +1,5 @@
-// Holds the binding's vocabulary against the platform that this process runs on. Ends with a message that
-// names every difference, or prints how much there was to check.
+// Holds the binding's vocabulary against the platform that this process runs on. Fails and names
+// every difference, or prints how much there was to check.
 //
 // What belongs to a framework that is not loaded is left out, and named. With the path of a framework as an
 // argument that one is loaded first, and then nothing may be left out.
@@ -12,6 +12,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -50,7 +52,13 @@ int main(int argc, char** argv) {
     if (shouldBeComplete && !result.classesNotLoaded.empty()) {
         return EXIT_FAILURE;
     }
-    mac::requireVocabulary();
+    const std::vector<std::string> findings = result.findings();
+    for (const std::string& finding : findings) {
+        std::fprintf(stderr, "The platform is not as the binding expects it: %s\n", finding.c_str());
+    }
+    if (!findings.empty()) {
+        return EXIT_FAILURE;
+    }
     std::printf("%zu classes and %zu messages are as the binding expects them\n", result.classes,
                 result.messages);
 }

@@ -314,6 +314,8 @@ void World::constructFromWindow(std::string_view className) {
     state_->session.windows().refuseConstruction(className);
 }
 
+std::string World::crashReportMessage() const { return state_->session.crashReportMessage(); }
+
 std::vector<std::string> World::openedURLs() const { return state_->session.openedURLs(); }
 
 void World::letNobodyOpenURLs() { state_->session.refuseOpeningURLs(true); }

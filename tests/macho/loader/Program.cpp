@@ -66,6 +66,8 @@ extern "C" int dladdr(const void* address, Dl_info* information) noexcept {
     return systems(address, information);
 }
 
+std::span<const std::uint8_t> sectionOfProgram(std::string_view name) { return theImage->section(name); }
+
 int runProgram(const std::string& path, MessageChecks checks, const std::vector<std::string>& arguments) {
     theImage = &load(path, checks);
     std::vector<std::string> texts = {path};
