@@ -6,8 +6,7 @@ namespace kestrune::mac {
 
 namespace {
 
-constexpr LogFormat NotAsExpected =
-    LogFormat::of<"The platform is not as the binding expects it: %{public}s">();
+constexpr LogFormat AnotherEncoding = LogFormat::of<"There is another encoding of %{public}s">();
 
 // Null when there is no such method.
 const char* encodingIn(Class type, const MessageDeclaration& message) {
@@ -53,6 +52,7 @@ void checkClass(const ClassReference& type, Presence presence, SelfCheckResult& 
     ++result.classes;
     if (found == nullptr) {
         result.missingClasses.emplace_back(type.name());
+        return;
     }
     for (const auto* message = type.firstMessage(); message != nullptr; message = message->next()) {
         checkMessage(type.name(), found, *message, result);
@@ -87,23 +87,16 @@ SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks) {
     return result;
 }
 
-std::vector<std::string> SelfCheckResult::findings() const {
-    std::vector<std::string> lines;
-    const auto append = [&lines](const char* kind, const std::vector<std::string>& names) {
+void logWhatDiffers(std::span<const Framework* const> frameworks) {
+    const SelfCheckResult result = checkVocabulary(frameworks);
+    const auto log = [](LogFormat format, const std::vector<std::string>& names) {
         for (const std::string& name : names) {
-            lines.push_back(std::string(kind) + " " + name);
+            logOnce(format, name);
         }
     };
-    append("no class", missingClasses);
-    append("no method", missingMethods);
-    append("another encoding:", differences);
-    return lines;
-}
-
-void logFindings(std::span<const Framework* const> frameworks) {
-    for (const std::string& finding : checkVocabulary(frameworks).findings()) {
-        logOnce(NotAsExpected, finding);
-    }
+    log(MissingClass, result.missingClasses);
+    log(MissingMethod, result.missingMethods);
+    log(AnotherEncoding, result.differences);
 }
 
 } // namespace kestrune::mac
