@@ -1,6 +1,7 @@
 """What a build or a release does, one step after the other. A dry run prints the steps and does none."""
 
 import shlex
+import shutil
 import subprocess
 import sys
 
@@ -11,13 +12,18 @@ class Failure(Exception):
 
 class Command:
     """A program that is run. `judge` is given what it printed, with `judges_errors` also what it said beside
-    that, and raises Failure when that will not do. `advice` is for when the program fails."""
+    that, and raises Failure when that will not do; when it `judges_failures`, nobody else does. `advice` is
+    for when the program fails, unless it is one that `reports` itself, in one line, what went wrong."""
 
-    def __init__(self, *arguments, judge=None, judges_errors=False, advice=""):
+    def __init__(
+        self, *arguments, judge=None, judges_errors=False, judges_failures=False, advice="", reports=False
+    ):
         self.arguments = [str(argument) for argument in arguments]
         self.judge = judge
         self.errors = subprocess.STDOUT if judges_errors else None
+        self.judges_failures = judges_failures
         self.advice = advice and f"; {advice}"
+        self.reports = reports
 
     def __str__(self):
         return shlex.join(self.arguments)
@@ -32,9 +38,12 @@ class Command:
             )
         except OSError as error:
             raise Failure(f"{self.arguments[0]} cannot be run: {error.strerror}") from None
-        if result.returncode:
+        if result.returncode and not self.judges_failures:
             if self.errors:
                 sys.stderr.write(result.stdout)
+            # A signal left it no time to.
+            if self.reports and result.returncode > 0:
+                raise Failure()
             raise Failure(f"failed with exit status {result.returncode}: {self}{self.advice}")
         if self.judge:
             self.judge(result.stdout)
@@ -43,18 +52,30 @@ class Command:
 class Work:
     """Something that is done here instead of by a program. Shown as a comment."""
 
-    def __init__(self, description, run):
+    def __init__(self, description, work):
         self.description = description
-        self.run = run
+        self.work = work
 
     def __str__(self):
         return f"# {self.description}"
 
+    def run(self):
+        try:
+            self.work()
+        except OSError as error:
+            raise Failure(f"failed to {self.description}: {error}") from None
 
-def run(steps):
-    for step in steps:
-        print(step, flush=True)
-        step.run()
+
+def run(steps, made=()):
+    """`made` has the paths of what they make. When one of them fails, none of that is left."""
+    try:
+        for step in steps:
+            print(step, flush=True)
+            step.run()
+    except BaseException:
+        for path in made:
+            _remove(path)
+        raise
 
 
 def show(steps, indent=""):
@@ -63,7 +84,15 @@ def show(steps, indent=""):
 
 
 def end_with(failure, program):
-    """The exit status for a failure, after its line."""
+    """The exit status for a failure, after its line. One without words was reported already."""
     sys.stdout.flush()
-    print(f"{program}: {failure}", file=sys.stderr)
+    if str(failure):
+        print(f"{program}: {failure}", file=sys.stderr)
     return 1
+
+
+def _remove(path):
+    if path.is_dir() and not path.is_symlink():
+        shutil.rmtree(path)
+    else:
+        path.unlink(missing_ok=True)
