@@ -127,8 +127,10 @@ class Executables(SealTest):
             "Frameworks/library", "is a program for no processor of macOS 13 (0xfeedface, 0x7)"
         )
 
-    def test_that_are_cut_off_are_refused(self):
-        for data in (program("arm64")[:20], program("universal")[:30], program("universal")[:100]):
+    def test_that_are_not_whole_are_refused(self):
+        without_commands = struct.pack("<IIIIIIII", 0xFEEDFACF, 0x0100000C, 0, 2, 0, 0, 0, 0)
+        cut_off = (program("arm64")[:20], program("universal")[:30], program("universal")[:100])
+        for data in (*cut_off, without_commands):
             self.put("Frameworks/library", data)
             self.assert_refused("Frameworks/library", "begins as a program does and is none")
 
