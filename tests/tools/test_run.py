@@ -105,7 +105,7 @@ class Words(RunTest):
 class FailedRun(RunTest):
     def test_has_no_such_certificate(self):
         result = self.run_tool("--identity", "Nobody")
-        self.assert_fails(result, "tools/run: the keychain has no certificate 'Nobody' that signs code")
+        self.assert_fails(result, "tools/run: the keychain has no certificate 'Nobody' to sign with; security find")
         self.assertEqual([call[0] for call in self.calls()], ["security"])
 
     def test_has_a_part_of_the_name_of_a_certificate(self):
