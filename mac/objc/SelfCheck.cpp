@@ -2,6 +2,8 @@
 
 #include "mac/objc/Missing.h"
 
+#include <algorithm>
+
 namespace kestrune::mac {
 
 namespace {
@@ -52,7 +54,6 @@ void checkClass(const ClassReference& type, Presence presence, SelfCheckResult& 
     ++result.classes;
     if (found == nullptr) {
         result.missingClasses.emplace_back(type.name());
-        return;
     }
     for (const auto* message = type.firstMessage(); message != nullptr; message = message->next()) {
         checkMessage(type.name(), found, *message, result);
@@ -69,6 +70,12 @@ void checkProtocol(const ProtocolReference& protocol, SelfCheckResult& result) {
     for (const auto* message = protocol.firstMessage(); message != nullptr; message = message->next()) {
         checkMessage(owner, found, *message, result);
     }
+}
+
+bool isOfOneOf(const std::vector<std::string>& classes, const std::string& method) {
+    return std::any_of(classes.begin(), classes.end(), [&method](const std::string& name) {
+        return method.compare(1, name.size() + 2, "[" + name + " ") == 0;
+    });
 }
 
 } // namespace
@@ -88,7 +95,9 @@ SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks) {
 }
 
 void logWhatDiffers(std::span<const Framework* const> frameworks) {
-    const SelfCheckResult result = checkVocabulary(frameworks);
+    SelfCheckResult result = checkVocabulary(frameworks);
+    std::erase_if(result.missingMethods,
+                  [&result](const std::string& name) { return isOfOneOf(result.missingClasses, name); });
     const auto log = [](LogFormat format, const std::vector<std::string>& names) {
         for (const std::string& name : names) {
             logOnce(format, name);

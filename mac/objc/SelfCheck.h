@@ -23,8 +23,8 @@ struct SelfCheckResult {
     // Methods of newer systems than this one.
     std::vector<std::string> laterMethods;
 
-    // Each names a class, or a method and its encodings. A protocol stands between angle brackets. Nothing is
-    // known of the methods of a missing class.
+    // Each names a class, or a method and its encodings. A protocol stands between angle brackets. Of a
+    // missing class every method is missing, too.
     std::vector<std::string> missingClasses;
     std::vector<std::string> missingMethods;
     std::vector<std::string> differences;
@@ -35,7 +35,8 @@ struct SelfCheckResult {
 // Holds every declared class, protocol and message of the frameworks against the runtime.
 SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks = Frameworks);
 
-// Logs an error for each of the latter three, which is the one that its use would log. On the main thread.
+// Logs an error for each of the latter three, which is the one that its use would log, but for the methods of
+// a missing class. On the main thread.
 void logWhatDiffers(std::span<const Framework* const> frameworks = Frameworks);
 
 } // namespace kestrune::mac
