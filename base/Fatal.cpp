@@ -1,5 +1,6 @@
 #include "base/Fatal.h"
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
@@ -16,8 +17,9 @@ FatalErrorReporter& theReporter() {
 
 [[noreturn]] void endWith(const std::string& line) {
     std::fprintf(stderr, "%s\n", line.c_str());
-    if (const FatalErrorReporter report = std::exchange(theReporter(), nullptr)) {
-        report(line);
+    static std::atomic_flag isTold;
+    if (theReporter() && !isTold.test_and_set()) {
+        theReporter()(line);
     }
     std::abort();
 }

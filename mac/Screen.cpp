@@ -4,7 +4,6 @@
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
 
-#include <cstring>
 #include <utility>
 
 namespace kestrune {
@@ -18,7 +17,7 @@ namespace {
 // A number is whole unless it is stored as a floating-point one.
 DeviceDescriptionValue valueOfNumber(id number) {
     const char* type = mac::foundation.number.objCType(number);
-    if (type != nullptr && (std::strcmp(type, "d") == 0 || std::strcmp(type, "f") == 0)) {
+    if (type != nullptr && (*type == 'd' || *type == 'f')) {
         return mac::foundation.number.doubleValue(number);
     }
     return std::int64_t{mac::foundation.number.longLongValue(number)};

@@ -1,10 +1,12 @@
 // The application's process on a Mac.
+#include "Kestrune/FatalErrors.h"
 #include "Kestrune/KestruneApp.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/SelfCheck.h"
 
 int main() {
     const kestrune::mac::Pool pool;
+    kestrune::reportFatalErrors();
     kestrune::mac::logWhatDiffers();
     const auto delegate = kestrune::runKestrune();
 }

@@ -22,8 +22,10 @@
 namespace kestrune::gnustep {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 using testing::StartsWith;
 using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
@@ -101,6 +103,12 @@ TEST(SelfCheck, FindsEverythingWithTheStandIns) {
     EXPECT_THAT(result.protocolsNotThere, IsEmpty());
     EXPECT_THAT(result.laterMethods, ElementsAre("+[NSColor quinaryLabelColor]")); // behind one that is there
     EXPECT_THAT(methodsOf(result.differences), UnorderedElementsAreArray(explainedMethods()));
+}
+
+TEST(SelfCheck, LeavesOutWhatBelongsToAFrameworkThatIsNotLoaded) {
+    const mac::SelfCheckResult result = mac::checkVocabulary();
+    EXPECT_THAT(result.classesNotLoaded, UnorderedElementsAre("SPUStandardUserDriver", "SPUUpdater"));
+    EXPECT_THAT(result.missingClasses, Not(Contains(StartsWith("SPU"))));
 }
 
 // As on macOS 13.

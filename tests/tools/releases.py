@@ -175,9 +175,9 @@ class ReleaseTest(TreeTest):
         properties.update(changes)
         self.information_path.write_bytes(plistlib.dumps(properties))
 
-    def assert_fails(self, result, *parts):
-        """One line that holds the parts, and nothing done before it."""
-        self.assertNotEqual(result.returncode, 0, result.stdout)
+    def assert_fails(self, result, *parts, status=1):
+        """With that exit status and one line that holds the parts."""
+        self.assertEqual(result.returncode, status, result.stdout + result.stderr)
         self.assertEqual(len(result.stderr.splitlines()), 1, result.stderr)
         for part in parts:
             self.assertIn(part, result.stderr)

@@ -43,17 +43,20 @@ class AppTest(ReleaseTest):
 
 class DryRun(AppTest):
     def test_shows_every_command_in_order(self):
-        archive, fetched = "build/sparkle/Sparkle-2.10.0.tar.xz", "build/sparkle/Sparkle-2.10.0.tar.part"
+        archive, unpacked = "build/sparkle/Sparkle-2.10.0.tar.xz", "build/sparkle/2.10.0.new"
         address = "https://github.com/sparkle-project/Sparkle/releases/download/2.10.0/Sparkle-2.10.0.tar.xz"
         self.assertEqual(
             [command for command in self.dry_run() if command[0] != "codesign"],
             [
-                ["mkdir", "-p", "build/sparkle/2.10.0"],
+                ["rm", "-rf", unpacked],
+                ["mkdir", "-p", unpacked],
                 [
                     *["curl", "--fail", "--location", "--proto", "=https", "--remove-on-error"],
-                    *["--output", fetched, address],
+                    *["--silent", "--show-error", "--output", archive, address],
                 ],
-                ["tar", "-xf", archive, "-C", "build/sparkle/2.10.0"],
+                ["tar", "-xf", archive, "-C", unpacked],
+                ["rm", "-rf", "build/sparkle/2.10.0"],
+                ["mv", unpacked, "build/sparkle/2.10.0"],
                 ["cmake", "--preset", "mac-universal"],
                 ["cmake", "--build", "--preset", "mac-universal", "--parallel", str(os.cpu_count())],
                 ["rm", "-rf", ARCHIVE, BUNDLE, SYMBOLS],
@@ -206,13 +209,23 @@ class Build(AppTest):
         self.assert_fails(result, beginning, "Autoupdate")
         self.assert_nothing_left()
 
-    def test_ends_when_a_program_of_the_framework_is_not_for_both_processors(self):
-        self.build("--sparkle", self.framework)
-        helper = self.framework / "Versions/B/Updater.app/Contents/MacOS/Updater"
+    def spoil(self, framework):
+        """One of its programs is for one processor alone."""
+        helper = framework / "Versions/B/Updater.app/Contents/MacOS/Updater"
         helper.write_bytes((SIGNED_PROGRAM.parent / "arm64.macho").read_bytes())
-        copy = f"{FRAMEWORK}/Versions/B/Updater.app/Contents/MacOS/Updater"
-        message = f"tools/app: {copy} is not for x86_64; the application is for arm64 and x86_64"
+        return helper
+
+    def test_does_not_begin_when_a_program_of_the_given_framework_is_not_for_both_processors(self):
+        helper = self.spoil(self.framework)
+        message = f"tools/app: {helper} is not for x86_64; the application is for arm64 and x86_64"
         self.assert_fails(self.app("--sparkle", self.framework), message)
+        self.assertEqual(self.calls(), [])
+
+    def test_ends_when_a_program_of_the_fetched_framework_is_not_for_both_processors(self):
+        self.spoil(self.framework)
+        self.pin_archive()
+        copy = f"{FRAMEWORK}/Versions/B/Updater.app/Contents/MacOS/Updater"
+        self.assert_fails(self.app(), f"tools/app: {copy} is not for x86_64")
         self.assert_nothing_left()
 
     def test_that_does_not_compile_leaves_what_was_built_before(self):
@@ -231,7 +244,6 @@ class Certificate(AppTest):
         )
         self.assert_fails(result, beginning)
         self.assertEqual([call[0] for call in self.calls()], ["security"])
-        self.assert_nothing_left()
 
     def test_that_the_keychain_lacks_ends_the_build_before_it_begins(self):
         self.use_mac()
@@ -262,11 +274,29 @@ class Checksum(AppTest):
             self.assertEqual(self.app().returncode, 0)
             self.assertEqual([call[0] for call in self.calls()].count("curl"), 1)
 
+    def kept(self):
+        return sorted(path.name for path in self.path("build/sparkle").iterdir())
+
     def test_of_another_archive_ends_the_build_and_deletes_it(self):
         self.pin_archive(sha256="0" * 64)
         self.assert_fails(self.app(), "not the one in tools/sparkle.ini; it is deleted")
         self.assertEqual([call[0] for call in self.calls()], ["curl"])
-        self.assertEqual([path.name for path in self.path("build/sparkle").iterdir()], ["2.10.0"])
+        self.assertEqual(self.kept(), [])
+
+    def test_of_an_archive_that_was_there_is_compared_all_the_same(self):
+        self.pin_archive()
+        self.build()
+        self.pin_archive(sha256="0" * 64)
+        self.assert_fails(self.app(), "not the one in tools/sparkle.ini; it is deleted")
+        self.assertEqual(self.kept(), ["2.10.0"])
+
+    def test_of_what_cannot_be_unpacked_leaves_none_of_it(self):
+        self.pin_archive()
+        (self.root / "bin/tar").unlink()
+        self.write({self.root / "bin/tar": '#!/bin/sh\necho half > "$4/half"; exit 1\n'})
+        (self.root / "bin/tar").chmod(0o755)
+        self.assert_fails(self.app(), "tools/app: failed with exit status 1: tar -xf")
+        self.assertEqual(self.kept(), ["Sparkle-2.10.0.tar.xz"])
 
     def test_has_to_be_written_down(self):
         self.write({"checkout/tools/sparkle.ini": "[sparkle]\nversion = 2\n"})
@@ -291,14 +321,8 @@ class Information(AppTest):
     def test_is_otherwise_that_of_the_resources(self):
         shipped = plistlib.loads((REPOSITORY / "Kestrune/Resources/Info.plist").read_bytes())
         self.assertEqual(self.build("--sparkle", "none"), shipped)
-        texts = (
-            "CFBundleIdentifier",
-            "CFBundleShortVersionString",
-            "CFBundleVersion",
-            "LSMinimumSystemVersion",
-            "NSHumanReadableCopyright",
-        )
-        for key in texts:
+        versions = ("CFBundleShortVersionString", "CFBundleVersion", "LSMinimumSystemVersion")
+        for key in ("CFBundleIdentifier", "NSHumanReadableCopyright", *versions):
             self.assertIsInstance(shipped[key], str, key)
 
     def test_goes_through_cmake_as_it_is(self):
@@ -327,12 +351,18 @@ class Parameters(AppTest):
             (["--public-key", "c2hvcnQ="], ["--public-key 'c2hvcnQ='", "base64 of 32 bytes"]),
             (["--public-key", "é"], ["--public-key 'é'"]),
             (["--identity", "A $B"], ["--identity 'A $B' holds a dollar sign"]),
-            (["--identity"], ["--identity: expected one argument"]),
-            (["--feed"], ["--feed"]),
-            (["again"], ["unrecognized arguments: again"]),
         ):
             with self.subTest(arguments=arguments):
                 self.assert_fails(self.app("--dry-run", *arguments), "tools/app: ", *parts)
+
+    def test_that_there_are_not_are_named_in_one_line(self):
+        for arguments, part in (
+            (["--identity"], "--identity: expected one argument"),
+            (["--feed"], "--feed"),
+            (["again"], "unrecognized arguments: again"),
+        ):
+            with self.subTest(arguments=arguments):
+                self.assert_fails(self.app("--dry-run", *arguments), "tools/app: ", part, status=2)
 
     def test_of_a_framework_that_is_none_are_found_before_the_build(self):
         self.use_mac()

@@ -17,6 +17,7 @@ OLD = """<?xml version="1.0" encoding="utf-8"?>
         <title>Kestrune &amp; friends</title>
         <item>
             <title>0.9</title>
+            <sparkle:shortVersionString>0.9</sparkle:shortVersionString>
             <description><![CDATA[<b>Größer</b> </channel>]]></description>
             <dc:creator>A</dc:creator>
             <sparkle:version>9</sparkle:version>
@@ -49,21 +50,36 @@ class FeedTest(TreeTest):
 
 
 class Newer(FeedTest):
-    def assert_refused(self, reason, build="10"):
+    def require(self, build="10", short="1.1"):
+        feed.require_newer(self.path, Versions(short, build, "13.0"))
+
+    def assert_refused(self, reason, **versions):
         with self.assertRaisesRegex(Failure, reason):
-            feed.require_newer(self.path, build)
+            self.require(**versions)
 
     def test_is_a_build_above_all_that_are_there(self):
         for build in ("10", "9.0.1", "9.1"):
-            feed.require_newer(self.path, build)
+            self.require(build)
 
     def test_is_any_build_where_there_is_no_feed(self):
-        feed.require_newer(self.root / "none.xml", "1")
+        self.path.unlink()
+        self.require("1")
+
+    def test_is_no_version_that_is_there_or_below(self):
+        for short in ("0.9", "0.8.9", "0.9.0"):
+            with self.subTest(short=short):
+                reason = "has version 0.9 already and this one is .*; raise CFBundleShortVersion"
+                self.assert_refused(reason, short=short)
+
+    def test_is_any_version_after_one_that_is_no_number(self):
+        self.path.write_text(OLD.replace(">0.9<", ">0.9 beta<"), encoding="utf-8")
+        self.require(short="0.1")
 
     def test_is_no_build_that_is_there_or_below(self):
         for build in ("9", "8.9", "8", "9.0", "09"):
             with self.subTest(build=build):
-                self.assert_refused("has build 9 already and this one is .*; raise CFBundleVersion", build)
+                reason = "has build 9 already and this one is .*; raise CFBundleVersion"
+                self.assert_refused(reason, build=build)
 
     def test_is_unknown_where_one_is_no_number(self):
         self.path.write_text(OLD.replace("<sparkle:version>9<", "<sparkle:version>nine<"), encoding="utf-8")

@@ -29,7 +29,11 @@ MADE_FEED = f"{MAKING}/updates/appcast.xml"
 NOTARIZATION = f"{MAKING}/notarization.zip"
 ZIP = ["ditto", "-c", "-k", "--sequesterRsrc", "--keepParent", BUNDLE]
 
-CHECKOUT = [["git", "status", "--porcelain"], ["git", "tag", "--points-at", "HEAD"]]
+CHECKOUT = [
+    ["git", "status", "--porcelain"],
+    ["git", "tag", "--points-at", "HEAD"],
+    ["git", "tag", "--list", "v*"],
+]
 SETUP = ["tools/setup", "app"]
 APP = ["tools/app", "--system", "Darwin"]
 BEGINNING = [
@@ -234,9 +238,10 @@ class MadeRelease(DryRunTest):
 
 
 class Parameters(ReleaseToolTest):
-    def assert_refused(self, arguments, *parts):
+    def assert_refused(self, arguments, *parts, status=1):
         with self.subTest(arguments=arguments):
-            self.assert_fails(self.release("--dry-run", *arguments), "tools/release: ", *parts)
+            result = self.release("--dry-run", *arguments)
+            self.assert_fails(result, "tools/release: ", *parts, status=status)
 
     def test_that_are_missing_are_all_named_in_one_line(self):
         everything = "--identity, --keychain-profile, --feed-url, --public-key, --download-url, --appcast;"
@@ -262,8 +267,8 @@ class Parameters(ReleaseToolTest):
         ):
             arguments = [*SIGNED, *self.updates, "--sparkle-tools", "a", flag, value]
             self.assert_refused(arguments, flag, value)
-        self.assert_refused(["--identity"], "--identity: expected one argument")
-        self.assert_refused(["--feed", FEED_URL], "--feed")
+        self.assert_refused(["--identity"], "--identity: expected one argument", status=2)
+        self.assert_refused(["--feed", FEED_URL], "--feed", status=2)
 
     def test_of_a_feed_that_is_none_are_refused(self):
         self.appcast.write_text("<html>", encoding="utf-8")

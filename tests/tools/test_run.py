@@ -18,6 +18,8 @@ from releasing.steps import Failure  # noqa: E402
 
 BUILT = "build/mac/mac/Kestrune.app"
 BUNDLE = "build/mac/Kestrune.app"
+BUILD_PROGRAM = f"{BUILT}/Contents/MacOS/Kestrune"
+SYMBOLS = f"{BUNDLE}.dSYM"
 ERRORS = "build/mac/Kestrune.stderr"
 IDENTIFIER = "org.kestrune.Kestrune"
 SIGNED = ["--identity", REAL_IDENTITY]
@@ -57,8 +59,9 @@ class Steps(RunTest):
                 ["cmake", "--build", "--preset", "mac", "--parallel", str(os.cpu_count())],
                 ["build/mac/mac/kestrune-self-check"],
                 ["osascript", "-l", "JavaScript", "tools/releasing/quit.js", IDENTIFIER],
-                ["rm", "-rf", BUNDLE, ERRORS],
+                ["rm", "-rf", "build/mac/Kestrune.zip", BUNDLE, SYMBOLS, ERRORS],
                 ["ditto", "--noextattr", "--noqtn", BUILT, BUNDLE],
+                ["dsymutil", "--oso-prepend-path", "build/mac", "-o", SYMBOLS, BUILD_PROGRAM],
                 sign,
                 ["codesign", "--verify", "--strict", "--verbose=2", BUNDLE],
                 ["open", "--stderr", f"{checkout}/{ERRORS}", f"{checkout}/{BUNDLE}"],
@@ -69,7 +72,7 @@ class Steps(RunTest):
         shown = self.logged(self.shown(*SIGNED))
         self.assert_opened(*SIGNED)
         self.assertEqual(self.calls(), shown)
-        self.assertEqual(len(shown), 9)
+        self.assertEqual(len(shown), 10)
 
     def test_ask_no_keychain_for_an_ad_hoc_signature(self):
         shown = self.shown()
@@ -77,11 +80,20 @@ class Steps(RunTest):
         self.assertNotIn("security", [command[0] for command in shown])
         self.assertIn(["codesign", "--force", "--sign", "-", "--timestamp=none", BUNDLE], shown)
 
-    def test_name_files_that_are_there(self):
-        script = self.shown()[3][3]
-        self.assertIn("runningApplicationsWithBundleIdentifier", (REPOSITORY / script).read_text("utf-8"))
+    def test_replace_whatever_lies_beside_the_bundle_of_another_build(self):
+        others = (f"{SYMBOLS}/a", "build/mac/Kestrune.zip")
+        self.write({f"checkout/{name}": "of another build" for name in others})
+        self.assert_opened()
+        self.assertFalse((self.checkout / "build/mac/Kestrune.zip").exists())
+        self.assertFalse((self.checkout / SYMBOLS / "a").exists())
+        self.assertTrue((self.checkout / SYMBOLS).is_dir())
 
-    def test_make_targets_pass_the_certificate(self):
+    def test_of_make_are_ad_hoc_without_a_certificate(self):
+        result = self.call("make", "run")
+        self.assertEqual((result.returncode, result.stderr), (0, ""), result.stdout)
+        self.assertIn(["codesign", "--force", "--sign", "-", "--timestamp=none", BUNDLE], self.calls())
+
+    def test_of_make_take_its_certificate(self):
         result = self.call("make", "run", f"DEV_IDENTITY={REAL_IDENTITY}")
         self.assertEqual((result.returncode, result.stderr), (0, ""), result.stdout)
         self.assertEqual(self.calls()[0][0], "security")
@@ -109,6 +121,10 @@ class FailedRun(RunTest):
         self.assert_fails(result, message)
         self.assertEqual([call[0] for call in self.calls()], ["security"])
 
+    def test_has_a_certificate_that_nobody_can_read(self):
+        self.use_mac(security=r"""printf '  1) %s "\xff"\n' """ + "0" * 40)
+        self.assert_fails(self.run_tool("--identity", "Nobody"), "no certificate 'Nobody'")
+
     def test_has_a_part_of_the_name_of_a_certificate(self):
         self.assert_opened("--identity", "Some One")
 
@@ -122,6 +138,16 @@ class FailedRun(RunTest):
         self.use_mac(codesign="exit 1")
         self.assert_fails(self.run_tool(), "tools/run: failed with exit status 1: codesign --force")
         self.assertFalse((self.checkout / BUNDLE).exists())
+
+    def test_is_of_a_bundle_without_an_identifier(self):
+        self.change_information(CFBundleIdentifier=1)
+        message = "Info.plist: CFBundleIdentifier is 1; make it a string"
+        self.assert_fails(self.run_tool(), "tools/run: ", message)
+
+    def test_crashes_as_it_checks_the_platform(self):
+        self.use_mac(**{"kestrune-self-check": "kill -SEGV $$"})
+        message = "tools/run: failed with exit status -11: build/mac/mac/kestrune-self-check"
+        self.assert_fails(self.run_tool(), message)
 
     def test_is_no_mac(self):
         self.use_programs({})

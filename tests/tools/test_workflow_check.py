@@ -6,8 +6,8 @@ from unittest import mock
 from trees import TreeTest
 from checks import workflows
 
-LINUX = ".github/workflows/linux.yml"
-MACS = ".github/workflows/macs.yml"
+LINUX = ".github/workflows/first.yml"
+MACS = ".github/workflows/second.yml"
 GOOD = """\
 on: push
 permissions:

@@ -19,16 +19,18 @@ SHELL = ("bash", "--noprofile", "--norc", "-eo", "pipefail")
 ACTIONS = {"actions/checkout", "actions/upload-artifact"}
 
 
-def read(name):
-    return yaml.safe_load((FOLDER / name).read_text(encoding="utf-8"))
-
-
 def workflows():
-    return {path.name: read(path.name) for path in sorted(FOLDER.iterdir())}
+    return {
+        path.name: yaml.safe_load(path.read_text(encoding="utf-8")) for path in sorted(FOLDER.iterdir())
+    }
+
+
+def job(name):
+    return workflows()["proof.yml"]["jobs"][name]
 
 
 def steps_of(workflow):
-    return [step for job in workflow["jobs"].values() for step in job["steps"]]
+    return [step for each in workflow["jobs"].values() for step in each["steps"]]
 
 
 def unknown_commands(script):
@@ -49,7 +51,7 @@ def unknown_commands(script):
 
 class Workflows(unittest.TestCase):
     def test_are_those_whose_steps_run_here(self):
-        self.assertEqual(list(workflows()), ["linux.yml", "macs.yml"])
+        self.assertEqual(list(workflows()), ["proof.yml"])
 
     def test_call_what_is_in_the_repository(self):
         for name, workflow in workflows().items():
@@ -63,8 +65,8 @@ class Workflows(unittest.TestCase):
     def test_may_read_and_no_more(self):
         for name, workflow in workflows().items():
             self.assertEqual(workflow["permissions"], {"contents": "read"}, name)
-            for job in workflow["jobs"].values():
-                self.assertNotIn("permissions", job, name)
+            for each in workflow["jobs"].values():
+                self.assertNotIn("permissions", each, name)
             for step in steps_of(workflow):
                 action = step.get("uses", "").split("@")[0]
                 self.assertIn(action, {"", *ACTIONS}, name)
@@ -74,8 +76,8 @@ class Workflows(unittest.TestCase):
     def test_end_and_give_way_to_the_next_commit(self):
         for name, workflow in workflows().items():
             self.assertIs(workflow["concurrency"]["cancel-in-progress"], True, name)
-            for job in workflow["jobs"].values():
-                self.assertLessEqual(job["timeout-minutes"], 120, name)
+            for each in workflow["jobs"].values():
+                self.assertLessEqual(each["timeout-minutes"], 120, name)
 
     def test_start_the_shell_that_the_tests_start(self):
         for name, workflow in workflows().items():
@@ -84,13 +86,13 @@ class Workflows(unittest.TestCase):
 
 
 class JobTest:
-    """Runs the steps of a workflow, one after the other, in `checkout`."""
+    """Runs the steps of a job, one after the other, in `checkout`."""
 
-    def run_steps(self, workflow, expected):
+    def run_steps(self, steps, expected):
         """Each step is to call what is expected of it, and to write what the next one keeps."""
         expected = iter(expected.items())
         script = ""
-        for step in steps_of(workflow):
+        for step in steps:
             if "run" in step:
                 script, beginnings = next(expected, ("", ()))
                 self.assertEqual(step["run"], script, "no test runs this step")
@@ -115,16 +117,15 @@ class JobTest:
         return path
 
     def assert_run_fails(self, message, change=lambda steps: None):
-        """What is said of the workflow, or of it with a change in the steps of its job."""
-        workflow = read(self.NAME)
-        [job] = workflow["jobs"].values()
-        change(job["steps"])
+        """What is said of the job, or of it with a change in its steps."""
+        steps = job(self.JOB)["steps"]
+        change(steps)
         with self.assertRaisesRegex(AssertionError, message):
-            self.run_steps(workflow, self.CALLS)
+            self.run_steps(steps, self.CALLS)
 
 
 class LinuxSteps(JobTest, MakefileTest):
-    NAME = "linux.yml"
+    JOB = "debian"
     # Of the system before the first step, no make among it.
     TOOLS = "bash dirname env find grep ln mkdir rm touch".split()
     APT_GET = 'echo "apt-get $*" >> "$LOG"; [[ $2 != install ]] || ln -s "$MAKE" "${0%/*}/make"'
@@ -183,7 +184,7 @@ class LinuxSteps(JobTest, MakefileTest):
         return self.log.read_text(encoding="utf-8").splitlines()
 
     def test_run(self):
-        self.run_steps(read(self.NAME), self.CALLS)
+        self.run_steps(job(self.JOB)["steps"], self.CALLS)
 
     def test_are_all_known(self):
         self.assert_run_fails("no step is like this", lambda steps: steps.clear())
@@ -209,7 +210,7 @@ class LinuxSteps(JobTest, MakefileTest):
 
 
 class MacSteps(JobTest, ReleaseTest):
-    NAME = "macs.yml"
+    JOB = "mac"
     PICTURES = (
         LOG
         + """for look in light dark; do
@@ -226,7 +227,8 @@ ln -sf "$(type -p kestrune-pictures)" build/mac/mac"""
     )
     CALLS = {
         "make test": ("cmake --preset mac", "cmake --build --preset mac", "ctest --test-dir build/mac"),
-        "make app SPARKLE=none": (
+        "make app": (
+            "curl --fail",
             "cmake --build",
             "dsymutil ",
             "strip ",
@@ -239,6 +241,7 @@ ln -sf "$(type -p kestrune-pictures)" build/mac/mac"""
     def setUp(self):
         super().setUp()
         shutil.copy(REPOSITORY / "tools/pictures", self.checkout / "tools")
+        self.pin_archive()
         self.programs = {"cmake": self.CMAKE, "ctest": LOG, "sysctl": "echo 3"}
         self.use_mac(**self.programs, **{"kestrune-pictures": self.PICTURES})
 
@@ -249,7 +252,7 @@ ln -sf "$(type -p kestrune-pictures)" build/mac/mac"""
         return [" ".join(call) for call in self.calls()]
 
     def test_run(self):
-        self.run_steps(read(self.NAME), self.CALLS)
+        self.run_steps(job(self.JOB)["steps"], self.CALLS)
 
     def test_are_all_known(self):
         self.assert_run_fails("no test runs this step", lambda steps: steps.append({"run": "make bench"}))

@@ -2,6 +2,7 @@
 
 from . import (
     contract,
+    documents,
     format,
     includes,
     resources,
@@ -19,6 +20,7 @@ ALL = {
     "includes": includes,
     "unbuilt": unbuilt,
     "words": words,
+    "documents": documents,
     "style": style,
     "sleeping": sleeping,
     "strings": strings,

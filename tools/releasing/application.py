@@ -19,6 +19,11 @@ def steps(options, system):
     return [*building(options, system), *assembling(options, system)]
 
 
+def unfinished(options):
+    """What building leaves only when it fails."""
+    return [] if options.sparkle else [sparkle.pinned().unpacked]
+
+
 def building(options, system):
     return [
         *signing.certificate(options.identity),

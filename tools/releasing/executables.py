@@ -13,9 +13,13 @@ from .steps import Failure
 
 def require_all(application):
     minimum_system = information.versions(application / "Contents/Info.plist").minimum_system
-    for path in sorted(application.rglob("*")):
+    require_programs(application, minimum_system, own=application / PROGRAM)
+
+
+def require_programs(folder, minimum_system, own=None):
+    for path in sorted(folder.rglob("*")):
         if path.is_file() and not path.is_symlink() and _is_mach_o(path):
-            _require(path, minimum_system, is_own=path == application / PROGRAM)
+            _require(path, minimum_system, is_own=path == own)
 
 
 def _is_mach_o(path):

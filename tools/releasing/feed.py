@@ -43,13 +43,20 @@ def items_in(path):
     return [_item(element) for element in channel.findall("item")]
 
 
-def require_newer(path, build):
-    """Sparkle offers the item with the highest build, so a lower one would never be seen."""
+def require_newer(path, versions):
+    """Sparkle offers the item with the highest build, so a lower one would never be seen. People go by the
+    other number, which Sparkle does not compare."""
     for present in items_in(path):
-        if _numbers(present.build, path) >= _numbers(build, path):
+        if _numbers(present.build, path) >= information.numbers(versions.build):
             raise Failure(
-                f"{path} has build {present.build} already and this one is {build}; "
+                f"{path} has build {present.build} already and this one is {versions.build}; "
                 "raise CFBundleVersion in Info.plist"
+            )
+        is_number = information.VERSION.fullmatch(present.short_version)
+        if is_number and _numbers(present.short_version, path) >= information.numbers(versions.short):
+            raise Failure(
+                f"{path} has version {present.short_version} already and this one is {versions.short}; "
+                "raise CFBundleShortVersionString in Info.plist"
             )
 
 

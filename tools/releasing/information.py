@@ -8,7 +8,7 @@ from dataclasses import dataclass
 from .steps import Failure
 
 PATH = pathlib.Path("Kestrune/Resources/Info.plist")
-BUILD_NUMBER = re.compile(r"\d+(\.\d+){0,2}")
+VERSION = re.compile(r"\d+(\.\d+){0,2}")
 
 
 @dataclass(frozen=True)
@@ -24,13 +24,16 @@ def versions(path=PATH):
     for key in keys:
         value = properties.get(key)
         # A number would show as a question mark in the application, and Sparkle would not start.
-        if not isinstance(value, str) or not BUILD_NUMBER.fullmatch(value):
+        if not isinstance(value, str) or not VERSION.fullmatch(value):
             raise Failure(f"{path}: {key} is {value!r}; make it a string of one to three numbers")
     return Versions(*(properties[key] for key in keys))
 
 
 def identifier(path=PATH):
-    return _read(path)["CFBundleIdentifier"]
+    found = _read(path).get("CFBundleIdentifier")
+    if not isinstance(found, str):
+        raise Failure(f"{path}: CFBundleIdentifier is {found!r}; make it a string")
+    return found
 
 
 def numbers(version):

@@ -8,6 +8,10 @@ from . import halves, signing
 from .steps import Command, Failure, Work
 from .symbols import extraction
 
+# What is called to put a bundle together, and what to take its symbols out as well.
+TO_SIGN = ("codesign", "ditto", "dsymutil")
+TO_SHIP = (*TO_SIGN, "dwarfdump", "strip")
+
 # In a build.
 BUNDLE = pathlib.Path("mac/Kestrune.app")
 
@@ -18,10 +22,9 @@ class Mac:
     # The one bundle that is opened, whichever build it is of: two of one identifier would share a row of the
     # permission. Not a build's own, as the linker would write into what is signed.
     application = pathlib.Path("build/mac/Kestrune.app")
-    programs = ("codesign", "ditto", "dsymutil", "dwarfdump", "strip")
 
-    def __init__(self, more_programs=(), preset="mac-universal"):
-        self.programs = (*self.programs, *more_programs)
+    def __init__(self, programs=TO_SHIP, preset="mac-universal"):
+        self.programs = programs
         self.preset = preset
         self.folder = pathlib.Path("build", preset)
         self.built = self.folder / BUNDLE
@@ -45,9 +48,12 @@ class Mac:
 
     def strip(self, symbols):
         return [
-            extraction("dsymutil", self.folder, BUNDLE / halves.PROGRAM, symbols.folder),
+            self.extraction(symbols),
             Command("strip", symbols.program),
         ]
+
+    def extraction(self, symbols):
+        return extraction("dsymutil", self.folder, BUNDLE / halves.PROGRAM, symbols.folder)
 
     def sign(self, framework, identity):
         # Limits are checked on Linux only, and so is the seal by somebody else than its maker: those programs

@@ -6,7 +6,7 @@ Everything is made in a folder of its own and moved to its place at the end, the
 import pathlib
 
 from . import archive, feed, image, information, notarization, signing, sparkle
-from .mac import Mac
+from .mac import TO_SHIP, Mac
 from .parameters import AD_HOC, NO_SPARKLE, flag
 from .steps import Command, Failure, Work
 from .symbols import Symbols
@@ -44,7 +44,7 @@ def check(options):
 class Release:
     def __init__(self, options):
         self.options = options
-        self.mac = Mac(["hdiutil", "security", "spctl", "xcrun"])
+        self.mac = Mac([*TO_SHIP, "hdiutil", "security", "spctl", "xcrun"])
         self.versions = information.versions()
         self.tag = f"v{self.versions.short}"
         name = f"Kestrune-{self.versions.short}"
@@ -60,7 +60,7 @@ class Release:
         if options.sparkle != NO_SPARKLE:
             tools = pathlib.Path(options.sparkle_tools) if options.sparkle_tools else sparkle.pinned().tools
             self.feed = feed.Feed(options.appcast, UPDATES_FOLDER, tools)
-            feed.require_newer(self.feed.path, self.versions.build)
+            feed.require_newer(self.feed.path, self.versions)
             self.notes = pathlib.Path(options.notes or NOTES / f"{self.versions.short}.md")
             _require_notes(self.notes)
 
@@ -79,6 +79,7 @@ class Release:
         return [
             Command("git", "status", "--porcelain", judge=require_clean),
             Command("git", "tag", "--points-at", "HEAD", judge=self.require_tag),
+            Command("git", "tag", "--list", "v*", judge=self.require_latest),
             *signing.certificate(self.options.identity, "-v"),
             # As `make app` does. make itself would have its say after a failure.
             Command("tools/setup", "app", reports=True),
@@ -123,6 +124,15 @@ class Release:
             raise Failure(
                 f"the commit does not have the tag {self.tag}, which is the version in {information.PATH}"
             )
+
+    def require_latest(self, output):
+        own = information.numbers(self.versions.short)
+        for tag in output.split():
+            if information.VERSION.fullmatch(tag[1:]) and information.numbers(tag[1:]) > own:
+                raise Failure(
+                    f"there is the tag {tag} already, and this would be {self.versions.short}; raise "
+                    f"CFBundleShortVersionString in {information.PATH}"
+                )
 
     def _notarize_application(self):
         if not self.notary:

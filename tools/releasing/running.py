@@ -6,9 +6,11 @@ import signal
 import time
 
 from . import information, signing
-from .mac import Mac
+from .application import made
+from .mac import TO_SIGN, Mac
 from .parameters import AD_HOC
 from .steps import Command, Failure, Work
+from .symbols import Symbols
 
 SECONDS_TO_QUIT = 10
 SECONDS_TO_END = 5
@@ -18,7 +20,8 @@ SECONDS_BETWEEN_LOOKS = 0.05
 class Run:
     def __init__(self, identity):
         self.identity = identity
-        self.mac = Mac(["open", "osascript", "security"], preset="mac")
+        keychain = [] if identity == AD_HOC else ["security"]
+        self.mac = Mac([*TO_SIGN, *keychain, "open", "osascript"], preset="mac")
         self.identifier = information.identifier()
         self.errors = pathlib.Path("build/mac/Kestrune.stderr")
         self._processes = []
@@ -29,7 +32,7 @@ class Run:
     @property
     def made(self):
         """What is there when it is opened, and nothing of it otherwise."""
-        return [self.mac.application, self.errors]
+        return [*made(self.mac), self.errors]
 
     def building(self):
         return [
@@ -51,6 +54,7 @@ class Run:
             Work(f"wait until no {self.identifier} runs", self._wait),
             Command("rm", "-rf", *self.made),
             *self.mac.copy(self.mac.built, application),
+            self.mac.extraction(Symbols(application)),
             *signing.for_debugging(application, self.identity),
             # Whole paths, as it is the system that opens them, in a folder of its own.
             Command("open", "--stderr", self.errors.resolve(), application.resolve()),

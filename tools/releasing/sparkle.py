@@ -4,6 +4,7 @@ import configparser
 import hashlib
 import pathlib
 
+from . import executables, information
 from .steps import Command, Failure, Work
 
 PIN = pathlib.Path("tools/sparkle.ini")
@@ -20,9 +21,9 @@ class Release:
     def __init__(self, version, sha256):
         self.sha256 = sha256
         self.archive = FOLDER / f"Sparkle-{version}.tar.xz"
-        self.fetched = self.archive.with_suffix(".part")
         self.address = ADDRESS.format(version=version, archive=self.archive.name)
         self.folder = FOLDER / version
+        self.unpacked = FOLDER / f"{version}.new"  # until it is whole
         self.framework = self.folder / "Sparkle.framework"
         self.tools = self.folder / "bin"
 
@@ -30,23 +31,29 @@ class Release:
         fetch = [
             Command(
                 *["curl", "--fail", "--location", "--proto", "=https", "--remove-on-error"],
-                *["--output", self.fetched, self.address],
+                *["--silent", "--show-error", "--output", self.archive, self.address],
+                keeps_errors=True,
                 advice=f"without a network give {INSTEAD}",
             ),
-            Work(f"compare the SHA-256 of {self.fetched} with {PIN} and name it {self.archive}", self.accept),
         ]
         return [
-            Command("mkdir", "-p", self.folder),
+            Command("rm", "-rf", self.unpacked),
+            Command("mkdir", "-p", self.unpacked),
             *([] if self.archive.exists() else fetch),
-            Command("tar", "-xf", self.archive, "-C", self.folder),
+            Work(f"compare the SHA-256 of {self.archive} with {PIN}", self.require_pinned),
+            Command("tar", "-xf", self.archive, "-C", self.unpacked),
+            Command("rm", "-rf", self.folder),
+            Command("mv", self.unpacked, self.folder),
         ]
 
-    def accept(self):
-        found = hashlib.sha256(self.fetched.read_bytes()).hexdigest()
+    def require_pinned(self):
+        found = hashlib.sha256(self.archive.read_bytes()).hexdigest()
         if found != self.sha256:
-            self.fetched.unlink()
-            raise Failure(f"{self.address} has the SHA-256 {found}, not the one in {PIN}; it is deleted")
-        self.fetched.rename(self.archive)
+            self.archive.unlink()
+            raise Failure(
+                f"{self.archive}, from {self.address}, has the SHA-256 {found}, not the one in {PIN}; it is "
+                "deleted"
+            )
 
 
 def pinned():
@@ -59,5 +66,7 @@ def pinned():
 
 
 def require_framework(path):
-    if not (pathlib.Path(path) / "Versions/B/Autoupdate").is_file():
+    framework = pathlib.Path(path)
+    if not (framework / "Versions/B/Autoupdate").is_file():
         raise Failure(f"--sparkle {path!r} is no framework of Sparkle 2: it has no Versions/B/Autoupdate")
+    executables.require_programs(framework, information.versions().minimum_system)

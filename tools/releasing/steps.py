@@ -11,16 +11,17 @@ class Failure(Exception):
 
 
 class Command:
-    """A program that is run. `judge` is given what it printed, with `judges_errors` also what it said beside
-    that, and raises Failure when that will not do; when it `judges_failures`, nobody else does. `advice` is
-    for when the program fails, unless it is one that `reports` itself, in one line, what went wrong.
-    `goes_on` says why the steps after it are taken all the same then."""
+    """A program that is run. `judge` is given what it printed, and raises Failure when that will not do; when
+    it `judges_failures`, nobody else does. What it says beside that is shown as it comes, or, when it
+    `keeps_errors`, given to the judge and told with its failure. `advice` is for when the program fails,
+    unless it is one that `reports` itself, in one line, what went wrong. `goes_on` says why the steps after
+    it are taken all the same then; one that was ended by a signal is never excused."""
 
     def __init__(
         self,
         *arguments,
         judge=None,
-        judges_errors=False,
+        keeps_errors=False,
         judges_failures=False,
         advice="",
         reports=False,
@@ -28,7 +29,7 @@ class Command:
     ):
         self.arguments = [str(argument) for argument in arguments]
         self.judge = judge
-        self.errors = subprocess.STDOUT if judges_errors else None
+        self.keeps_errors = keeps_errors
         self.judges_failures = judges_failures
         self.advice = advice and f"; {advice}"
         self.reports = reports
@@ -41,25 +42,25 @@ class Command:
         try:
             result = subprocess.run(
                 self.arguments,
-                stdout=subprocess.PIPE if self.judge else None,
-                stderr=self.errors,
+                stdout=subprocess.PIPE if self.judge or self.keeps_errors else None,
+                stderr=subprocess.STDOUT if self.keeps_errors else None,
                 encoding="utf-8",
+                errors="replace",  # as names of certificates may have anything
             )
         except OSError as error:
             raise Failure(f"{self.arguments[0]} cannot be run: {error.strerror}") from None
         if result.returncode and not self.judges_failures:
-            if self.errors:
-                sys.stderr.write(result.stdout)
-            self._fail(result.returncode)
+            self._fail(result.returncode, result.stdout if self.keeps_errors else "")
         elif self.judge:
             self.judge(result.stdout)
 
-    def _fail(self, status):
+    def _fail(self, status, said):
         # A signal left it no time to.
         if self.reports and status > 0:
             raise Failure()
-        failure = f"failed with exit status {status}: {self}{self.advice}"
-        if not self.goes_on:
+        words = "; ".join(line.strip() for line in said.splitlines() if line.strip())
+        failure = f"failed with exit status {status}: {self}{words and f': {words}'}{self.advice}"
+        if not self.goes_on or status < 0:
             raise Failure(failure)
         print(f"{failure}; {self.goes_on}", file=sys.stderr, flush=True)
 
@@ -89,7 +90,10 @@ def run(steps, made=()):
             step.run()
     except BaseException:
         for path in made:
-            _remove(path)
+            try:
+                _remove(path)
+            except OSError as error:
+                print(f"{path} stays, as it cannot be removed: {error.strerror}", file=sys.stderr)
         raise
 
 

@@ -38,7 +38,7 @@ def extraction(dsymutil, build, program, target, *options):
     """Collects what the object files of a build have. The program names them as they lie in the build."""
     command = [dsymutil, "--oso-prepend-path", build, *options, "-o", target, build / program]
     # Of an object file that it does not find it only warns, and leaves its lines out.
-    return Command(*command, judge=_require_silence, judges_errors=True)
+    return Command(*command, judge=_require_silence, keeps_errors=True)
 
 
 def _require_silence(output):
