@@ -11,6 +11,7 @@ namespace {
 
 // Never destroyed, as what runs while the process ends may be fatal, too.
 FatalErrorReporter& theReporter() {
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
     static auto& reporter = *new FatalErrorReporter;
     return reporter;
 }

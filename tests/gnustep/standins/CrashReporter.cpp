@@ -54,6 +54,7 @@ std::string crashReportMessage() {
     if (version != KnownVersion) {
         fatal("The annotations for a crash report are of another version.");
     }
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the annotations hold addresses as numbers.
     return message != 0 ? reinterpret_cast<const char*>(message) : "";
 }
 
