@@ -9,18 +9,15 @@ namespace kestrune {
 
 namespace {
 
-// Never destroyed, as what runs while the process ends may be fatal, too.
-FatalErrorReporter& theReporter() {
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
-    static auto& reporter = *new FatalErrorReporter;
-    return reporter;
-}
+// Never destroyed, as what runs while the process ends may be fatal, too; null for nobody.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
+constinit FatalErrorReporter* theReporter = nullptr;
 
 [[noreturn]] void endWith(const std::string& line) {
     std::fprintf(stderr, "%s\n", line.c_str());
     static std::atomic_flag isTold;
-    if (theReporter() && !isTold.test_and_set()) {
-        theReporter()(line);
+    if (theReporter != nullptr && !isTold.test_and_set()) {
+        (*theReporter)(line);
     }
     std::abort();
 }
@@ -35,6 +32,8 @@ void fatal(std::string_view message, std::string_view sourcePath) noexcept {
     endWith(std::string(sourcePath) + ": " + lineFor(message));
 }
 
-void setFatalErrorReporter(FatalErrorReporter reporter) { theReporter() = std::move(reporter); }
+void setFatalErrorReporter(FatalErrorReporter reporter) {
+    delete std::exchange(theReporter, reporter ? new FatalErrorReporter(std::move(reporter)) : nullptr);
+}
 
 } // namespace kestrune
