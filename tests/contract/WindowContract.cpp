@@ -43,6 +43,9 @@ TEST_F(WindowContract, TakesATitleInAnyScript) {
 }
 
 TEST_F(WindowContract, LiesAcrossTheMiddleOnceCentred) {
+    constexpr double ScreenWidth = 1600;
+    constexpr double ScreenHeight = 1000;
+    world_.connect({connectedDisplay(1, {0, 0, ScreenWidth, ScreenHeight})});
     Window window = makeWindow("one");
     window.center();
     window.makeKeyAndOrderFront();

@@ -94,8 +94,9 @@ struct BundleFiles {
     std::vector<std::string> imageNames;                 // Among the resources.
 };
 
-// A fresh session of one user, in which the process under test may create event taps. Only one exists at a
-// time.
+// A fresh session of one user in front of one display, in which the process under test may create event taps.
+// Only one exists at a time. Where there is no means to arrange or to see what a test asks for, that test is
+// skipped.
 class World {
 public:
     static constexpr std::string_view BundleIdentifier = "org.kestrune.Contract";

@@ -9,7 +9,7 @@
 
 #include "mac/objc/Pool.h"
 #include "platform/MainActor.h"
-#include "tests/gnustep/EventTypes.h"
+#include "tests/mac/EventTypes.h"
 #include "tests/gnustep/ShownWindows.h"
 #include "tests/gnustep/standins/Deallocation.h"
 #include "tests/gnustep/standins/Methods.h"

@@ -26,9 +26,14 @@ void setTemplate(id image, SEL, BOOL isTemplate) {
     whenDeallocated(image, &templates(), [image] { templates().erase(image); });
 }
 
+BOOL isTemplate(id image, SEL) { return mac::truth(isTemplateImage(image)); }
+
 } // namespace
 
-void installTemplateImages() { addMethod(classNamed("NSImage"), "setTemplate:", setTemplate); }
+void installTemplateImages() {
+    addMethod(classNamed("NSImage"), "setTemplate:", setTemplate);
+    addMethod(classNamed("NSImage"), "isTemplate", isTemplate);
+}
 
 bool isTemplateImage(id image) { return templates().contains(image); }
 
