@@ -17,8 +17,8 @@ namespace kestrune {
 // Is given what is written, without the end of the line, on the thread that is about to abort.
 using FatalErrorReporter = std::function<void(const std::string& line)>;
 
-// Who else is told of a fatal error; nobody, until this is called. What is fatal meanwhile is told no more. To
-// be called before there is another thread.
+// Who else is told of a fatal error; nobody, until this is called. What is fatal meanwhile is told no more.
+// To be called before there is another thread.
 void setFatalErrorReporter(FatalErrorReporter reporter);
 
 } // namespace kestrune

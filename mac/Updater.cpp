@@ -63,7 +63,7 @@ StandardUserDriver::StandardUserDriver(const Bundle& /*hostBundle*/,
     if (loadFramework()) {
         return;
     }
-    mac::logFindings(std::array<const mac::Framework*, 1>{&mac::sparkle});
+    mac::logWhatDiffers(std::array<const mac::Framework*, 1>{&mac::sparkle});
     const id instance = Object::Counterpart::of(delegate);
     adopt(instance, mac::sparkle.userDriverDelegate);
     state_->driver = mac::Retained::adopting(mac::sparkle.standardUserDriver.initWithHostBundle(

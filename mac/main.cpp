@@ -5,6 +5,6 @@
 
 int main() {
     const kestrune::mac::Pool pool;
-    kestrune::mac::logFindings();
+    kestrune::mac::logWhatDiffers();
     const auto delegate = kestrune::runKestrune();
 }

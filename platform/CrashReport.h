@@ -8,8 +8,8 @@
 
 namespace kestrune {
 
-// The report of a crash that follows has this message, and none that was set before. Callable from any thread,
-// but not from two at a time.
+// The report of a crash that follows has this message, and none that was set before. Callable from any
+// thread, but not from two at a time.
 void setCrashReportMessage(const std::string& message);
 
 } // namespace kestrune

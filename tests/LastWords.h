@@ -1,5 +1,5 @@
-// What a death test sees of a process that aborts: standard error alone, so whatever else is to be looked at is
-// written there.
+// What a death test sees of a process that aborts: standard error alone, so whatever else is to be looked at
+// is written there.
 #pragma once
 
 #include <csignal>

@@ -7,9 +7,6 @@ namespace kestrune::mac {
 
 namespace {
 
-constexpr LogFormat MissingClass = LogFormat::of<"There is no class %{public}s at run time">();
-constexpr LogFormat MissingMethod = LogFormat::of<"There is no method %{public}s at run time">();
-
 bool answersFor(id receiver, SEL selector) {
     const auto& question = foundation.object.respondsToSelector;
     return class_getInstanceMethod(object_getClass(receiver), question.selector()) != nullptr &&

@@ -7,6 +7,9 @@
 
 namespace kestrune::mac {
 
+inline constexpr LogFormat MissingClass = LogFormat::of<"There is no class %{public}s at run time">();
+inline constexpr LogFormat MissingMethod = LogFormat::of<"There is no method %{public}s at run time">();
+
 // One error in the log for each text. On the main thread.
 void logOnce(LogFormat format, const std::string& text);
 

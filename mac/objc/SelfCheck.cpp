@@ -2,12 +2,13 @@
 
 #include "mac/objc/Missing.h"
 
+#include <algorithm>
+
 namespace kestrune::mac {
 
 namespace {
 
-constexpr LogFormat NotAsExpected =
-    LogFormat::of<"The platform is not as the binding expects it: %{public}s">();
+constexpr LogFormat AnotherEncoding = LogFormat::of<"There is another encoding of %{public}s">();
 
 // Null when there is no such method.
 const char* encodingIn(Class type, const MessageDeclaration& message) {
@@ -71,6 +72,12 @@ void checkProtocol(const ProtocolReference& protocol, SelfCheckResult& result) {
     }
 }
 
+bool isOfOneOf(const std::vector<std::string>& classes, const std::string& method) {
+    return std::any_of(classes.begin(), classes.end(), [&method](const std::string& name) {
+        return method.compare(1, name.size() + 2, "[" + name + " ") == 0;
+    });
+}
+
 } // namespace
 
 SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks) {
@@ -87,23 +94,18 @@ SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks) {
     return result;
 }
 
-std::vector<std::string> SelfCheckResult::findings() const {
-    std::vector<std::string> lines;
-    const auto append = [&lines](const char* kind, const std::vector<std::string>& names) {
+void logWhatDiffers(std::span<const Framework* const> frameworks) {
+    SelfCheckResult result = checkVocabulary(frameworks);
+    std::erase_if(result.missingMethods,
+                  [&result](const std::string& name) { return isOfOneOf(result.missingClasses, name); });
+    const auto log = [](LogFormat format, const std::vector<std::string>& names) {
         for (const std::string& name : names) {
-            lines.push_back(std::string(kind) + " " + name);
+            logOnce(format, name);
         }
     };
-    append("no class", missingClasses);
-    append("no method", missingMethods);
-    append("another encoding:", differences);
-    return lines;
-}
-
-void logFindings(std::span<const Framework* const> frameworks) {
-    for (const std::string& finding : checkVocabulary(frameworks).findings()) {
-        logOnce(NotAsExpected, finding);
-    }
+    log(MissingClass, result.missingClasses);
+    log(MissingMethod, result.missingMethods);
+    log(AnotherEncoding, result.differences);
 }
 
 } // namespace kestrune::mac

@@ -23,19 +23,20 @@ struct SelfCheckResult {
     // Methods of newer systems than this one.
     std::vector<std::string> laterMethods;
 
-    // Each names a class, or a method and its encodings. A protocol stands between angle brackets.
+    // Each names a class, or a method and its encodings. A protocol stands between angle brackets. Of a
+    // missing class every method is missing, too.
     std::vector<std::string> missingClasses;
     std::vector<std::string> missingMethods;
     std::vector<std::string> differences;
 
-    // A line for each of the latter three.
-    std::vector<std::string> findings() const;
+    bool isClean() const { return missingClasses.empty() && missingMethods.empty() && differences.empty(); }
 };
 
 // Holds every declared class, protocol and message of the frameworks against the runtime.
 SelfCheckResult checkVocabulary(std::span<const Framework* const> frameworks = Frameworks);
 
-// Logs an error for each finding of that, and goes on. On the main thread.
-void logFindings(std::span<const Framework* const> frameworks = Frameworks);
+// Logs an error for each of the latter three, which is the one that its use would log, but for the methods of
+// a missing class. On the main thread.
+void logWhatDiffers(std::span<const Framework* const> frameworks = Frameworks);
 
 } // namespace kestrune::mac

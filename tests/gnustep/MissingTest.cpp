@@ -22,6 +22,7 @@ using mac::Retained;
 using mac::RuntimeClass;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::StartsWith;
 using testing::UnorderedElementsAre;
 
 struct Missing : mac::Framework {
@@ -144,15 +145,27 @@ TEST_F(WhatIsMissing, IsNamedOnceAsAProtocol) {
                                       "There is no protocol NSFontDelegate at run time"));
 }
 
-TEST_F(WhatIsMissing, IsNamedBeforeItIsUsed) {
+struct Other : mac::Framework {
+    struct NSNumber : mac::ClassReference {
+        using ClassReference::ClassReference;
+        mac::Message<float()> floatForDouble{*this, "doubleValue"};
+    } number{*this, "NSNumber"};
+};
+constinit const Other Different;
+
+TEST_F(WhatIsMissing, IsNamedBeforeItIsUsedAndNotOnceMore) {
     const mac::Pool pool;
-    mac::logFindings(std::array<const mac::Framework*, 1>{&Absent});
-    const std::string notAsExpected = "The platform is not as the binding expects it: ";
-    EXPECT_THAT(errors(), UnorderedElementsAre(notAsExpected + "no class NSScren",
-                                               notAsExpected + "no method +[NSScren screens]",
-                                               notAsExpected + "no method -[NSObject isEquall:]",
-                                               notAsExpected + "no method -[NSObject fraame]",
-                                               notAsExpected + "no method +[NSObject versoin]"));
+    mac::logWhatDiffers(std::array<const mac::Framework*, 2>{&Absent, &Different});
+    EXPECT_EQ(Absent.screen.object(), nullptr);
+    const Retained object = mac::newObject(mac::foundation.object);
+    EXPECT_EQ(Absent.object.structure(object.get()), Rect());
+    EXPECT_THAT(
+        errors(),
+        UnorderedElementsAre(
+            "There is no class NSScren at run time", "There is no method -[NSObject isEquall:] at run time",
+            "There is no method -[NSObject fraame] at run time",
+            "There is no method +[NSObject versoin] at run time",
+            StartsWith("There is another encoding of -[NSNumber doubleValue]: expected f@:, found d")));
 }
 
 struct SparkleLeftOut {
@@ -165,8 +178,7 @@ TEST_F(WithoutAMethodOfSparkle, IsToldOfOnceSparkleIsLoaded) {
     world_.setUpdateFramework(contract::UpdateFramework::working);
     EXPECT_THAT(errors(), IsEmpty());
     launchAndOpen();
-    EXPECT_THAT(errors(), ElementsAre("The platform is not as the binding expects it: "
-                                      "no method -[SPUUpdater checkForUpdates]"));
+    EXPECT_THAT(errors(), ElementsAre("There is no method -[SPUUpdater checkForUpdates] at run time"));
 }
 
 struct LeftOut {

@@ -127,16 +127,16 @@ TEST(SystemColors, AreThoseOfTheTable) {
     }
 }
 
-TEST(SelfCheck, TellsOfEachFindingInALine) {
+TEST(SelfCheck, IsCleanWhenNothingIsMissingAndNothingDiffers) {
     mac::SelfCheckResult result;
     result.classesNotLoaded = {"SPUUpdater"};
-    EXPECT_THAT(result.findings(), IsEmpty());
-    result.missingClasses = {"NSScren"};
-    result.missingMethods = {"-[NSScreen fram]", "-[NSScreen frme]"};
-    result.differences = {"-[NSScreen frame]: expected v, found i"};
-    EXPECT_THAT(result.findings(),
-                ElementsAre("no class NSScren", "no method -[NSScreen fram]", "no method -[NSScreen frme]",
-                            "another encoding: -[NSScreen frame]: expected v, found i"));
+    EXPECT_TRUE(result.isClean());
+    for (const auto list : {&mac::SelfCheckResult::missingClasses, &mac::SelfCheckResult::missingMethods,
+                            &mac::SelfCheckResult::differences}) {
+        mac::SelfCheckResult other = result;
+        (other.*list).emplace_back("name");
+        EXPECT_FALSE(other.isClean());
+    }
 }
 
 struct Mistakes : mac::Framework {

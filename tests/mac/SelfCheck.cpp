@@ -34,6 +34,12 @@ bool loadFramework(const char* path) {
     return true;
 }
 
+void print(const char* what, const std::vector<std::string>& names) {
+    for (const std::string& name : names) {
+        std::fprintf(stderr, "%s %s\n", what, name.c_str());
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -52,11 +58,10 @@ int main(int argc, char** argv) {
     if (shouldBeComplete && !result.classesNotLoaded.empty()) {
         return EXIT_FAILURE;
     }
-    const std::vector<std::string> findings = result.findings();
-    for (const std::string& finding : findings) {
-        std::fprintf(stderr, "The platform is not as the binding expects it: %s\n", finding.c_str());
-    }
-    if (!findings.empty()) {
+    print("There is no class", result.missingClasses);
+    print("There is no method", result.missingMethods);
+    print("There is another encoding of", result.differences);
+    if (!result.isClean()) {
         return EXIT_FAILURE;
     }
     std::printf("%zu classes and %zu messages are as the binding expects them\n", result.classes,

@@ -1,5 +1,5 @@
-// A user's Kestrune ends because an assumption was broken: where the reason is to be found afterwards, the same
-// on every implementation of the seam.
+// A user's Kestrune ends because an assumption was broken: where the reason is to be found afterwards, the
+// same on every implementation of the seam.
 #include "tests/LastWords.h"
 #include "tests/contract/World.h"
 #include "tests/scenarios/LaunchedApplication.h"

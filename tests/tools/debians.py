@@ -1,6 +1,7 @@
 """A Debian made of stand-ins, for the tests of tools/setup: what is installed and what is to be had."""
 
 import os
+import re
 import shutil
 import subprocess
 
@@ -11,8 +12,8 @@ COMMON = dict.fromkeys(
     """ca-certificates clang clang-format clang-tidy cmake curl fonts-inter g++ gcovr git
     gnustep-base-runtime imagemagick libbenchmark-dev libcairo2-dev libclang-rt-dev libgmock-dev
     libgnustep-gui-dev libgtest-dev libpango1.0-dev libplist-dev librapidcheck-dev librsvg2-bin libssl-dev
-    libyaml-cpp-dev llvm ninja-build python3 python3-clang valgrind x11-utils xauth xdotool xvfb
-    xz-utils""".split(),
+    libyaml-cpp-dev llvm ninja-build nodejs npm python3 python3-clang python3-yaml shellcheck valgrind
+    x11-utils xauth xdotool xvfb xz-utils""".split(),
     "",
 )
 SDL_AND_PKG_CONFIG = {"libsdl2-dev": "", "pkg-config": ""}
@@ -76,7 +77,8 @@ class DebianTest(TreeTest):
         self.system = self.root / "system"
         # It touches the builds of the repository that it lies in, so it runs as a copy.
         (self.folder / "tools").mkdir(parents=True)
-        shutil.copy(REPOSITORY / "tools/setup", self.folder / "tools")
+        self.script = self.folder / "tools/setup"
+        shutil.copy(REPOSITORY / "tools/setup", self.script)
         self.path = str(self.root / "bin")
         (self.root / "bin").mkdir()
         for tool in TOOLS:
@@ -93,7 +95,7 @@ class DebianTest(TreeTest):
         log = self.root / "log"
         log.write_text("", encoding="utf-8")
         result = subprocess.run(
-            [name or self.folder / "tools/setup", *groups],
+            [name or self.script, *groups],
             cwd=self.folder,
             env={"PATH": self.path, "LOG": str(log), "SYSTEM": str(self.system), "LANG": "C"},
             capture_output=True,
@@ -182,6 +184,11 @@ exec "{self.path}/{name}" "$@"
             self.write({f"a folder/build/llvm/usr/lib/llvm-{version}/include/{name}": f"{package}\n"})
         (place / "tools").symlink_to(f"/usr/lib/llvm-{version}")
         (place / "libcxx").symlink_to(f"usr/lib/llvm-{version}")
+
+    def stand_actionlint(self):
+        """Leaves the actionlint that is pinned in build/actionlint, or what says that it is."""
+        sha256 = re.search(r"(?m)^actionlint_sha256=(\w+)$", self.script.read_text(encoding="utf-8"))[1]
+        self.write({"a folder/build/actionlint/sha256": f"{sha256}\n"})
 
     def assert_stands(self, version, revision=1, leftovers=()):
         """LLVM of a version, all of it and nothing else."""

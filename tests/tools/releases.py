@@ -27,10 +27,13 @@ COPIED = (
     "tools/sparkle.ini",
     "tools/releasing",
 )
-SYSTEM_PROGRAMS = ("bash", "cat", "cp", "dirname", "env", "git", "ln", "make", "mkdir", "rm", "sh", "tar")
+SYSTEM_PROGRAMS = "bash cat cp dirname env git ln make mkdir mv rm sh tar".split()
+
+SIGNED_PROGRAM = REPOSITORY / "tests/fuzz/corpus/code-seal/universal.macho"
 
 REAL_IDENTITY = "Developer ID Application: Some One (TEAM123456)"
-SIGNED_PROGRAM = REPOSITORY / "tests/fuzz/corpus/code-seal/universal.macho"
+PUBLIC_KEY = base64.b64encode(bytes(range(32))).decode()
+ACCEPTED = '{"id": "6bd8", "message": "Processing complete", "status": "Accepted"}'
 
 LOG = r"""printf '%s\x1f' "${0##*/}" "$@" >> "$LOG"; echo >> "$LOG"
 """
@@ -46,7 +49,7 @@ cp Kestrune/Resources/Info.plist $contents
 echo program with symbols > $contents/MacOS/Kestrune
 ln -sf "$(type -p kestrune-self-check)" build/$3/mac""",
     "kestrune-self-check": LOG,
-    "dsymutil": LOG + 'mkdir -p "$4"',
+    "dsymutil": LOG + 'mkdir -p "$4/Contents"; echo lines > "$4/Contents/lines"',
     # What is left is signed already, which codesign's stand-in does not do.
     "strip": LOG + f'cp "{SIGNED_PROGRAM}" "$1"',
     "dwarfdump": LOG + 'echo "UUID: 40 (arm64) $2"; echo "UUID: 41 (x86_64) $2"',
@@ -54,19 +57,23 @@ ln -sf "$(type -p kestrune-self-check)" build/$3/mac""",
     + """source=${@: -2:1} target=${@: -1}
 if [[ $1 == -c ]]; then echo "archive of $source" > "$target"; else cp -RP "$source" "$target"; fi""",
     "codesign": LOG + '[[ -e ${@: -1} && ! -e ${@: -1}/XPCServices && ! -L ${@: -1}/XPCServices ]]',
-    "xcrun": LOG,
+    "hdiutil": LOG + '[[ -L $5/Applications ]] && (cd "$5"; echo image of *) > "${@: -1}"',
+    "security": LOG + f"""echo '  1) {"0123456789" * 4} "{REAL_IDENTITY}"'""",
     "open": LOG + '[[ -f $3/Contents/MacOS/Kestrune ]] && echo "what it says" > "$2"',
     "osascript": LOG,
-    "security": LOG + f"""echo '  1) {"0A" * 20} "{REAL_IDENTITY}"'""",
+    "spctl": LOG,
+    "xcrun": LOG + f"[[ $1 != notarytool ]] || echo '{ACCEPTED}'",
     "curl": LOG + 'while [[ $1 != --output ]]; do shift; done; cp "$ARCHIVE" "$2"',
 }
-SIGN_UPDATE = f"""#!/usr/bin/env bash
-{LOG}length=$(cat "$1"); echo "sparkle:edSignature=\\"c2lnbmVk\\" length=\\"$((${{#length}} + 1))\\""
-"""
+SPARKLE_TOOLS = {
+    "generate_appcast": (REPOSITORY / "tests/tools/generate_appcast.py").read_text(encoding="utf-8"),
+    "generate_keys": f"#!/usr/bin/env bash\n{LOG}echo {PUBLIC_KEY}\n",
+}
 
-PUBLIC_KEY = base64.b64encode(bytes(range(32))).decode()
 FEED_URL = "https://example.org/appcast.xml"
 DOWNLOAD_URL = "https://example.org/downloads/"
+SIGNED = ["--identity", REAL_IDENTITY, "--keychain-profile", "kestrune"]
+AD_HOC = ["--identity", "-"]
 UPDATES = ["--feed-url", FEED_URL, "--public-key", PUBLIC_KEY, "--download-url", DOWNLOAD_URL]
 
 
@@ -84,7 +91,7 @@ class ReleaseTest(TreeTest):
         self.environment = {"LOG": str(self.log_path), "ARCHIVE": str(self.root / "archive")}
         self.use_programs({})
         self.framework = self.make_framework(self.root / "given")
-        self.sign_update = self.root / "given/bin/sign_update"
+        self.sparkle_tools = self.root / "given/bin"
 
     def use_programs(self, stand_ins):
         """From now on these stand-ins and plain tools are all that there is to run."""
@@ -106,13 +113,15 @@ class ReleaseTest(TreeTest):
         version = framework / "Versions/B"
         for name in ("Updater.app/Contents/MacOS", "XPCServices/Installer.xpc", "XPCServices/Downloader.xpc"):
             (version / name).mkdir(parents=True)
-        (version / "Autoupdate").write_text("program", encoding="utf-8")
+        for name in ("Autoupdate", "Sparkle", "Updater.app/Contents/MacOS/Updater"):
+            shutil.copy(SIGNED_PROGRAM, version / name)
         (framework / "Versions/Current").symlink_to("B")
         for name in ("Autoupdate", "Updater.app", "XPCServices"):
             (framework / name).symlink_to(f"Versions/Current/{name}")
         (folder / "bin").mkdir()
-        (folder / "bin/sign_update").write_text(SIGN_UPDATE, encoding="utf-8")
-        (folder / "bin/sign_update").chmod(0o755)
+        for name, text in SPARKLE_TOOLS.items():
+            (folder / "bin" / name).write_text(text, encoding="utf-8")
+            (folder / "bin" / name).chmod(0o755)
         return framework
 
     def pin_archive(self, sha256=None):
@@ -157,7 +166,7 @@ class ReleaseTest(TreeTest):
 
     def logged(self, commands):
         """Those of the commands that a stand-in writes down, by the program's name alone."""
-        names = {name for name, text in STAND_INS.items() if text.startswith(LOG)} | {"sign_update"}
+        names = {name for name, text in STAND_INS.items() if text.startswith(LOG)} | SPARKLE_TOOLS.keys()
         short = [[os.path.basename(program), *arguments] for program, *arguments in commands]
         return [command for command in short if command[0] in names]
 
@@ -172,3 +181,29 @@ class ReleaseTest(TreeTest):
         self.assertEqual(len(result.stderr.splitlines()), 1, result.stderr)
         for part in parts:
             self.assertIn(part, result.stderr)
+
+
+class ReleaseToolTest(ReleaseTest):
+    def setUp(self):
+        super().setUp()
+        self.notes = self.checkout / "docs/releases/0.1.0.md"
+        self.write({self.notes: "- The *first* one <so far>\n"})
+        self.appcast = self.root / "site/appcast.xml"
+        self.appcast.parent.mkdir()
+        self.updates = [*UPDATES, "--appcast", self.appcast]
+
+    def release(self, *arguments, **environment):
+        return self.call("tools/release", *arguments, **environment)
+
+    def given_sparkle(self):
+        return ["--sparkle", self.framework, "--sparkle-tools", self.sparkle_tools]
+
+    def assert_made(self, *arguments, **environment):
+        result = self.release(*arguments, **environment)
+        self.assertEqual((result.returncode, result.stderr), (0, ""), result.stdout)
+        return result.stdout
+
+    def made(self):
+        """What is in the folder of the release, and beside the feed."""
+        folders = (self.checkout / "out/release", self.appcast.parent)
+        return sorted(path.name for folder in folders if folder.exists() for path in folder.iterdir())

@@ -7,7 +7,7 @@ import subprocess
 import unittest
 import zipfile
 
-from releases import FEED_URL, PUBLIC_KEY, REAL_IDENTITY, SIGNED_PROGRAM, ReleaseTest
+from releases import FEED_URL, LOG, PUBLIC_KEY, REAL_IDENTITY, SIGNED_PROGRAM, ReleaseTest
 from trees import REPOSITORY
 
 BUILD = "build/mac-universal"
@@ -36,6 +36,9 @@ class AppTest(ReleaseTest):
 
     def path(self, name):
         return self.checkout / name
+
+    def assert_nothing_left(self):
+        self.assertEqual([name for name in (BUNDLE, ARCHIVE, SYMBOLS) if self.path(name).exists()], [])
 
 
 class DryRun(AppTest):
@@ -90,10 +93,10 @@ class Linux(AppTest):
         return [line for line in text.splitlines() if line.startswith("# ")]
 
     def test_does_the_same_to_the_bundle_but_for_its_seal(self):
-        languages, information, seal, archive = self.work("Linux", "build/cross/Kestrune.app")
+        languages, information, seal, programs, archive = self.work("Linux", "build/cross/Kestrune.app")
         self.assertEqual(seal, "# seal BUNDLE and the code in it")
         reading = "# read the signature of each half of BUNDLE"
-        self.assertEqual(self.work("Darwin", BUNDLE), [languages, information, reading, archive])
+        self.assertEqual(self.work("Darwin", BUNDLE), [languages, information, reading, programs, archive])
 
 
 class Signing(AppTest):
@@ -141,7 +144,7 @@ class Build(AppTest):
         shown = self.logged(self.dry_run(*arguments))
         self.build(*arguments)
         self.assertEqual(self.calls(), shown)
-        self.assertEqual(len(shown), 14)
+        self.assertEqual(len(shown), 15)
 
     def test_leaves_the_bundle_with_its_framework(self):
         self.build("--sparkle", self.framework)
@@ -201,7 +204,51 @@ class Build(AppTest):
         result = self.app("--sparkle", self.framework)
         beginning = "tools/app: failed with exit status 3: codesign --force --sign -"
         self.assert_fails(result, beginning, "Autoupdate")
-        self.assertEqual(list(self.path("build/mac").iterdir()), [])
+        self.assert_nothing_left()
+
+    def test_ends_when_a_program_of_the_framework_is_not_for_both_processors(self):
+        self.build("--sparkle", self.framework)
+        helper = self.framework / "Versions/B/Updater.app/Contents/MacOS/Updater"
+        helper.write_bytes((SIGNED_PROGRAM.parent / "arm64.macho").read_bytes())
+        copy = f"{FRAMEWORK}/Versions/B/Updater.app/Contents/MacOS/Updater"
+        message = f"tools/app: {copy} is not for x86_64; the application is for arm64 and x86_64"
+        self.assert_fails(self.app("--sparkle", self.framework), message)
+        self.assert_nothing_left()
+
+    def test_that_does_not_compile_leaves_what_was_built_before(self):
+        self.build("--sparkle", "none")
+        self.use_mac(cmake="exit 1")
+        self.assert_fails(self.app("--sparkle", "none"), "failed with exit status 1: cmake --preset mac")
+        for name in (BUNDLE, ARCHIVE, SYMBOLS):
+            self.assertTrue(self.path(name).exists(), name)
+
+
+class Certificate(AppTest):
+    def assert_missing(self, identity):
+        result = self.app("--sparkle", "none", "--identity", identity)
+        beginning = (
+            f"tools/app: the keychain has no certificate {identity!r} to sign with; security find-identity"
+        )
+        self.assert_fails(result, beginning)
+        self.assertEqual([call[0] for call in self.calls()], ["security"])
+        self.assert_nothing_left()
+
+    def test_that_the_keychain_lacks_ends_the_build_before_it_begins(self):
+        self.use_mac()
+        self.assert_missing("Developer ID Application: Some Other (TEAM654321)")
+
+    def test_of_an_empty_keychain_is_missing(self):
+        self.use_mac(security=LOG + "echo '     0 identities found'")
+        self.assert_missing("0")
+
+    def test_may_be_named_by_a_part_of_its_name_or_its_whole_hash(self):
+        self.use_mac()
+        for identity in ("Some One", "0123456789" * 4):
+            self.build("--sparkle", "none", "--identity", identity)
+        hexadecimal = "ABCDEF0123" * 4
+        self.use_mac(security=f"echo '  1) {hexadecimal} \"Own\" (CSSMERR_TP_NOT_TRUSTED)'")
+        for identity in ("Own", hexadecimal, hexadecimal.lower()):
+            self.build("--sparkle", "none", "--identity", identity)
 
 
 class Checksum(AppTest):

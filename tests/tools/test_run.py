@@ -105,7 +105,8 @@ class Words(RunTest):
 class FailedRun(RunTest):
     def test_has_no_such_certificate(self):
         result = self.run_tool("--identity", "Nobody")
-        self.assert_fails(result, "tools/run: the keychain has no certificate 'Nobody' that signs code")
+        message = "tools/run: the keychain has no certificate 'Nobody' to sign with; security find"
+        self.assert_fails(result, message)
         self.assertEqual([call[0] for call in self.calls()], ["security"])
 
     def test_has_a_part_of_the_name_of_a_certificate(self):
@@ -168,9 +169,9 @@ class WaitForTheEnd(unittest.TestCase):
 
         run = running.Run("-")
         run._take_processes("41\n")
-        with mock.patch.multiple("time", sleep=mock.DEFAULT, monotonic=lambda: next(now)):
-            with mock.patch("os.kill", kill):
-                run._wait()
+        clock = mock.patch.multiple("time", sleep=mock.DEFAULT, monotonic=lambda: next(now))
+        with clock, mock.patch("os.kill", kill):
+            run._wait()
         return sent
 
     def setUp(self):

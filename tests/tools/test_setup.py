@@ -17,6 +17,7 @@ PRESETS = ("gcc", "clang", "sanitize", "coverage", "fuzz")
 class Setup(DebianTest):
     def test_is_done_when_everything_is_there(self):
         self.stand(19)
+        self.stand_actionlint()
         for release in (BOOKWORM, TRIXIE, NOBLE, LATER):
             self.debian(release=release | llvm(19))
             result, log = self.set_up(*GROUPS, "app", *PRESETS)
@@ -185,8 +186,9 @@ class Llvm(DebianTest):
 
     def test_is_left_alone_by_every_other_group(self):
         self.debian()
+        self.stand_actionlint()
         self.assertEqual(self.set_up(*GROUPS, *PRESETS)[1], [])
-        self.assertFalse((self.folder / "build").exists())
+        self.assertFalse((self.folder / "build/llvm").exists())
         self.stand(18)
         self.assertEqual(self.set_up(*GROUPS, *PRESETS)[1], [])
         self.assert_stands(18)

@@ -15,8 +15,10 @@ class Style(TreeTest):
         wide = "a\n" + "x" * 111 + "\n"
         self.assert_found(style, {"base/A.h": wide}, "base/A.h:2: the line has 111 columns")
 
-    def test_finds_a_wide_line_for_the_assembler(self):
-        self.assert_found(style, {"tests/A.S": "x" * 111 + "\n"}, "tests/A.S:1: the line has 111 columns")
+    def test_finds_a_wide_line_for_the_assembler_and_for_node(self):
+        for path in ("tests/A.S", "tools/a.js"):
+            self.assert_found(style, {path: "x" * 111 + "\n"}, f"{path}:1: the line has 111 columns")
+            (self.root / path).unlink()
 
     def test_lets_tables_links_and_data_be_wide(self):
         wide = "x " * 60 + "x"

@@ -8,7 +8,7 @@ MAXIMUM_COLUMNS = 110
 MAXIMUM_PROSE_COLUMNS = 120
 MAXIMUM_LINES = 400
 
-CODE = (".h", ".cpp", ".S", ".py", ".sh", ".cmake", "CMakeLists.txt")
+CODE = (".h", ".cpp", ".S", ".js", ".py", ".sh", ".cmake", "CMakeLists.txt")
 PROSE = (".md",)
 OTHERS = (".json", ".yml", ".strings", ".txt", ".clang-format", ".clang-tidy", ".gitignore", "Makefile")
 

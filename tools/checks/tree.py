@@ -8,7 +8,7 @@ import pathlib
 from . import source
 
 SKIPPED_FOLDERS = {"build", "out", "__pycache__"}
-HIDDEN_FOLDERS_OF_OURS = {".ci"}
+HIDDEN_FOLDERS_OF_OURS = {".ci", ".github"}
 
 
 class Tree:

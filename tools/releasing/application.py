@@ -3,9 +3,9 @@
 With which programs it is built, stripped and signed is a Mac's or Linux' matter (mac.py, linux.py).
 """
 
-from . import archive, information, localizations, sparkle
+from . import archive, executables, information, localizations, signing, sparkle
 from .parameters import NO_SPARKLE
-from .steps import Anew, Command, Work
+from .steps import Command, Work
 from .symbols import Symbols
 
 
@@ -16,15 +16,30 @@ def require_sparkle(options):
 
 
 def steps(options, system):
+    return [*building(options, system), *assembling(options, system)]
+
+
+def building(options, system):
+    return [
+        *signing.certificate(options.identity),
+        *([] if options.sparkle else sparkle.pinned().steps()),
+        *system.build(),
+    ]
+
+
+def made(system):
+    """What is there when everything is assembled, and nothing of it otherwise."""
+    packed = system.application.with_suffix(".zip")
+    return [packed, system.application, Symbols(system.application).folder]
+
+
+def assembling(options, system):
     contents = system.application / "Contents"
     target = None if options.sparkle == NO_SPARKLE else contents / "Frameworks/Sparkle.framework"
     plist, packed = contents / "Info.plist", system.application.with_suffix(".zip")
-    release = None if options.sparkle else sparkle.pinned()
     symbols = Symbols(system.application)
     return [
-        *(release.steps() if release else []),
-        *system.build(),
-        Anew(packed, system.application, symbols.folder),
+        Command("rm", "-rf", *made(system)),
         Command("mkdir", "-p", system.application.parent),
         *system.copy(system.built, system.application),
         *system.strip(symbols),
@@ -33,12 +48,16 @@ def steps(options, system):
             f"compare the languages of {system.application} with those of {localizations.SOURCES}",
             lambda: localizations.require_all(system.application),
         ),
-        *(_embed(release.framework if release else options.sparkle, target, system) if target else []),
+        *(_embed(options.sparkle or sparkle.pinned().framework, target, system) if target else []),
         Work(
             f"write {plist} {_updates(options)}",
             lambda: information.add_updates(plist, options.feed_url, options.public_key),
         ),
         *system.sign(target, options.identity),
+        Work(
+            f"compare the processors and the system of every program in {system.application} with {plist}",
+            lambda: executables.require_all(system.application),
+        ),
         Work(f"pack {packed}", lambda: archive.pack(system.application, packed)),
     ]
 

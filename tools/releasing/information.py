@@ -33,6 +33,14 @@ def identifier(path=PATH):
     return _read(path)["CFBundleIdentifier"]
 
 
+def numbers(version):
+    """As versions are compared: 13.0 is 13, and less than 13.0.1."""
+    found = [int(number) for number in version.split(".")]
+    while found and not found[-1]:
+        found.pop()
+    return found
+
+
 def with_updates(properties, feed_url, public_key):
     """The properties with the address and the key that Sparkle reads, each only when it is given."""
     given = {"SUFeedURL": feed_url, "SUPublicEDKey": public_key}

@@ -28,7 +28,7 @@ class Mac:
         self.halves = []
 
     def require(self, options):
-        del options  # Whether the keychain has the certificate, codesign says.
+        del options  # Whether the keychain has the certificate is asked in the first step.
         missing = [program for program in self.programs if not shutil.which(program)]
         if missing:
             raise Failure(f"needs a Mac: {' and '.join(missing)} not found; --dry-run prints what would run")

@@ -8,7 +8,7 @@ import time
 from . import information, signing
 from .mac import Mac
 from .parameters import AD_HOC
-from .steps import Anew, Command, Failure, Work
+from .steps import Command, Failure, Work
 
 SECONDS_TO_QUIT = 10
 SECONDS_TO_END = 5
@@ -26,19 +26,30 @@ class Run:
     def require(self):
         self.mac.require(None)
 
-    def steps(self):
-        application = self.mac.application
-        self_check = self.mac.folder / "mac/kestrune-self-check"
+    @property
+    def made(self):
+        """What is there when it is opened, and nothing of it otherwise."""
+        return [self.mac.application, self.errors]
+
+    def building(self):
         return [
-            *signing.search(self.identity),
+            *signing.certificate(self.identity),
             *self.mac.build(),
-            Command(self_check, goes_on="Kestrune logs the same and goes on without what is missing"),
+            Command(
+                self.mac.folder / "mac/kestrune-self-check",
+                goes_on="Kestrune logs the same and goes on without what is missing",
+            ),
+        ]
+
+    def opening(self):
+        application = self.mac.application
+        return [
             Command(
                 *["osascript", "-l", "JavaScript", "tools/releasing/quit.js", self.identifier],
                 judge=self._take_processes,
             ),
             Work(f"wait until no {self.identifier} runs", self._wait),
-            Anew(application, self.errors),
+            Command("rm", "-rf", *self.made),
             *self.mac.copy(self.mac.built, application),
             *signing.for_debugging(application, self.identity),
             # Whole paths, as it is the system that opens them, in a folder of its own.

@@ -11,25 +11,27 @@ AD_HOC_ENTITLEMENTS = "tools/releasing/ad-hoc.entitlements"
 # What is code within the framework. `codesign --deep` would sign it too, with the application's entitlements.
 NESTED_CODE = ("Autoupdate", "Updater.app")
 
-# As `security find-identity` lists them: a number, a hash, a name.
-CERTIFICATE = re.compile(r'\) (?P<hash>[0-9A-F]{40}) "(?P<name>.*)"')
+# A line of what `security find-identity` prints: the SHA-1 of a certificate and its name.
+CERTIFICATE = re.compile(r'^ *\d+\) ([0-9A-F]{40}) "(.*)"', re.MULTILINE)
 
 
-def search(identity):
-    """Before a long build, whether the keychain has what would sign it."""
-
-    def require(output):
-        # As codesign takes it: a part of the name is enough.
-        certificates = CERTIFICATE.finditer(output)
-        if not any(identity == found["hash"] or identity in found["name"] for found in certificates):
-            raise Failure(
-                f"the keychain has no certificate {identity!r} that signs code; "
-                "`security find-identity -p codesigning` lists those it has"
-            )
-
+def certificate(identity, *options):
+    """Before a long build: whether the keychain has what codesign will look for, a part of a name or the
+    whole SHA-1. With "-v" it has to be one that is trusted and has not run out, which a certificate of one's
+    own need not be to sign."""
     if identity == AD_HOC:
         return []
-    return [Command("security", "find-identity", "-p", "codesigning", judge=require)]
+
+    def require(output):
+        if not any(
+            identity in (sha1, sha1.lower()) or identity in name for sha1, name in CERTIFICATE.findall(output)
+        ):
+            raise Failure(
+                f"the keychain has no certificate {identity!r} to sign with; {command} lists those it has"
+            )
+
+    command = Command("security", "find-identity", *options, "-p", "codesigning", judge=require)
+    return [command]
 
 
 def for_debugging(application, identity):
@@ -54,4 +56,11 @@ def steps(application, framework, identity):
         *(Command(*sign, path) for path in nested),
         Command(*sign, *entitlements, application),
         Command("codesign", "--verify", "--strict", "--deep", "--verbose=2", application),
+    ]
+
+
+def image_steps(image, identity):
+    return [
+        Command("codesign", "--sign", identity, "--timestamp", image),
+        Command("codesign", "--verify", "--strict", "--verbose=2", image),
     ]

@@ -24,7 +24,7 @@ class Release:
         self.address = ADDRESS.format(version=version, archive=self.archive.name)
         self.folder = FOLDER / version
         self.framework = self.folder / "Sparkle.framework"
-        self.sign_update = self.folder / "bin/sign_update"
+        self.tools = self.folder / "bin"
 
     def steps(self):
         fetch = [

@@ -1,6 +1,7 @@
 """What a build or a release does, one step after the other. A dry run prints the steps and does none."""
 
 import shlex
+import shutil
 import subprocess
 import sys
 
@@ -11,14 +12,26 @@ class Failure(Exception):
 
 class Command:
     """A program that is run. `judge` is given what it printed, with `judges_errors` also what it said beside
-    that, and raises Failure when that will not do. `advice` is for when the program fails. `goes_on` says why
-    the steps after it are taken all the same then."""
+    that, and raises Failure when that will not do; when it `judges_failures`, nobody else does. `advice` is
+    for when the program fails, unless it is one that `reports` itself, in one line, what went wrong.
+    `goes_on` says why the steps after it are taken all the same then."""
 
-    def __init__(self, *arguments, judge=None, judges_errors=False, advice="", goes_on=""):
+    def __init__(
+        self,
+        *arguments,
+        judge=None,
+        judges_errors=False,
+        judges_failures=False,
+        advice="",
+        reports=False,
+        goes_on="",
+    ):
         self.arguments = [str(argument) for argument in arguments]
         self.judge = judge
         self.errors = subprocess.STDOUT if judges_errors else None
+        self.judges_failures = judges_failures
         self.advice = advice and f"; {advice}"
+        self.reports = reports
         self.goes_on = goes_on
 
     def __str__(self):
@@ -34,7 +47,7 @@ class Command:
             )
         except OSError as error:
             raise Failure(f"{self.arguments[0]} cannot be run: {error.strerror}") from None
-        if result.returncode:
+        if result.returncode and not self.judges_failures:
             if self.errors:
                 sys.stderr.write(result.stdout)
             self._fail(result.returncode)
@@ -42,41 +55,41 @@ class Command:
             self.judge(result.stdout)
 
     def _fail(self, status):
+        # A signal left it no time to.
+        if self.reports and status > 0:
+            raise Failure()
         failure = f"failed with exit status {status}: {self}{self.advice}"
         if not self.goes_on:
             raise Failure(failure)
         print(f"{failure}; {self.goes_on}", file=sys.stderr, flush=True)
 
 
-class Anew(Command):
-    """Removes what later steps make, now and again when one of them fails: it would be half made."""
-
-    def __init__(self, *paths):
-        super().__init__("rm", "-rf", *paths)
-
-
 class Work:
     """Something that is done here instead of by a program. Shown as a comment."""
 
-    def __init__(self, description, run):
+    def __init__(self, description, work):
         self.description = description
-        self.run = run
+        self.work = work
 
     def __str__(self):
         return f"# {self.description}"
 
+    def run(self):
+        try:
+            self.work()
+        except OSError as error:
+            raise Failure(f"failed to {self.description}: {error}") from None
 
-def run(steps):
-    removals = []
+
+def run(steps, made=()):
+    """`made` has the paths of what they make. When one of them fails, none of that is left."""
     try:
         for step in steps:
             print(step, flush=True)
             step.run()
-            if isinstance(step, Anew):
-                removals.append(step)
-    except BaseException:  # also when somebody interrupts it
-        for removal in removals:
-            removal.run()
+    except BaseException:
+        for path in made:
+            _remove(path)
         raise
 
 
@@ -86,7 +99,15 @@ def show(steps, indent=""):
 
 
 def end_with(failure, program):
-    """The exit status for a failure, after its line."""
+    """The exit status for a failure, after its line. One without words was reported already."""
     sys.stdout.flush()
-    print(f"{program}: {failure}", file=sys.stderr)
+    if str(failure):
+        print(f"{program}: {failure}", file=sys.stderr)
     return 1
+
+
+def _remove(path):
+    if path.is_dir() and not path.is_symlink():
+        shutil.rmtree(path)
+    else:
+        path.unlink(missing_ok=True)

@@ -12,9 +12,13 @@
 #include <cstring>
 #include <utility>
 
-// Where the linker put the section of this image.
-// NOLINTNEXTLINE(readability-identifier-naming): the linker's names
-extern "C" const std::uint8_t __start___crash_info[], __stop___crash_info[];
+// Where the linker put the section of this image; null in one that has none.
+// NOLINTBEGIN(readability-identifier-naming): the linker's names
+extern "C" {
+[[gnu::weak]] extern const std::uint8_t __start___crash_info[];
+[[gnu::weak]] extern const std::uint8_t __stop___crash_info[];
+}
+// NOLINTEND(readability-identifier-naming)
 
 namespace kestrune::gnustep {
 
@@ -38,6 +42,9 @@ void lookForCrashReportIn(std::function<Section()> section) { sectionToRead() = 
 
 std::string crashReportMessage() {
     const Section section = sectionToRead()();
+    if (section.empty()) {
+        return "";
+    }
     std::array<std::uint64_t, 2> words{};
     if (section.size() != SizeOfAnnotations) {
         fatal("The section __crash_info holds something else than the annotations.");

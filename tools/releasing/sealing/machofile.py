@@ -11,12 +11,21 @@ from ..steps import Failure
 UNIVERSAL = 0xCAFEBABE
 PROGRAM = 0xFEEDFACF
 EXECUTABLE = 2
+# What any Mach-O file begins with, also those for processors of 32 bits or with the other order of bytes, and
+# universal ones with room for halves of more than 4 GB.
+BEGINNINGS = {
+    struct.pack(order, magic)
+    for magic in (UNIVERSAL, UNIVERSAL + 1, PROGRAM, PROGRAM - 1)
+    for order in ("<I", ">I")
+}
 
 PROCESSORS = {0x0100000C: "arm64", 0x01000007: "x86_64"}
 # How far apart the halves of a universal file are where the file does not say, as a power of two.
 ALIGNMENT = 14
 
-SEGMENT, CODE_SIGNATURE, BUILD_VERSION, LOAD_COMMANDS = 0x19, 0x1D, 0x32, 32
+SEGMENT, CODE_SIGNATURE, LOAD_COMMANDS = 0x19, 0x1D, 32
+# The load commands that tell the system, and where in them; the second is written for macOS before 10.14.
+SYSTEMS = ((0x32, 12), (0x24, 8))
 PAGE = 0x4000  # of memory, on the processor that has the larger ones
 
 
@@ -69,12 +78,13 @@ class Half:
     @property
     def minimum_system(self):
         """The first macOS that runs it, as in 13.0."""
-        place = self._command(BUILD_VERSION)
-        if place is None:
-            raise Failure(f"does not say which macOS it is for ({self.processor})")
-        version = struct.unpack_from("<I", self.data, place + 12)[0]
-        major, minor, patch = version >> 16, version >> 8 & 0xFF, version & 0xFF
-        return f"{major}.{minor}.{patch}" if patch else f"{major}.{minor}"
+        for kind, offset in SYSTEMS:
+            place = self._command(kind)
+            if place is not None:
+                version = struct.unpack_from("<I", self.data, place + offset)[0]
+                major, minor, patch = version >> 16, version >> 8 & 0xFF, version & 0xFF
+                return f"{major}.{minor}.{patch}" if patch else f"{major}.{minor}"
+        raise Failure(f"does not say which macOS it is for ({self.processor})")
 
     @property
     def text_size(self):
