@@ -140,7 +140,7 @@ TEST_F(WindowContract, BecomesKeyWhenTheApplicationActivatesItself) {
     show(window);
     world_.activateAnotherApplication();
     application_->activateIgnoringOtherApps(true);
-    world_.runMainQueue();
+    world_.letTimePass(SecondsForTheSystem);
     EXPECT_TRUE(world_.isActive());
     EXPECT_TRUE(world_.shownWindows().at(0).isKey);
     EXPECT_THAT(delegate->received(), ElementsAre("windowDidBecomeKey:", "windowDidBecomeKey:"));
@@ -244,10 +244,9 @@ TEST_F(WindowContract, ComesBackWhenItIsMadeKeyAfterItWasMiniaturized) {
     Window window = makeWindow("one", WindowStyleMask::titled | WindowStyleMask::miniaturizable);
     show(window);
     world_.clickMinimizeButton();
-    world_.runMainQueue();
     EXPECT_THAT(shownTitles(), IsEmpty());
     window.makeKeyAndOrderFront();
-    world_.runMainQueue();
+    world_.letTimePass(SecondsForTheSystem);
     ASSERT_THAT(shownTitles(), ElementsAre("one"));
     EXPECT_TRUE(world_.shownWindows()[0].isKey);
 }

@@ -16,6 +16,9 @@ namespace kestrune::contract {
 
 class WindowFixture : public testing::Test {
 protected:
+    // To make an application active, or a window come out of the Dock.
+    static constexpr double SecondsForTheSystem = 1;
+
     explicit WindowFixture(const BundleFiles& bundle = {}) : world_(bundle) {
         world_.launch([this] {
             application_ = Application::sharedApplication();

@@ -116,6 +116,9 @@ public:
     // window. The system tells the application, which handles that before this returns.
     void connect(const std::vector<ConnectedDisplay>& displays);
 
+    // The system tells the application that the displays have changed, whichever they are now.
+    void announceDisplays();
+
     // The display with the key window, by its place in the list; absent: there is none.
     void setMainDisplay(std::optional<std::size_t> index);
 

@@ -63,6 +63,14 @@ void World::onAnotherThread(const std::function<void()>& work) {
     thread.join();
 }
 
+// As AppKit posts it.
+void World::announceDisplays() {
+    const mac::Pool pool;
+    send<void>(mac::foundation.notificationCenter.defaultCenter(), "postNotificationName:object:",
+               objectFor("NSApplicationDidChangeScreenParametersNotification"),
+               mac::appKit.application.sharedApplication());
+}
+
 std::vector<ShownWindow> World::shownWindows() const {
     const mac::Pool pool;
     std::vector<ShownWindow> shown;
@@ -77,9 +85,12 @@ void World::clickCloseButton(std::size_t window) {
     send<void>(visibleWindows().at(window), "performClose:", id{});
 }
 
+// On its way into the Dock the window is still to be seen.
 void World::clickMinimizeButton(std::size_t window) {
+    constexpr double UntilItIsThere = 1; // seconds
     const mac::Pool pool;
     send<void>(visibleWindows().at(window), "performMiniaturize:", id{});
+    letTimePass(UntilItIsThere);
 }
 
 void World::clickButton(std::string_view title, std::size_t window) {

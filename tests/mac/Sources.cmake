@@ -2,6 +2,8 @@
 # the tests of it elsewhere.
 set(files
     tests/gnustep/ShippedBundle.cpp
+    tests/mac/CrashReport.cpp
+    tests/mac/EventLoop.cpp
     tests/mac/Pictures.cpp
     tests/mac/Preparation.cpp
     tests/mac/SharedWorld.cpp
@@ -11,6 +13,10 @@ set(files
     tests/mac/WindowPicture.cpp
     tests/mac/World.cpp)
 list(TRANSFORM files PREPEND "${PROJECT_SOURCE_DIR}/" OUTPUT_VARIABLE KESTRUNE_WORLD_ON_A_MAC)
+
+# And the program that draws the windows.
+set(files tests/mac/EventLoop.cpp tests/mac/PicturesProgram.cpp tests/mac/WindowPicture.cpp)
+list(TRANSFORM files PREPEND "${PROJECT_SOURCE_DIR}/" OUTPUT_VARIABLE KESTRUNE_PICTURES_ON_A_MAC)
 
 # kestrune_own_bundle(PROGRAM TARGET RESOURCES): writes PROGRAM.plist, the Info.plist of the bundle that a test
 # program has on a Mac, for the TARGET of its sources. It is that among the RESOURCES, but for its name, and with an

@@ -1,4 +1,4 @@
-// What a Mac has and no test can arrange or see there: each of these skips the test that asks for it.
+// What a Mac has and no test can arrange or see there: nearly each of these skips the test that asks for it.
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
 #include "tests/contract/World.h"
@@ -8,6 +8,9 @@
 #include "tests/mac/WorldState.h"
 
 #include <cstdio>
+
+// NOLINTNEXTLINE(readability-identifier-naming): the name is Foundation's.
+extern "C" const id NSLocaleIdentifier;
 
 namespace kestrune::contract {
 
@@ -21,7 +24,6 @@ constexpr const char* PointerEvents = "pointer that a test may move";
 constexpr const char* LoginItems = "login item that a test may change";
 constexpr const char* Updates = "Sparkle in its tests";
 constexpr const char* OpenedURLs = "URL that a test may open";
-constexpr const char* OtherApplications = "other application that a test may bring to the front";
 
 } // namespace
 
@@ -49,13 +51,9 @@ std::vector<LoggedMessage> World::loggedMessages() const {
     cannotArrange("log that a test can read back at once");
 }
 
-std::string World::crashReportMessage() const { cannotArrange("crash report of a process that runs"); }
-
 void World::catchTermination(const std::function<void()>& /*work*/) {
     cannotArrange("termination that comes back");
 }
-
-void World::activateAnotherApplication() { cannotArrange(OtherApplications); }
 
 std::size_t World::statusItemCount() const { cannotArrange("menu bar that a test can look at"); }
 
@@ -85,7 +83,12 @@ OperatingSystemVersion World::operatingSystemVersion() const {
     return version;
 }
 
-std::string World::localeIdentifier() const { cannotArrange("language that a test may choose"); }
+// By its other name; that it is the user's has to be seen.
+std::string World::localeIdentifier() const {
+    const mac::Pool pool;
+    return mac::textOf(native::send(native::send(native::classObject("NSLocale"), "currentLocale"),
+                                    "objectForKey:", NSLocaleIdentifier));
+}
 
 void World::setUpdateFramework(UpdateFramework framework) {
     if (framework != UpdateFramework::missing) {

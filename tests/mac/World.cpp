@@ -11,6 +11,7 @@
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
 #include "platform/AccessibilityTrust.h"
+#include "tests/mac/EventLoop.h"
 #include "tests/mac/Objects.h"
 #include "tests/mac/OpenMenu.h"
 #include "tests/mac/Preparation.h"
@@ -71,27 +72,14 @@ void forgetDefaults() {
     send<void>(mac::foundation.userDefaults.standardUserDefaults(), "removePersistentDomainForName:", domain);
 }
 
-id dateIn(double seconds) { return send(classObject("NSDate"), "dateWithTimeIntervalSinceNow:", seconds); }
-
-bool isToCome(id date) { return send<double>(date, "timeIntervalSinceNow") > 0; }
-
-void handleEvents() {
-    constexpr auto AnyEvent = ~mac::Unsigned{0};
-    const id past = send(classObject("NSDate"), "distantPast");
-    while (const id event = send(NSApp, "nextEventMatchingMask:untilDate:inMode:dequeue:", AnyEvent, past,
-                                 NSDefaultRunLoopMode, mac::truth(true))) {
-        send<void>(NSApp, "sendEvent:", event);
+// Whether it came about in time.
+bool waitUntil(const std::function<bool()>& isReached) {
+    constexpr int Looks = 100;
+    constexpr double UntilTheNext = 0.02; // seconds
+    for (int look = 0; look < Looks && !isReached(); ++look) {
+        runEventLoop(NSDefaultRunLoopMode, UntilTheNext);
     }
-}
-
-// Events wake no run loop that AppKit does not run, so they are looked for now and then.
-void turnRunLoop(id mode, id limit) {
-    constexpr double Look = 0.01; // seconds
-    if (mode == NSDefaultRunLoopMode) {
-        handleEvents();
-    }
-    send<BOOL>(send(classObject("NSRunLoop"), "currentRunLoop"), "runMode:beforeDate:", mode,
-               send(dateIn(Look), "earlierDate:", limit));
+    return isReached();
 }
 
 } // namespace
@@ -121,29 +109,30 @@ void World::setTrust(Trust trust) {
     }
 }
 
-void World::letTimePass(double seconds) {
-    const mac::Pool pool;
-    const id limit = dateIn(seconds);
-    do {
-        turnRunLoop(state_->openMenu.runLoopMode(), limit);
-    } while (isToCome(limit));
-    // What is due by now.
-    turnRunLoop(state_->openMenu.runLoopMode(), limit);
-}
+void World::letTimePass(double seconds) { runEventLoop(state_->openMenu.runLoopMode(), seconds); }
 
 void World::launch(const std::function<void()>& work) { runUntilLaunched(work); }
 
 // The system may refuse it to a program that was started from a terminal.
 void World::activateApplication() {
-    constexpr int Looks = 100;
     const mac::Pool pool;
     mac::appKit.application.activateIgnoringOtherApps(mac::appKit.application.sharedApplication(),
                                                       mac::truth(true));
-    for (int look = 0; look < Looks && !isActive(); ++look) {
-        letTimePass(0.02);
-    }
-    if (!isActive()) {
+    if (!waitUntil([this] { return isActive(); })) {
         cannotArrange("place in front for this test, as another application stays active");
+    }
+}
+
+// The Finder runs wherever somebody is logged in.
+void World::activateAnotherApplication() {
+    constexpr mac::Unsigned IgnoringOtherApps = 2; // NSApplicationActivateIgnoringOtherApps
+    const mac::Pool pool;
+    const id applications =
+        send(classObject("NSRunningApplication"),
+             "runningApplicationsWithBundleIdentifier:", objectFor(std::string("com.apple.finder")));
+    send<BOOL>(send(applications, "lastObject"), "activateWithOptions:", IgnoringOtherApps);
+    if (!waitUntil([this] { return !isActive(); })) {
+        cannotArrange("other application that comes to the front for this test");
     }
 }
 
