@@ -28,7 +28,6 @@
 #include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StandIns.h"
 #include "tests/gnustep/standins/StatusItems.h"
-#include "tests/gnustep/standins/TemplateImages.h"
 #include "tests/gnustep/standins/UnifiedLog.h"
 #include "tests/mac/OpenMenu.h"
 
@@ -153,15 +152,7 @@ std::size_t World::statusItemCount() const { return gnustep::statusItemCount(); 
 
 ShownButton World::statusButton(std::size_t statusItem) const {
     const mac::Pool pool;
-    const id button = buttonOfStatusItem(statusItem);
-    ShownButton shown;
-    shown.scaling = static_cast<ImageScaling>(send<mac::Unsigned>(send(button, "cell"), "imageScaling"));
-    shown.toolTip = mac::textOf(send(button, "toolTip"));
-    if (const id image = send(button, "image")) {
-        shown.image =
-            ShownImage{mac::textOf(send(image, "name")), isTemplateImage(image), send<Size>(image, "size")};
-    }
-    return shown;
+    return describeButton(buttonOfStatusItem(statusItem));
 }
 
 bool World::openStatusMenu(const std::function<void()>& whileOpen, std::size_t statusItem) {

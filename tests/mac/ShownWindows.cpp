@@ -120,6 +120,17 @@ contract::ShownWindow describeWindow(id window) {
     return shown;
 }
 
+contract::ShownButton describeButton(id button) {
+    contract::ShownButton shown;
+    shown.scaling = static_cast<ImageScaling>(send<mac::Unsigned>(send(button, "cell"), "imageScaling"));
+    shown.toolTip = mac::textOf(send(button, "toolTip"));
+    if (const id image = send(button, "image")) {
+        shown.image = contract::ShownImage{mac::textOf(send(image, "name")),
+                                           send<BOOL>(image, "isTemplate") != 0, send<Size>(image, "size")};
+    }
+    return shown;
+}
+
 std::vector<id> viewsIn(id window, const char* className) {
     std::vector<id> views = viewsIn(window);
     views.erase(std::remove_if(views.begin(), views.end(),

@@ -19,6 +19,9 @@ bool hasWindowOnScreenOrInDock();
 // Read from the native window and the views in it.
 contract::ShownWindow describeWindow(id window);
 
+// That of a status item.
+contract::ShownButton describeButton(id button);
+
 // Of a class or its subclasses, inside the window's content, in their order.
 std::vector<id> viewsIn(id window, const char* className);
 

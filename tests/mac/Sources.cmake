@@ -18,9 +18,10 @@ list(TRANSFORM files PREPEND "${PROJECT_SOURCE_DIR}/" OUTPUT_VARIABLE KESTRUNE_W
 set(files tests/mac/EventLoop.cpp tests/mac/PicturesProgram.cpp tests/mac/WindowPicture.cpp)
 list(TRANSFORM files PREPEND "${PROJECT_SOURCE_DIR}/" OUTPUT_VARIABLE KESTRUNE_PICTURES_ON_A_MAC)
 
-# kestrune_own_bundle(PROGRAM TARGET RESOURCES): writes PROGRAM.plist, the Info.plist of the bundle that a test
-# program has on a Mac, for the TARGET of its sources. It is that among the RESOURCES, but for its name, and with an
-# identifier of its own: what the tests store must not become the user's settings of the application.
+# kestrune_own_bundle(PROGRAM TARGET RESOURCES): writes PROGRAM.plist, the Info.plist of the bundle that a
+# test program has on a Mac, for the TARGET of its sources. It is that among the RESOURCES, but for its name,
+# and with an identifier of its own: what the tests store must not become the user's settings of the
+# application.
 function(kestrune_own_bundle program target resources)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${resources}/Info.plist")
     file(READ "${resources}/Info.plist" information)

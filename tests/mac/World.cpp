@@ -153,15 +153,7 @@ bool World::reopenApplication() {
 
 ShownButton World::statusButton(std::size_t statusItem) const {
     const mac::Pool pool;
-    const id button = send(native::statusItem(statusItem), "button");
-    ShownButton shown;
-    shown.scaling = static_cast<ImageScaling>(send<mac::Unsigned>(send(button, "cell"), "imageScaling"));
-    shown.toolTip = mac::textOf(send(button, "toolTip"));
-    if (const id image = send(button, "image")) {
-        shown.image = ShownImage{mac::textOf(send(image, "name")), send<BOOL>(image, "isTemplate") != 0,
-                                 send<Size>(image, "size")};
-    }
-    return shown;
+    return describeButton(send(native::statusItem(statusItem), "button"));
 }
 
 bool World::openStatusMenu(const std::function<void()>& whileOpen, std::size_t statusItem) {

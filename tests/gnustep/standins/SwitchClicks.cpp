@@ -1,6 +1,7 @@
 // Switches that are clicked by a message, which GNUstep leaves to a cell that they do not have.
 //
-// This is what we believe the Mac does, and no proof of it: the switch changes sides, then its target is told.
+// This is what we believe the Mac does, and no proof of it: the switch changes sides, then its target is
+// told.
 #include "tests/gnustep/standins/SwitchClicks.h"
 
 #include "tests/gnustep/standins/Methods.h"

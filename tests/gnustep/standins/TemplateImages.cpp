@@ -26,7 +26,7 @@ void setTemplate(id image, SEL, BOOL isTemplate) {
     whenDeallocated(image, &templates(), [image] { templates().erase(image); });
 }
 
-BOOL isTemplate(id image, SEL) { return mac::truth(isTemplateImage(image)); }
+BOOL isTemplate(id image, SEL) { return mac::truth(templates().contains(image)); }
 
 } // namespace
 
@@ -34,7 +34,5 @@ void installTemplateImages() {
     addMethod(classNamed("NSImage"), "setTemplate:", setTemplate);
     addMethod(classNamed("NSImage"), "isTemplate", isTemplate);
 }
-
-bool isTemplateImage(id image) { return templates().contains(image); }
 
 } // namespace kestrune::gnustep
