@@ -86,11 +86,12 @@ app:
 	    --public-key "$$PUBLIC_KEY"
 
 ifeq ($(SYSTEM),Darwin)
+test: override PRESET = mac
 test:
 	@tools/setup test
 	cmake --preset mac
-	cmake --build --preset mac --parallel "$$(sysctl -n hw.ncpu)"
-	ctest --test-dir build/mac --no-tests=error --output-on-failure
+	cmake --build --preset mac --parallel "$$(sysctl -n hw.ncpu)" --target all mac-tests
+	$(call run-tests)
 else
 # Builds, seals and checks what Macs get, for the tests of the part that runs here: on its processor, and
 # without sanitizers, which know nothing of its memory.

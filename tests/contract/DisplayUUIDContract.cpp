@@ -1,6 +1,8 @@
 #include "platform/DisplayUUID.h"
+#include "platform/Screen.h"
 #include "tests/contract/World.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace kestrune::contract {
@@ -60,6 +62,23 @@ TEST_F(DisplayUUIDContract, IsSharedByItsCopies) {
     const DisplayUUID copy = *original;
     original.reset();
     EXPECT_EQ(copy.createString(), UUID);
+}
+
+std::optional<std::string> uuidOfThePrimaryDisplay() {
+    const auto number = Screen::screens().at(0).deviceDescription("NSScreenNumber").value();
+    const auto uuid =
+        DisplayUUID::createFromDisplayID(static_cast<DisplayID>(std::get<std::int64_t>(number)));
+    return uuid ? uuid->createString() : std::nullopt;
+}
+
+// Whichever display that is, and whether it has one.
+TEST(PrimaryDisplayUUIDContract, IsTheSameEachTimeAndLooksLikeOne) {
+    const World world;
+    const std::optional<std::string> uuid = uuidOfThePrimaryDisplay();
+    if (uuid) {
+        EXPECT_THAT(*uuid, testing::MatchesRegex("[0-9A-F-]{36}"));
+    }
+    EXPECT_EQ(uuid, uuidOfThePrimaryDisplay());
 }
 
 } // namespace

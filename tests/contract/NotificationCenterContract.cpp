@@ -30,7 +30,9 @@ protected:
         return observe([this, observer = std::move(name)] { notified_.push_back(observer); });
     }
 
-    void changeDisplays(std::size_t count = 1) {
+    void changeDisplays() { world_.announceDisplays(); }
+
+    void connectDisplays(std::size_t count) {
         std::vector<ConnectedDisplay> displays;
         for (DisplayID displayID = 1; displayID <= count; ++displayID) {
             displays.push_back(connectedDisplay(displayID, {(displayID - 1) * 1000.0, 0, 1000, 800}));
@@ -95,9 +97,9 @@ TEST_F(NotificationCenterContract, TellsInlineWhenPostedOnTheMainThread) {
 TEST_F(NotificationCenterContract, TellsWhenTheDisplaysHaveChanged) {
     std::vector<std::size_t> counts;
     const NotificationObserver observer = observe([&] { counts.push_back(Screen::screens().size()); });
-    changeDisplays(2);
-    changeDisplays(0);
-    changeDisplays(1);
+    connectDisplays(2);
+    connectDisplays(0);
+    connectDisplays(1);
     EXPECT_THAT(counts, ElementsAre(2U, 0U, 1U));
 }
 

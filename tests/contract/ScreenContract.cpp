@@ -26,6 +26,22 @@ std::vector<Rect> frames(const std::vector<Screen>& screens) {
     return result;
 }
 
+// Whichever display that is.
+TEST(ScreenContract, StartsWithADisplayAtTheOriginThatHasASizeANameAndANumber) {
+    const World world;
+    const std::vector<Screen> screens = Screen::screens();
+    ASSERT_FALSE(screens.empty());
+    const Screen primary = screens.front();
+    EXPECT_EQ(primary.frame().origin, Point());
+    EXPECT_GT(primary.frame().width(), 0);
+    EXPECT_GT(primary.frame().height(), 0);
+    EXPECT_NE(primary.localizedName(), "");
+    const auto number = primary.deviceDescription("NSScreenNumber");
+    ASSERT_TRUE(number);
+    EXPECT_TRUE(std::holds_alternative<std::int64_t>(*number));
+    EXPECT_FALSE(primary.deviceDescription("NoSuchKey"));
+}
+
 TEST(ScreenContract, ListsTheDisplaysThePrimaryFirst) {
     World world;
     world.connect({connectedDisplay(3, {0, 0, 1512, 982}), connectedDisplay(1, {-1920, 0, 1920, 1080}),

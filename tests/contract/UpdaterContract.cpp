@@ -51,6 +51,7 @@ protected:
     }
 
     void startUpdater() {
+        world_.setUpdateFramework(UpdateFramework::working);
         updater_ = makeUpdater();
         ASSERT_FALSE(updater_->startUpdater());
     }

@@ -43,6 +43,9 @@ TEST_F(WindowContract, TakesATitleInAnyScript) {
 }
 
 TEST_F(WindowContract, LiesAcrossTheMiddleOnceCentred) {
+    constexpr double ScreenWidth = 1600;
+    constexpr double ScreenHeight = 1000;
+    world_.connect({connectedDisplay(1, {0, 0, ScreenWidth, ScreenHeight})});
     Window window = makeWindow("one");
     window.center();
     window.makeKeyAndOrderFront();
@@ -137,7 +140,7 @@ TEST_F(WindowContract, BecomesKeyWhenTheApplicationActivatesItself) {
     show(window);
     world_.activateAnotherApplication();
     application_->activateIgnoringOtherApps(true);
-    world_.runMainQueue();
+    world_.letTimePass(SecondsForTheSystem);
     EXPECT_TRUE(world_.isActive());
     EXPECT_TRUE(world_.shownWindows().at(0).isKey);
     EXPECT_THAT(delegate->received(), ElementsAre("windowDidBecomeKey:", "windowDidBecomeKey:"));
@@ -241,10 +244,9 @@ TEST_F(WindowContract, ComesBackWhenItIsMadeKeyAfterItWasMiniaturized) {
     Window window = makeWindow("one", WindowStyleMask::titled | WindowStyleMask::miniaturizable);
     show(window);
     world_.clickMinimizeButton();
-    world_.runMainQueue();
     EXPECT_THAT(shownTitles(), IsEmpty());
     window.makeKeyAndOrderFront();
-    world_.runMainQueue();
+    world_.letTimePass(SecondsForTheSystem);
     ASSERT_THAT(shownTitles(), ElementsAre("one"));
     EXPECT_TRUE(world_.shownWindows()[0].isKey);
 }

@@ -1,4 +1,4 @@
-// An application with windows, on one display.
+// An application with windows.
 #pragma once
 
 #include "platform/Application.h"
@@ -16,11 +16,10 @@ namespace kestrune::contract {
 
 class WindowFixture : public testing::Test {
 protected:
-    static constexpr double ScreenWidth = 1600;
-    static constexpr double ScreenHeight = 1000;
+    // To make an application active, or a window come out of the Dock.
+    static constexpr double SecondsForTheSystem = 1;
 
     explicit WindowFixture(const BundleFiles& bundle = {}) : world_(bundle) {
-        world_.connect({connectedDisplay(1, {0, 0, ScreenWidth, ScreenHeight})});
         world_.launch([this] {
             application_ = Application::sharedApplication();
             application_->setActivationPolicy(ActivationPolicy::regular);

@@ -94,8 +94,9 @@ struct BundleFiles {
     std::vector<std::string> imageNames;                 // Among the resources.
 };
 
-// A fresh session of one user, in which the process under test may create event taps. Only one exists at a
-// time.
+// A fresh session of one user in front of one display, in which the process under test may create event taps.
+// Only one exists at a time. Where there is no means to arrange or to see what a test asks for, that test is
+// skipped.
 class World {
 public:
     static constexpr std::string_view BundleIdentifier = "org.kestrune.Contract";
@@ -114,6 +115,9 @@ public:
     // Connects exactly these displays, the primary first; it lies at the origin. The first also has the key
     // window. The system tells the application, which handles that before this returns.
     void connect(const std::vector<ConnectedDisplay>& displays);
+
+    // The system tells the application that the displays have changed, whichever they are now.
+    void announceDisplays();
 
     // The display with the key window, by its place in the list; absent: there is none.
     void setMainDisplay(std::optional<std::size_t> index);

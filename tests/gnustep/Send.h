@@ -1,36 +1,10 @@
-// Messages that the harness sends of its own accord.
-//
-// The binding's vocabulary stays as it is: what only a test says is said here, with the signature at the
-// call.
+// Messages of the harness, which names them by its own namespace.
 #pragma once
 
-#include "base/Fatal.h"
-#include "mac/objc/Runtime.h"
-
-#include <string>
+#include "tests/mac/Send.h"
 
 namespace kestrune::gnustep {
 
-// The arguments must have exactly the types of the method's. A message to nil gives zero.
-template <typename Result = id, typename... Arguments>
-Result send(id receiver, const char* selector, Arguments... arguments) {
-    using Function = Result (*)(id, SEL, Arguments...);
-    if (receiver == nullptr) {
-        return Result();
-    }
-    const SEL name = sel_registerName(selector);
-    return mac::asFunction<Function>(objc_msg_lookup(receiver, name))(receiver, name, arguments...);
-}
-
-inline Class classNamed(const char* name) {
-    const Class found = objc_getClass(name);
-    if (found == nullptr) {
-        fatal(std::string("GNUstep has no class ") + name + ".");
-    }
-    return found;
-}
-
-// As the receiver of a message.
-inline id classObject(const char* name) { return reinterpret_cast<id>(classNamed(name)); }
+using namespace native;
 
 } // namespace kestrune::gnustep

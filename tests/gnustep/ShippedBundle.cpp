@@ -4,7 +4,7 @@
 #include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
-#include "tests/gnustep/Objects.h"
+#include "tests/mac/Objects.h"
 
 #include <map>
 #include <string>
@@ -13,17 +13,17 @@ namespace kestrune::scenarios {
 
 namespace {
 
-using gnustep::classObject;
-using gnustep::objectFor;
-using gnustep::send;
+using native::classObject;
+using native::objectFor;
+using native::send;
 
 const std::string Resources = KESTRUNE_RESOURCES;
 
-// GNUstep's own reader of property lists and of tables of strings.
+// The platform's own reader of property lists and of tables of strings.
 std::map<std::string, std::string> textsIn(const std::string& file) {
     const id dictionary = send(classObject("NSDictionary"), "dictionaryWithContentsOfFile:", objectFor(file));
     if (dictionary == nullptr) {
-        fatal("GNUstep cannot read " + file + ".");
+        fatal("The platform cannot read " + file + ".");
     }
     const id keys = send(dictionary, "allKeys");
     std::map<std::string, std::string> texts;

@@ -1,41 +1,10 @@
-// The application's windows as GNUstep has them, and a user's hand at them.
+// The application's windows, under the harness's namespace.
 #pragma once
 
-#include "mac/objc/Runtime.h"
-#include "platform/Menu.h"
-#include "tests/contract/Shown.h"
-
-#include <string_view>
-#include <vector>
+#include "tests/mac/ShownWindows.h"
 
 namespace kestrune::gnustep {
 
-// Those that are on the screen, the frontmost first; without menus and GNUstep's own panels.
-std::vector<id> visibleWindows();
-
-// As AppKit looks for visible windows when the application is opened again.
-bool hasWindowOnScreenOrInDock();
-
-// Read from the native window and the views in it.
-contract::ShownWindow describeWindow(id window);
-
-// Of a class or its subclasses, inside the window's content, in their order.
-std::vector<id> viewsIn(id window, const char* className);
-
-// By what is read out for it; nil when there is none.
-id buttonNamed(id window, std::string_view title);
-
-// Presses and releases the mouse there.
-void clickTitleBar(id window);
-void click(id view);
-
-// As a button is while the mouse is held on it, or again after that.
-void highlight(id button, bool isPressed);
-
-// An event of the keyboard, for the key window.
-void pressKeyInWindow(std::string_view character, EventModifierFlags modifiers);
-
-// What the X server tells of windows, and what nobody took of a user's presses.
-void forgetEvents();
+using namespace native;
 
 } // namespace kestrune::gnustep

@@ -28,17 +28,14 @@
 #include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StandIns.h"
 #include "tests/gnustep/standins/StatusItems.h"
-#include "tests/gnustep/standins/TemplateImages.h"
 #include "tests/gnustep/standins/UnifiedLog.h"
+#include "tests/mac/OpenMenu.h"
 
-#include <thread>
 #include <utility>
 
 extern "C" {
 // NOLINTNEXTLINE(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)
 extern id NSApp;
-extern const id NSDefaultRunLoopMode;
-extern const id NSEventTrackingRunLoopMode;
 }
 
 namespace kestrune::contract {
@@ -46,56 +43,6 @@ namespace kestrune::contract {
 using namespace gnustep;
 
 namespace {
-
-id userDefaults() { return mac::foundation.userDefaults.standardUserDefaults(); }
-
-struct AsObject {
-    template <typename Plain>
-    id operator()(const Plain& value) const {
-        return objectFor(value);
-    }
-    id operator()(const StoredData& data) const {
-        return send(classObject("NSData"),
-                    "dataWithBytes:length:", static_cast<const void*>(data.bytes.data()),
-                    mac::Unsigned{data.bytes.size()});
-    }
-    // The getters look at the kind alone.
-    id operator()(const StoredDate& /*date*/) const { return send(classObject("NSDate"), "date"); }
-    id operator()(const StoredArray& array) const {
-        const id items = send(classObject("NSMutableArray"), "array");
-        for (const std::string& item : array.items) {
-            send<void>(items, "addObject:", objectFor(item));
-        }
-        return items;
-    }
-    id operator()(const StoredDictionary& dictionary) const {
-        return send(classObject("NSDictionary"), "dictionaryWithObject:forKey:", objectFor(dictionary.value),
-                    objectFor(dictionary.key));
-    }
-};
-
-ShownRow rowOf(id item) {
-    ShownRow row;
-    row.isSeparator = send<BOOL>(item, "isSeparatorItem") != 0;
-    // GNUstep's separators have dashes for a title, which nobody sees.
-    row.title = row.isSeparator ? "" : mac::textOf(send(item, "title"));
-    row.state = static_cast<ControlState>(send<mac::Integer>(item, "state"));
-    row.isEnabled = !row.isSeparator && send<BOOL>(item, "isEnabled") != 0;
-    row.keyEquivalent = mac::textOf(send(item, "keyEquivalent"));
-    row.modifiers = static_cast<EventModifierFlags>(send<mac::Unsigned>(item, "keyEquivalentModifierMask"));
-    return row;
-}
-
-// The items as they would be shown now.
-std::vector<id> itemsOf(id menu) {
-    send<void>(menu, "update");
-    const id list = send(menu, "itemArray");
-    std::vector<id> items;
-    for (mac::Unsigned index = 0; index < mac::foundation.array.count(list); ++index) {
-        items.push_back(mac::foundation.array.objectAtIndex(list, index));
-    }
-    return items;
-}
 
 // GNUstep's own search for a key equivalent takes no notice of the shift key, nor of disabled items.
 id itemForKey(id menu, std::string_view character, EventModifierFlags modifiers) {
@@ -118,13 +65,7 @@ void runLoopUntil(id mode, id date) {
 } // namespace
 
 struct World::State {
-    // Tells the delegate and enables the rows, as AppKit does; closes the menu unless a row was chosen.
-    bool open(id menu, const std::function<void()>& whileOpen);
-    void choose(id item);
-    void track(id menu);
-    id mode() const { return openMenu ? NSEventTrackingRunLoopMode : NSDefaultRunLoopMode; }
-
-    mac::Retained openMenu;
+    OpenMenu openMenu{setTracksMenu};
 };
 
 World::World(const BundleFiles& bundle) : state_(new State) {
@@ -167,13 +108,6 @@ void World::followTrustDialog() {
     activateAnotherApplication();
 }
 
-// GNUstep hears of what other processes store only now and then, so this process does it.
-void World::store(std::string_view key, const StoredValue& value) {
-    const mac::Pool pool;
-    mac::foundation.userDefaults.setObject(userDefaults(), std::visit(AsObject(), value),
-                                           objectFor(std::string(key)));
-}
-
 std::optional<DeliveredEvent> World::deliver(EventType type, Point location) {
     return postEvent(type, location);
 }
@@ -186,15 +120,10 @@ void World::letTimePass(double seconds) {
     const mac::Pool pool;
     const id limit = send(classObject("NSDate"), "dateWithTimeIntervalSinceNow:", seconds);
     while (send<double>(limit, "timeIntervalSinceNow") > 0) {
-        runLoopUntil(state_->mode(), limit);
+        runLoopUntil(state_->openMenu.runLoopMode(), limit);
     }
     // What is due by now, also when nothing was to wait for.
-    runLoopUntil(state_->mode(), limit);
-}
-
-void World::onAnotherThread(const std::function<void()>& work) {
-    std::thread thread(work);
-    thread.join();
+    runLoopUntil(state_->openMenu.runLoopMode(), limit);
 }
 
 void World::launch(const std::function<void()>& work) { runUntilLaunched(work); }
@@ -223,48 +152,12 @@ std::size_t World::statusItemCount() const { return gnustep::statusItemCount(); 
 
 ShownButton World::statusButton(std::size_t statusItem) const {
     const mac::Pool pool;
-    const id button = buttonOfStatusItem(statusItem);
-    ShownButton shown;
-    shown.scaling = static_cast<ImageScaling>(send<mac::Unsigned>(send(button, "cell"), "imageScaling"));
-    shown.toolTip = mac::textOf(send(button, "toolTip"));
-    if (const id image = send(button, "image")) {
-        shown.image =
-            ShownImage{mac::textOf(send(image, "name")), isTemplateImage(image), send<Size>(image, "size")};
-    }
-    return shown;
-}
-
-bool World::State::open(id menu, const std::function<void()>& whileOpen) {
-    if (menu == nullptr) {
-        return false;
-    }
-    track(menu);
-    const id delegate = send(menu, "delegate");
-    const SEL willOpen = sel_registerName("menuWillOpen:");
-    if (send<BOOL>(delegate, "respondsToSelector:", willOpen) != 0) {
-        send<void>(delegate, "menuWillOpen:", menu);
-    }
-    whileOpen();
-    track(nullptr);
-    return true;
-}
-
-// Nil ends it.
-void World::State::track(id menu) {
-    openMenu = mac::Retained::retaining(menu);
-    setTracksMenu(menu != nullptr);
-}
-
-void World::State::choose(id item) {
-    const mac::Retained menu = mac::Retained::retaining(send(item, "menu"));
-    track(nullptr);
-    send<void>(menu.get(),
-               "performActionForItemAtIndex:", send<mac::Integer>(menu.get(), "indexOfItem:", item));
+    return describeButton(buttonOfStatusItem(statusItem));
 }
 
 bool World::openStatusMenu(const std::function<void()>& whileOpen, std::size_t statusItem) {
     const mac::Pool pool;
-    return state_->open(menuOfStatusItem(statusItem), whileOpen);
+    return state_->openMenu.open(menuOfStatusItem(statusItem), whileOpen);
 }
 
 bool World::openMainMenu(std::size_t item, const std::function<void()>& whileOpen) {
@@ -274,45 +167,29 @@ bool World::openMainMenu(std::size_t item, const std::function<void()>& whileOpe
         static_cast<mac::Integer>(item) >= send<mac::Integer>(menu, "numberOfItems")) {
         return false;
     }
-    return state_->open(send(send(menu, "itemAtIndex:", static_cast<mac::Integer>(item)), "submenu"),
-                        whileOpen);
+    return state_->openMenu.open(send(send(menu, "itemAtIndex:", static_cast<mac::Integer>(item)), "submenu"),
+                                 whileOpen);
 }
 
 std::vector<ShownRow> World::openMenuRows() const {
     const mac::Pool pool;
-    std::vector<ShownRow> rows;
-    for (const id item : itemsOf(state_->openMenu.get())) {
-        rows.push_back(rowOf(item));
-    }
-    return rows;
+    return state_->openMenu.rows();
 }
 
 void World::chooseRow(std::size_t row) {
     const mac::Pool pool;
-    const std::vector<id> items = itemsOf(state_->openMenu.get());
-    if (row < items.size() && rowOf(items[row]).isEnabled) {
-        state_->choose(items[row]);
-    }
+    state_->openMenu.chooseRow(row);
 }
 
 // Without a pool: when the process is to end, GNUstep has drained it already.
 void World::pressKey(std::string_view character, EventModifierFlags modifiers) {
-    const id menu =
-        state_->openMenu ? state_->openMenu.get() : (isActive() ? send(NSApp, "mainMenu") : nullptr);
+    const id menu = state_->openMenu.get() != nullptr ? state_->openMenu.get()
+                                                      : (isActive() ? send(NSApp, "mainMenu") : nullptr);
     if (const id item = itemForKey(menu, character, modifiers)) {
-        state_->choose(item);
-    } else if (!state_->openMenu) {
+        state_->openMenu.choose(item);
+    } else if (state_->openMenu.get() == nullptr) {
         pressKeyInWindow(character, modifiers);
     }
-}
-
-std::vector<ShownWindow> World::shownWindows() const {
-    const mac::Pool pool;
-    std::vector<ShownWindow> shown;
-    for (const id window : visibleWindows()) {
-        shown.push_back(describeWindow(window));
-    }
-    return shown;
 }
 
 void World::clickTitleBar(std::size_t window) {
@@ -320,32 +197,9 @@ void World::clickTitleBar(std::size_t window) {
     gnustep::clickTitleBar(visibleWindows().at(window));
 }
 
-void World::clickCloseButton(std::size_t window) {
-    const mac::Pool pool;
-    send<void>(visibleWindows().at(window), "performClose:", id{});
-}
-
-void World::clickMinimizeButton(std::size_t window) {
-    const mac::Pool pool;
-    send<void>(visibleWindows().at(window), "performMiniaturize:", id{});
-}
-
-void World::clickButton(std::string_view title, std::size_t window) {
-    const mac::Pool pool;
-    send<void>(buttonNamed(visibleWindows().at(window), title), "performClick:", id{});
-}
-
 void World::clickSwitch(std::size_t index, std::size_t window) {
     const mac::Pool pool;
     click(viewsIn(visibleWindows().at(window), "NSSwitch").at(index));
-}
-
-void World::constructFromArchive(std::string_view className) {
-    send(send(classObject(std::string(className).c_str()), "alloc"), "initWithCoder:", id{});
-}
-
-void World::constructFromWindow(std::string_view className) {
-    send(send(classObject(std::string(className).c_str()), "alloc"), "initWithWindow:", id{});
 }
 
 std::string World::crashReportMessage() const { return gnustep::crashReportMessage(); }

@@ -33,7 +33,6 @@ std::string lineFor(const AccessibleElement& element) {
 class ReadOut : public testing::Test {
 protected:
     void launch(Trust trust) {
-        world_.connect({contract::connectedDisplay(1, {0, 0, 1512, 982})});
         world_.setTrust(trust);
         application_.emplace(world_);
     }
@@ -74,6 +73,10 @@ std::vector<std::string> wizardWith(const std::string& state, const std::vector<
 TEST_F(ReadOut, OfTheWizardIsEveryTextAndButtonButNoSymbol) {
     launch(Trust::notListed);
     EXPECT_EQ(elements(), wizardWith("Waiting for permission…", {"Request permission"}));
+}
+
+TEST_F(ReadOut, OfTheWizardIsWhatIsOfferedNext) {
+    launch(Trust::notListed);
     world_.clickButton("Request permission");
     world_.runMainQueue();
     EXPECT_EQ(elements(),

@@ -20,7 +20,6 @@ using testing::ElementsAre;
 class Reopening : public testing::Test {
 protected:
     void launch(Trust trust) {
-        world_.connect({contract::connectedDisplay(1, {0, 0, 1512, 982})});
         world_.setTrust(trust);
         application_.emplace(world_);
     }

@@ -104,12 +104,44 @@ class Setup(DebianTest):
         self.assertEqual(result.returncode, 1)
         self.assertIn("no group is called 'tests'", result.stderr)
 
-    def test_installs_cmake_on_a_mac(self):
+    def mac(self, brew):
         self.program("uname", "echo Darwin")
         self.program("xcode-select", "exit 0")
-        self.program("brew", 'echo "brew $*" >> "$LOG"')
-        result, log = self.set_up("test")
+        self.program("brew", f'echo "brew $*" >> "$LOG"; {brew}')
+
+    def test_installs_cmake_on_a_mac(self):
+        self.mac("exit 0")
+        result, log = self.set_up("run")
         self.assertEqual((result.returncode, log), (0, ["brew install cmake"]))
+
+    def test_installs_googletest_on_a_mac_for_its_tests(self):
+        self.mac("[[ $1 != list ]]")
+        self.program("cmake", "exit 0")
+        result, log = self.set_up("test")
+        self.assertEqual((result.returncode, result.stdout), (0, ""))
+        self.assertEqual(log, ["brew list --versions googletest", "brew install googletest"])
+
+    def test_installs_googletest_on_a_mac_once(self):
+        self.mac("exit 0")
+        self.program("cmake", "exit 0")
+        result, log = self.set_up("test")
+        self.assertEqual((result.returncode, result.stdout), (0, ""))
+        self.assertEqual(log, ["brew list --versions googletest"])
+
+    def test_goes_on_without_googletest_on_a_mac_and_says_so(self):
+        self.mac("exit 1")
+        self.program("cmake", "exit 0")
+        result, _ = self.set_up("test")
+        self.assertEqual(result.returncode, 0)
+        self.assertIn("GoogleTest was not installed; the contract tests and the stories", result.stdout)
+
+    def test_goes_on_without_homebrew_on_a_mac_and_says_so(self):
+        self.program("uname", "echo Darwin")
+        self.program("xcode-select", "exit 0")
+        self.program("cmake", "exit 0")
+        result, _ = self.set_up("test")
+        self.assertEqual(result.returncode, 0)
+        self.assertIn("no Homebrew to install GoogleTest with", result.stdout)
 
     def test_says_what_a_mac_needs(self):
         self.program("uname", "echo Darwin")

@@ -165,6 +165,11 @@ void World::connect(const std::vector<ConnectedDisplay>& displays) {
     setMainDisplay(0);
 }
 
+void World::announceDisplays() {
+    sim::Session& session = state_->session;
+    session.changeDisplays(session.displays().connected());
+}
+
 void World::setMainDisplay(std::optional<std::size_t> index) { state_->session.displays().setMain(index); }
 
 void World::failUUIDStrings() { state_->session.displays().setUUIDStringsFail(true); }

@@ -1,10 +1,11 @@
 // The properties by which a view tells VoiceOver what it is, which GNUstep lacks.
 //
-// This is what we believe the Mac does, and no proof of it: a control that has a cell is represented by that,
-// whatever is said of the view, and every other view by itself.
+// This is what we believe the Mac does, and no proof of it: each view and each cell has its own, and cells
+// and controls are read out unless it is said otherwise.
 #include "tests/gnustep/standins/Accessibility.h"
 
 #include "mac/objc/Text.h"
+#include "tests/gnustep/Objects.h"
 #include "tests/gnustep/standins/Deallocation.h"
 #include "tests/gnustep/standins/Methods.h"
 
@@ -36,17 +37,19 @@ Properties known(id object) {
     return entry != everyone().end() ? entry->second : Properties();
 }
 
-bool isControl(id view) { return send<BOOL>(view, "isKindOfClass:", classNamed("NSControl")) != 0; }
-
-id representativeOf(id view) {
-    const id cell = isControl(view) ? send(view, "cell") : nullptr;
-    return cell != nullptr ? cell : view;
-}
-
 void setAccessibilityLabel(id object, SEL, id label) { propertiesOf(object).label = mac::textOf(label); }
 
 void setAccessibilityElement(id object, SEL, BOOL isElement) {
     propertiesOf(object).isElement = isElement != 0;
+}
+
+id labelOf(id object, SEL) { return objectFor(known(object).label); }
+
+// Unless it was said otherwise, cells and controls are elements and other views are not.
+BOOL isReadOut(id object, SEL) {
+    const bool isOtherView = send<BOOL>(object, "isKindOfClass:", classNamed("NSView")) != 0 &&
+                             send<BOOL>(object, "isKindOfClass:", classNamed("NSControl")) == 0;
+    return mac::truth(known(object).isElement.value_or(!isOtherView));
 }
 
 } // namespace
@@ -55,14 +58,9 @@ void installAccessibility() {
     for (const char* const name : {"NSView", "NSCell"}) {
         addMethod(classNamed(name), "setAccessibilityLabel:", setAccessibilityLabel);
         addMethod(classNamed(name), "setAccessibilityElement:", setAccessibilityElement);
+        addMethod(classNamed(name), "accessibilityLabel", labelOf);
+        addMethod(classNamed(name), "isAccessibilityElement", isReadOut);
     }
-}
-
-std::string accessibilityLabel(id view) { return known(representativeOf(view)).label; }
-
-// A view that is no control stands for what is in it.
-bool isAccessibilityElement(id view) {
-    return known(representativeOf(view)).isElement.value_or(isControl(view));
 }
 
 } // namespace kestrune::gnustep

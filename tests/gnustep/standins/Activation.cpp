@@ -9,10 +9,10 @@
 
 #include "mac/objc/Pool.h"
 #include "platform/MainActor.h"
-#include "tests/gnustep/EventTypes.h"
 #include "tests/gnustep/ShownWindows.h"
 #include "tests/gnustep/standins/Deallocation.h"
 #include "tests/gnustep/standins/Methods.h"
+#include "tests/mac/EventTypes.h"
 
 #include <algorithm>
 

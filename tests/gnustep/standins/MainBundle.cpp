@@ -25,9 +25,9 @@ constexpr std::array<unsigned char, 67> Picture = {
     0xe5, 0x27, 0xde, 0xfc, 0x00, 0x00, 0x00, 0x00, 0x49, 0x45, 0x4e, 0x44, 0xae, 0x42, 0x60, 0x82};
 
 // Never released, as Foundation is not there any more when the process ends.
-id bundle = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+id currentBundle = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
-id mainBundle(id, SEL) { return bundle; }
+id mainBundle(id, SEL) { return currentBundle; }
 
 void writePropertyList(id dictionary, const std::filesystem::path& path) {
     if (send<BOOL>(dictionary, "writeToFile:atomically:", objectFor(path.string()), mac::truth(false)) == 0) {
@@ -74,7 +74,7 @@ void setMainBundle(const contract::BundleFiles& files, const std::string& parent
     for (const std::string& name : files.imageNames) {
         writePicture(resources / (name + ".png"));
     }
-    bundle = send(send(classObject("NSBundle"), "alloc"), "initWithPath:", objectFor(folder.string()));
+    currentBundle = send(send(classObject("NSBundle"), "alloc"), "initWithPath:", objectFor(folder.string()));
 }
 
 } // namespace kestrune::gnustep

@@ -2,9 +2,7 @@
 // something in it asks for that. It stands in for nothing of the Mac's.
 #include "tests/gnustep/standins/RunningApplication.h"
 
-#include "base/Geometry.h"
 #include "mac/Vocabulary.h"
-#include "mac/objc/Block.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
 #include "tests/gnustep/Objects.h"
@@ -22,25 +20,11 @@ struct EndOfProcess {};
 
 bool isEndHeldBack = false; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
-id application() { return mac::appKit.application.sharedApplication(); }
-
-// `run` looks after each event whether it is to stop.
-void stop() {
-    constexpr mac::Unsigned ApplicationDefined = 15;
-    const id event =
-        send(classObject("NSEvent"),
-             "otherEventWithType:location:modifierFlags:timestamp:windowNumber:context:subtype:data1:data2:",
-             ApplicationDefined, Point{}, mac::Unsigned{0}, 0.0, mac::Integer{0}, id{}, short{0},
-             mac::Integer{0}, mac::Integer{0});
-    send<void>(application(), "stop:", id{});
-    send<void>(application(), "postEvent:atStart:", event, mac::truth(true));
-}
-
 void doNothing(id, SEL, id /*timer*/) {}
 
 void doWork(id work, SEL) {
     Subclass<std::function<void()>>::of(work)();
-    stop();
+    native::stopRunning();
 }
 
 // An object whose method is the work, as a block's function may not throw.
@@ -76,19 +60,6 @@ void doSoon(id work) {
 
 } // namespace
 
-void runUntilLaunched(const std::function<void()>& work) {
-    const mac::Pool pool;
-    const mac::Retained nothing = workObject([] {});
-    const Heartbeat heartbeat(nothing.get());
-    // The loop comes after the launch, and does then what was asked for meanwhile.
-    const mac::Block launched([&](id) { doSoon(nothing.get()); });
-    const id center = mac::foundation.notificationCenter.defaultCenter();
-    const id observer = mac::foundation.notificationCenter.addObserver(
-        center, objectFor("NSApplicationDidFinishLaunchingNotification"), nullptr, nullptr, launched.get());
-    work();
-    send<void>(center, "removeObserver:", observer);
-}
-
 void runWork(const std::function<void()>& work) {
     const mac::Pool pool;
     const mac::Retained object = workObject(work);
@@ -96,7 +67,7 @@ void runWork(const std::function<void()>& work) {
     doSoon(object.get());
     isEndHeldBack = true;
     try {
-        mac::appKit.application.run(application());
+        mac::appKit.application.run(mac::appKit.application.sharedApplication());
     } catch (const EndOfProcess&) {
     }
     isEndHeldBack = false;

@@ -22,6 +22,7 @@
 #include "tests/gnustep/standins/Screens.h"
 #include "tests/gnustep/standins/Sparkle.h"
 #include "tests/gnustep/standins/StatusItems.h"
+#include "tests/gnustep/standins/SwitchClicks.h"
 #include "tests/gnustep/standins/Symbols.h"
 #include "tests/gnustep/standins/SystemColors.h"
 #include "tests/gnustep/standins/SystemFonts.h"
@@ -60,6 +61,7 @@ void installStandIns() {
     installSparkle();
     installStatusItems();
     installSymbols();
+    installSwitchClicks();
     installSystemColors();
     installSystemFonts();
     installTemplateImages();

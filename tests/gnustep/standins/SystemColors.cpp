@@ -22,6 +22,9 @@ id color(const ui::Shade& shade) {
 
 id windowBackgroundColor(id, SEL) { return color(ui::WindowBackground.light); }
 
+// GNUstep has no name for the space that most screens have.
+id spaceOfScreens(id colorSpaces, SEL) { return send(colorSpaces, "genericRGBColorSpace"); }
+
 // Whichever of the table's names is asked for.
 id colorOfTheSystem(id, SEL selector) {
     const std::string_view name = sel_getName(selector);
@@ -48,6 +51,7 @@ void installSystemColors() {
             addMethod(colors, name, colorOfTheSystem);
         }
     }
+    addMethod(classOf(classNamed("NSColorSpace")), "sRGBColorSpace", spaceOfScreens);
 }
 
 } // namespace kestrune::gnustep

@@ -26,10 +26,13 @@ void setTemplate(id image, SEL, BOOL isTemplate) {
     whenDeallocated(image, &templates(), [image] { templates().erase(image); });
 }
 
+BOOL isTemplate(id image, SEL) { return mac::truth(templates().contains(image)); }
+
 } // namespace
 
-void installTemplateImages() { addMethod(classNamed("NSImage"), "setTemplate:", setTemplate); }
-
-bool isTemplateImage(id image) { return templates().contains(image); }
+void installTemplateImages() {
+    addMethod(classNamed("NSImage"), "setTemplate:", setTemplate);
+    addMethod(classNamed("NSImage"), "isTemplate", isTemplate);
+}
 
 } // namespace kestrune::gnustep

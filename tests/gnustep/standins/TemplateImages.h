@@ -1,12 +1,8 @@
 // Which images are templates.
 #pragma once
 
-#include "mac/objc/Runtime.h"
-
 namespace kestrune::gnustep {
 
 void installTemplateImages();
-
-bool isTemplateImage(id image);
 
 } // namespace kestrune::gnustep

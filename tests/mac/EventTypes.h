@@ -3,11 +3,11 @@
 
 #include "mac/objc/Runtime.h"
 
-namespace kestrune::gnustep {
+namespace kestrune::native {
 
 inline constexpr mac::Unsigned LeftMouseDown = 1;
 inline constexpr mac::Unsigned LeftMouseUp = 2;
 inline constexpr mac::Unsigned KeyDown = 10;
 inline constexpr mac::Unsigned AppKitDefined = 13;
 
-} // namespace kestrune::gnustep
+} // namespace kestrune::native

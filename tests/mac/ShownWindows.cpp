@@ -1,11 +1,11 @@
-#include "tests/gnustep/ShownWindows.h"
+#include "tests/mac/ShownWindows.h"
 
 #include "mac/Vocabulary.h"
 #include "mac/objc/Text.h"
 #include "platform/Window.h"
-#include "tests/gnustep/EventTypes.h"
-#include "tests/gnustep/Objects.h"
-#include "tests/gnustep/standins/Accessibility.h"
+#include "tests/mac/Accessibility.h"
+#include "tests/mac/EventTypes.h"
+#include "tests/mac/Objects.h"
 
 #include <algorithm>
 
@@ -14,14 +14,16 @@ extern "C" id NSApp;
 // NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" const id NSDefaultRunLoopMode;
 
-namespace kestrune::gnustep {
+namespace kestrune::native {
 
 namespace {
 
 constexpr double BelowTheTop = 8; // points; in a title bar
 
+// Of a class that this platform may lack.
 bool isKindOf(id object, const char* className) {
-    return mac::foundation.object.isKindOfClass(object, classNamed(className)) != 0;
+    const Class type = objc_getClass(className);
+    return type != nullptr && mac::foundation.object.isKindOfClass(object, type) != 0;
 }
 
 bool hasStyle(id window, WindowStyleMask part) {
@@ -76,7 +78,7 @@ std::vector<id> visibleWindows() {
     std::vector<id> windows;
     for (mac::Unsigned index = 0; index < mac::foundation.array.count(list); ++index) {
         const id window = mac::foundation.array.objectAtIndex(list, index);
-        // A miniaturized window has another one in its place, which is its tile.
+        // GNUstep has another window in the place of a miniaturized one, which is its tile.
         const bool isOrdinary = !isKindOf(window, "NSPanel") && !isKindOf(window, "NSMiniWindow");
         if (send<BOOL>(window, "isVisible") != 0 && isOrdinary) {
             windows.push_back(window);
@@ -114,6 +116,17 @@ contract::ShownWindow describeWindow(id window) {
         } else if (isKindOf(view, "NSButton")) {
             shown.buttons.push_back(accessibilityLabel(view));
         }
+    }
+    return shown;
+}
+
+contract::ShownButton describeButton(id button) {
+    contract::ShownButton shown;
+    shown.scaling = static_cast<ImageScaling>(send<mac::Unsigned>(send(button, "cell"), "imageScaling"));
+    shown.toolTip = mac::textOf(send(button, "toolTip"));
+    if (const id image = send(button, "image")) {
+        shown.image = contract::ShownImage{mac::textOf(send(image, "name")),
+                                           send<BOOL>(image, "isTemplate") != 0, send<Size>(image, "size")};
     }
     return shown;
 }
@@ -171,4 +184,4 @@ void forgetEvents() {
     }
 }
 
-} // namespace kestrune::gnustep
+} // namespace kestrune::native

@@ -1,0 +1,8 @@
+// Switches that are clicked by a message.
+#pragma once
+
+namespace kestrune::gnustep {
+
+void installSwitchClicks();
+
+} // namespace kestrune::gnustep
