@@ -133,6 +133,50 @@ class WhatMacsGet(MakefileTest):
         self.assertEqual(calls[calls.index("--label-regex") + 1], "mach")
 
 
+class OnAMac(MakefileTest):
+    """What make would run there, which is Apple's, CMake's, or in the repository."""
+
+    PROGRAMS = {"cmake", "ctest", "rm"}
+    BUILD = 'cmake --build --preset mac --parallel "$(sysctl -n hw.ncpu)" --target all mac-tests'
+
+    def setUp(self):
+        super().setUp()
+        self.program("bin/uname", "echo Darwin")
+
+    def shown(self, target):
+        result = subprocess.run(
+            ["make", "--dry-run", target],
+            cwd=self.folder,
+            env={"PATH": f"{self.root}/bin:/usr/bin:/bin"},
+            capture_output=True,
+            text=True,
+            check=True,
+        )
+        return result.stdout.replace("\\\n", " ").splitlines()
+
+    def test_run_is_two_scripts(self):
+        self.assertEqual(self.shown("run"), ["tools/setup run", 'tools/run --identity "$DEV_IDENTITY"'])
+
+    def test_app_is_two_scripts(self):
+        updates = '--feed-url "$FEED_URL" --public-key "$PUBLIC_KEY"'
+        application = f'tools/app --system Darwin --identity "$IDENTITY" --sparkle "$SPARKLE" {updates}'
+        lines = [" ".join(line.split()) for line in self.shown("app")]
+        self.assertEqual(lines, ["tools/setup app", application])
+
+    def test_test_builds_and_runs_what_a_mac_tests(self):
+        setup, configure, build, run = self.shown("test")
+        self.assertEqual([setup, configure, build], ["tools/setup test", "cmake --preset mac", self.BUILD])
+        self.assertIn("; ctest --test-dir build/mac  --no-tests=error ", run)
+        self.assertTrue(run.endswith("; status=$?; tools/count-tests build/mac/tests.xml && exit $status"))
+
+    def test_begins_with_what_is_there(self):
+        for target in ("run", "app", "test"):
+            for line in self.shown(target):
+                program = line.split()[0]
+                known = program in self.PROGRAMS or os.access(REPOSITORY / program, os.X_OK)
+                self.assertTrue(known, line)
+
+
 class FolderWithASpace(MakefileTest):
     def test_holds_the_results_of_the_tests(self):
         self.assertIn(f"{self.folder}/build/gcc/tests.xml", self.make("test"))

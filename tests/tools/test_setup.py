@@ -109,6 +109,9 @@ class Setup(DebianTest):
         self.program("xcode-select", "exit 0")
         self.program("brew", f'echo "brew $*" >> "$LOG"; {brew}')
 
+    def cmake(self, version):
+        self.program("cmake", f'echo "cmake version {version}"; echo')
+
     def test_installs_cmake_on_a_mac(self):
         self.mac("exit 0")
         result, log = self.set_up("run")
@@ -116,21 +119,21 @@ class Setup(DebianTest):
 
     def test_installs_googletest_on_a_mac_for_its_tests(self):
         self.mac("[[ $1 != list ]]")
-        self.program("cmake", "exit 0")
+        self.cmake("3.25.0")
         result, log = self.set_up("test")
         self.assertEqual((result.returncode, result.stdout), (0, ""))
         self.assertEqual(log, ["brew list --versions googletest", "brew install googletest"])
 
     def test_installs_googletest_on_a_mac_once(self):
         self.mac("exit 0")
-        self.program("cmake", "exit 0")
+        self.cmake("3.25.0")
         result, log = self.set_up("test")
         self.assertEqual((result.returncode, result.stdout), (0, ""))
         self.assertEqual(log, ["brew list --versions googletest"])
 
     def test_goes_on_without_googletest_on_a_mac_and_says_so(self):
         self.mac("exit 1")
-        self.program("cmake", "exit 0")
+        self.cmake("3.25.0")
         result, _ = self.set_up("test")
         self.assertEqual(result.returncode, 0)
         self.assertIn("GoogleTest was not installed; the contract tests and the stories", result.stdout)
@@ -138,7 +141,7 @@ class Setup(DebianTest):
     def test_goes_on_without_homebrew_on_a_mac_and_says_so(self):
         self.program("uname", "echo Darwin")
         self.program("xcode-select", "exit 0")
-        self.program("cmake", "exit 0")
+        self.cmake("3.25.0")
         result, _ = self.set_up("test")
         self.assertEqual(result.returncode, 0)
         self.assertIn("no Homebrew to install GoogleTest with", result.stdout)
@@ -151,8 +154,20 @@ class Setup(DebianTest):
         result, _ = self.set_up()
         self.assertEqual(result.returncode, 1)
         self.assertIn("please install cmake", result.stderr)
-        self.program("cmake", "exit 0")
+        self.cmake("3.25.0")
         self.assertEqual(self.set_up()[0].returncode, 0)
+
+    def test_refuses_a_cmake_on_a_mac_that_is_too_old(self):
+        self.mac("exit 0")
+        for version in ("3.24.4", "2.99", "3.9.1"):
+            with self.subTest(version):
+                self.cmake(version)
+                result, log = self.set_up("run")
+                self.assertEqual((result.returncode, log), (1, []))
+                message = f"tools/setup: cmake {version} is too old; please install 3.25 or later\n"
+                self.assertEqual(result.stderr, message)
+        self.cmake("4.0.2")
+        self.assertEqual(self.set_up("run")[0].returncode, 0)
 
     def test_says_what_another_system_needs(self):
         self.program("uname", "echo FreeBSD")
