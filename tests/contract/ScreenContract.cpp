@@ -31,7 +31,7 @@ TEST(ScreenContract, StartsWithADisplayAtTheOriginThatHasASizeANameAndANumber) {
     const World world;
     const std::vector<Screen> screens = Screen::screens();
     ASSERT_FALSE(screens.empty());
-    const Screen primary = screens.front();
+    const Screen& primary = screens.front();
     EXPECT_EQ(primary.frame().origin, Point());
     EXPECT_GT(primary.frame().width(), 0);
     EXPECT_GT(primary.frame().height(), 0);

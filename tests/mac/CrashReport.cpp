@@ -14,6 +14,7 @@ namespace kestrune::contract {
 
 std::string World::crashReportMessage() const {
     const std::uint64_t message = annotationsForCrashReports.message;
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the annotations hold addresses as numbers.
     return message != 0 ? reinterpret_cast<const char*>(message) : "";
 }
 

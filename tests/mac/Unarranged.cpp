@@ -63,6 +63,7 @@ void World::setLoginItem(AppServiceStatus /*status*/) { cannotArrange(LoginItems
 
 void World::requireApprovalOfLoginItem() { cannotArrange(LoginItems); }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): other worlds keep it.
 void World::refuseLoginItemChanges(std::string /*description*/) { cannotArrange(LoginItems); }
 
 std::vector<std::string> World::loginItemMessages() const { cannotArrange(LoginItems); }
