@@ -49,10 +49,12 @@ class Doorkeeper : public testing::EmptyTestEventListener {
     }
 };
 
-// Around all tests, as GoogleTest's own main function knows nothing of Objective-C.
+// Around all tests, as GoogleTest's own main function knows nothing of Objective-C. What is to die is started
+// anew: Apple's runtime may end a process that was only forked when a class is first used there.
 class Surroundings : public testing::Environment {
     void SetUp() override {
         pool_.emplace();
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
         testing::UnitTest::GetInstance()->listeners().Append(new Doorkeeper);
     }
     void TearDown() override { pool_.reset(); }

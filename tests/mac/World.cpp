@@ -60,8 +60,15 @@ bool isInMainBundle(const BundleFiles& files) {
            });
 }
 
+// Or AppKit asks, after a test in which a process had to die, whether that one's windows are to come back.
+void leaveWindowsBehind(id defaults) {
+    send<void>(defaults, "registerDefaults:",
+               send(classObject("NSDictionary"), "dictionaryWithObject:forKey:", objectFor(true),
+                    objectFor(std::string("ApplePersistenceIgnoreState"))));
+}
+
 // What an earlier test stored.
-void forgetDefaults() {
+void forgetDefaults(id defaults) {
     const std::string identifier = mac::textOf(send(mainBundle(), "bundleIdentifier"));
     if (identifier == "org.kestrune.Kestrune") {
         fatal("A test with the application's own identifier would change the user's settings.");
@@ -69,7 +76,7 @@ void forgetDefaults() {
     const id domain = identifier.empty()
                           ? send(send(classObject("NSProcessInfo"), "processInfo"), "processName")
                           : objectFor(identifier);
-    send<void>(mac::foundation.userDefaults.standardUserDefaults(), "removePersistentDomainForName:", domain);
+    send<void>(defaults, "removePersistentDomainForName:", domain);
 }
 
 // Whether it came about in time.
@@ -96,7 +103,9 @@ World::World(const BundleFiles& bundle) : state_(new State) {
     if (!isInMainBundle(bundle)) {
         cannotArrange("bundle for each test");
     }
-    forgetDefaults();
+    const id defaults = mac::foundation.userDefaults.standardUserDefaults();
+    forgetDefaults(defaults);
+    leaveWindowsBehind(defaults);
     watchStatusItems();
 }
 
