@@ -1,7 +1,7 @@
 #include "mac/hosting/HostedView.h"
 
 #include "mac/Vocabulary.h"
-#include "mac/hosting/ButtonSettings.h"
+#include "mac/hosting/Controls.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/objc/Lifetime.h"
 #include "mac/objc/NewObject.h"

@@ -2,9 +2,8 @@
 
 #include "mac/Vocabulary.h"
 #include "mac/hosting/AttributedText.h"
-#include "mac/hosting/ButtonSettings.h"
+#include "mac/hosting/Controls.h"
 #include "mac/hosting/Symbols.h"
-#include "mac/hosting/SystemControls.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
 

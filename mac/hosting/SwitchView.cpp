@@ -1,9 +1,8 @@
 // Toggles, as the platform's switches.
 #include "mac/Vocabulary.h"
 #include "mac/hosting/Accessibility.h"
-#include "mac/hosting/ButtonSettings.h"
+#include "mac/hosting/Controls.h"
 #include "mac/hosting/ElementViews.h"
-#include "mac/hosting/SystemControls.h"
 #include "mac/vocabulary/Actions.h"
 
 namespace kestrune::mac {

@@ -65,19 +65,19 @@ kestrune_label_mutant(LabelHasAnInsetAtTheLeftAlone WhoseTextLiesInItsFrame "+ 2
 
 # kestrune_size_mutant(NAME FROM TO)
 function(kestrune_size_mutant name from to)
-    kestrune_hosting_mutant(${name} ButtonSettings ControlsOnGNUstep.HaveThePlatformsNumberForEverySize
+    kestrune_hosting_mutant(${name} Controls ControlsOnGNUstep.HaveThePlatformsNumberForEverySize
         "return ${from};" "return ${to};")
 endfunction()
 kestrune_size_mutant(MiniIsSmall 2 1)
 kestrune_size_mutant(SmallIsMini 1 2)
 kestrune_size_mutant(LargeIsRegular 3 0)
 kestrune_size_mutant(RegularIsLarge 0 3)
-kestrune_hosting_mutant(ButtonIsShownInTheRegularSize PushButton
+kestrune_hosting_mutant(ButtonIsShownInTheRegularSize Buttons
     ControlsOnGNUstep.HaveThePlatformsNumberForEverySize
     "setButtonSize(view(), next.size)" "setButtonSize(view(), ui::ControlSize::regular)")
 kestrune_hosting_mutant(SwitchIsShownInTheRegularSize SwitchView
     ControlsOnGNUstep.HaveThePlatformsNumberForEverySize "platformSize(next.size)" "0")
-kestrune_hosting_mutant(ButtonsHaveTheRegularFont ButtonSettings
+kestrune_hosting_mutant(ButtonsHaveTheRegularFont Controls
     ControlsOnGNUstep.SetATitleInTheFontOfTheirSize
     "systemFontSizeForControlSize(platformSize(size))" "systemFontSizeForControlSize(0)")
 kestrune_hosting_mutant(ButtonIsMeasuredInTheRegularSize PlatformMeasurer
@@ -90,23 +90,23 @@ kestrune_hosting_mutant(SwitchIsMeasuredInTheRegularSize PlatformMeasurer
 function(kestrune_button_mutant name file test from to)
     kestrune_hosting_mutant(${name} ${file} ControlsOnGNUstep.${test} "${from}" "${to}")
 endfunction()
-kestrune_button_mutant(NoRoleIsDestructive PushButton AreDestructiveInThatRoleAlone
+kestrune_button_mutant(NoRoleIsDestructive Buttons AreDestructiveInThatRoleAlone
     "next.role == ui::ButtonRole::destructive" "false")
-kestrune_button_mutant(EveryRoleIsDestructive PushButton AreDestructiveInThatRoleAlone
+kestrune_button_mutant(EveryRoleIsDestructive Buttons AreDestructiveInThatRoleAlone
     "next.role == ui::ButtonRole::destructive" "next.role != ui::ButtonRole::none")
-kestrune_button_mutant(CancelIsReturn ButtonView HaveTheKeyOfTheirShortcut "\\x1b" "\\r")
-kestrune_button_mutant(TheDefaultIsEscape ButtonView HaveTheKeyOfTheirShortcut "\\r" "\\x1b")
-kestrune_button_mutant(NoShortcutIsReturn ButtonView HaveTheKeyOfTheirShortcut
+kestrune_button_mutant(CancelIsReturn Buttons HaveTheKeyOfTheirShortcut "\\x1b" "\\r")
+kestrune_button_mutant(TheDefaultIsEscape Buttons HaveTheKeyOfTheirShortcut "\\r" "\\x1b")
+kestrune_button_mutant(NoShortcutIsReturn Buttons HaveTheKeyOfTheirShortcut
     "return \"\";" "return \"\\r\";")
-kestrune_button_mutant(BezelIsRound SystemControls DrawABorderedButtonWithThePlatformsBezel
+kestrune_button_mutant(BezelIsRound Controls DrawABorderedButtonWithThePlatformsBezel
     "Push = 1;" "Push = 2;")
-kestrune_button_mutant(DrawnButtonHasABorder DrawnButton DrawNoBorderAroundAButtonThatBringsItsLook
+kestrune_button_mutant(DrawnButtonHasABorder Buttons DrawNoBorderAroundAButtonThatBringsItsLook
     "setBordered(view(), truth(false))" "setBordered(view(), truth(true))")
-kestrune_button_mutant(DrawnButtonStaysPressed DrawnButton AreButtonsThatGoBackWhenTheyAreLetGo
+kestrune_button_mutant(DrawnButtonStaysPressed Buttons AreButtonsThatGoBackWhenTheyAreLetGo
     "setButtonType(view(), MomentaryPushIn)" "setButtonType(view(), 1)")
-kestrune_button_mutant(BorderedButtonStaysPressed SystemControls AreButtonsThatGoBackWhenTheyAreLetGo
+kestrune_button_mutant(BorderedButtonStaysPressed Controls AreButtonsThatGoBackWhenTheyAreLetGo
     "setButtonType(button, MomentaryPushIn)" "setButtonType(button, 1)")
-kestrune_button_mutant(DrawnButtonIsThePictureOfALayer DrawnButton
+kestrune_button_mutant(DrawnButtonIsThePictureOfALayer Buttons
     DrawNoBorderAroundAButtonThatBringsItsLook
     "wantsUpdateLayer(id, SEL) noexcept { return truth(false); }"
     "wantsUpdateLayer(id, SEL) noexcept { return truth(true); }")
@@ -152,17 +152,17 @@ kestrune_picture_mutant(MaskHasSharpCorners Drawing FillAShapeAtItsPlaceWithRoun
 ")
 kestrune_picture_mutant(ShapeIsAlwaysPrimary Drawing FillAShapeAtItsPlaceWithRoundCorners
     "colorWithOpacity(element.fill," "colorWithOpacity(ui::Color::primary,")
-kestrune_picture_mutant(PressedLinkHasTheOpacityOfAButton DrawnButton
+kestrune_picture_mutant(PressedLinkHasTheOpacityOfAButton Buttons
     DrawAShapeOfALinkAsTransparentAsBothSay "PressedLinkOpacity = 0.55" "PressedLinkOpacity = 0.75")
-kestrune_picture_mutant(FocusRingIsNeverTheShape DrawnButton DrawTheFocusRingAroundTheShapeOfAButton
+kestrune_picture_mutant(FocusRingIsNeverTheShape Buttons DrawTheFocusRingAroundTheShapeOfAButton
     "shape != body.end()" "false")
-kestrune_picture_mutant(FocusRingNeedsAShape DrawnButton DrawTheFocusRingAroundAllOfAButtonWithoutAShape
+kestrune_picture_mutant(FocusRingNeedsAShape Buttons DrawTheFocusRingAroundAllOfAButtonWithoutAShape
     "        whole.frame = self->shown()->frame;
 " "")
-kestrune_picture_mutant(FocusRingHasNoBounds DrawnButton DrawTheFocusRingAroundTheShapeOfAButton
+kestrune_picture_mutant(FocusRingHasNoBounds Buttons DrawTheFocusRingAroundTheShapeOfAButton
     "            type.addMethod(appKit.view.focusRingMaskBounds, focusRingMaskBounds);
 " "")
-kestrune_picture_mutant(ButtonIsNotDrawnAgain DrawnButton DrawAButtonAgainWhenWhatItShowsIsAnother
+kestrune_picture_mutant(ButtonIsNotDrawnAgain Buttons DrawAButtonAgainWhenWhatItShowsIsAnother
     "appKit.view.setNeedsDisplay(view(), truth(true));" "")
 
 # kestrune_shape_mutant(NAME FILE TEST FROM TO): found by the pixels that a window shows.

@@ -1,12 +1,21 @@
-// What buttons and switches have in common.
+// The platform's push button and switch, as they are made, measured and told apart.
 #pragma once
 
+#include "mac/objc/Retained.h"
 #include "mac/objc/Runtime.h"
 #include "ui/Style.h"
 
 #include <cstddef>
 
 namespace kestrune::mac {
+
+// A button that goes back when it is let go.
+inline constexpr Unsigned MomentaryPushIn = 7; // NSButtonTypeMomentaryPushIn
+
+// Without a title.
+Retained newPushButton();
+
+Retained newSwitch();
 
 // As NSControlSize.
 Unsigned platformSize(ui::ControlSize size);

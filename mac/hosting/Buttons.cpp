@@ -1,12 +1,14 @@
-// Buttons whose look comes with the scene: custom ones and links. The platform tracks the mouse and the keys,
-// highlights the cell while the button is pressed, and draws the ring around the one that has the focus.
+// The scene's buttons: bordered ones, which the platform draws, and those whose look comes with the scene.
 #include "mac/Vocabulary.h"
-#include "mac/hosting/ButtonView.h"
+#include "mac/hosting/Accessibility.h"
+#include "mac/hosting/Controls.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
+#include "mac/objc/Text.h"
+#include "mac/vocabulary/Actions.h"
 
 #include <algorithm>
 
@@ -16,6 +18,73 @@ namespace {
 
 constexpr double PressedLinkOpacity = 0.55;
 
+// As characters of key equivalents.
+const char* keyOf(ui::KeyboardShortcut shortcut) {
+    switch (shortcut) {
+    case ui::KeyboardShortcut::defaultAction:
+        return "\r";
+    case ui::KeyboardShortcut::cancelAction:
+        return "\x1b";
+    case ui::KeyboardShortcut::none:
+        break;
+    }
+    return "";
+}
+
+// What both kinds have in common. Sends `pressButton:` to the target that it was connected to, which it does
+// not retain.
+class ButtonView : public ViewOf<ui::ButtonElement> {
+public:
+    bool isControl() const override { return true; }
+
+protected:
+    using ViewOf::ViewOf;
+
+    // Once the button has its cell, which is what keeps target and action.
+    void connect(id target) {
+        appKit.control.setTarget(view(), target);
+        appKit.control.setAction(view(), actions::pressButton.selector());
+    }
+
+    // Title, key and action; frame and look are each kind's own.
+    void update(const ui::ButtonElement& next) override {
+        if (differs(next, &ui::ButtonElement::title)) {
+            appKit.button.setTitle(view(), nsString(next.title).get());
+            setAccessibilityLabel(view(), next.title);
+        }
+        if (differs(next, &ui::ButtonElement::shortcut)) {
+            appKit.button.setKeyEquivalent(view(), nsString(keyOf(next.shortcut)).get());
+        }
+        mac::setAction(view(), next.action);
+    }
+
+private:
+    bool isSame(const ui::ButtonElement& before, const ui::ButtonElement& next) const override {
+        return before.kind == next.kind && before.title == next.title;
+    }
+};
+
+class PushButton : public ButtonView {
+public:
+    explicit PushButton(id target) : ButtonView(newPushButton()) { connect(target); }
+
+private:
+    void update(const ui::ButtonElement& next) override {
+        ButtonView::update(next);
+        if (differs(next, &ui::ButtonElement::size)) {
+            setButtonSize(view(), next.size);
+        }
+        if (differs(next, &ui::ButtonElement::role)) {
+            appKit.button.setHasDestructiveAction(view(), truth(next.role == ui::ButtonRole::destructive));
+        }
+        if (differs(next, &ui::ButtonElement::frame)) {
+            appKit.view.setFrame(view(), appKit.view.frameForAlignmentRect(view(), next.frame));
+        }
+    }
+};
+
+// A custom button or a link. The platform tracks the mouse and the keys, highlights the cell while the button
+// is pressed, and draws the ring around the one that has the focus.
 class DrawnButton : public ButtonView {
 public:
     explicit DrawnButton(id target)
@@ -107,6 +176,8 @@ private:
 };
 
 } // namespace
+
+std::unique_ptr<ElementView> makePushButton(id target) { return std::make_unique<PushButton>(target); }
 
 std::unique_ptr<ElementView> makeDrawnButton(id target) { return std::make_unique<DrawnButton>(target); }
 
