@@ -6,23 +6,8 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
-#include <utility>
 
 namespace kestrune {
-
-// A retained task that sleeps before its work. It goes on without whoever started it.
-class SleepingTask {
-public:
-    // Ends the sleep; the work is done at once, as it is none of the work's business why it may begin.
-    void cancel();
-
-    struct State;
-    explicit SleepingTask(std::shared_ptr<State> state) : state_(std::move(state)) {}
-
-private:
-    std::shared_ptr<State> state_;
-};
 
 class MainActor {
 public:
@@ -31,8 +16,8 @@ public:
     static void startTask(std::function<void()> body);
 
     // The same, but before `body` it sleeps, on the continuous clock, which goes on while the computer
-    // sleeps, and ignores that the sleep was cancelled.
-    static SleepingTask startTask(std::chrono::milliseconds sleep, std::function<void()> body);
+    // sleeps. Nobody can cancel it.
+    static void startTask(std::chrono::milliseconds sleep, std::function<void()> body);
 
     // +[NSThread isMainThread]: whether the caller is where the main actor's work may be done.
     static bool isCurrent();

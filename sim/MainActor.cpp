@@ -12,40 +12,12 @@ void MainActor::startTask(std::function<void()> body) {
     session.enqueueOnMainQueue(std::move(body));
 }
 
-struct SleepingTask::State {
-    std::function<void()> work; // empty once it has begun
-    bool isAsleep = false;
-    bool isCancelled = false;
-
-    void wake() {
-        isAsleep = false;
-        if (const auto begun = std::exchange(work, nullptr)) {
-            begun();
-        }
-    }
-};
-
-// A task that is cancelled before it sleeps does not fall asleep.
-SleepingTask MainActor::startTask(std::chrono::milliseconds sleep, std::function<void()> body) {
-    auto state = std::make_shared<SleepingTask::State>();
-    state->work = std::move(body);
-    startTask([state, sleep] {
+void MainActor::startTask(std::chrono::milliseconds sleep, std::function<void()> body) {
+    startTask([sleep, body = std::move(body)] {
         sim::Session& session = sim::Session::current();
         session.journal().record("Task.sleep(for: ", sleep.count(), " ms, clock: .continuous)");
-        state->isAsleep = true;
-        const auto duration = state->isCancelled ? sim::Duration::zero() : sim::Duration(sleep);
-        session.enqueueOnMainQueue([state] { state->wake(); }, duration);
+        session.enqueueOnMainQueue(body, sleep);
     });
-    return SleepingTask(state);
-}
-
-void SleepingTask::cancel() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[Task cancel]");
-    state_->isCancelled = true;
-    if (state_->isAsleep) {
-        session.enqueueOnMainQueue([state = state_] { state->wake(); });
-    }
 }
 
 bool MainActor::isCurrent() {

@@ -11,25 +11,6 @@ kestrune_mutant(MissingImageIsThere FILE mac/Image.cpp ${CONTRACT}
 set(SLEEP FILE mac/MainActor.cpp ${CONTRACT})
 kestrune_mutant(SleepEndsAtOnce ${SLEEP} TEST SleepingTaskContract.WorksWhenItHasSleptAndNotBefore
     FROM "delay.count()" TO "0")
-kestrune_mutant(CancellingDoesNotWake ${SLEEP} TEST SleepingTaskContract.WorksAtOnceWhenItsSleepIsCancelled
-    FROM "    if (state_->isAsleep) {" TO "    if (false) {")
-kestrune_mutant(CancellingIsNotRemembered ${SLEEP}
-    TEST SleepingTaskContract.DoesNotFallAsleepWhenItWasCancelledBefore
-    FROM "    state_->isCancelled = true;
-" TO "")
-kestrune_mutant(TaskNeverFallsAsleep ${SLEEP} TEST SleepingTaskContract.WorksAtOnceWhenItsSleepIsCancelled
-    FROM "        state->isAsleep = true;
-" TO "")
-kestrune_mutant(TaskWorksTwice ${SLEEP} TEST SleepingTaskContract.WorksAtOnceWhenItsSleepIsCancelled
-    FROM "std::exchange(work, nullptr)" TO "work")
-
-kestrune_mutant(TaskThatIsAwakeIsWokenAgain FILE mac/MainActor.cpp ${VIEWS}
-    TEST SleepingTaskOnGNUstep.IsNotWokenAfterItsWork
-    FROM "        isAsleep = false;
-" TO "")
-kestrune_mutant(TaskIsWokenBeforeItSleeps FILE mac/MainActor.cpp ${VIEWS}
-    TEST SleepingTaskOnGNUstep.IsNotWokenBeforeItSleeps
-    FROM "if (state_->isAsleep)" TO "if (true)")
 
 set(ENCODING FILE mac/objc/TypeEncoding.cpp ${SELF_CHECK} TEST TypeEncoding.GivesEveryScalarOneLetter)
 kestrune_mutant(LongStaysLong ${ENCODING} FROM "return \"q\";" TO "return \"l\";")

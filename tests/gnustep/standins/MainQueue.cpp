@@ -13,8 +13,6 @@
 #include "mac/objc/Retained.h"
 #include "tests/gnustep/standins/Subclass.h"
 
-#include <atomic>
-
 // AppKit's names of the modes in which the user is waited for.
 extern "C" {
 extern const id NSEventTrackingRunLoopMode;
@@ -30,9 +28,6 @@ namespace kestrune::gnustep {
 namespace {
 
 constexpr double NanosecondsPerSecond = 1e9;
-
-// Whoever dispatches may do it on any thread.
-std::atomic<unsigned> dispatches = 0; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 id commonModes() {
     return send(classObject("NSArray"), "arrayWithObjects:", NSDefaultRunLoopMode, NSEventTrackingRunLoopMode,
@@ -83,8 +78,6 @@ id mainQueue(id, SEL) {
 
 } // namespace
 
-unsigned dispatchedTasks() { return dispatches; }
-
 void installMainQueue() { replaceMethod(classOf(classNamed("NSOperationQueue")), "mainQueue", mainQueue); }
 
 // NOLINTBEGIN(readability-identifier-naming): the names are the platform's.
@@ -93,7 +86,6 @@ extern "C" {
 dispatch_queue_s _dispatch_main_q;
 
 void dispatch_async_f(dispatch_queue_s* /*queue*/, void* context, void (*work)(void* context)) {
-    ++dispatches;
     perform(dispatchedWork(context, work).get(), "run:", nullptr);
 }
 
