@@ -54,7 +54,7 @@ kestrune_mutant(WhatIsMissingIsNamedEachTime FILE mac/objc/Missing.cpp ${APPLICA
     FROM "logged.insert(text).second" TO "true")
 kestrune_mutant(MissingClassIsNotNamed FILE mac/objc/Message.cpp ${APPLICATION}
     TEST WhatIsMissing.IsNilAndNamedOnceAsAClass
-    FROM "        logOnce(MissingClass, name());
+    FROM "        logMissingClass(name());
 " TO "")
 kestrune_mutant(MissingMethodIsSent FILE mac/objc/Message.cpp ${APPLICATION}
     TEST WhatIsMissing.GivesZeroAndIsNamedOnceAsAMethod
