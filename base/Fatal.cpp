@@ -16,7 +16,7 @@ constinit FatalErrorReporter* theReporter = nullptr;
 [[noreturn]] void endWith(const std::string& line) {
     std::fprintf(stderr, "%s\n", line.c_str());
     static std::atomic_flag isTold;
-    if (theReporter != nullptr && !isTold.test_and_set()) {
+    if (theReporter != nullptr && *theReporter && !isTold.test_and_set()) {
         (*theReporter)(line);
     }
     std::abort();
@@ -33,7 +33,8 @@ void fatal(std::string_view message, std::string_view sourcePath) noexcept {
 }
 
 void setFatalErrorReporter(FatalErrorReporter reporter) {
-    delete std::exchange(theReporter, reporter ? new FatalErrorReporter(std::move(reporter)) : nullptr);
+    auto* const next = new FatalErrorReporter(std::move(reporter));
+    delete std::exchange(theReporter, next);
 }
 
 } // namespace kestrune

@@ -23,7 +23,7 @@ id ClassReference::object() const {
     }
     const id found = reinterpret_cast<id>(find());
     if (found == nullptr) {
-        logOnce(MissingClass, name());
+        logMissingClass(name());
     }
     object_.store(found, std::memory_order_relaxed);
     return found;
@@ -40,7 +40,7 @@ SEL MessageDeclaration::registerSelector() const {
 bool MessageDeclaration::hasMethod(id receiver) const {
     const Class type = object_getClass(receiver);
     if (class_getInstanceMethod(type, selector()) == nullptr && !answersFor(receiver, selector())) {
-        logOnce(MissingMethod, methodName(kind_, object_getClassName(receiver), selectorName_));
+        logMissingMethod(methodName(kind_, object_getClassName(receiver), selectorName_));
         return false;
     }
     lastReceiver_.store(type, std::memory_order_relaxed);
@@ -53,7 +53,7 @@ bool MessageDeclaration::isImplementedBy(Class type) const {
     }
     // A class has the name of its metaclass.
     const id object = reinterpret_cast<id>(type);
-    logOnce(MissingMethod, methodName(kind_, object_getClassName(object), selectorName_));
+    logMissingMethod(methodName(kind_, object_getClassName(object), selectorName_));
     return false;
 }
 

@@ -6,6 +6,13 @@
 
 namespace kestrune::mac {
 
+namespace {
+
+constexpr LogFormat MissingClass = LogFormat::of<"There is no class %{public}s at run time">();
+constexpr LogFormat MissingMethod = LogFormat::of<"There is no method %{public}s at run time">();
+
+} // namespace
+
 // A text is known before it is logged, as the log's own messages may be what is missing.
 void logOnce(LogFormat format, const std::string& text) {
     static std::unordered_set<std::string> logged;
@@ -13,5 +20,9 @@ void logOnce(LogFormat format, const std::string& text) {
         Log(Bundle::mainBundle().bundleIdentifier().value_or(""), "app").error(format, text);
     }
 }
+
+void logMissingClass(const std::string& name) { logOnce(MissingClass, name); }
+
+void logMissingMethod(const std::string& name) { logOnce(MissingMethod, name); }
 
 } // namespace kestrune::mac

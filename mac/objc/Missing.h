@@ -7,10 +7,10 @@
 
 namespace kestrune::mac {
 
-inline constexpr LogFormat MissingClass = LogFormat::of<"There is no class %{public}s at run time">();
-inline constexpr LogFormat MissingMethod = LogFormat::of<"There is no method %{public}s at run time">();
-
-// One error in the log for each text. On the main thread.
+// One error in the log for each text. On the main thread. A format lies in the program once for each file
+// that has it.
 void logOnce(LogFormat format, const std::string& text);
+void logMissingClass(const std::string& name);
+void logMissingMethod(const std::string& name);
 
 } // namespace kestrune::mac

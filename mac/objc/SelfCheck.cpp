@@ -98,14 +98,11 @@ void logWhatDiffers(std::span<const Framework* const> frameworks) {
     SelfCheckResult result = checkVocabulary(frameworks);
     std::erase_if(result.missingMethods,
                   [&result](const std::string& name) { return isOfOneOf(result.missingClasses, name); });
-    const auto log = [](LogFormat format, const std::vector<std::string>& names) {
-        for (const std::string& name : names) {
-            logOnce(format, name);
-        }
-    };
-    log(MissingClass, result.missingClasses);
-    log(MissingMethod, result.missingMethods);
-    log(AnotherEncoding, result.differences);
+    std::for_each(result.missingClasses.begin(), result.missingClasses.end(), logMissingClass);
+    std::for_each(result.missingMethods.begin(), result.missingMethods.end(), logMissingMethod);
+    for (const std::string& name : result.differences) {
+        logOnce(AnotherEncoding, name);
+    }
 }
 
 } // namespace kestrune::mac

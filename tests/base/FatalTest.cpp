@@ -37,6 +37,12 @@ TEST(FatalDeathTest, TellsTheReporterTheSameLine) {
     setFatalErrorReporter({});
 }
 
+TEST(FatalDeathTest, TellsNobodyAfterTheReporterWasTakenBack) {
+    setFatalErrorReporter(say);
+    setFatalErrorReporter({});
+    EXPECT_EXIT(fatal("first"), testing::KilledBySignal(SIGABRT), "^Fatal error: first\n$");
+}
+
 TEST(FatalDeathTest, TellsNobodyOfWhatIsFatalInTheReporter) {
     setFatalErrorReporter([](const std::string& line) { fatal("Second to " + line); });
     EXPECT_EXIT(fatal("first"), testing::KilledBySignal(SIGABRT),

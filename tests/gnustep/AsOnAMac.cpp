@@ -18,6 +18,9 @@
 
 namespace kestrune::gnustep {
 
+using native::preparation;
+using native::systemVersionFile;
+
 namespace {
 
 void writeSystemVersion() {

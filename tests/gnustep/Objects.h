@@ -1,10 +1,12 @@
 // Plain values as objects, under the harness's namespace.
 #pragma once
 
+#include "tests/gnustep/Send.h"
 #include "tests/mac/Objects.h"
 
 namespace kestrune::gnustep {
 
-using namespace native;
+using native::errorFor;
+using native::objectFor;
 
 } // namespace kestrune::gnustep

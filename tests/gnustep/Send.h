@@ -5,6 +5,8 @@
 
 namespace kestrune::gnustep {
 
-using namespace native;
+using native::classNamed;
+using native::classObject;
+using native::send;
 
 } // namespace kestrune::gnustep

@@ -5,6 +5,16 @@
 
 namespace kestrune::gnustep {
 
-using namespace native;
+using native::buttonNamed;
+using native::click;
+using native::clickTitleBar;
+using native::describeButton;
+using native::describeWindow;
+using native::forgetEvents;
+using native::hasWindowOnScreenOrInDock;
+using native::highlight;
+using native::pressKeyInWindow;
+using native::viewsIn;
+using native::visibleWindows;
 
 } // namespace kestrune::gnustep

@@ -41,6 +41,9 @@ extern id NSApp;
 namespace kestrune::contract {
 
 using namespace gnustep;
+using native::itemsOf;
+using native::OpenMenu;
+using native::rowOf;
 
 namespace {
 

@@ -5,7 +5,8 @@
 
 namespace kestrune::gnustep {
 
-using namespace native;
+using native::accessibilityLabel;
+using native::isAccessibilityElement;
 
 void installAccessibility();
 

@@ -21,6 +21,9 @@ extern "C" id NSApp;
 
 namespace kestrune::gnustep {
 
+using native::AppKitDefined;
+using native::LeftMouseDown;
+
 namespace {
 
 constexpr short FocusIn = 5;
