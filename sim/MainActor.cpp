@@ -14,11 +14,11 @@ void MainActor::startTask(std::function<void()> body) {
 
 struct SleepingTask::State {
     std::function<void()> work; // empty once it has begun
-    bool isAsleep = false;
+    bool hasFallenAsleep = false;
     bool isCancelled = false;
 
+    // Does nothing to one that has woken up before.
     void wake() {
-        isAsleep = false;
         if (const auto begun = std::exchange(work, nullptr)) {
             begun();
         }
@@ -32,7 +32,7 @@ SleepingTask MainActor::startTask(std::chrono::milliseconds sleep, std::function
     startTask([state, sleep] {
         sim::Session& session = sim::Session::current();
         session.journal().record("Task.sleep(for: ", sleep.count(), " ms, clock: .continuous)");
-        state->isAsleep = true;
+        state->hasFallenAsleep = true;
         const auto duration = state->isCancelled ? sim::Duration::zero() : sim::Duration(sleep);
         session.enqueueOnMainQueue([state] { state->wake(); }, duration);
     });
@@ -43,7 +43,7 @@ void SleepingTask::cancel() {
     sim::Session& session = sim::Session::current();
     session.journal().record("-[Task cancel]");
     state_->isCancelled = true;
-    if (state_->isAsleep) {
+    if (state_->hasFallenAsleep) {
         session.enqueueOnMainQueue([state = state_] { state->wake(); });
     }
 }

@@ -51,10 +51,10 @@ kestrune_mutant(RemovedViewIsNotKeptForThisTurn FILE mac/hosting/SceneView.cpp $
 
 kestrune_mutant(WhatIsMissingIsNamedEachTime FILE mac/objc/Missing.cpp ${APPLICATION}
     TEST WhatIsMissing.GivesZeroAndIsNamedOnceAsAMethod
-    FROM "logged.insert(name).second" TO "true")
+    FROM "logged.insert(text).second" TO "true")
 kestrune_mutant(MissingClassIsNotNamed FILE mac/objc/Message.cpp ${APPLICATION}
     TEST WhatIsMissing.IsNilAndNamedOnceAsAClass
-    FROM "        logMissing(MissingClass, name());
+    FROM "        logOnce(MissingClass, name());
 " TO "")
 kestrune_mutant(MissingMethodIsSent FILE mac/objc/Message.cpp ${APPLICATION}
     TEST WhatIsMissing.GivesZeroAndIsNamedOnceAsAMethod

@@ -33,6 +33,7 @@ class MakefileTest(TreeTest):
         self.program("a folder/tools/setup", 'echo "setup $*" >> "$LOG"')
         self.program("a folder/tools/app", 'echo "app $*" >> "$LOG"')
         self.program("a folder/tools/check", 'echo "check $*" >> "$LOG"')
+        self.program("a folder/tests/mutants/by_rule", 'echo "by_rule $*" >> "$LOG"')
         self.program("a folder/tools/count-tests", 'echo "count-tests $*" >> "$LOG"')
         self.program("a folder/build/gcc/desk/kestrune-desk", 'echo "desk $*" >> "$LOG"')
 
@@ -131,6 +132,19 @@ class WhatMacsGet(MakefileTest):
         before_the_tests = calls[calls.index("ctest") - 4 : calls.index("ctest")]
         self.assertEqual(before_the_tests, [self.APP, *self.OTHERS, programs])
         self.assertEqual(calls[calls.index("--label-regex") + 1], "mach")
+
+
+class Mutants(MakefileTest):
+    def test_are_those_somebody_thought_of_and_some_by_rule(self):
+        calls = self.make("mutants")
+        self.assertIn("cmake --build build/mutants --target mistakes", calls)
+        self.assertEqual(calls[calls.index("--label-regex") + 1], "mistakes")
+        self.assertEqual(calls[-1], "by_rule --build build/mutants --seed 1 --count 30")
+
+    def test_are_made_in_a_folder_by_rule_alone(self):
+        calls = self.make("mutants", "FOLDER=a folder", "SEED=7", "COUNT=all")
+        self.assertNotIn("ctest", calls)
+        self.assertEqual(calls[-1], "by_rule --build build/mutants --seed 7 --count all a folder")
 
 
 class FolderWithASpace(MakefileTest):
