@@ -6,7 +6,6 @@ option(KESTRUNE_PRECOMPILE "Compile the headers of libraries once for many files
 set(KESTRUNE_LIBRARY_HEADERS
     <algorithm> <array> <functional> <map> <memory> <optional> <span> <string> <string_view> <utility>
     <variant> <vector>)
-set(KESTRUNE_TEST_HEADERS ${KESTRUNE_LIBRARY_HEADERS} <gmock/gmock.h> <gtest/gtest.h>)
 
 # kestrune_precompile(TARGET KIND HEADER...): targets of a kind are compiled alike.
 function(kestrune_precompile target kind)
