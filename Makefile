@@ -4,8 +4,9 @@ SEED ?= 1
 SEEDS ?= 1000
 RUNS ?= 200
 FUZZ_SECONDS ?= 30
-FOLDER ?= mac
-COUNT ?= 100
+# Of random mistakes: how many in each group of folders, and in which other folder than all of them.
+COUNT ?= 30
+FOLDER ?=
 # ON where a commit is proved. Elsewhere the next compiler may warn of what is right, and nobody is stopped.
 WARNINGS_AS_ERRORS ?= OFF
 
@@ -54,7 +55,8 @@ help:
 	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
 	@echo "make first-run           the wizard's story, simulated, on GNUstep and as Macs get it, step by step"
 	@echo "make soak                RUNS=$(RUNS) times all tests on GNUstep, four runs at a time"
-	@echo "make mutants             COUNT=$(COUNT) random mistakes in FOLDER=$(FOLDER), and which tests find"
+	@echo "make mutants             every deliberate mistake, and COUNT=$(COUNT) or all random ones in the"
+	@echo "                         application, simulation and binding, or FOLDER; tests have to find them"
 	@echo "make fuzz                every fuzzer for FUZZ_SECONDS=$(FUZZ_SECONDS) seconds"
 	@echo "make coverage            line and branch coverage of Kestrune/, base/ and ui/; fails under 100 %"
 	@echo "make clean               remove everything that was built"
@@ -158,12 +160,19 @@ soak:
 	$(build-for-macs)
 	@tests/gnustep/soak $(DIR)/tests/gnustep $(RUNS)
 
-# It builds only the tests that can judge the folder.
+# The mistakes that somebody has thought of, unless a folder is named, and those made by rule. Of the tests
+# only what can judge them is built.
 mutants: override PRESET = mutants
 mutants:
+ifeq ($(strip $(FOLDER)),)
+	$(call build,mutants,mistakes)
+	$(call run-tests,--label-regex mistakes)
+	@tests/mutants/by_rule --build $(DIR) --seed "$(SEED)" --count "$(COUNT)"
+else
 	@tools/setup mutants $(PRESET)
 	$(configure)
 	@tests/mutants/by_rule --build $(DIR) --seed "$(SEED)" --count "$(COUNT)" "$(FOLDER)"
+endif
 
 fuzz: override PRESET = fuzz
 fuzz:

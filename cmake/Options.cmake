@@ -2,8 +2,8 @@
 option(KESTRUNE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(KESTRUNE_COVERAGE "Build with gcov instrumentation" OFF)
 option(KESTRUNE_JOIN "Compile files several at a time, but for those of the application" OFF)
-option(KESTRUNE_BINDING_MUTANTS
-    "Build the deliberate mistakes that tests of the binding must find, and the binding file by file" OFF)
+option(KESTRUNE_MUTANTS
+    "Build deliberate mistakes, each of which must be found, and file by file what they are made in" OFF)
 
 add_library(kestrune_options INTERFACE)
 target_compile_features(kestrune_options INTERFACE cxx_std_20)
@@ -41,13 +41,19 @@ if(KESTRUNE_COVERAGE)
     target_link_options(kestrune_options INTERFACE --coverage)
 endif()
 
-# For a folder whose files take most of their time for headers. The application's stay apart, as each of them
-# may be replaced by one with a deliberate mistake.
+# For a folder whose files take most of their time for headers.
 macro(kestrune_join)
     if(KESTRUNE_JOIN)
         set(CMAKE_UNITY_BUILD ON)
         set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
         # A test of a file that is included derives from what only that file knows.
         add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+    endif()
+endmacro()
+
+# The same for a folder of which a file may be replaced by one with a mistake.
+macro(kestrune_join_unless_mutated)
+    if(NOT KESTRUNE_MUTANTS)
+        kestrune_join()
     endif()
 endmacro()

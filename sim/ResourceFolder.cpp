@@ -19,11 +19,9 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view DoubleDensity = "@2x";
 
+// Without the file the table is empty, as of one that says nothing.
 std::optional<std::string> loadStrings(const fs::path& path, BundleContents& contents) {
     std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        return std::nullopt;
-    }
     const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     auto table = readStringsTable(text);
     if (const auto* error = std::get_if<StringsTableError>(&table)) {

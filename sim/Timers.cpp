@@ -67,9 +67,10 @@ void Timers::invalidate(Timer::State& timer) {
 }
 
 void Timers::enterDefaultMode() {
-    if (otherModes_ > 0 && --otherModes_ > 0) {
-        return;
+    if (otherModes_ > 0) {
+        --otherModes_;
     }
+    // In another mode still, each is missed again.
     for (const auto& timer : std::exchange(missed_, {})) {
         fire(timer);
     }

@@ -15,7 +15,7 @@ std::size_t endOfBold(std::string_view text, std::size_t start) {
     }
     std::size_t end = text.find(Mark, start + 1);
     while (end != std::string_view::npos && isSpace(text[end - 1])) {
-        end = text.find(Mark, end + 1);
+        end = text.find(Mark, end + Mark.size());
     }
     return end;
 }

@@ -24,10 +24,10 @@ protected:
     explicit SettingsForm(sim::BundleContents bundle = bundleOfVersion("2.1", "57"))
         : SettingsFixture(std::move(bundle)) {}
 
-    ui::Rendering layOut() {
+    ui::Rendering layOut(const ui::ProposedSize& offered = {}) {
         const ui::LayoutContext context{measurer, [this](std::string_view key) { return translation(key); },
                                         [](std::string_view text) { return std::string(text); }};
-        return ui::layOut(SettingsView{model}.body(), {}, context);
+        return ui::layOut(SettingsView{model}.body(), offered, context);
     }
 
     std::string translation(std::string_view key) {
@@ -87,6 +87,13 @@ TEST_F(SettingsForm, IsAsWideWithLongTexts) {
     const ui::Rendering longer = layOut();
     EXPECT_EQ(longer.scene.size.width, 440);
     EXPECT_GE(longer.scene.size.height, height);
+}
+
+TEST_F(SettingsForm, IsAsLargeAsItsContentsWhateverItIsOffered) {
+    const ui::Scene wanted = layOut().scene;
+    for (const double height : {0.0, 100.0, 1000.0}) {
+        EXPECT_EQ(layOut({.width = 200, .height = height}).scene, wanted) << height;
+    }
 }
 
 TEST_F(SettingsForm, ShowsTheStateOfItsModel) {

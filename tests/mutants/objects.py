@@ -8,12 +8,17 @@ import collections
 import filecmp
 import functools
 import pathlib
+import re
 import shlex
 import subprocess
 
 import judging
 
 SECONDS_TO_COMPILE = 300
+# Of an object of several files that are compiled as one, in those of a small file.
+JOINED_EFFORT = 8
+# What the linker says, asked twice, of a member that it takes out of an archive.
+MEMBER = re.compile(r"^\((?P<archive>.*)\)(?P<member>.*)$", re.MULTILINE)
 
 
 class DoesNotCompile(Exception):
@@ -21,21 +26,37 @@ class DoesNotCompile(Exception):
 
 
 class Program:
-    """A test program: where it is, how it is linked, and how the objects are compiled that it needs."""
+    """A test program: where it is, how it is linked, and how the objects are compiled that it is made of."""
 
-    def __init__(self, commands):
+    def __init__(self, folder, commands):
         *before, last = [shlex.split(line) for line in commands.splitlines()]
         # Between a command that does nothing and what finds the program's tests.
         self.link = last[2 : last.index("&&", 2)]
         self.path = self.link[self.link.index("-o") + 1]
         self.compiles = {each[each.index("-o") + 1]: each for each in before if each[-2:-1] == ["-c"]}
+        members = self._members(folder)
+        self.objects = {name for name in self.compiles if name in self.link or _archived(name) in members}
+
+    def _members(self, folder):
+        """What the linker takes out of archives, as `_archived` names it."""
+        status, output = judging.run([*self.link, "-Wl,-t,-t", "-o", "/dev/null"], cwd=folder)
+        if status != 0:
+            raise SystemExit(f"{self.path} cannot be linked:\n{output[-2000:]}")
+        return {(match["archive"], match["member"]) for match in MEMBER.finditer(output)}
+
+
+def _archived(name):
+    """The archive that an object is put into, if any, and what it is called there."""
+    folder, _, rest = name.partition("CMakeFiles/")
+    target = rest.split(".dir/")[0]
+    return f"{folder}lib{target}.a", pathlib.PurePath(name).name
 
 
 class Build:
     def __init__(self, root, folder, targets):
         self.root = root
         self.folder = folder
-        self.programs = {target: Program(self._ninja("commands", target)) for target in targets}
+        self.programs = {target: Program(folder, self._ninja("commands", target)) for target in targets}
 
     def _ninja(self, tool, *arguments):
         command = ["ninja", "-C", str(self.folder), "-t", tool, *arguments]
@@ -45,6 +66,10 @@ class Build:
     def compiles(self):
         """The command for each object of the programs."""
         return {name: each for program in self.programs.values() for name, each in program.compiles.items()}
+
+    @functools.cached_property
+    def _linked(self):
+        return {name for program in self.programs.values() for name in program.objects}
 
     @functools.cached_property
     def _objects(self):
@@ -58,13 +83,20 @@ class Build:
                     objects[path].append(name)
         return objects
 
+    def effort_of(self, file):
+        """What it takes to compile the objects that a file goes into, a small one being 1."""
+        return sum(JOINED_EFFORT if "/Unity/" in name else 1 for name in self.objects_of(file))
+
+    def size_of(self, file):
+        return (self.root / file).stat().st_size
+
     def objects_of(self, file):
         """The programs' objects that a file of the repository goes into, itself or by being included.
 
-        Those of several files at a time come last, as they take the longest to compile.
+        When no program is made of any of them, those that are compiled for one.
         """
-        objects = self._objects.get((self.root / file).resolve(), [])
-        return sorted(objects, key=lambda name: "/Unity/" in name)
+        compiled = sorted(self._objects.get((self.root / file).resolve(), []))
+        return [name for name in compiled if name in self._linked] or compiled
 
 
 class Trial:
@@ -77,6 +109,7 @@ class Trial:
         self.original = build.root / mutant.file
         self.source = folder / "tree" / mutant.file
         self._is_changed = {}
+        self._programs = {}
 
     def write(self):
         self.source.parent.mkdir(parents=True, exist_ok=True)
@@ -86,10 +119,20 @@ class Trial:
         """Whether any code is other than without the mutant."""
         return any(self._changes(name) for name in self.build.objects_of(self.mutant.file))
 
+    def is_different_when_optimised(self):
+        """Whether any code stays other than without the mutant when the compiler looks for what it does."""
+        changed = [name for name, is_changed in self._is_changed.items() if is_changed]
+        return any(self._changes_when_optimised(name) for name in changed)
+
     def link(self, target):
         """The program with the mutant in it, or None when that is no other one."""
+        if target not in self._programs:
+            self._programs[target] = self._link(target)
+        return self._programs[target]
+
+    def _link(self, target):
         program = self.build.programs[target]
-        names = [name for name in self.build.objects_of(self.mutant.file) if name in program.compiles]
+        names = [name for name in self.build.objects_of(self.mutant.file) if name in program.objects]
         changed = [name for name in names if self._changes(name)]
         if not changed:
             return None
@@ -111,20 +154,33 @@ class Trial:
     def _changes(self, name):
         if name not in self._is_changed:
             made = self._object(name)
-            made.parent.mkdir(parents=True, exist_ok=True)
-            status, output = judging.run(self._compile(name), SECONDS_TO_COMPILE, cwd=self.build.folder)
-            if status != 0:
-                raise DoesNotCompile(output)
+            self._compile(name, made)
             self._is_changed[name] = not filecmp.cmp(made, self.build.folder / name, shallow=False)
         return self._is_changed[name]
 
-    def _compile(self, name):
+    def _changes_when_optimised(self, name):
+        objects = [self._object(name).with_suffix(suffix) for suffix in (".mutant", ".original")]
+        self._compile(name, objects[0], "-O2")
         *command, source = self.build.compiles[name]
-        command = [word.replace(name, str(self._object(name))) for word in command]
+        self._run([*self._into(objects[1], name, command), "-w", "-O2", source])
+        return not filecmp.cmp(*objects, shallow=False)
+
+    def _compile(self, name, made, *flags):
+        *command, source = self.build.compiles[name]
+        command = self._into(made, name, command)
         first = next(index for index, word in enumerate(command) if word.startswith("-I"))
         # What is left unused then is no reason not to compile.
         command[first:first] = [f"-I{self.folder / 'tree'}", "-w"]
-        return [*command, str(self._source_of(name, pathlib.Path(source)))]
+        made.parent.mkdir(parents=True, exist_ok=True)
+        self._run([*command, *flags, str(self._source_of(name, pathlib.Path(source)))])
+
+    def _into(self, made, name, command):
+        return [word.replace(name, str(made)) for word in command]
+
+    def _run(self, command):
+        status, output = judging.run(command, SECONDS_TO_COMPILE, cwd=self.build.folder)
+        if status != 0:
+            raise DoesNotCompile(output)
 
     # Several files may be compiled as one, by a file that includes them.
     def _source_of(self, name, source):

@@ -43,9 +43,12 @@ class Mutant:
     def apply(self, source):
         return source[: self.start] + self.after.encode() + source[self.end :]
 
+    @property
+    def change(self):
+        return f"{_in_a_line(self.before)} -> {_in_a_line(self.after)}"
+
     def __str__(self):
-        before, after = (_in_a_line(text) for text in (self.before, self.after))
-        return f"{self.file}:{self.line}: {self.rule}: {before} -> {after}"
+        return f"{self.file}:{self.line}: {self.rule}: {self.change}"
 
 
 def _in_a_line(text):

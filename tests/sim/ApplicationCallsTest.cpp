@@ -160,6 +160,7 @@ TEST_F(ApplicationCallsTest, AreJournaledForTextsURLsTrustAndDebugMessages) {
                     Bundle::mainBundle().infoDictionaryString("CFBundleName");
                     const auto url = URL::withString("kestrune-test:address");
                     Workspace::sharedWorkspace().openURL(*url);
+                    url->absoluteString();
                     URL::withString("");
                     isProcessTrustedWithOptions({true});
                     session_.accessibility().setPermission(Permission::notListed);
@@ -169,7 +170,8 @@ TEST_F(ApplicationCallsTest, AreJournaledForTextsURLsTrustAndDebugMessages) {
                 ElementsAre("NSBundle.mainBundle", "-[NSBundle localizedStringForKey:value:table:] Quit",
                             "NSBundle.mainBundle", "-[NSBundle infoDictionary][CFBundleName]",
                             "+[NSURL URLWithString:] kestrune-test:address", "NSWorkspace.sharedWorkspace",
-                            "-[NSWorkspace openURL:] kestrune-test:address", "+[NSURL URLWithString:] ",
+                            "-[NSWorkspace openURL:] kestrune-test:address", "-[NSURL absoluteString]",
+                            "+[NSURL URLWithString:] ",
                             "AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: true}) -> true",
                             "AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: false}) -> false",
                             "os_log_debug(category, message)"));

@@ -1,7 +1,9 @@
 #include "sim/Updates.h"
 
 #include "platform/Application.h"
+#include "platform/Bundle.h"
 #include "platform/NotificationCenter.h"
+#include "platform/Updater.h"
 #include "sim/Session.h"
 #include "sim/WindowState.h"
 
@@ -91,6 +93,17 @@ TEST_F(UpdatesTest, DoNothingBeforeTheyAreStarted) {
     session_.advance(1s);
     EXPECT_THAT(delegate_->told, IsEmpty());
     EXPECT_THAT(titles(), IsEmpty());
+}
+
+TEST_F(UpdatesTest, AreJournaledWithWhoIsToldOfThem) {
+    const Bundle bundle = Bundle::mainBundle();
+    session_.journal().take();
+    const Updater updater(bundle, bundle, StandardUserDriver(bundle, delegate_), {});
+    EXPECT_THAT(session_.journal().take(),
+                ElementsAre("-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, "
+                            "RecordingDelegate",
+                            "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] "
+                            "main bundle, main bundle, nil"));
 }
 
 TEST_F(UpdatesTestWithoutFramework, DoNotStart) {

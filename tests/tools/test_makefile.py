@@ -33,6 +33,7 @@ class MakefileTest(TreeTest):
         self.program("a folder/tools/setup", 'echo "setup $*" >> "$LOG"')
         self.program("a folder/tools/app", 'echo "app $*" >> "$LOG"')
         self.program("a folder/tools/check", 'echo "check $*" >> "$LOG"')
+        self.program("a folder/tests/mutants/by_rule", 'echo "by_rule $*" >> "$LOG"')
         self.program("a folder/tools/count-tests", 'echo "count-tests $*" >> "$LOG"')
         self.program("a folder/build/gcc/desk/kestrune-desk", 'echo "desk $*" >> "$LOG"')
 
@@ -175,6 +176,19 @@ class OnAMac(MakefileTest):
                 program = line.split()[0]
                 known = program in self.PROGRAMS or os.access(REPOSITORY / program, os.X_OK)
                 self.assertTrue(known, line)
+
+
+class Mutants(MakefileTest):
+    def test_are_those_somebody_thought_of_and_some_by_rule(self):
+        calls = self.make("mutants")
+        self.assertIn("cmake --build build/mutants --target mistakes", calls)
+        self.assertEqual(calls[calls.index("--label-regex") + 1], "mistakes")
+        self.assertEqual(calls[-1], "by_rule --build build/mutants --seed 1 --count 30")
+
+    def test_are_made_in_a_folder_by_rule_alone(self):
+        calls = self.make("mutants", "FOLDER=a folder", "SEED=7", "COUNT=all")
+        self.assertNotIn("ctest", calls)
+        self.assertEqual(calls[-1], "by_rule --build build/mutants --seed 7 --count all a folder")
 
 
 class FolderWithASpace(MakefileTest):

@@ -20,11 +20,12 @@ HAS_LIBCLANG = subprocess.run([PYTHON, "-c", "import clang.cindex"], capture_out
 
 PROJECT = """cmake_minimum_required(VERSION 3.25)
 project(Small LANGUAGES CXX)
-set(CMAKE_BUILD_TYPE Release)
+set(CMAKE_BUILD_TYPE Debug)
+set(CMAKE_CXX_FLAGS_DEBUG "-O0")
 add_library(small STATIC base/Small.cpp base/Other.cpp)
 target_include_directories(small PUBLIC "${PROJECT_SOURCE_DIR}")
 set_target_properties(small PROPERTIES UNITY_BUILD "${JOINED}")
-foreach(name IN ITEMS base_tests ui_tests properties_tests)
+foreach(name IN ITEMS base_tests ui_tests properties_tests kestrune_tests)
     add_executable(${name} tests/${name}.cpp)
     target_link_libraries(${name} PRIVATE small)
 endforeach()
@@ -41,7 +42,12 @@ int twice(int value) {
     return result;
 }
 int unused(int value) { return value - 3; }
-static int never(int value) { return value * 5; }
+inline int never(int value) { return value * 5; }
+int always() {
+    int result = 7;
+    result = 7;
+    return result;
+}
 """
 KEPT = "int Kept = 1;\n"
 TEST = """#include "base/Small.h"
@@ -72,7 +78,7 @@ class MutantsTest(TreeTest):
         shutil.copytree(
             REPOSITORY / "tests" / "mutants",
             self.folder / "tests" / "mutants",
-            ignore=shutil.ignore_patterns("__pycache__"),
+            ignore=shutil.ignore_patterns("__pycache__", "equal"),
         )
         (self.folder / "ui").mkdir()
         self.sources = {
@@ -83,6 +89,7 @@ class MutantsTest(TreeTest):
             "a folder/tests/base_tests.cpp": TEST,
             "a folder/tests/ui_tests.cpp": NOTHING,
             "a folder/tests/properties_tests.cpp": NOTHING,
+            "a folder/tests/kestrune_tests.cpp": NOTHING,
         }
 
     def command(self, *arguments):
@@ -99,10 +106,14 @@ class MutantsTest(TreeTest):
             check=True,
         )
 
-    def report(self, *arguments):
+    def report(self, *arguments, status=1):
+        """What is said of the mutants of a folder, of which some survive unless it ends well."""
         result = self.by_rule(*arguments, "base")
-        self.assertEqual((result.returncode, result.stderr), (0, ""), result.stdout)
+        self.assertEqual((result.returncode, result.stderr), (status, ""), result.stdout)
         return result.stdout.splitlines()
+
+    def list_as_equal(self, text):
+        self.write({"a folder/tests/mutants/equal/base.txt": text})
 
 
 class BadInput(MutantsTest):
@@ -121,14 +132,14 @@ class BadInput(MutantsTest):
         self.assert_refused(
             "no tests are known that judge .; use Kestrune, base, desk, mac, platform, sim, ui", ""
         )
-        self.assert_refused("the following arguments are required: FOLDER")
+        self.assert_refused("there is no folder Kestrune")
 
 
 @unittest.skipUnless(HAS_LIBCLANG, "libclang's bindings for Python are not installed")
 class ByRule(MutantsTest):
     def test_judges_each_mutant_that_changes_the_code(self):
         self.configure_small()
-        *report, last = self.report("--count", "1000")
+        *report, last = self.report("--count", "all")
         for line in (
             f"killed: base/Small.cpp:4: arithmetic: += -> -=: {BY}",
             f"killed: base/Small.cpp:4: statement removed: result += value -> nothing: {BY}",
@@ -138,14 +149,61 @@ class ByRule(MutantsTest):
             "SURVIVED: base/Small.cpp:7: constant: 3 -> 0",
             "SURVIVED: base/Other.cpp:1: constant: 1 -> 2",
             "not counted: base/Small.cpp:8: arithmetic: * -> /: compiles to the same code",
+            "not counted: base/Small.cpp:11: statement removed: result = 7 -> nothing: "
+            "compiles to the same code when optimised",
         ):
             self.assertIn(line, report)
         killed = len([line for line in report if line.startswith("killed: ")])
         counted = killed + len([line for line in report if line.startswith("SURVIVED: ")])
         share = f"{100 * killed / counted:.1f} %"
         self.assertEqual(
-            last, f"{killed} of {counted} mutants killed, {share}; {len(report)} are known, seed 1"
+            last, f"application: {killed} of {counted} mutants killed, {share}; 1 may survive, seed 1"
         )
+
+    def test_counts_none_that_is_listed_as_equal_to_the_original(self):
+        self.sources |= {"a folder/base/Small.h": "#pragma once\n", "a folder/base/Small.cpp": KEPT}
+        self.sources["a folder/base/Other.cpp"] = "int Two[] = {2, 2};\n"
+        self.sources["a folder/tests/base_tests.cpp"] = NOTHING
+        self.configure_small()
+        survivors = [
+            "SURVIVED: base/Other.cpp:1: constant: 2 -> 0",
+            "SURVIVED: base/Other.cpp:1: constant: 2 -> 3",
+            "SURVIVED: base/Small.cpp:1: constant: 1 -> 0",
+            "SURVIVED: base/Small.cpp:1: constant: 1 -> 2",
+        ]
+        last = "application: 0 of {} mutants killed, 0.0 %; 1 may survive, seed 1"
+        *report, total = self.report("--count", "all")
+        self.assertEqual((sorted(set(report)), total), (survivors, last.format(6)))
+        two = "base/Other.cpp\n    int Two[] = {2, 2};\n    2 -> 0 (2)\nNobody looks at it.\n"
+        self.list_as_equal(two)
+        *report, total = self.report("--count", "all")
+        self.assertEqual((sorted(set(report)), total), (survivors, last.format(5)))
+        self.list_as_equal(
+            f"# Both.\n\n{two}    2 -> 0\n    2 -> 3\n    2 -> 3 (2)\n\n"
+            "base/Small.cpp\n    int Kept = 1;\n    1 -> 0\nNobody asks.\n"
+        )
+        self.assertEqual(self.report("--count", "all", status=0), [survivors[-1], last.format(1)])
+
+    def test_says_what_is_listed_and_not_there(self):
+        self.configure_small()
+        entries = (
+            ("base/Gone.cpp", "int gone;", "1 -> 2"),
+            ("base/Other.cpp", "int Kept = 2;", "2 -> 3"),
+            ("base/Other.cpp", "int Kept = 1;", "1 -> 3"),
+        )
+        self.list_as_equal("\n".join("{}\n    {}\n    {}\nAs it is.\n".format(*each) for each in entries))
+        *_, first, second, third = self.report("--count", "all")
+        self.assertEqual(
+            [first, second, third],
+            ["listed as equal to the original, but not there: " + ": ".join(each) for each in entries],
+        )
+
+    def test_says_what_is_listed_without_a_reason(self):
+        self.configure_small()
+        self.list_as_equal("base/Other.cpp\n    int Kept = 1;\n    1 -> 2\n")
+        result = self.by_rule("base")
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("base.txt: of base/Other.cpp it has no line, no change or no reason", result.stderr)
 
     def test_counts_nothing_that_another_file_does_not_compile_with(self):
         self.sources["a folder/base/Small.h"] = HEADER + "constexpr int size() { return 4; }\n"
@@ -154,28 +212,45 @@ class ByRule(MutantsTest):
             '#include "base/Small.h"\nstatic_assert(size() == 4);\n' + NOTHING
         )
         self.configure_small()
-        report = self.report("--count", "1000")
+        report = self.report("--count", "all")
         begin = "not counted: base/Small.h:5: constant: 4 -> 5: does not compile"
         self.assertEqual(len([line for line in report if line.startswith(begin)]), 1, report)
 
     def test_judges_files_that_are_compiled_as_one(self):
         self.configure_small("-D", "JOINED=ON")
-        report = self.report("--count", "1000")
+        report = self.report("--count", "all")
         self.assertIn("SURVIVED: base/Small.cpp:7: arithmetic: - -> +", report)
         self.assertIn(f"killed: base/Small.cpp:4: arithmetic: += -> -=: {BY}", report)
 
     def test_makes_the_same_mutants_of_the_same_seed(self):
         self.configure_small()
-        first = self.report("--count", "4", "--seed", "7")
-        self.assertEqual(self.report("--count", "4", "--seed", "7"), first)
-        self.assertNotEqual(self.report("--count", "4", "--seed", "8")[:-1], first[:-1])
-        self.assertRegex(first[-1], r"^\d of 4 mutants killed")
+
+        def some(seed):
+            return self.by_rule("--count", "4", "--seed", seed, "base").stdout.splitlines()
+
+        first = some("7")
+        self.assertEqual(some("7"), first)
+        self.assertNotEqual(some("8")[:-1], first[:-1])
+        self.assertRegex(first[-1], r"^application: \d of 4 mutants killed")
+
+    def test_makes_the_same_mutants_when_another_file_has_changed(self):
+        self.configure_small()
+        first = self.report("--count", "all")
+        self.sources["a folder/base/Other.cpp"] = "\n" + KEPT + KEPT.replace("Kept", "More")
+        self.configure_small()
+        second = self.report("--count", "all")
+
+        def in_small(report):
+            return [line for line in report if "base/Small.cpp" in line]
+
+        self.assertEqual(in_small(first), in_small(second))
+        self.assertEqual(len(second), len(first) + 2)
 
     def test_leaves_sources_and_build_as_they_are(self):
         self.configure_small()
-        self.report("--count", "1")
+        self.by_rule("--count", "1", "base")
         built = {path: path.stat().st_mtime_ns for path in (self.folder / "build").rglob("*.[oa]")}
-        self.report("--count", "5", "--seed", "2")
+        self.by_rule("--count", "5", "--seed", "2", "base")
         for path, text in self.sources.items():
             self.assertEqual((self.root / path).read_text(encoding="utf-8"), text)
         for path, when in built.items():

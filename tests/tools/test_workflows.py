@@ -147,7 +147,11 @@ class LinuxSteps(JobTest, MakefileTest):
             "setup coverage",
             "ctest --test-dir build/coverage --label-regex unit",
             "coverage build/coverage",
-            "count-tests build/gcc/tests.xml build/arm64/tests.xml build/sanitize/tests.xml build/coverage/",
+            "setup mutants",
+            "ctest --test-dir build/mutants --label-regex mistakes",
+            "by_rule --build build/mutants --seed 1 --count 30",
+            "count-tests build/gcc/tests.xml build/arm64/tests.xml build/sanitize/tests.xml build/coverage/"
+            "tests.xml build/mutants/",
         ),
         "tools/pictures out/pictures": (
             "desk --tour out/pictures/tour",
@@ -169,6 +173,7 @@ class LinuxSteps(JobTest, MakefileTest):
         self.program("bin/sudo", '"$@"')
         self.program("bin/ctest", 'echo "ctest $*" >> "$LOG"')
         self.program("a folder/tools/coverage", 'echo "coverage $*" >> "$LOG"')
+        self.program("a folder/tests/mutants/by_rule", 'echo "by_rule $*" >> "$LOG"')
         self.program("a folder/build/gcc/desk/kestrune-desk", self.DESK)
 
     def calls_of(self, script):

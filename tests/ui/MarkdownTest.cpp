@@ -57,6 +57,11 @@ TEST(Markdown, GoesOnToAMarkThatEndsThePart) {
     EXPECT_THAT(parseMarkdown("**2 ** 3**"), ElementsAre(boldPart("2 ** 3")));
 }
 
+TEST(Markdown, GoesOnAfterAMarkAndNotWithinIt) {
+    EXPECT_THAT(parseMarkdown("**a ***"), ElementsAre(plain("**a ***")));
+    EXPECT_THAT(parseMarkdown("**a **b**"), ElementsAre(boldPart("a **b")));
+}
+
 TEST(Markdown, StartsAtAMarkThatBeginsAPart) {
     EXPECT_THAT(parseMarkdown("2 ** **3**"), ElementsAre(plain("2 ** "), boldPart("3")));
 }

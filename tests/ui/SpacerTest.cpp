@@ -23,6 +23,11 @@ TEST_F(ASpacer, IsEightPointsLongWhenNothingIsOffered) {
     EXPECT_EQ(sizeOfView(VStack({.spacing = 0}, {Spacer(), Box(30, 20)})), (Size{30, 28}));
 }
 
+TEST_F(ASpacer, TakesNoRoomAcrossItsStack) {
+    EXPECT_EQ(sizeOfView(HStack({}, {Spacer(20)})), (Size{20, 0}));
+    EXPECT_EQ(sizeOfView(VStack({}, {Spacer(20)})), (Size{0, 20}));
+}
+
 TEST_F(ASpacer, IsAtLeastAsLongAsItIsTold) {
     EXPECT_EQ(sizeOfView(HStack({.spacing = 0}, {Spacer(20), Box(30, 20)}), {.width = 40}), (Size{50, 20}));
     EXPECT_EQ(sizeOfView(HStack({.spacing = 0}, {Spacer(0), Box(30, 20)})), (Size{30, 20}));
