@@ -32,7 +32,7 @@ TourScenes::TourScenes(LiveDesk& desk)
 
 const std::vector<TourScenes::Scene>& TourScenes::all() {
     static const std::vector<Scene> scenes = {
-        {"first-launch", &TourScenes::firstLaunch, Frame::whatIsOpen},
+        {"first-launch", &TourScenes::firstLaunch, Frame::display},
         {"the-dock-leaves", &TourScenes::letDockLeave},
         {"menu-before-setup", &TourScenes::openMenuBeforeSetup, Frame::whatIsOpen},
         {"permission-asked-for", &TourScenes::askForPermission, Frame::whatIsOpen},
@@ -54,7 +54,7 @@ const std::vector<TourScenes::Scene>& TourScenes::all() {
         {"permission-revoked", &TourScenes::revoke},
         {"permission-back", &TourScenes::grantAgain},
         {"tap-timeout", &TourScenes::timeOut},
-        {"settings", &TourScenes::openSettings, Frame::whatIsOpen},
+        {"settings", &TourScenes::openSettings, Frame::display},
         {"launch-at-login", &TourScenes::launchAtLogin, Frame::whatIsOpen},
         {"nothing-new", &TourScenes::findNothingNew, Frame::whatIsOpen},
         {"new-version", &TourScenes::findNewVersion, Frame::whatIsOpen},
@@ -68,13 +68,25 @@ const std::vector<TourScenes::Scene>& TourScenes::all() {
 
 std::optional<Rect> TourScenes::framed(const Scene& scene, const DeskPicture& picture) {
     constexpr double Surroundings = 48;
-    DeskHitTest hitTest;
     const Rect pointer{picture.pointer.x, picture.pointer.y, 0, 0};
-    const auto open = scene.frame == Frame::whatIsOpen ? hitTest.openParts(picture) : std::nullopt;
-    if (scene.frame == Frame::everything) {
-        return std::nullopt;
+    switch (scene.frame) {
+    case Frame::everything:
+        break;
+    case Frame::display:
+        for (const DisplayPicture& display : picture.displays) {
+            if (display.bounds.contains(picture.pointer)) {
+                return enlargedBy(display.bounds, Surroundings);
+            }
+        }
+        break;
+    case Frame::whatIsOpen: {
+        const auto open = DeskHitTest().openParts(picture);
+        return enlargedBy(open ? unionOf(*open, pointer) : pointer, Surroundings);
     }
-    return enlargedBy(open ? unionOf(*open, pointer) : pointer, Surroundings);
+    case Frame::pointer:
+        return enlargedBy(pointer, Surroundings);
+    }
+    return std::nullopt;
 }
 
 std::variant<std::string, InputError> TourScenes::perform(const Scene& scene) {

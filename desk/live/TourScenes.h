@@ -23,7 +23,7 @@ public:
     bool canBePlayed() const { return other_.has_value(); }
 
     // What of the displays a scene is about.
-    enum class Frame { everything, whatIsOpen, pointer };
+    enum class Frame { everything, display, whatIsOpen, pointer }; // the display with the pointer
 
     struct Scene {
         std::string name;                  // for a file, without suffix
