@@ -17,6 +17,7 @@ const std::vector<KeyHint>& keyLegend() {
         {"T", "tap timeout"},
         {"+ −", "band"},
         {"L", "quit or launch Kestrune"},
+        {"Z", "zoom"},
         {"D", "dark"},
         {"S", "save picture"},
         {"H", "hide keys"},

@@ -46,10 +46,6 @@ public:
     void releaseButton(const std::optional<DeskTarget>& target);
     void hover(const std::optional<DeskTarget>& target) { parts_.hover(target); }
 
-    // Where the hand is in the desk's window, in its points. To be told before it presses or releases a
-    // button.
-    void placeHand(Point place) { parts_.placeHand(place); }
-
     // A key for an open menu or the dialog; false when neither is there.
     bool navigate(NavigationKey key);
 

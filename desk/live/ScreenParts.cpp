@@ -295,6 +295,9 @@ void ScreenParts::addTo(DeskPicture& picture, const std::string& iconPath) {
     settings_.addTo(picture, iconPath, displayBeside);
     mail_.addTo(picture, displayBeside);
     windows_.addTo(picture);
+    if (session_.application().policy == ActivationPolicy::regular) {
+        picture.dockIcon = iconPath;
+    }
     picture.pressed = pressed_;
 }
 

@@ -44,9 +44,6 @@ public:
     // The pointer is there now.
     void hover(const std::optional<DeskTarget>& target);
 
-    // Where the hand is in the desk's window, in its points.
-    void placeHand(Point place) { windows_.placeHand(place); }
-
     // The pointer has moved in the session.
     void followPointer() { windows_.followPointer(); }
 

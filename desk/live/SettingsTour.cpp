@@ -42,9 +42,9 @@ public:
         hand_.pointAt(*toggle);
         desk_.pressButton(toggle);
         photograph("switch-pressed", "Switch held down");
-        desk_.placeHand({hand_.place().x + HalfTheWay, hand_.place().y});
+        dragBy(HalfTheWay);
         photograph("switch-dragged", "Switch half dragged");
-        desk_.placeHand(hand_.place());
+        dragBy(-HalfTheWay);
         desk_.releaseButton(toggle);
         desk_.advance(UntilTheKnobRests);
         hand_.click(*toggle);
@@ -79,6 +79,11 @@ public:
     std::vector<SettingsShot> takeShots() { return std::move(shots_); }
 
 private:
+    void dragBy(double distance) {
+        const Point pointer = desk_.session().pointer();
+        desk_.movePointerTowards({pointer.x + distance, pointer.y}, EventType::leftMouseDragged);
+    }
+
     std::optional<WindowPicture> settings() {
         const DeskPicture picture = pictureOf(desk_);
         return picture.windows.empty() ? std::nullopt : std::optional(picture.windows.front());

@@ -13,7 +13,7 @@ namespace kestrune::desk {
 // A hand at the knob. Before it has moved a little it may still mean a click.
 class SwitchGrip {
 public:
-    // Where the hand is in the desk's window, in its points, and how far the knob goes there.
+    // Where the hand is, and how far the knob goes, in points.
     SwitchGrip(bool isOn, Point hand, double travel) : start_(isOn ? 1 : 0), hold_(hand), travel_(travel) {}
 
     void follow(Point hand);

@@ -84,6 +84,7 @@ std::optional<InputError> runTour(const std::string& folder, const Options& opti
         picture.story = story;
         picture.dark = options.dark;
         picture.keys.clear();
+        picture.shown = TourScenes::framed(scene, picture);
         const std::string name = fileName(++number, scene.name);
         const std::string path = (std::filesystem::path(folder) / name).string();
         if (const auto error = writePng(path, picture, UsualWindow, PictureScale)) {

@@ -1,7 +1,7 @@
 #include "desk/live/TourHand.h"
 
 #include "desk/live/LivePicture.h"
-#include "desk/paint/DeskLayout.h"
+#include "desk/paint/RectMath.h"
 
 #include <cmath>
 #include <variant>
@@ -16,13 +16,6 @@ constexpr int PushSteps = 90;
 
 // A hand keeps going this far below the edge, in points.
 constexpr double PushDepth = 24;
-
-// As it will be shown: a story takes room above the displays.
-DeskPicture pictureWithStory(LiveDesk& desk) {
-    DeskPicture picture = pictureOf(desk);
-    picture.story = " ";
-    return picture;
-}
 
 std::string quoted(std::string_view title) { return "“" + std::string(title) + "”"; }
 
@@ -94,16 +87,12 @@ void TourHand::miss(const std::string& name) {
 
 // Only what is on the screen can be reached.
 bool TourHand::reach(const std::optional<DeskTarget>& target, const std::string& name) {
-    const DeskPicture picture = pictureWithStory(desk_);
-    const auto area = target ? hitTest_.areaOf(picture, UsualWindow, *target) : std::nullopt;
+    const auto area = target ? hitTest_.areaOf(pictureOf(desk_), *target) : std::nullopt;
     if (!area) {
         miss(name);
         return false;
     }
-    const Point middle{area->minX() + area->width() / 2, area->minY() + area->height() / 2};
-    glideTo(DeskLayout::of(picture, UsualWindow).toGlobal(middle));
-    place_ = middle;
-    desk_.placeHand(place_);
+    glideTo(centerOf(*area));
     desk_.hover(target);
     return true;
 }

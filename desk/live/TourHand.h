@@ -35,9 +35,6 @@ public:
     void pointAt(const DeskTarget& target);
     void click(const DeskTarget& target);
 
-    // Where it pointed last, in the points of the desk's window.
-    Point place() const { return place_; }
-
     // Opens the application's menu on a display.
     void openMenu(DisplayID number);
 
@@ -62,7 +59,6 @@ private:
 
     LiveDesk& desk_;
     DeskHitTest hitTest_;
-    Point place_;
     std::optional<std::string> missing_;
 };
 

@@ -1,6 +1,7 @@
 #include "desk/live/TourScenes.h"
 
 #include "desk/live/PinnedDisplay.h"
+#include "desk/paint/RectMath.h"
 
 namespace kestrune::desk {
 
@@ -31,38 +32,61 @@ TourScenes::TourScenes(LiveDesk& desk)
 
 const std::vector<TourScenes::Scene>& TourScenes::all() {
     static const std::vector<Scene> scenes = {
-        {"first-launch", &TourScenes::firstLaunch},
+        {"first-launch", &TourScenes::firstLaunch, Frame::display},
         {"the-dock-leaves", &TourScenes::letDockLeave},
-        {"menu-before-setup", &TourScenes::openMenuBeforeSetup},
-        {"permission-asked-for", &TourScenes::askForPermission},
-        {"permission-granted", &TourScenes::grantPermission},
-        {"wizard-finished", &TourScenes::finishWizard},
+        {"menu-before-setup", &TourScenes::openMenuBeforeSetup, Frame::whatIsOpen},
+        {"permission-asked-for", &TourScenes::askForPermission, Frame::whatIsOpen},
+        {"permission-granted", &TourScenes::grantPermission, Frame::whatIsOpen},
+        {"wizard-finished", &TourScenes::finishWizard, Frame::whatIsOpen},
         {"the-dock-comes-home", &TourScenes::bringDockHome},
         {"held", &TourScenes::hold},
-        {"held-while-dragging", &TourScenes::holdDrag},
-        {"tool-tip", &TourScenes::restToSeeTheToolTip},
-        {"menu-after-setup", &TourScenes::openMenuAfterSetup},
-        {"choosing-a-display", &TourScenes::chooseOther},
+        {"held-while-dragging", &TourScenes::holdDrag, Frame::pointer},
+        {"tool-tip", &TourScenes::restToSeeTheToolTip, Frame::whatIsOpen},
+        {"menu-after-setup", &TourScenes::openMenuAfterSetup, Frame::whatIsOpen},
+        {"choosing-a-display", &TourScenes::chooseOther, Frame::whatIsOpen},
         {"another-choice", &TourScenes::pushWhereChosen},
-        {"switched-off", &TourScenes::switchOff},
+        {"switched-off", &TourScenes::switchOff, Frame::whatIsOpen},
         {"switched-on", &TourScenes::switchOn},
         {"one-more-display", &TourScenes::plugIn},
         {"deeper-band", &TourScenes::deepen},
         {"pinned-display-unplugged", &TourScenes::unplugPinned},
-        {"plugged-in-again", &TourScenes::plugInAgain},
+        {"plugged-in-again", &TourScenes::plugInAgain, Frame::whatIsOpen},
         {"permission-revoked", &TourScenes::revoke},
         {"permission-back", &TourScenes::grantAgain},
         {"tap-timeout", &TourScenes::timeOut},
-        {"settings", &TourScenes::openSettings},
-        {"launch-at-login", &TourScenes::launchAtLogin},
-        {"nothing-new", &TourScenes::findNothingNew},
-        {"new-version", &TourScenes::findNewVersion},
-        {"bug-report", &TourScenes::reportBug},
+        {"settings", &TourScenes::openSettings, Frame::display},
+        {"launch-at-login", &TourScenes::launchAtLogin, Frame::whatIsOpen},
+        {"nothing-new", &TourScenes::findNothingNew, Frame::whatIsOpen},
+        {"new-version", &TourScenes::findNewVersion, Frame::whatIsOpen},
+        {"bug-report", &TourScenes::reportBug, Frame::whatIsOpen},
         {"one-display-left", &TourScenes::leaveOneDisplay},
         {"quit", &TourScenes::quit},
-        {"launched-again", &TourScenes::launchAgain},
+        {"launched-again", &TourScenes::launchAgain, Frame::whatIsOpen},
     };
     return scenes;
+}
+
+std::optional<Rect> TourScenes::framed(const Scene& scene, const DeskPicture& picture) {
+    constexpr double Surroundings = 48;
+    const Rect pointer{picture.pointer.x, picture.pointer.y, 0, 0};
+    switch (scene.frame) {
+    case Frame::everything:
+        break;
+    case Frame::display:
+        for (const DisplayPicture& display : picture.displays) {
+            if (display.bounds.contains(picture.pointer)) {
+                return enlargedBy(display.bounds, Surroundings);
+            }
+        }
+        break;
+    case Frame::whatIsOpen: {
+        const auto open = DeskHitTest().openParts(picture);
+        return enlargedBy(open ? unionOf(*open, pointer) : pointer, Surroundings);
+    }
+    case Frame::pointer:
+        return enlargedBy(pointer, Surroundings);
+    }
+    return std::nullopt;
 }
 
 std::variant<std::string, InputError> TourScenes::perform(const Scene& scene) {

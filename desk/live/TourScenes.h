@@ -22,11 +22,18 @@ public:
     // Whether there are two displays with a bottom edge that the pointer can be pushed against.
     bool canBePlayed() const { return other_.has_value(); }
 
+    // What of the displays a scene is about.
+    enum class Frame { everything, display, whatIsOpen, pointer }; // the display with the pointer
+
     struct Scene {
         std::string name;                  // for a file, without suffix
         std::string (TourScenes::*play)(); // tells in a sentence what was played
+        Frame frame = Frame::everything;
     };
     static const std::vector<Scene>& all();
+
+    // What is to be shown of a scene once it was played.
+    static std::optional<Rect> framed(const Scene& scene, const DeskPicture& picture);
 
     // Plays a scene after those before it. Its story, or what was not there that it needs.
     std::variant<std::string, InputError> perform(const Scene& scene);

@@ -1,7 +1,7 @@
 #include "desk/live/WindowParts.h"
 
 #include "desk/paint/ControlPainter.h"
-#include "desk/paint/MenuBarLayout.h"
+#include "desk/paint/Measures.h"
 #include "sim/WindowState.h"
 
 #include <algorithm>
@@ -65,7 +65,7 @@ void WindowParts::press(const std::optional<DeskTarget>& target) {
     if (const auto* const control = std::get_if<WindowControlTarget>(&*target)) {
         pressedControl_ = controlIn(window, control->element);
         if (const ui::ToggleElement* const toggle = switchOf(pressedControl_)) {
-            grip_ = SwitchGrip(toggle->isOn, hand_, switchTravel(toggle->frame));
+            grip_ = SwitchGrip(toggle->isOn, session_.pointer(), switchTravel(toggle->frame));
         }
     } else if (std::holds_alternative<WindowTitleTarget>(*target)) {
         startDrag(window);
@@ -94,13 +94,6 @@ std::optional<std::string> WindowParts::release(const std::optional<DeskTarget>&
         return act(*control);
     }
     return std::nullopt;
-}
-
-void WindowParts::placeHand(Point place) {
-    hand_ = place;
-    if (grip_) {
-        grip_->follow(place);
-    }
 }
 
 // What the switch was may have gone while the hand held it.
@@ -143,6 +136,9 @@ void WindowParts::startDrag(const WindowState& window) {
 }
 
 void WindowParts::followPointer() {
+    if (grip_) {
+        grip_->follow(session_.pointer());
+    }
     const WindowState window = drag_ ? drag_->window.lock() : nullptr;
     if (!window) {
         return;

@@ -34,12 +34,11 @@ public:
     // The title of what was pressed by it, if anything was.
     std::optional<std::string> release(const std::optional<DeskTarget>& target);
 
-    // Where the hand is in the desk's window, in its points: windows keep a size of their own there, whatever
-    // the displays' scale. A switch that is held by its knob follows it.
-    void placeHand(Point place);
-
-    // The pointer is there now. A window that is held by its title bar follows it.
+    // The pointer is over that now.
     void hover(const std::optional<DeskTarget>& target);
+
+    // The pointer has moved in the session. A window that is held by its title bar follows it, and so does a
+    // switch that is held by its knob.
     void followPointer();
 
     // Whether a window receives the keys.
@@ -98,7 +97,6 @@ private:
     std::optional<Control> pressedControl_;
     std::optional<DeskTarget> hovered_;
     bool isOverPressed_ = false;
-    Point hand_;
     std::optional<SwitchGrip> grip_; // at the knob of the pressed control
     std::optional<Slide> slide_;
     std::optional<Drag> drag_;

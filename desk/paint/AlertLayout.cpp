@@ -1,7 +1,7 @@
 #include "desk/paint/AlertLayout.h"
 
 #include "desk/paint/ControlPainter.h"
-#include "desk/paint/PanelPainter.h"
+#include "desk/paint/Measures.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,9 +26,8 @@ double buttonWidth(TextMeasure& measure, std::string_view label) {
 
 } // namespace
 
-std::optional<AlertLayout> alertLayout(TextMeasure& measure, const DeskLayout& layout,
-                                       const DeskPicture& picture, Size window) {
-    if (!picture.permissionDialog) {
+std::optional<AlertLayout> alertLayout(TextMeasure& measure, const DeskPicture& picture) {
+    if (!picture.permissionDialog || picture.permissionDialog->display >= picture.displays.size()) {
         return std::nullopt;
     }
     const double textLeft = Padding + IconSide + IconGap;
@@ -43,12 +42,11 @@ std::optional<AlertLayout> alertLayout(TextMeasure& measure, const DeskLayout& l
     const double buttonTop = contentTop + std::max(IconSide, textsHeight) + ButtonsGap;
     const double height = buttonTop + PushButtonHeight + Padding;
 
-    const Rect screen = screenOrContent(layout, picture.permissionDialog->display);
+    const Rect& display = picture.displays[picture.permissionDialog->display].bounds;
     AlertLayout result;
-    result.frame = keptInside({std::round(screen.minX() + (screen.width() - Width) / 2),
-                               std::round(screen.minY() + screen.height() * HeightOnDisplay - height / 2),
-                               Width, height},
-                              window);
+    result.frame = {std::round(display.minX() + (display.width() - Width) / 2),
+                    std::round(display.minY() + display.height() * HeightOnDisplay - height / 2), Width,
+                    height};
     const Point corner = result.frame.origin;
     result.titleBar = {corner.x, corner.y, Width, titleBarHeight};
     result.icon = {corner.x + Padding, corner.y + contentTop, IconSide, IconSide};

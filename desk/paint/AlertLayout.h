@@ -1,10 +1,7 @@
 // Where the permission dialog and its parts stand, in window coordinates, for painting and for the pointer.
-//
-// Like menus, windows keep the size in which they can be read, whatever the displays' scale.
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/DeskLayout.h"
 #include "desk/paint/DeskPicture.h"
 #include "desk/paint/TextMeasure.h"
 
@@ -22,13 +19,10 @@ struct AlertLayout {
     Rect information;
     Rect openSystemSettings;
     Rect deny;
-
-    friend bool operator==(const AlertLayout&, const AlertLayout&) = default;
 };
 
 // Absent without a permission dialog.
-std::optional<AlertLayout> alertLayout(TextMeasure& measure, const DeskLayout& layout,
-                                       const DeskPicture& picture, Size window);
+std::optional<AlertLayout> alertLayout(TextMeasure& measure, const DeskPicture& picture);
 
 // What the dialog says, and how it is set; the colours are left to the painter.
 std::string alertMessage(const PermissionDialogPicture& dialog);

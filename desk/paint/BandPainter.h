@@ -3,21 +3,16 @@
 
 #include "desk/paint/Canvas.h"
 #include "desk/paint/DeskLayout.h"
-#include "desk/paint/DeskPicture.h"
 
 namespace kestrune::desk {
 
-// The band in window coordinates. At least a few pixels deep, so that a depth of some points stays visible at
-// scale.
-Rect bandArea(const DisplayPlace& place, double bandTop);
+// The band in global display coordinates, as deep as it is.
+Rect bandArea(const Rect& display, double bandTop);
 
-// The band as it holds.
-void paintBand(const Canvas& canvas, const DisplayPlace& place, double bandTop);
+// In window coordinates: the band as it holds, or a faint line in the place of one that does not.
+void paintBand(const Canvas& canvas, const DisplayPlace& place, double bandTop, bool holds);
 
-// A faint outline in place of a band that does not hold.
-void paintIdleBand(const Canvas& canvas, const DisplayPlace& place, double bandTop);
-
-// `location` is in window coordinates. Paints only on the given display.
+// In window coordinates, above the band. `location` is in global display coordinates.
 void paintHeldMark(const Canvas& canvas, const DisplayPlace& place, Point location, double age);
 
 } // namespace kestrune::desk

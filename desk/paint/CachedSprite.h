@@ -1,8 +1,7 @@
-// A small part in front of the rest of the picture that is kept until what it shows changes.
+// A part in front of the rest of the picture that is kept until what it shows changes.
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/CachedLayer.h"
 #include "desk/paint/CairoObjects.h"
 
 #include <functional>
@@ -10,44 +9,51 @@
 
 namespace kestrune::desk {
 
-// The rectangle, enlarged so that its edges fall on whole device pixels.
-Rect onDevicePixels(const Rect& area, double pixelsPerUnit);
+// The device pixels of an area under a context's transformation, which neither turns nor slants.
+struct SpriteGrid {
+    double scale = 1; // device pixels for each user unit
+    double deviceScale = 1;
+    Point phase; // from the corner of the first pixel to that of the area, in device pixels
+    Size pixels;
 
-// Transparent memory for an area whose edges fall on whole device pixels.
-SurfaceHandle makeSpriteSurface(Size area, double pixelsPerUnit);
+    friend bool operator==(const SpriteGrid&, const SpriteGrid&) = default;
+};
+struct SpritePlace {
+    SpriteGrid grid;
+    Point corner; // of the first pixel, in device pixels
+};
+SpritePlace spritePlace(cairo_t* context, const Rect& area);
 
-void paintSprite(cairo_t* context, cairo_surface_t* sprite, Point topLeft);
+// Transparent memory for the grid's pixels, and a context for it whose area begins at the same user's
+// coordinates.
+SurfaceHandle makeSpriteSurface(const SpriteGrid& grid);
+ContextHandle makeSpriteContext(cairo_surface_t* sprite, const SpriteGrid& grid, Point areaOrigin);
 
-// `Subject` is the value that decides what the sprite shows, its place included; two that compare equal must
-// give the same picture.
+void paintSprite(cairo_t* context, cairo_surface_t* sprite, const SpritePlace& place);
+
+// `Subject` is the value that decides what the sprite shows; two that compare equal must give the same
+// picture.
 template <typename Subject>
 class CachedSprite {
 public:
-    // `extent` encloses all that `paintAnew` paints, in the same coordinates as the context's. `paintAnew` is
-    // called only when the subject, the extent or the context's resolution is another than last time.
+    // `extent` encloses all that is to be seen of what `paintAnew` paints, in the same coordinates as the
+    // context's. `paintAnew` is called only when the subject, or how the extent lies on the device's pixels,
+    // is another than last time.
     void paint(cairo_t* context, const Rect& extent, Subject subject,
                const std::function<void(cairo_t*)>& paintAnew) {
-        const double resolution = pixelsPerUnit(context);
-        const Rect area = onDevicePixels(extent, resolution);
-        if (!surface_ || resolution != resolution_ || area != area_ || !(subject == subject_)) {
-            surface_ = makeSpriteSurface(area.size, resolution);
-            const ContextHandle spriteContext{cairo_create(surface_.get())};
-            cairo_translate(spriteContext.get(), -area.minX(), -area.minY());
-            paintAnew(spriteContext.get());
-            resolution_ = resolution;
-            area_ = area;
+        const SpritePlace place = spritePlace(context, extent);
+        if (!surface_ || place.grid != grid_ || !(subject == subject_)) {
+            surface_ = makeSpriteSurface(place.grid);
+            paintAnew(makeSpriteContext(surface_.get(), place.grid, {extent.minX(), extent.minY()}).get());
+            grid_ = place.grid;
             subject_ = std::move(subject);
         }
-        paintSprite(context, surface_.get(), area.origin);
+        paintSprite(context, surface_.get(), place);
     }
-
-    // Gives the memory back while the part is not shown.
-    void forget() { surface_.reset(); }
 
 private:
     SurfaceHandle surface_;
-    double resolution_ = 0;
-    Rect area_;
+    SpriteGrid grid_;
     Subject subject_;
 };
 

@@ -1,6 +1,7 @@
 #include "desk/paint/ContactSheet.h"
 
 #include "desk/paint/PanelPainter.h"
+#include "desk/paint/RectMath.h"
 #include "desk/paint/Shapes.h"
 #include "desk/paint/WindowLayout.h"
 #include "desk/paint/WindowPainter.h"
@@ -18,12 +19,6 @@ constexpr double CaptionHeight = 30;
 constexpr double CellGap = 20;
 constexpr double Surroundings = 40; // between a window and the edge of what is behind it
 
-// Where a window stands, and what is behind it.
-Rect surroundingsOf(const Rect& window) {
-    return {window.minX() - Surroundings, window.minY() - Surroundings, window.width() + 2 * Surroundings,
-            window.height() + 2 * Surroundings};
-}
-
 void paintBehind(cairo_t* context, const Rect& area, double radius, bool dark) {
     addRoundedRectangle(context, area, radius);
     const Color top = dark ? rgb(0x2A3446) : rgb(0xD3DDE7);
@@ -32,9 +27,11 @@ void paintBehind(cairo_t* context, const Rect& area, double radius, bool dark) {
 }
 
 void paintAlone(cairo_t* context, Point topLeft, const WindowPicture& shown, bool dark) {
+    const SavedState saved{context};
+    cairo_translate(context, topLeft.x - shown.frame.minX(), topLeft.y - shown.frame.minY());
     TextPainter text{context};
     const Canvas canvas{context, text, paletteFor(dark)};
-    const WindowLayout layout = windowLayoutAt(topLeft, shown);
+    const WindowLayout layout = windowLayout(shown);
     paintPanel(canvas, layout.frame, applicationWindowStyle(canvas.palette, shown.isKey));
     paintWindow(canvas, layout, shown);
 }
@@ -119,7 +116,7 @@ std::optional<PaintError> writeContactSheet(const std::string& path, const Conta
 std::optional<PaintError> writeWindowPicture(const std::string& path, const WindowPicture& window, bool dark,
                                              double scale) {
     const Rect frame{Surroundings, Surroundings, window.frame.width(), window.frame.height()};
-    const Rect all = surroundingsOf(frame);
+    const Rect all = enlargedBy(frame, Surroundings);
     return writeSurface(path, all.size, scale, [&](cairo_t* context) {
         paintBehind(context, all, 0, dark);
         paintAlone(context, frame.origin, window, dark);

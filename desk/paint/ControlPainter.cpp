@@ -1,12 +1,12 @@
 #include "desk/paint/ControlPainter.h"
 
+#include "desk/paint/Measures.h"
+#include "desk/paint/RectMath.h"
 #include "desk/paint/Shapes.h"
 #include "desk/paint/SoftShadow.h"
 
 namespace kestrune::desk {
 namespace {
-
-Point centerOf(const Rect& rect) { return {rect.minX() + rect.width() / 2, rect.minY() + rect.height() / 2}; }
 
 void strokeLine(cairo_t* context, Point from, Point to, double width, const Color& color) {
     const SavedState saved{context};

@@ -58,9 +58,6 @@ struct WindowButtons {
     bool isMinimizePressed = false;
     bool isMinimizeHovered = false;
 };
-inline constexpr double WindowButtonSide = 12;
-inline constexpr double WindowButtonDistance = 20; // from centre to centre
-
 // `close` is the area of the first.
 void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowButtons& buttons);
 

@@ -1,12 +1,14 @@
 #include "desk/paint/DeskHitTest.h"
 
 #include "desk/paint/AlertLayout.h"
-#include "desk/paint/DeskLayout.h"
+#include "desk/paint/DeskStack.h"
 #include "desk/paint/DockPainter.h"
 #include "desk/paint/MailLayout.h"
 #include "desk/paint/MenuBarLayout.h"
 #include "desk/paint/MenuLayout.h"
+#include "desk/paint/RectMath.h"
 #include "desk/paint/SettingsPaneLayout.h"
+#include "desk/paint/ToolTipPainter.h"
 #include "desk/paint/WindowLayout.h"
 
 #include <algorithm>
@@ -42,9 +44,7 @@ std::optional<DeskTarget> targetInAlert(const AlertLayout& alert, Point place) {
 // Small controls take presses close beside them, too.
 bool isCloseTo(const Rect& control, Point place) {
     constexpr double Reach = 5;
-    return Rect{control.minX() - Reach, control.minY() - Reach, control.width() + 2 * Reach,
-                control.height() + 2 * Reach}
-        .contains(place);
+    return enlargedBy(control, Reach).contains(place);
 }
 
 std::optional<DeskTarget> targetInPane(const SettingsPaneLayout& layout, const SettingsPanePicture& pane,
@@ -98,26 +98,13 @@ std::optional<DeskTarget> targetInWindow(const WindowLayout& layout, const Windo
     return WindowTarget{shown.number};
 }
 
-// In the frontmost of the windows of one depth that is at the place.
-std::optional<DeskTarget> targetInWindows(const DeskLayout& layout, const DeskPicture& picture, Size window,
-                                          WindowDepth depth, Point place) {
-    for (const WindowPicture& shown : picture.windows) {
-        if (shown.depth == depth) {
-            if (auto target = targetInWindow(windowLayout(layout, shown, window), shown, place)) {
-                return target;
-            }
-        }
-    }
-    return std::nullopt;
-}
-
 std::optional<DeskTarget> targetInMenuBar(const MenuBarLayout& bar, std::size_t display, Point place) {
     for (std::size_t item = 0; item < bar.statusItems.size(); ++item) {
         if (bar.statusItems[item].slot.contains(place)) {
             return StatusItemTarget{display, item};
         }
     }
-    for (std::size_t title = 0; title < bar.titles.size(); ++title) {
+    for (std::size_t title = 0; title < bar.openableTitles; ++title) {
         if (bar.titles[title].contains(place)) {
             return MainMenuTitleTarget{display, title};
         }
@@ -126,10 +113,20 @@ std::optional<DeskTarget> targetInMenuBar(const MenuBarLayout& bar, std::size_t 
 }
 
 // Where the tiles of the minimised windows are; none without a Dock.
-std::vector<Rect> dockTiles(const DeskLayout& layout, const DeskPicture& picture) {
-    const DisplayPlace* const place = picture.dockDisplay ? layout.place(*picture.dockDisplay) : nullptr;
-    return place != nullptr ? dockPlace(*place, layout.scale(), picture.miniaturized.size()).tiles
-                            : std::vector<Rect>();
+std::vector<Rect> dockTiles(const DeskPicture& picture) {
+    return picture.dockDisplay && *picture.dockDisplay < picture.displays.size()
+               ? dockPlace(picture.displays[*picture.dockDisplay].bounds, picture).tiles
+               : std::vector<Rect>();
+}
+
+std::optional<DeskTarget> targetInDock(const DeskPicture& picture, Point place) {
+    const std::vector<Rect> tiles = dockTiles(picture);
+    for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
+        if (tiles[tile].contains(place)) {
+            return DockTileTarget{picture.miniaturized[tile].number};
+        }
+    }
+    return std::nullopt;
 }
 
 template <typename Place>
@@ -140,30 +137,24 @@ const Place* at(const std::vector<Place>& places, std::size_t index) {
 // Finds the area of a part, each kind by the layout that it belongs to.
 struct AreaOfTarget {
     TextMeasure& measure;
-    const DeskLayout& layout;
     const DeskPicture& picture;
-    Size window;
 
     std::optional<Rect> operator()(const StatusItemTarget& target) const {
-        const auto bar = menuBar(target.display);
-        const auto* item = bar ? at(bar->statusItems, target.item) : nullptr;
-        return item != nullptr ? std::optional(item->slot) : std::nullopt;
+        return slotOf(target.display, StatusItemAnchor{target.item});
     }
 
     std::optional<Rect> operator()(const MainMenuTitleTarget& target) const {
-        const auto bar = menuBar(target.display);
-        const auto* title = bar ? at(bar->titles, target.title) : nullptr;
-        return title != nullptr ? std::optional(*title) : std::nullopt;
+        return slotOf(target.display, MainMenuTitleAnchor{target.title});
     }
 
     std::optional<Rect> operator()(const MenuRowTarget& target) const {
-        const auto menu = menuLayout(measure, layout, picture, window);
+        const auto menu = menuLayout(measure, picture);
         const auto* row = menu ? at(menu->rows, target.row) : nullptr;
         return row != nullptr ? std::optional(*row) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const DialogButtonTarget& target) const {
-        const auto alert = alertLayout(measure, layout, picture, window);
+        const auto alert = alertLayout(measure, picture);
         if (!alert) {
             return std::nullopt;
         }
@@ -171,48 +162,48 @@ struct AreaOfTarget {
     }
 
     std::optional<Rect> operator()(const PaneSwitchTarget& target) const {
-        const auto pane = settingsPaneLayout(layout, picture, window);
+        const auto pane = settingsPaneLayout(picture);
         const auto* row = pane ? at(pane->rows, target.row) : nullptr;
         return row != nullptr ? std::optional(row->toggle) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const PaneRowTarget& target) const {
-        const auto pane = settingsPaneLayout(layout, picture, window);
+        const auto pane = settingsPaneLayout(picture);
         const auto* row = pane ? at(pane->rows, target.row) : nullptr;
         return row != nullptr ? std::optional(row->area) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const PaneCloseTarget&) const {
-        const auto pane = settingsPaneLayout(layout, picture, window);
+        const auto pane = settingsPaneLayout(picture);
         return pane ? std::optional(pane->closeButton) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const PaneRemoveTarget&) const {
-        const auto pane = settingsPaneLayout(layout, picture, window);
+        const auto pane = settingsPaneLayout(picture);
         return pane && canRemove(*picture.settingsPane) ? std::optional(pane->removeButton) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const MailCloseTarget&) const {
-        const auto mail = mailLayout(layout, picture, window);
+        const auto mail = mailLayout(picture);
         return mail ? std::optional(mail->closeButton) : std::nullopt;
     }
 
     std::optional<Rect> operator()(const WindowCloseTarget& target) const {
         const WindowPicture* const shown = windowWith(target.window);
         return shown != nullptr && shown->isTitled() && shown->isClosable
-                   ? std::optional(windowLayout(layout, *shown, window).closeButton)
+                   ? std::optional(windowLayout(*shown).closeButton)
                    : std::nullopt;
     }
 
     std::optional<Rect> operator()(const WindowMinimizeTarget& target) const {
         const WindowPicture* const shown = windowWith(target.window);
         return shown != nullptr && shown->isTitled() && shown->isMiniaturizable
-                   ? std::optional(windowLayout(layout, *shown, window).minimizeButton)
+                   ? std::optional(windowLayout(*shown).minimizeButton)
                    : std::nullopt;
     }
 
     std::optional<Rect> operator()(const DockTileTarget& target) const {
-        const std::vector<Rect> tiles = dockTiles(layout, picture);
+        const std::vector<Rect> tiles = dockTiles(picture);
         for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
             if (picture.miniaturized[tile].number == target.window) {
                 return tiles[tile];
@@ -223,16 +214,14 @@ struct AreaOfTarget {
 
     std::optional<Rect> operator()(const WindowControlTarget& target) const {
         const WindowPicture* const shown = windowWith(target.window);
-        return shown != nullptr
-                   ? std::optional(controlArea(windowLayout(layout, *shown, window), *shown, target.element))
-                   : std::nullopt;
+        return shown != nullptr ? std::optional(controlArea(windowLayout(*shown), *shown, target.element))
+                                : std::nullopt;
     }
 
     std::optional<Rect> operator()(const WindowTitleTarget& target) const {
         const WindowPicture* const shown = windowWith(target.window);
-        return shown != nullptr && shown->isTitled()
-                   ? std::optional(windowLayout(layout, *shown, window).titleBar)
-                   : std::nullopt;
+        return shown != nullptr && shown->isTitled() ? std::optional(windowLayout(*shown).titleBar)
+                                                     : std::nullopt;
     }
 
     // Everything that lies around other parts.
@@ -248,56 +237,108 @@ struct AreaOfTarget {
         return found != picture.windows.end() ? &*found : nullptr;
     }
 
-    std::optional<MenuBarLayout> menuBar(std::size_t display) const {
-        const DisplayPlace* place = layout.place(display);
-        return place != nullptr ? std::optional(menuBarLayout(measure, *place, layout.scale(), picture))
-                                : std::nullopt;
+    std::optional<Rect> slotOf(std::size_t display, const MenuAnchor& anchor) const {
+        return display < picture.displays.size()
+                   ? std::optional(anchorSlot(
+                         menuBarLayout(measure, picture.displays[display].bounds, picture), anchor))
+                   : std::nullopt;
     }
 };
 
-} // namespace
-
-std::optional<DeskTarget> DeskHitTest::targetAt(const DeskPicture& picture, Size window, Point place) {
-    const DeskLayout layout = DeskLayout::of(picture, window);
+// What of a part is at a place. Something may be there that nothing can be done with.
+struct Hit {
     std::optional<DeskTarget> target;
-    const auto lookInWindows = [&](WindowDepth depth) {
-        target = target ? target : targetInWindows(layout, picture, window, depth, place);
-    };
-    if (const auto menu = menuLayout(measure_, layout, picture, window)) {
-        target = targetInMenu(*menu, place);
-    }
-    lookInWindows(WindowDepth::beforeDialog);
-    if (const auto alert = target ? std::nullopt : alertLayout(measure_, layout, picture, window)) {
-        target = targetInAlert(*alert, place);
-    }
-    lookInWindows(WindowDepth::beforePane);
-    if (const auto mail = target ? std::nullopt : mailLayout(layout, picture, window)) {
-        target = targetInMail(*mail, place);
-    }
-    if (const auto pane = target ? std::nullopt : settingsPaneLayout(layout, picture, window)) {
-        target = targetInPane(*pane, *picture.settingsPane, place);
-    }
-    lookInWindows(WindowDepth::behindSystemWindows);
-    for (std::size_t display = 0; !target && display < picture.displays.size(); ++display) {
-        const DisplayPlace* const displayPlace = layout.place(display);
-        // Only a bar under the place is worth measuring its texts.
-        if (displayPlace && menuBarArea(*displayPlace, layout.scale()).contains(place)) {
-            target = targetInMenuBar(menuBarLayout(measure_, *displayPlace, layout.scale(), picture), display,
-                                     place);
-        }
-    }
-    const std::vector<Rect> tiles = target ? std::vector<Rect>() : dockTiles(layout, picture);
-    for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
-        if (tiles[tile].contains(place)) {
-            target = DockTileTarget{picture.miniaturized[tile].number};
-        }
-    }
-    return target;
+};
+
+std::optional<Hit> asHit(std::optional<DeskTarget> target) {
+    return target ? std::optional(Hit{target}) : std::nullopt;
 }
 
-std::optional<Rect> DeskHitTest::areaOf(const DeskPicture& picture, Size window, const DeskTarget& target) {
-    const DeskLayout layout = DeskLayout::of(picture, window);
-    const auto area = std::visit(AreaOfTarget{measure_, layout, picture, window}, target);
+std::optional<Hit> hitOf(const StackedPart& part, TextMeasure& measure, const DeskPicture& picture,
+                         Point place) {
+    const auto lookIn = [place](const auto& layout, const auto& targetIn) {
+        return layout ? asHit(targetIn(*layout, place)) : std::nullopt;
+    };
+    switch (part.kind) {
+    case PartKind::menu:
+        return lookIn(menuLayout(measure, picture), targetInMenu);
+    case PartKind::toolTip:
+        return std::nullopt;
+    case PartKind::menuBar: {
+        const Rect& display = picture.displays[part.display].bounds;
+        // Only a bar under the place is worth measuring its texts.
+        return menuBarArea(display).contains(place)
+                   ? std::optional(
+                         Hit{targetInMenuBar(menuBarLayout(measure, display, picture), part.display, place)})
+                   : std::nullopt;
+    }
+    case PartKind::dock:
+        return dockPlace(picture.displays[part.display].bounds, picture).panel.contains(place)
+                   ? std::optional(Hit{targetInDock(picture, place)})
+                   : std::nullopt;
+    case PartKind::dialog:
+        return lookIn(alertLayout(measure, picture), targetInAlert);
+    case PartKind::mail:
+        return lookIn(mailLayout(picture), targetInMail);
+    case PartKind::pane:
+        return lookIn(settingsPaneLayout(picture), [&](const SettingsPaneLayout& layout, Point inside) {
+            return targetInPane(layout, *picture.settingsPane, inside);
+        });
+    case PartKind::window: {
+        const WindowPicture& shown = picture.windows[part.window];
+        return asHit(targetInWindow(windowLayout(shown), shown, place));
+    }
+    }
+    return std::nullopt;
+}
+
+// A part is only where its display is.
+bool isShownAt(const StackedPart& part, const DeskPicture& picture, Point place) {
+    return part.kind == PartKind::window ||
+           (part.display < picture.displays.size() && picture.displays[part.display].bounds.contains(place));
+}
+
+} // namespace
+
+std::optional<DeskTarget> DeskHitTest::targetAt(const DeskPicture& picture, Point place) {
+    for (const StackedPart& part : stackOf(picture)) {
+        const auto hit =
+            isShownAt(part, picture, place) ? hitOf(part, measure_, picture, place) : std::nullopt;
+        if (hit) {
+            return hit->target;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Rect> DeskHitTest::openParts(const DeskPicture& picture) {
+    if (const auto menu = menuLayout(measure_, picture)) {
+        return menu->panel;
+    }
+    if (const auto toolTip = toolTipArea(measure_, picture)) {
+        return toolTip;
+    }
+    std::vector<Rect> frames;
+    const auto addFrameOf = [&frames](const auto& layout) {
+        if (layout) {
+            frames.push_back(layout->frame);
+        }
+    };
+    addFrameOf(alertLayout(measure_, picture));
+    addFrameOf(mailLayout(picture));
+    addFrameOf(settingsPaneLayout(picture));
+    for (const WindowPicture& window : picture.windows) {
+        frames.push_back(window.frame);
+    }
+    std::optional<Rect> all;
+    for (const Rect& frame : frames) {
+        all = all ? unionOf(*all, frame) : frame;
+    }
+    return all;
+}
+
+std::optional<Rect> DeskHitTest::areaOf(const DeskPicture& picture, const DeskTarget& target) {
+    const auto area = std::visit(AreaOfTarget{measure_, picture}, target);
     // What there is no room for has a null rectangle in the layouts.
     return area && !area->isNull() ? area : std::nullopt;
 }

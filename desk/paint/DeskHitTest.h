@@ -1,4 +1,4 @@
-// What a place in the window belongs to.
+// What a place on the displays belongs to.
 #pragma once
 
 #include "base/Geometry.h"
@@ -13,13 +13,17 @@ namespace kestrune::desk {
 // Keep one for each window; it is meant to be asked with each event of the pointer.
 class DeskHitTest {
 public:
-    // The foremost part at a place in logical pixels of a window that shows the picture; absent where the
-    // bare desk is. Tool tips let everything through.
-    std::optional<DeskTarget> targetAt(const DeskPicture& picture, Size window, Point place);
+    // The foremost part at a place in global display coordinates; absent where the bare desk is. Tool tips
+    // let everything through.
+    std::optional<DeskTarget> targetAt(const DeskPicture& picture, Point place);
 
-    // Where a part is, in logical pixels; absent for a part that the picture does not have or that has no
-    // place of its own.
-    std::optional<Rect> areaOf(const DeskPicture& picture, Size window, const DeskTarget& target);
+    // Where a part is, in global display coordinates; absent for a part that the picture does not have or
+    // that has no place of its own.
+    std::optional<Rect> areaOf(const DeskPicture& picture, const DeskTarget& target);
+
+    // What is open in front of everything, in global display coordinates: the menu or the tool tip, and
+    // without one all windows. Absent when nothing is open.
+    std::optional<Rect> openParts(const DeskPicture& picture);
 
 private:
     TextMeasure measure_;

@@ -1,85 +1,104 @@
 #include "desk/paint/DeskLayout.h"
 
+#include "desk/paint/RectMath.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace kestrune::desk {
 namespace {
 
+// In points of the displays.
+constexpr double Bezel = 11;
+constexpr double HalfGap = 7; // between two housings
+constexpr double WidestMargin = Bezel + HalfGap;
+constexpr double HighestCaption = 64;
+constexpr double ScreenCornerRadius = 12;
+
+// In logical pixels.
 constexpr double HorizontalMargin = 48;
 constexpr double VerticalMargin = 20;
+constexpr double DetailMargin = 28; // beside the stage for a part of the displays
+constexpr double FrameMargin = 24;  // around what is shown on the stage
+
 constexpr double FarthestCoordinate = 1e7;
 
-bool isDrawable(const Rect& bounds) {
-    const auto isNear = [](double coordinate) { return std::abs(coordinate) <= FarthestCoordinate; };
-    return isNear(bounds.minX()) && isNear(bounds.maxX()) && isNear(bounds.minY()) && isNear(bounds.maxY()) &&
-           !bounds.isEmpty();
+bool isNear(const Rect& rect) {
+    const auto isNearEnough = [](double coordinate) { return std::abs(coordinate) <= FarthestCoordinate; };
+    return isNearEnough(rect.minX()) && isNearEnough(rect.maxX()) && isNearEnough(rect.minY()) &&
+           isNearEnough(rect.maxY());
 }
 
-Rect unionOf(const Rect& first, const Rect& second) {
-    const double left = std::min(first.minX(), second.minX());
-    const double top = std::min(first.minY(), second.minY());
-    return {left, top, std::max(first.maxX(), second.maxX()) - left,
-            std::max(first.maxY(), second.maxY()) - top};
+bool isDrawable(const Rect& bounds) { return isNear(bounds) && !bounds.isEmpty(); }
+
+// By how much two intervals have to move apart, as a part of the distance of their middles.
+double spreadOf(double distance, double lengths, double wanted) {
+    constexpr double Most = 0.5;
+    const double gap = distance - lengths / 2;
+    return std::max(0.0, std::min(Most, (wanted - gap) / distance));
 }
 
-Rect insetBy(const Rect& rect, double distance) {
-    return {rect.minX() + distance, rect.minY() + distance, rect.width() - 2 * distance,
-            rect.height() - 2 * distance};
+double distanceTo(const Rect& rect, Point point) {
+    return std::hypot(std::max({rect.minX() - point.x, 0.0, point.x - rect.maxX()}),
+                      std::max({rect.minY() - point.y, 0.0, point.y - rect.maxY()}));
 }
 
-Rect withWholeEdges(const Rect& rect) {
-    const double left = std::round(rect.minX());
-    const double top = std::round(rect.minY());
-    return {left, top, std::round(rect.maxX()) - left, std::round(rect.maxY()) - top};
-}
-
-// Housing and gap shrink with small displays so that most of the slot stays lit. Edges fall on whole pixels
-// where the gap hides the rounding.
-DisplayPlace placeIn(const Rect& bounds, const Rect& slot) {
-    const double shorterSide = std::min(slot.width(), slot.height());
-    const double gap = std::min(3.0, shorterSide * 0.025);
-    const double bezel = std::min(4.0, shorterSide * 0.03);
-    Rect frame = insetBy(slot, gap);
-    Rect screen = insetBy(frame, bezel);
-    if (gap >= 1) {
-        frame = withWholeEdges(frame);
-        screen = withWholeEdges(screen);
+// A coordinate on the housing gives the nearest one of the display, and one further away as much less far.
+double pastHousing(double value, double minimum, double maximum, double margin) {
+    if (value < minimum) {
+        return std::min(value + margin, minimum);
     }
-    const double cornerRadius = std::min(12.0, shorterSide * 0.06);
-    return {bounds, slot, frame, screen, cornerRadius, std::max(0.0, cornerRadius - bezel)};
+    return value < maximum ? value : std::max(value - margin, std::nextafter(maximum, minimum));
 }
 
-Point mapBetween(const Rect& from, const Rect& to, Point point) {
-    return {to.minX() + (point.x - from.minX()) * (to.width() / from.width()),
-            to.minY() + (point.y - from.minY()) * (to.height() / from.height())};
-}
-
-double clampInside(double value, double minimum, double maximum) {
-    return std::clamp(value, minimum, std::nextafter(maximum, minimum));
+// Where an interval of a length begins that shows as little as possible beside the whole.
+double keptWithin(double start, double length, double wholeStart, double wholeLength) {
+    return length >= wholeLength ? wholeStart + (wholeLength - length) / 2
+                                 : std::clamp(start, wholeStart, wholeStart + wholeLength - length);
 }
 
 } // namespace
 
-DeskLayout::DeskLayout(Size window, std::span<const Rect> displays, bool hasStory) {
+Point DisplayPlace::toWindow(Point global) const {
+    return {screen.minX() + (global.x - bounds.minX()) * scale,
+            screen.minY() + (global.y - bounds.minY()) * scale};
+}
+
+Rect DisplayPlace::toWindow(const Rect& global) const {
+    const Point corner = toWindow(Point{global.minX(), global.minY()});
+    return {corner.x, corner.y, global.width() * scale, global.height() * scale};
+}
+
+Point DisplayPlace::toGlobal(Point window) const {
+    return {bounds.minX() + (window.x - screen.minX()) / scale,
+            bounds.minY() + (window.y - screen.minY()) / scale};
+}
+
+DeskLayout::DeskLayout(Size window, std::span<const Rect> displays, bool hasStory,
+                       std::optional<Rect> shown) {
     divideWindow(window, hasStory);
-    std::optional<Rect> arrangement;
+    if (shown) {
+        insetStage();
+    }
+    std::vector<Rect> drawable;
     for (const Rect& bounds : displays) {
         if (isDrawable(bounds)) {
-            arrangement = arrangement ? unionOf(*arrangement, bounds) : bounds.standardized();
+            drawable.push_back(bounds.standardized());
         }
+    }
+    spreadOut(drawable);
+    std::optional<Rect> arrangement;
+    for (const Rect& bounds : drawable) {
+        Rect room = enlargedBy(onDesk(bounds), margin_);
+        room.size.height += captionRoom_;
+        arrangement = arrangement ? unionOf(*arrangement, room) : room;
     }
     if (arrangement) {
-        fit(*arrangement);
+        show(*arrangement, shown);
     }
     for (const Rect& bounds : displays) {
-        if (!isDrawable(bounds)) {
-            places_.emplace_back();
-            continue;
-        }
-        const Rect slot{bounds.minX() * scale_ + offset_.x, bounds.minY() * scale_ + offset_.y,
-                        bounds.width() * scale_, bounds.height() * scale_};
-        places_.emplace_back(placeIn(bounds.standardized(), slot));
+        places_.push_back(isDrawable(bounds) ? std::optional(placeOf(bounds.standardized())) : std::nullopt);
     }
 }
 
@@ -88,7 +107,7 @@ DeskLayout DeskLayout::of(const DeskPicture& picture, Size window) {
     for (const DisplayPicture& display : picture.displays) {
         bounds.push_back(display.bounds);
     }
-    return {window, bounds, !picture.story.empty()};
+    return {window, bounds, !picture.story.empty(), picture.shown};
 }
 
 void DeskLayout::divideWindow(Size window, bool hasStory) {
@@ -97,18 +116,95 @@ void DeskLayout::divideWindow(Size window, bool hasStory) {
     story_ = {HorizontalMargin, HeaderHeight, std::max(1.0, window.width - 2 * HorizontalMargin),
               storyHeight};
     footer_ = {0, window.height - FooterHeight, window.width, FooterHeight};
-    const double top = HeaderHeight + storyHeight + (hasStory ? VerticalMargin / 2 : 0);
-    content_ = {HorizontalMargin, top, std::max(1.0, window.width - 2 * HorizontalMargin),
-                std::max(1.0, footer_.minY() - VerticalMargin - top)};
+    const double top = HeaderHeight + storyHeight;
+    stage_ = {0, top, window.width, std::max(1.0, footer_.minY() - top)};
 }
 
-void DeskLayout::fit(const Rect& arrangement) {
-    scale_ =
-        std::min({1.0, content_.width() / arrangement.width(), content_.height() / arrangement.height()});
-    offset_ = {content_.minX() + (content_.width() - arrangement.width() * scale_) / 2 -
-                   arrangement.minX() * scale_,
-               content_.minY() + (content_.height() - arrangement.height() * scale_) / 2 -
-                   arrangement.minY() * scale_};
+// A part of the displays is seen as through a window of its own.
+void DeskLayout::insetStage() {
+    stage_ = {stage_.minX() + DetailMargin, stage_.minY() + DetailMargin / 4,
+              std::max(1.0, stage_.width() - 2 * DetailMargin),
+              std::max(1.0, stage_.height() - DetailMargin)};
+    stageCornerRadius_ = 10;
+}
+
+// The shortest side decides how much room there is for a housing. Neighbours then move apart in the direction
+// in which they are neighbours.
+void DeskLayout::spreadOut(std::span<const Rect> displays) {
+    double shortest = std::numeric_limits<double>::max();
+    for (const Rect& bounds : displays) {
+        shortest = std::min({shortest, bounds.width(), bounds.height()});
+    }
+    margin_ = std::min(WidestMargin, 0.055 * shortest);
+    captionRoom_ = std::min(HighestCaption, 0.2 * shortest);
+    constexpr double AlmostAll = 1 - 1e-9; // against rounding where edges meet
+    for (std::size_t first = 0; first < displays.size(); ++first) {
+        for (std::size_t second = first + 1; second < displays.size(); ++second) {
+            const Rect& one = displays[first];
+            const Rect& other = displays[second];
+            const double across = std::abs(centerOf(one).x - centerOf(other).x);
+            const double down = std::abs(centerOf(one).y - centerOf(other).y);
+            const double widths = one.width() + other.width();
+            const double heights = one.height() + other.height();
+            if (2 * across >= widths * AlmostAll) {
+                spread_.width = std::max(spread_.width, 1 + spreadOf(across, widths, 2 * margin_));
+            } else if (2 * down >= heights * AlmostAll) {
+                spread_.height =
+                    std::max(spread_.height, 1 + spreadOf(down, heights, 2 * margin_ + captionRoom_));
+            }
+        }
+    }
+}
+
+// In points, but spread out.
+Rect DeskLayout::onDesk(const Rect& bounds) const {
+    const Point center = centerOf(bounds);
+    return movedBy(bounds, {(spread_.width - 1) * center.x, (spread_.height - 1) * center.y});
+}
+
+void DeskLayout::show(const Rect& arrangement, const std::optional<Rect>& shown) {
+    const double horizontal = shown ? FrameMargin : HorizontalMargin;
+    const double vertical = shown ? FrameMargin : VerticalMargin;
+    const Rect room{stage_.minX() + horizontal, stage_.minY() + vertical,
+                    std::max(1.0, stage_.width() - 2 * horizontal),
+                    std::max(1.0, stage_.height() - 2 * vertical)};
+    const auto fitting = [&room](const Rect& part) {
+        return std::min({1.0, room.width() / part.width(), room.height() / part.height()});
+    };
+    Rect wanted = arrangement;
+    scale_ = fitting(arrangement);
+    if (shown && isNear(*shown)) {
+        wanted = {shown->minX() * spread_.width, shown->minY() * spread_.height,
+                  shown->width() * spread_.width, shown->height() * spread_.height};
+        scale_ = std::max(scale_, fitting(wanted)); // More than all displays is nothing to see.
+    }
+    const Size seen{room.width() / scale_, room.height() / scale_};
+    const Point middle = centerOf(wanted);
+    const double left =
+        keptWithin(middle.x - seen.width / 2, seen.width, arrangement.minX(), arrangement.width());
+    const double top =
+        keptWithin(middle.y - seen.height / 2, seen.height, arrangement.minY(), arrangement.height());
+    offset_ = {room.minX() - left * scale_, room.minY() - top * scale_};
+}
+
+DisplayPlace DeskLayout::placeOf(const Rect& bounds) const {
+    const Rect desk = onDesk(bounds);
+    DisplayPlace place;
+    place.bounds = bounds;
+    place.scale = scale_;
+    place.screen = {desk.minX() * scale_ + offset_.x, desk.minY() * scale_ + offset_.y, desk.width() * scale_,
+                    desk.height() * scale_};
+    if (scale_ == 1) { // Whole points are whole pixels, and the gap hides the rounding.
+        place.screen.origin = {std::round(place.screen.minX()), std::round(place.screen.minY())};
+    }
+    const double bezel = margin_ * Bezel / WidestMargin;
+    place.housing = enlargedBy(place.screen, bezel * scale_);
+    const double shorterSide = std::min(bounds.width(), bounds.height());
+    const double radius = std::min(ScreenCornerRadius, 0.05 * shorterSide);
+    place.screenCornerRadius = radius * scale_;
+    place.housingCornerRadius = (radius + bezel) * scale_;
+    place.captionRoom = captionRoom_ * scale_;
+    return place;
 }
 
 const DisplayPlace* DeskLayout::place(std::size_t display) const {
@@ -126,29 +222,46 @@ const DisplayPlace* DeskLayout::placeContaining(Point global) const {
     return found != places_.end() ? &**found : nullptr;
 }
 
-Point DeskLayout::toWindow(Point global) const {
-    const DisplayPlace* const place = placeContaining(global);
-    return place ? mapBetween(place->bounds, place->screen, global)
-                 : Point{global.x * scale_ + offset_.x, global.y * scale_ + offset_.y};
+std::optional<Point> DeskLayout::pointAt(Point window) const {
+    const auto found = std::find_if(places_.begin(), places_.end(), [window](const auto& place) {
+        return place && place->screen.contains(window);
+    });
+    return found != places_.end() && stage_.contains(window) ? std::optional((*found)->toGlobal(window))
+                                                             : std::nullopt;
 }
 
 Point DeskLayout::toGlobal(Point window) const {
-    const auto isAt = [window](const auto& place, Rect DisplayPlace::*area) {
-        return place && ((*place).*area).contains(window);
+    const DisplayPlace* nearest = nullptr;
+    for (const auto& place : places_) {
+        if (place &&
+            (nearest == nullptr || distanceTo(place->screen, window) < distanceTo(nearest->screen, window))) {
+            nearest = &*place;
+        }
+    }
+    if (nearest == nullptr) {
+        return window;
+    }
+    const Rect& bounds = nearest->bounds;
+    const Point point = nearest->toGlobal(window);
+    return {pastHousing(point.x, bounds.minX(), bounds.maxX(), margin_),
+            pastHousing(point.y, bounds.minY(), bounds.maxY(), margin_)};
+}
+
+Point DeskLayout::centerAfter(Point way) const {
+    const Point center = centerOf(stage_);
+    return {(center.x + way.x - offset_.x) / scale_ / spread_.width,
+            (center.y + way.y - offset_.y) / scale_ / spread_.height};
+}
+
+Point DeskLayout::centerFor(Point pointer) const {
+    constexpr double EdgeWidth = 90;
+    constexpr double Haste = 0.3;
+    const auto wayFor = [&](double place, double minimum, double maximum) {
+        const double width = std::min(EdgeWidth, (maximum - minimum) / 4);
+        return Haste * (std::min(0.0, place - minimum - width) + std::max(0.0, place - maximum + width));
     };
-    auto found = std::find_if(places_.begin(), places_.end(),
-                              [&](const auto& place) { return isAt(place, &DisplayPlace::screen); });
-    if (found == places_.end()) {
-        found = std::find_if(places_.begin(), places_.end(),
-                             [&](const auto& place) { return isAt(place, &DisplayPlace::slot); });
-    }
-    if (found == places_.end()) {
-        return {(window.x - offset_.x) / scale_, (window.y - offset_.y) / scale_};
-    }
-    const Rect& bounds = (*found)->bounds;
-    const Point point = mapBetween((*found)->screen, bounds, window);
-    return {clampInside(point.x, bounds.minX(), bounds.maxX()),
-            clampInside(point.y, bounds.minY(), bounds.maxY())};
+    return centerAfter(
+        {wayFor(pointer.x, stage_.minX(), stage_.maxX()), wayFor(pointer.y, stage_.minY(), stage_.maxY())});
 }
 
 } // namespace kestrune::desk

@@ -1,43 +1,48 @@
 #include "desk/paint/DeskPainter.h"
 
 #include "desk/paint/BandPainter.h"
-#include "desk/paint/Canvas.h"
-#include "desk/paint/DisplayPainter.h"
 #include "desk/paint/DockPainter.h"
 #include "desk/paint/HeaderPainter.h"
-#include "desk/paint/MenuBarLayout.h"
-#include "desk/paint/MenuBarPainter.h"
 #include "desk/paint/PointerPainter.h"
+#include "desk/paint/RectMath.h"
 #include "desk/paint/Shapes.h"
 #include "desk/paint/StatusBarPainter.h"
 
 #include <cmath>
+#include <functional>
 #include <utility>
 
 namespace kestrune::desk {
 namespace {
 
-void paintScreens(const Canvas& canvas, TextMeasure& measure, ImageStore& images, const DeskLayout& layout,
-                  const DeskPicture& picture) {
+// Displays beside the stage are not seen.
+void clipToStage(cairo_t* context, const DeskLayout& layout) {
+    addRoundedRectangle(context, layout.stage(), layout.stageCornerRadius());
+    cairo_clip(context);
+}
+
+void forEachPlace(const DeskLayout& layout, const DeskPicture& picture,
+                  const std::function<void(const DisplayPlace&, std::size_t)>& act) {
     for (std::size_t index = 0; index < picture.displays.size(); ++index) {
-        const DisplayPicture& display = picture.displays[index];
-        const DisplayPlace* const place = layout.place(index);
-        if (!place) {
-            continue;
+        if (const DisplayPlace* const place = layout.place(index)) {
+            act(*place, index);
         }
-        paintMenuBar(canvas, images, *place, menuBarLayout(measure, *place, layout.scale(), picture), picture,
-                     index);
-        if (display.bandTop && picture.guard == GuardState::on) {
-            paintBand(canvas, *place, *display.bandTop);
-        } else if (display.bandTop) {
-            paintIdleBand(canvas, *place, *display.bandTop);
-        }
-        if (picture.dockDisplay == index) {
-            paintDock(canvas, dockPlace(*place, layout.scale(), picture.miniaturized.size()),
-                      picture.miniaturized);
-        }
-        paintCaption(canvas, captionPlace(canvas, *place, layout.scale(), display), display);
     }
+}
+
+// What the desk itself adds to the displays.
+void paintBandsAndCaptions(const Canvas& canvas, const DeskLayout& layout, const DeskPicture& picture) {
+    const SavedState saved{canvas.context};
+    clipToStage(canvas.context, layout);
+    forEachPlace(layout, picture, [&](const DisplayPlace& place, std::size_t index) {
+        const DisplayPicture& display = picture.displays[index];
+        if (display.bandTop) {
+            paintBand(canvas, place, *display.bandTop, picture.guard == GuardState::on);
+        }
+        if (const auto caption = captionPlace(canvas.text, place, display)) {
+            paintCaption(canvas, *caption, display);
+        }
+    });
 }
 
 void paintMarks(const Canvas& canvas, const DeskLayout& layout, const DeskPicture& picture) {
@@ -45,23 +50,19 @@ void paintMarks(const Canvas& canvas, const DeskLayout& layout, const DeskPictur
         const DisplayPlace* const from = layout.place(picture.dockMoveMark->from);
         const DisplayPlace* const to = layout.place(picture.dockMoveMark->to);
         if (from && to) {
-            const std::size_t tiles = picture.miniaturized.size();
-            paintDockTrail(canvas, dockPlace(*from, layout.scale(), tiles),
-                           dockPlace(*to, layout.scale(), tiles), picture.dockMoveMark->age);
+            paintDockTrail(canvas.context, from->toWindow(dockPlace(from->bounds, picture).panel),
+                           to->toWindow(dockPlace(to->bounds, picture).panel), picture.dockMoveMark->age);
         }
     }
-    for (std::size_t index = 0; picture.heldMark && index < picture.displays.size(); ++index) {
-        const DisplayPlace* const place = layout.place(index);
-        if (place && place->bounds.contains(picture.heldMark->location)) {
-            paintHeldMark(canvas, *place, layout.toWindow(picture.heldMark->location), picture.heldMark->age);
-            return;
+    if (picture.heldMark) {
+        if (const DisplayPlace* const place = layout.placeContaining(picture.heldMark->location)) {
+            paintHeldMark(canvas, *place, picture.heldMark->location, picture.heldMark->age);
         }
     }
 }
 
 void paintNoDisplay(const Canvas& canvas, const DeskLayout& layout) {
-    const Rect content = layout.content();
-    const Point center{content.minX() + content.width() / 2, content.minY() + content.height() / 2};
+    const Point center = centerOf(layout.stage());
     {
         const SavedState saved{canvas.context};
         constexpr double Dashes[] = {6, 6};
@@ -76,36 +77,17 @@ void paintNoDisplay(const Canvas& canvas, const DeskLayout& layout) {
                        .alignment = TextAlignment::center});
 }
 
-void paintPointerAt(cairo_t* context, Point hotSpot, Size window) {
-    // A pointer far outside the window, or nowhere, cannot be seen and would exceed Cairo's fixed-point
-    // range.
-    if (std::abs(hotSpot.x) <= 2 * window.width && std::abs(hotSpot.y) <= 2 * window.height) {
-        paintPointer(context, hotSpot);
-    }
-}
-
 } // namespace
 
 DeskPicture withoutWhatMoves(DeskPicture picture) {
-    const DeskPicture nothing;
-    picture.pointer = nothing.pointer;
-    picture.whatHappened = nothing.whatHappened;
-    picture.occurrence = nothing.occurrence;
-    picture.events = nothing.events;
-    picture.held = nothing.held;
-    picture.dockMoves = nothing.dockMoves;
-    picture.heldMark = nothing.heldMark;
-    picture.dockMoveMark = nothing.dockMoveMark;
-    if (picture.menu) {
-        picture.menu->rows.clear(); // What it hangs from is highlighted in the menu bar.
-    }
-    picture.toolTip = nothing.toolTip;
-    picture.permissionDialog = nothing.permissionDialog;
-    picture.mail = nothing.mail;
-    picture.settingsPane = nothing.settingsPane;
-    picture.windows.clear();
-    picture.pressed = nothing.pressed;
-    return picture;
+    DeskPicture result;
+    result.displays = std::move(picture.displays);
+    result.shown = picture.shown;
+    result.guard = picture.guard;
+    result.keys = std::move(picture.keys);
+    result.story = std::move(picture.story);
+    result.dark = picture.dark;
+    return result;
 }
 
 void DeskPainter::paint(cairo_t* context, const DeskPicture& picture, Size window) {
@@ -121,50 +103,54 @@ void DeskPainter::paint(cairo_t* context, const DeskPicture& picture, Size windo
     TextPainter text{context};
     const Canvas canvas{context, text, paletteFor(picture.dark)};
     paintStatus(canvas, layout, picture);
-    if (!layout.isEmpty()) {
-        paintMarks(canvas, layout, picture);
+    // So small, nothing on a display could be seen, and neither Cairo nor FreeType take the transformation.
+    constexpr double SmallestScale = 1.0 / 64;
+    if (!layout.isEmpty() && layout.scale() >= SmallestScale) {
+        paintStage(canvas, picture, layout);
     }
-    systemParts_.paint(canvas, measure_, images_, layout, picture, window);
-    if (!layout.isEmpty()) {
-        paintPointerAt(context, layout.toWindow(picture.pointer), window);
-    }
+}
+
+void DeskPainter::paintStage(const Canvas& canvas, const DeskPicture& picture, const DeskLayout& layout) {
+    const SavedState saved{canvas.context};
+    clipToStage(canvas.context, layout);
+    stack_.paint(canvas, layout, picture);
+    paintMarks(canvas, layout, picture);
+    forEachPlace(layout, picture, [&](const DisplayPlace& place, std::size_t) {
+        if (doOverlap(pointerExtent(picture.pointer), place.bounds)) {
+            const SavedState outside{canvas.context};
+            enterDisplay(canvas.context, place);
+            paintPointer(canvas.context, picture.pointer);
+        }
+        paintScreenCorners(canvas.context, canvas.palette, place);
+    });
 }
 
 void DeskPainter::paintStill(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout,
                              Size window) {
-    paintBackdrop(context, picture, layout, window);
     TextPainter text{context};
     const Canvas canvas{context, text, paletteFor(picture.dark)};
+    cairo_rectangle(context, 0, 0, window.width, window.height);
+    fillWithVerticalGradient(context, 0, window.height,
+                             {canvas.palette.windowTop, canvas.palette.windowBottom});
+    paintHousings(context, picture, layout);
     paintHeader(canvas, layout, picture);
     paintKeys(canvas, layout, picture);
     if (layout.isEmpty()) {
         paintNoDisplay(canvas, layout);
     } else {
-        paintScreens(canvas, measure_, images_, layout, picture);
+        paintBandsAndCaptions(canvas, layout, picture);
     }
 }
 
-void DeskPainter::paintBackdrop(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout,
-                                Size window) {
-    Backdrop backdrop{{}, {}, layout.content(), picture.dark};
-    for (const DisplayPicture& display : picture.displays) {
-        backdrop.bounds.push_back(display.bounds);
-        backdrop.wallpapers.push_back(display.wallpaper);
-    }
-    const Palette& palette = paletteFor(picture.dark);
-    backdrop_.paint(context, window, std::move(backdrop), [&](cairo_t* layer) {
-        cairo_rectangle(layer, 0, 0, window.width, window.height);
-        fillWithVerticalGradient(layer, 0, window.height, {palette.windowTop, palette.windowBottom});
-        for (std::size_t index = 0; index < picture.displays.size(); ++index) {
-            if (const DisplayPlace* const place = layout.place(index)) {
-                paintHousingShadow(layer, palette, *place);
-            }
-        }
-        for (std::size_t index = 0; index < picture.displays.size(); ++index) {
-            if (const DisplayPlace* const place = layout.place(index)) {
-                paintHousing(layer, palette, *place, picture.displays[index].wallpaper);
-            }
-        }
+void DeskPainter::paintHousings(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout) {
+    housings_.resize(picture.displays.size());
+    const SavedState saved{context};
+    clipToStage(context, layout);
+    forEachPlace(layout, picture, [&](const DisplayPlace& place, std::size_t index) {
+        housings_[index].paintShadow(context, place, picture.dark);
+    });
+    forEachPlace(layout, picture, [&](const DisplayPlace& place, std::size_t index) {
+        housings_[index].paint(context, place, picture.displays[index].wallpaper, picture.dark);
     });
 }
 

@@ -4,13 +4,12 @@
 #include "base/Geometry.h"
 #include "desk/paint/CachedLayer.h"
 #include "desk/paint/CairoObjects.h"
+#include "desk/paint/Canvas.h"
 #include "desk/paint/DeskLayout.h"
 #include "desk/paint/DeskPicture.h"
-#include "desk/paint/ImageStore.h"
-#include "desk/paint/SystemPartsPainter.h"
-#include "desk/paint/TextMeasure.h"
+#include "desk/paint/DisplayPainter.h"
+#include "desk/paint/StackPainter.h"
 
-#include <cstddef>
 #include <vector>
 
 namespace kestrune::desk {
@@ -29,25 +28,15 @@ public:
     void paint(cairo_t* context, const DeskPicture& picture, Size window);
 
 private:
-    // The window's background, and the displays' housings and wallpapers.
-    struct Backdrop {
-        std::vector<Rect> bounds;
-        std::vector<std::size_t> wallpapers;
-        Rect content;
-        bool dark = false;
-
-        friend bool operator==(const Backdrop&, const Backdrop&) = default;
-    };
-
-    void paintBackdrop(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout, Size window);
     void paintStill(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout, Size window);
+    void paintStage(const Canvas& canvas, const DeskPicture& picture, const DeskLayout& layout);
 
-    CachedLayer<Backdrop> backdrop_;
+    void paintHousings(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout);
+
+    std::vector<HousingPainter> housings_; // by display
     // The subject is without what moves.
     CachedLayer<DeskPicture> still_;
-    SystemPartsPainter systemParts_;
-    TextMeasure measure_;
-    ImageStore images_;
+    StackPainter stack_;
 };
 
 } // namespace kestrune::desk

@@ -63,6 +63,9 @@ struct DeskPicture {
     std::vector<DisplayPicture> displays;
     // Index of the display that shows the Dock.
     std::optional<std::size_t> dockDisplay;
+    // What is to be seen of the displays, at no more than 100 %: one logical pixel for each point. Absent:
+    // all of them.
+    std::optional<Rect> shown;
     Point pointer;
 
     GuardState guard = GuardState::off;
@@ -80,16 +83,18 @@ struct DeskPicture {
     std::string clock;
     // In the order of the menu bar; the last is next to the clock.
     std::vector<StatusItemPicture> statusItems;
-    // The first is the application's name. Empty while the application has no main menu.
+    // The first is the application's name. Empty while the application has no main menu or is not the active
+    // one: then the menu bars have the titles of another.
     std::vector<std::string> mainMenuTitles;
+    // A PNG file, while the application has a place in the Dock.
+    std::optional<std::string> dockIcon;
 
-    // From front to back.
     std::optional<MenuPicture> menu;
     std::optional<ToolTipPicture> toolTip;
     std::optional<PermissionDialogPicture> permissionDialog;
     std::optional<MailPicture> mail;
     std::optional<SettingsPanePicture> settingsPane;
-    // The application's own, from front to back, deeper ones after less deep ones.
+    // The application's own, from front to back.
     std::vector<WindowPicture> windows;
     // Those that are tiles in the Dock instead, from left to right.
     std::vector<WindowPicture> miniaturized;

@@ -1,6 +1,6 @@
 #include "desk/paint/DisplayPainter.h"
 
-#include "desk/paint/MenuBarLayout.h"
+#include "desk/paint/RectMath.h"
 #include "desk/paint/Shapes.h"
 #include "desk/paint/SoftShadow.h"
 #include "desk/paint/Wallpaper.h"
@@ -9,25 +9,23 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <numbers>
 #include <string>
 #include <string_view>
 
 namespace kestrune::desk {
 namespace {
 
-constexpr double CaptionPadding = 9;
-constexpr double CaptionGap = 7;
+constexpr double HighestCaption = 22;
+constexpr double LowestCaption = 13;
+constexpr double CaptionPart = 0.9; // of the room for it
+constexpr double SizeGap = 7;
+constexpr double BadgeGap = 9;
 constexpr std::string_view BadgeText = "Pinned";
-constexpr double BadgeTextStart = 1.0; // as a part of the badge's height
 
-Rect offsetBy(const Rect& rect, double distance) {
-    return {rect.minX(), rect.minY() + distance, rect.width(), rect.height()};
-}
-
-void clipToScreen(cairo_t* context, const DisplayPlace& place) {
-    addRoundedRectangle(context, place.screen, place.screenCornerRadius);
-    cairo_clip(context);
-}
+// As parts of the badge's height.
+constexpr double BadgeTextStart = 1.0;
+constexpr double BadgePadding = 0.45;
 
 std::string lengthText(double points) {
     std::array<char, 32> text{};
@@ -39,16 +37,12 @@ std::string sizeText(const Rect& bounds) {
     return lengthText(bounds.width()) + " × " + lengthText(bounds.height());
 }
 
-TextStyle nameStyle(const Canvas& canvas, double height) {
-    return {.size = height * 0.52, .weight = FontWeight::semibold, .color = canvas.palette.captionText};
-}
+TextStyle nameStyle(double height) { return {.size = height * 0.58, .weight = FontWeight::semibold}; }
 
-TextStyle sizeStyle(const Canvas& canvas, double height) {
-    return {.size = height * 0.50, .color = canvas.palette.captionDetail, .tabularNumbers = true};
-}
+TextStyle sizeStyle(double height) { return {.size = height * 0.56, .tabularNumbers = true}; }
 
 TextStyle badgeStyle(double height) {
-    return {.size = height * 0.50, .weight = FontWeight::semibold, .color = rgb(0xFFFFFF)};
+    return {.size = height * 0.52, .weight = FontWeight::semibold, .color = rgb(0xFFFFFF)};
 }
 
 // A drawing pin seen from the side: head, collar and needle.
@@ -69,34 +63,8 @@ void paintPin(cairo_t* context, Point center, double height) {
     cairo_fill(context);
 }
 
-Rect loneBadge(const DisplayPlace& place) {
-    const double side = std::min({18.0, place.screen.width() * 0.7, place.screen.height() * 0.7});
-    return {place.screen.minX() + (place.screen.width() - side) / 2,
-            place.screen.minY() + (place.screen.height() - side) / 2, side, side};
-}
-
-void paintNameAndSize(const Canvas& canvas, const Rect& area, bool showsSize, const DisplayPicture& display) {
-    const double height = area.height();
-    const double middle = area.minY() + height / 2;
-    const double left = area.minX() + CaptionPadding;
-    fillRoundedRectangle(canvas.context, area, height, canvas.palette.caption);
-    TextStyle style = nameStyle(canvas, height);
-    if (!showsSize) {
-        // One more than the room between the paddings, against rounding in the measured width.
-        style.maximumWidth = std::max(0.0, area.width() - 2 * CaptionPadding) + 1;
-    }
-    const double nameWidth = canvas.text.paint(display.name, {left, middle}, style);
-    if (showsSize) {
-        canvas.text.paint(sizeText(display.bounds), {left + nameWidth + CaptionGap, middle},
-                          sizeStyle(canvas, height));
-    }
-}
-
 void paintBadge(const Canvas& canvas, const Rect& area) {
     const double height = area.height();
-    if (height < 2) {
-        return; // Too small to see; the pin's transformation would come close to a singular one.
-    }
     const double middle = area.minY() + height / 2;
     const bool hasWord = area.width() > height;
     fillRoundedRectangle(canvas.context, area, height, canvas.palette.accent);
@@ -108,69 +76,110 @@ void paintBadge(const Canvas& canvas, const Rect& area) {
 
 } // namespace
 
-void paintHousingShadow(cairo_t* context, const Palette& palette, const DisplayPlace& place) {
-    const double depth = std::min(1.0, place.slot.height() / 160);
-    const auto paintShadow = [&](double drop, double blur, double strength) {
-        const Rect shape = offsetBy(place.frame, drop * depth);
-        paintSoftShadow(context, shape, blur * depth,
-                        palette.displayShadow.withAlpha(palette.displayShadow.alpha * strength),
-                        [&](cairo_t* mask) { addRoundedRectangle(mask, shape, place.cornerRadius); });
-    };
-    paintShadow(14, 34, 0.75);
-    paintShadow(2, 7, 0.6);
+void enterDisplay(cairo_t* context, const DisplayPlace& place) {
+    const Rect& screen = place.screen;
+    cairo_rectangle(context, screen.minX(), screen.minY(), screen.width(), screen.height());
+    cairo_clip(context);
+    cairo_translate(context, screen.minX(), screen.minY());
+    cairo_scale(context, place.scale, place.scale);
+    cairo_translate(context, -place.bounds.minX(), -place.bounds.minY());
 }
 
-void paintHousing(cairo_t* context, const Palette& palette, const DisplayPlace& place,
-                  std::size_t wallpaper) {
-    fillRoundedRectangle(context, place.frame, place.cornerRadius, palette.bezel);
-    strokeRoundedRectangle(context, place.frame, place.cornerRadius, 1, palette.bezelHighlight);
-
-    const SavedState saved{context};
-    clipToScreen(context, place);
-    paintWallpaper(context, place.screen, wallpaper);
-    setColor(context, palette.wallpaperShade);
-    cairo_paint(context);
+void HousingPainter::paintShadow(cairo_t* context, const DisplayPlace& place, bool dark) {
+    constexpr double Blur = 26;
+    constexpr double Drop = 8;
+    const double depth = std::min(1.0, place.housing.height() / 160);
+    const Rect shape = movedBy(place.housing, {0, Drop * depth});
+    shadow_.paint(context, enlargedBy(shape, 1.25 * Blur), {place.bounds.size, place.scale, 0, dark},
+                  [&](cairo_t* sprite) {
+                      paintSoftShadow(sprite, shape, Blur * depth, paletteFor(dark).displayShadow,
+                                      [&](cairo_t* mask) {
+                                          addRoundedRectangle(mask, shape, place.housingCornerRadius);
+                                      });
+                  });
 }
 
-CaptionPlace captionPlace(const Canvas& canvas, const DisplayPlace& place, double scale,
-                          const DisplayPicture& display) {
-    const Rect menuBar = menuBarArea(place, scale);
-    const bool isSmall = place.screen.height() < 150;
-    const double height = isSmall ? 18 : 24;
-    const double margin = isSmall ? 6 : 12;
-    const Rect area{place.screen.minX() + margin, menuBar.maxY() + margin, place.screen.width() - 2 * margin,
-                    place.screen.maxY() - menuBar.maxY() - 2 * margin};
-    constexpr double NarrowestScreen = 70;
-    if (place.screen.width() < NarrowestScreen || area.height() < height) {
-        return {.caption = std::nullopt,
-                .badge = display.pinned ? std::optional{loneBadge(place)} : std::nullopt};
+void HousingPainter::paint(cairo_t* context, const DisplayPlace& place, std::size_t wallpaper, bool dark) {
+    const Palette& palette = paletteFor(dark);
+    housing_.paint(context, place.housing, {place.bounds.size, place.scale, wallpaper, dark},
+                   [&](cairo_t* sprite) {
+                       fillRoundedRectangle(sprite, place.housing, place.housingCornerRadius, palette.bezel);
+                       strokeRoundedRectangle(sprite, place.housing, place.housingCornerRadius, 1,
+                                              palette.bezelHighlight);
+                       enterDisplay(sprite, place);
+                       paintWallpaper(sprite, place.bounds, wallpaper);
+                       setColor(sprite, palette.wallpaperShade);
+                       cairo_paint(sprite);
+                   });
+}
+
+void paintScreenCorners(cairo_t* context, const Palette& palette, const DisplayPlace& place) {
+    const double radius = place.screenCornerRadius;
+    const Rect& screen = place.screen;
+    const std::array<Point, 4> corners{{{screen.minX(), screen.minY()},
+                                        {screen.maxX(), screen.minY()},
+                                        {screen.maxX(), screen.maxY()},
+                                        {screen.minX(), screen.maxY()}}};
+    const Point middle = centerOf(screen);
+    setColor(context, palette.bezel);
+    double angle = std::numbers::pi;
+    for (const Point& corner : corners) {
+        const Point center{corner.x + std::copysign(radius, middle.x - corner.x),
+                           corner.y + std::copysign(radius, middle.y - corner.y)};
+        cairo_move_to(context, corner.x, corner.y);
+        cairo_arc(context, center.x, center.y, radius, angle, angle + std::numbers::pi / 2);
+        cairo_close_path(context);
+        cairo_fill(context);
+        angle += std::numbers::pi / 2;
     }
-    constexpr double BadgeGap = 6;
-    const double padding = 2 * CaptionPadding;
-    const double nameWidth = canvas.text.width(display.name, nameStyle(canvas, height)) + padding;
-    const double sizeWidth =
-        canvas.text.width(sizeText(display.bounds), sizeStyle(canvas, height)) + CaptionGap;
-    const double wordBadgeWidth =
-        canvas.text.width(BadgeText, badgeStyle(height)) + height * BadgeTextStart + CaptionPadding;
+}
 
+std::optional<CaptionPlace> captionPlace(TextPainter& text, const DisplayPlace& place,
+                                         const DisplayPicture& display) {
+    const double height = std::min(HighestCaption, place.captionRoom * CaptionPart);
+    const double available = place.housing.width();
+    if (height < LowestCaption || available < 4 * height) {
+        return std::nullopt;
+    }
+    const double nameWidth = text.width(display.name, nameStyle(height));
+    double sizeRoom = SizeGap + text.width(sizeText(display.bounds), sizeStyle(height));
+    const double wordWidth =
+        text.width(BadgeText, badgeStyle(height)) + height * (BadgeTextStart + BadgePadding);
+    double badgeRoom = display.pinned ? BadgeGap + wordWidth : 0;
     // Where room runs out, first the badge's word goes, then the size, and then the name is shortened.
-    double badgeRoom = display.pinned ? BadgeGap + wordBadgeWidth : 0;
-    if (display.pinned && nameWidth + sizeWidth + badgeRoom > area.width()) {
+    if (display.pinned && nameWidth + sizeRoom + badgeRoom > available) {
         badgeRoom = BadgeGap + height;
     }
-    CaptionPlace result;
-    result.showsSize = nameWidth + sizeWidth + badgeRoom <= area.width();
-    const double wanted = nameWidth + (result.showsSize ? sizeWidth : 0);
-    result.caption = Rect{area.minX(), area.minY(), std::min(wanted, area.width() - badgeRoom), height};
+    if (nameWidth + sizeRoom + badgeRoom > available) {
+        sizeRoom = 0;
+    }
+    const double shownNameWidth = std::min(nameWidth, available - sizeRoom - badgeRoom);
+    const double width = shownNameWidth + sizeRoom + badgeRoom;
+    const double top = place.housing.maxY() + (place.captionRoom - height) / 2 + 2;
+    double x = place.housing.minX() + (available - width) / 2;
+    CaptionPlace result{.name = {x, top, shownNameWidth, height}, .size = {}, .badge = {}};
+    x = result.name.maxX();
+    if (sizeRoom > 0) {
+        result.size = Rect{x + SizeGap, top, sizeRoom - SizeGap, height};
+        x = result.size->maxX();
+    }
     if (display.pinned) {
-        result.badge = Rect{result.caption->maxX() + BadgeGap, area.minY(), badgeRoom - BadgeGap, height};
+        result.badge = Rect{x + BadgeGap, top, badgeRoom - BadgeGap, height};
     }
     return result;
 }
 
 void paintCaption(const Canvas& canvas, const CaptionPlace& place, const DisplayPicture& display) {
-    if (place.caption) {
-        paintNameAndSize(canvas, *place.caption, place.showsSize, display);
+    const double height = place.name.height();
+    const double middle = place.name.minY() + height / 2;
+    TextStyle style = nameStyle(height);
+    style.color = canvas.palette.primaryText;
+    style.maximumWidth = place.name.width() + 1; // Against rounding in the measured width.
+    canvas.text.paint(display.name, {place.name.minX(), middle}, style);
+    if (place.size) {
+        style = sizeStyle(height);
+        style.color = canvas.palette.secondaryText;
+        canvas.text.paint(sizeText(display.bounds), {place.size->minX(), middle}, style);
     }
     if (place.badge) {
         paintBadge(canvas, *place.badge);

@@ -1,6 +1,9 @@
 #include "desk/paint/DockPainter.h"
 
+#include "desk/paint/ApplicationIcon.h"
 #include "desk/paint/DockIcons.h"
+#include "desk/paint/Measures.h"
+#include "desk/paint/RectMath.h"
 #include "desk/paint/Shapes.h"
 #include "desk/paint/SoftShadow.h"
 #include "desk/paint/WindowPainter.h"
@@ -11,14 +14,14 @@
 namespace kestrune::desk {
 namespace {
 
-// Lengths as parts of an icon's side.
-constexpr double IconGap = 0.22;
-constexpr double Padding = 0.26;
-constexpr double SeparatorWidth = 0.30;
-constexpr double PanelHeight = 1 + 2 * Padding;
-constexpr double PanelRadius = 0.42;
-constexpr double BottomMargin = 0.18;
-constexpr double IconSidePoints = 54;
+constexpr double SeparatorWidth = 16; // with the gaps beside it
+constexpr double PanelHeight = DockIconSide + 2 * DockPadding;
+constexpr double DotRadius = 2;
+constexpr double ShadowBlur = 20;
+
+// As parts of the display.
+constexpr double WidestPanel = 0.92;
+constexpr double HighestPanel = 0.2;
 
 Point topCenter(const Rect& rect) { return {rect.minX() + rect.width() / 2, rect.minY()}; }
 
@@ -43,82 +46,89 @@ void paintArrowHead(cairo_t* context, Point tip, Point direction) {
 
 } // namespace
 
-DockPlace dockPlace(const DisplayPlace& display, double scale, std::size_t tiles) {
-    const auto places = static_cast<double>(DockIconCount + tiles);
-    const double widthInSides = places + (places - 1) * IconGap + SeparatorWidth + 2 * Padding;
-    const Rect& screen = display.screen;
-    const double recognisable = std::clamp(IconSidePoints * scale, 20.0, 44.0);
-    double side = std::min({recognisable, screen.width() * 0.92 / widthInSides, screen.height() * 0.18});
-    if (side > 8) {
-        side = std::floor(side);
-    }
+DockPlace dockPlace(const Rect& display, const DeskPicture& picture) {
+    const std::size_t places = DockIconCount + picture.miniaturized.size() + (picture.dockIcon ? 1 : 0);
+    const double width = static_cast<double>(places) * (DockIconSide + DockIconGap) - 2 * DockIconGap +
+                         SeparatorWidth + 2 * DockPadding;
     DockPlace dock;
-    dock.iconSide = side;
-    dock.panel.size = {widthInSides * side, PanelHeight * side};
-    dock.panel.origin = {screen.minX() + (screen.width() - dock.panel.width()) / 2,
-                         screen.maxY() - BottomMargin * side - dock.panel.height()};
-    double x = dock.panel.minX() + Padding * side;
+    dock.scale =
+        std::min({1.0, display.width() * WidestPanel / width, display.height() * HighestPanel / PanelHeight});
+    dock.panel.size = {width * dock.scale, PanelHeight * dock.scale};
+    dock.panel.origin = {display.minX() + (display.width() - dock.panel.width()) / 2,
+                         display.maxY() - DockBottomMargin * dock.scale - dock.panel.height()};
+    double x = dock.panel.minX() + DockPadding * dock.scale;
     const auto nextPlace = [&] {
-        const Rect place{x, dock.panel.minY() + Padding * side, side, side};
-        x += (1 + IconGap) * side;
+        const Rect place{x, dock.panel.minY() + DockPadding * dock.scale, DockIconSide * dock.scale,
+                         DockIconSide * dock.scale};
+        x += (DockIconSide + DockIconGap) * dock.scale;
         return place;
     };
     while (dock.icons.size() + 1 < DockIconCount) {
         dock.icons.push_back(nextPlace());
     }
-    dock.separator = x + (SeparatorWidth - IconGap) * side / 2;
-    x += SeparatorWidth * side;
-    while (dock.tiles.size() < tiles) {
+    if (picture.dockIcon) {
+        dock.icon = nextPlace();
+    }
+    x += (SeparatorWidth - DockIconGap) * dock.scale;
+    dock.separator = x - SeparatorWidth * dock.scale / 2;
+    while (dock.tiles.size() < picture.miniaturized.size()) {
         dock.tiles.push_back(nextPlace());
     }
     dock.icons.push_back(nextPlace());
     return dock;
 }
 
-void paintDock(const Canvas& canvas, const DockPlace& dock, std::span<const WindowPicture> windows) {
-    const double side = dock.iconSide;
-    if (side < 1) {
+Rect dockExtent(const DockPlace& dock) { return enlargedBy(dock.panel, 2 * ShadowBlur * dock.scale); }
+
+void paintDock(const Canvas& canvas, ImageStore& images, const DockPlace& dock, const DeskPicture& picture) {
+    constexpr double SmallestScale = 1.0 / 64;
+    if (dock.scale < SmallestScale) {
         return; // Too small to see; the glyphs' transformation would come close to a singular one.
     }
-    const double radius = PanelRadius * side;
-    paintSoftShadow(canvas.context, dock.panel, std::max(2.0, side * 0.4), canvas.palette.dockShadow,
+    const double radius = DockCornerRadius * dock.scale;
+    paintSoftShadow(canvas.context, dock.panel, ShadowBlur * dock.scale, canvas.palette.dockShadow,
                     [&](cairo_t* mask) { addRoundedRectangle(mask, dock.panel, radius); });
     fillRoundedRectangle(canvas.context, dock.panel, radius, canvas.palette.dockPanel);
     strokeRoundedRectangle(canvas.context, dock.panel, radius, 1, canvas.palette.dockBorder);
 
-    cairo_rectangle(canvas.context, dock.separator - 0.5, dock.icons.front().minY() + side * 0.06, 1,
-                    side * 0.88);
-    setColor(canvas.context, canvas.palette.menuBarText.withAlpha(0.22));
-    cairo_fill(canvas.context);
+    const Rect& first = dock.icons.front();
+    fillRoundedRectangle(canvas.context,
+                         {dock.separator - 0.5, first.minY() + 3, 1, std::max(0.0, first.height() - 6)}, 0,
+                         canvas.palette.menuBarText.withAlpha(0.22));
+    const auto paintDot = [&](const Rect& icon) {
+        fillCircle(canvas.context, {centerOf(icon).x, (icon.maxY() + dock.panel.maxY()) / 2},
+                   DotRadius * dock.scale, canvas.palette.menuBarText.withAlpha(0.6));
+    };
     for (std::size_t icon = 0; icon < dock.icons.size(); ++icon) {
         paintDockIcon(canvas.context, icon, dock.icons[icon]);
         const bool isRunning = icon == 0 || icon == 2 || icon == 4;
         if (isRunning) {
-            fillCircle(canvas.context,
-                       {dock.icons[icon].minX() + side / 2, dock.panel.maxY() - Padding * side / 2},
-                       std::max(0.8, side * 0.045), canvas.palette.menuBarText.withAlpha(0.6));
+            paintDot(dock.icons[icon]);
         }
     }
-    for (std::size_t tile = 0; tile < std::min(dock.tiles.size(), windows.size()); ++tile) {
-        paintMiniature(canvas, dock.tiles[tile], windows[tile]);
+    if (dock.icon) {
+        // The drawing has the margin around it that all icons have on the Mac.
+        paintApplicationIcon(canvas, images, picture.dockIcon, enlargedBy(*dock.icon, 5 * dock.scale));
+        paintDot(*dock.icon);
+    }
+    for (std::size_t tile = 0; tile < dock.tiles.size(); ++tile) {
+        paintMiniature(canvas, dock.tiles[tile], picture.miniaturized[tile]);
     }
 }
 
-void paintDockTrail(const Canvas& canvas, const DockPlace& from, const DockPlace& to, double age) {
+void paintDockTrail(cairo_t* context, const Rect& from, const Rect& to, double age) {
     const double strength = strengthAt(age);
     if (!(strength > 0)) {
         return;
     }
-    cairo_t* const context = canvas.context;
     const SavedState saved{context};
     const Color white = rgb(0xFFFFFF, strength);
     constexpr double Dashes[] = {5, 4};
     cairo_set_dash(context, Dashes, 2, 0);
-    strokeRoundedRectangle(context, from.panel, PanelRadius * from.iconSide, 1.5,
-                           white.withAlpha(0.75 * strength));
+    strokeRoundedRectangle(context, from, from.height() / 4, 1.5, white.withAlpha(0.75 * strength));
 
-    const Point start{topCenter(from.panel).x, topCenter(from.panel).y - 4};
-    const Point tip{topCenter(to.panel).x, topCenter(to.panel).y - 5};
+    const Point start{topCenter(from).x, topCenter(from).y - 4};
+    const Point tip{topCenter(to).x, topCenter(to).y - 5};
     const double span = std::hypot(tip.x - start.x, tip.y - start.y);
     const double lift = std::clamp(span * 0.42, 40.0, 210.0);
     const Point bend{(start.x + tip.x) / 2, std::min(start.y, tip.y) - lift};

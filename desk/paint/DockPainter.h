@@ -2,29 +2,33 @@
 #pragma once
 
 #include "desk/paint/Canvas.h"
-#include "desk/paint/DeskLayout.h"
-#include "desk/paint/SystemPicture.h"
+#include "desk/paint/DeskPicture.h"
+#include "desk/paint/ImageStore.h"
 
-#include <cstddef>
-#include <span>
+#include <optional>
 #include <vector>
 
 namespace kestrune::desk {
 
-// The Dock's parts in window coordinates. It is to scale where that is large enough to be recognised.
+// The Dock's parts in global display coordinates.
 struct DockPlace {
     Rect panel;
-    double iconSide = 0;
-    std::vector<Rect> icons;
-    double separator = 0;    // its middle, before the tiles and the last icon
-    std::vector<Rect> tiles; // of minimised windows
+    double scale = 1;         // less than 1 on a display that is too narrow for it
+    std::vector<Rect> icons;  // of others
+    std::optional<Rect> icon; // of the application, while it has one
+    double separator = 0;     // its middle, before the tiles and the last icon
+    std::vector<Rect> tiles;  // of minimised windows
 };
-DockPlace dockPlace(const DisplayPlace& display, double scale, std::size_t tiles = 0);
+DockPlace dockPlace(const Rect& display, const DeskPicture& picture);
+
+// All that the Dock and its shadow cover.
+Rect dockExtent(const DockPlace& dock);
 
 // With a window in each tile.
-void paintDock(const Canvas& canvas, const DockPlace& dock, std::span<const WindowPicture> windows);
+void paintDock(const Canvas& canvas, ImageStore& images, const DockPlace& dock, const DeskPicture& picture);
 
-// A dotted arc between two places of the Dock, and the outline of the place that it left.
-void paintDockTrail(const Canvas& canvas, const DockPlace& from, const DockPlace& to, double age);
+// A dotted arc between two places of the Dock's panel, in window coordinates, and the outline of the place
+// that it left.
+void paintDockTrail(cairo_t* context, const Rect& from, const Rect& to, double age);
 
 } // namespace kestrune::desk

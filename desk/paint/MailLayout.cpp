@@ -1,7 +1,7 @@
 #include "desk/paint/MailLayout.h"
 
 #include "desk/paint/ControlPainter.h"
-#include "desk/paint/PanelPainter.h"
+#include "desk/paint/Measures.h"
 
 #include <cmath>
 
@@ -20,16 +20,15 @@ constexpr double HeightOnDisplay = 0.5; // of the window's centre, as a part of 
 
 } // namespace
 
-std::optional<MailLayout> mailLayout(const DeskLayout& layout, const DeskPicture& picture, Size window) {
-    if (!picture.mail) {
+std::optional<MailLayout> mailLayout(const DeskPicture& picture) {
+    if (!picture.mail || picture.mail->display >= picture.displays.size()) {
         return std::nullopt;
     }
-    const Rect screen = screenOrContent(layout, picture.mail->display);
+    const Rect& display = picture.displays[picture.mail->display].bounds;
     MailLayout result;
-    result.frame = keptInside({std::round(screen.minX() + (screen.width() - Width) / 2),
-                               std::round(screen.minY() + screen.height() * HeightOnDisplay - Height / 2),
-                               Width, Height},
-                              window);
+    result.frame = {std::round(display.minX() + (display.width() - Width) / 2),
+                    std::round(display.minY() + display.height() * HeightOnDisplay - Height / 2), Width,
+                    Height};
     const Point corner = result.frame.origin;
     result.titleBar = {corner.x, corner.y, Width, TitleBarHeight};
     result.closeButton = {corner.x + Padding, corner.y + (TitleBarHeight - WindowButtonSide) / 2,

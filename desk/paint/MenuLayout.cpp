@@ -1,7 +1,7 @@
 #include "desk/paint/MenuLayout.h"
 
+#include "desk/paint/Measures.h"
 #include "desk/paint/MenuBarLayout.h"
-#include "desk/paint/PanelPainter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +9,6 @@
 namespace kestrune::desk {
 namespace {
 
-constexpr double RowHeight = 22;
-constexpr double SeparatorHeight = 11;
 constexpr double VerticalPadding = 5;
 constexpr double LeadingPadding = 10; // within the selection
 constexpr double TrailingPadding = 12;
@@ -18,10 +16,11 @@ constexpr double CheckColumn = 17;
 constexpr double CheckColumnPadding = 6;
 constexpr double KeyEquivalentGap = 28;
 constexpr double NarrowestPanel = 120;
-constexpr double GapBelowBar = 3;
+constexpr double GapBelowBar = 1;
+constexpr double DisplayMargin = 4; // between a menu and the edge of its display
 
 double heightOf(const MenuRowPicture& row) {
-    return row.kind == MenuRowKind::separator ? SeparatorHeight : RowHeight;
+    return row.kind == MenuRowKind::separator ? MenuSeparatorHeight : MenuRowHeight;
 }
 
 bool anyMarked(const MenuPicture& menu) {
@@ -63,21 +62,22 @@ double placeRows(MenuLayout& layout, const MenuPicture& menu, double width, doub
 
 } // namespace
 
-std::optional<MenuLayout> menuLayout(TextMeasure& measure, const DeskLayout& layout,
-                                     const DeskPicture& picture, Size window) {
-    const DisplayPlace* const place = picture.menu ? layout.place(picture.menu->display) : nullptr;
-    if (!place) {
+std::optional<MenuLayout> menuLayout(TextMeasure& measure, const DeskPicture& picture) {
+    if (!picture.menu || picture.menu->display >= picture.displays.size()) {
         return std::nullopt;
     }
     const MenuPicture& menu = *picture.menu;
-    const Rect slot = anchorSlot(menuBarLayout(measure, *place, layout.scale(), picture), menu.anchor);
+    const Rect& display = picture.displays[menu.display].bounds;
+    const Rect slot = anchorSlot(menuBarLayout(measure, display, picture), menu.anchor);
     if (slot.isNull()) {
         return std::nullopt;
     }
     MenuLayout result;
-    const double width = std::max(1.0, std::min(panelWidth(measure, menu), window.width - 2 * PanelMargin));
-    const double height = placeRows(result, menu, width, window.height - 2 * PanelMargin);
-    result.panel = keptInside({std::round(slot.minX()), slot.maxY() + GapBelowBar, width, height}, window);
+    const Point corner{slot.minX(), slot.maxY() + GapBelowBar};
+    const double width =
+        std::max(1.0, std::min(panelWidth(measure, menu), display.width() - 2 * DisplayMargin));
+    const double height = placeRows(result, menu, width, display.maxY() - DisplayMargin - corner.y);
+    result.panel = hangingOn(display, corner, {width, height});
     for (Rect& row : result.rows) {
         if (!row.isNull()) {
             row.origin.x += result.panel.minX();
@@ -90,6 +90,11 @@ std::optional<MenuLayout> menuLayout(TextMeasure& measure, const DeskLayout& lay
     return result;
 }
 
-TextStyle menuTextStyle() { return {.size = 13}; }
+Rect hangingOn(const Rect& display, Point corner, Size size) {
+    const double left = std::min(corner.x, display.maxX() - DisplayMargin - size.width);
+    return {std::max(left, display.minX() + DisplayMargin), corner.y, size.width, size.height};
+}
+
+TextStyle menuTextStyle() { return {.size = SystemTextSize}; }
 
 } // namespace kestrune::desk

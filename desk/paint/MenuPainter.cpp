@@ -1,5 +1,6 @@
 #include "desk/paint/MenuPainter.h"
 
+#include "desk/paint/Measures.h"
 #include "desk/paint/Shapes.h"
 
 #include <algorithm>
@@ -68,7 +69,10 @@ void paintItem(const Canvas& canvas, const MenuLayout& layout, const Rect& area,
 } // namespace
 
 PanelStyle menuPanelStyle(const Palette& palette) {
-    return {.color = palette.system.menuPanel, .cornerRadius = 6, .shadowBlur = 22, .shadowDrop = 7};
+    return {.color = palette.system.menuPanel,
+            .cornerRadius = MenuCornerRadius,
+            .shadowBlur = 22,
+            .shadowDrop = 7};
 }
 
 void paintMenu(const Canvas& canvas, const MenuLayout& layout, const MenuPicture& menu) {

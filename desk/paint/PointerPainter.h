@@ -1,4 +1,4 @@
-// The pointer: an arrow of constant size with its hot spot at the tip.
+// The pointer: an arrow with its hot spot at the tip. Coordinates are the context's.
 #pragma once
 
 #include "base/Geometry.h"
@@ -6,7 +6,9 @@
 
 namespace kestrune::desk {
 
-// `hotSpot` is in window coordinates.
+// All that the arrow and its shadow cover.
+Rect pointerExtent(Point hotSpot);
+
 void paintPointer(cairo_t* context, Point hotSpot);
 
 } // namespace kestrune::desk

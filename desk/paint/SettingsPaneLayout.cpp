@@ -1,7 +1,7 @@
 #include "desk/paint/SettingsPaneLayout.h"
 
 #include "desk/paint/ControlPainter.h"
-#include "desk/paint/PanelPainter.h"
+#include "desk/paint/Measures.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,13 +20,15 @@ constexpr double RowPadding = 10;
 constexpr double IconSide = 26;
 constexpr Size ListButtonSize{26, 22};
 
-constexpr double HeightOnDisplay = 0.54; // of the pane's centre, as a part of the display's height
+// As parts of the display's height.
+constexpr double HeightOnDisplay = 0.54; // of the pane's centre
+constexpr double HighestPane = 0.88;
 
 constexpr double HeightWithoutList = TitleBarHeight + SentenceHeight + ButtonBarHeight + Padding;
 
 // How many rows the list is high.
-std::size_t listRows(std::size_t rows, Size window) {
-    const double room = std::floor((window.height - 2 * PanelMargin - HeightWithoutList) / RowHeight);
+std::size_t listRows(std::size_t rows, const Rect& display) {
+    const double room = std::floor((display.height() * HighestPane - HeightWithoutList) / RowHeight);
     const std::size_t most = room >= 1 ? static_cast<std::size_t>(std::min(room, 1000.0)) : 1;
     return std::min(std::max(rows, FewestRows), most);
 }
@@ -41,22 +43,20 @@ PaneRowPlace placeRow(const Rect& list, std::size_t index) {
 
 } // namespace
 
-std::optional<SettingsPaneLayout> settingsPaneLayout(const DeskLayout& layout, const DeskPicture& picture,
-                                                     Size window) {
-    if (!picture.settingsPane) {
+std::optional<SettingsPaneLayout> settingsPaneLayout(const DeskPicture& picture) {
+    if (!picture.settingsPane || picture.settingsPane->display >= picture.displays.size()) {
         return std::nullopt;
     }
+    const Rect& display = picture.displays[picture.settingsPane->display].bounds;
     const std::size_t rowsInPicture = picture.settingsPane->rows.size();
-    const std::size_t rows = listRows(rowsInPicture, window);
+    const std::size_t rows = listRows(rowsInPicture, display);
     const double listHeight = static_cast<double>(rows) * RowHeight;
     const double height = HeightWithoutList + listHeight;
-    const Rect screen = screenOrContent(layout, picture.settingsPane->display);
 
     SettingsPaneLayout result;
-    result.frame = keptInside({std::round(screen.minX() + (screen.width() - Width) / 2),
-                               std::round(screen.minY() + screen.height() * HeightOnDisplay - height / 2),
-                               Width, height},
-                              window);
+    result.frame = {std::round(display.minX() + (display.width() - Width) / 2),
+                    std::round(display.minY() + display.height() * HeightOnDisplay - height / 2), Width,
+                    height};
     const Rect& frame = result.frame;
     result.titleBar = {frame.minX(), frame.minY(), Width, TitleBarHeight};
     result.closeButton = {frame.minX() + Padding, frame.minY() + (TitleBarHeight - WindowButtonSide) / 2,

@@ -1,11 +1,8 @@
-// Where a pane of System Settings and its parts stand, in window coordinates, for painting and for the
-// pointer.
-//
-// Like menus, windows keep the size in which they can be read, whatever the displays' scale.
+// Where a pane of System Settings and its parts stand, in global display coordinates, for painting and for
+// the pointer.
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/DeskLayout.h"
 #include "desk/paint/DeskPicture.h"
 
 #include <optional>
@@ -17,8 +14,6 @@ struct PaneRowPlace {
     Rect area;
     Rect icon;
     Rect toggle; // the switch
-
-    friend bool operator==(const PaneRowPlace&, const PaneRowPlace&) = default;
 };
 
 struct SettingsPaneLayout {
@@ -31,13 +26,10 @@ struct SettingsPaneLayout {
     std::vector<PaneRowPlace> rows; // those that the window has room for, from the first
     Rect addButton;
     Rect removeButton;
-
-    friend bool operator==(const SettingsPaneLayout&, const SettingsPaneLayout&) = default;
 };
 
 // Absent without a pane.
-std::optional<SettingsPaneLayout> settingsPaneLayout(const DeskLayout& layout, const DeskPicture& picture,
-                                                     Size window);
+std::optional<SettingsPaneLayout> settingsPaneLayout(const DeskPicture& picture);
 
 // Whether the − button can be pressed: it needs a selected row.
 bool canRemove(const SettingsPanePicture& pane);

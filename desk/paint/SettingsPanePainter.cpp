@@ -2,6 +2,7 @@
 
 #include "desk/paint/ApplicationIcon.h"
 #include "desk/paint/ControlPainter.h"
+#include "desk/paint/Measures.h"
 #include "desk/paint/Shapes.h"
 
 #include <algorithm>

@@ -1,6 +1,8 @@
 #include "desk/paint/ToolTipPainter.h"
 
 #include "desk/paint/MenuBarLayout.h"
+#include "desk/paint/MenuLayout.h"
+#include "desk/paint/RectMath.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,21 +19,20 @@ TextStyle textStyle() { return {.size = 11, .maximumWidth = LongestText}; }
 
 } // namespace
 
-std::optional<Rect> toolTipArea(TextMeasure& measure, const DeskLayout& layout, const DeskPicture& picture,
-                                Size window) {
-    const DisplayPlace* const place = picture.toolTip ? layout.place(picture.toolTip->display) : nullptr;
-    if (!place || picture.toolTip->text.empty()) {
+std::optional<Rect> toolTipArea(TextMeasure& measure, const DeskPicture& picture) {
+    if (!picture.toolTip || picture.toolTip->text.empty() ||
+        picture.toolTip->display >= picture.displays.size()) {
         return std::nullopt;
     }
-    const Rect slot = anchorSlot(menuBarLayout(measure, *place, layout.scale(), picture),
-                                 StatusItemAnchor{picture.toolTip->item});
+    const Rect& display = picture.displays[picture.toolTip->display].bounds;
+    const Rect slot =
+        anchorSlot(menuBarLayout(measure, display, picture), StatusItemAnchor{picture.toolTip->item});
     if (slot.isNull()) {
         return std::nullopt;
     }
     const double width = std::ceil(measure.width(picture.toolTip->text, textStyle())) + 2 * Padding;
-    return keptInside({std::round(slot.minX() + slot.width() / 2), slot.maxY() + RoomForPointer,
-                       std::max(1.0, std::min(width, window.width - 2 * PanelMargin)), Height},
-                      window);
+    return hangingOn(display, {std::round(centerOf(slot).x), slot.maxY() + RoomForPointer},
+                     {std::min(width, display.width()), Height});
 }
 
 PanelStyle toolTipPanelStyle(const Palette& palette) {

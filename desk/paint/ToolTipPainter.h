@@ -3,7 +3,6 @@
 
 #include "base/Geometry.h"
 #include "desk/paint/Canvas.h"
-#include "desk/paint/DeskLayout.h"
 #include "desk/paint/DeskPicture.h"
 #include "desk/paint/PanelPainter.h"
 #include "desk/paint/TextMeasure.h"
@@ -13,10 +12,9 @@
 
 namespace kestrune::desk {
 
-// In window coordinates, clear of a pointer that rests on the status item. Absent without a tool tip, and
-// when the picture does not show the item.
-std::optional<Rect> toolTipArea(TextMeasure& measure, const DeskLayout& layout, const DeskPicture& picture,
-                                Size window);
+// In global display coordinates, clear of a pointer that rests on the status item. Absent without a tool tip,
+// and when the picture does not show the item.
+std::optional<Rect> toolTipArea(TextMeasure& measure, const DeskPicture& picture);
 
 PanelStyle toolTipPanelStyle(const Palette& palette);
 

@@ -46,15 +46,16 @@ void paintSky(cairo_t* context, const Rect& screen, const WallpaperColors& color
 
 void paintHills(cairo_t* context, const Rect& screen, const WallpaperColors& colors, int layer,
                 std::size_t wallpaper) {
-    constexpr double Step = 2;
+    constexpr int Steps = 700; // Smooth on the widest displays, too.
     double top = screen.maxY();
     cairo_move_to(context, screen.minX(), screen.maxY());
-    for (double x = 0; x < screen.width() + Step; x += Step) {
+    for (int step = 0; step <= Steps; ++step) {
+        const double x = screen.width() * step / Steps;
         const double y = screen.minY() + screen.height() * ridge(x / unitOf(screen), layer, wallpaper);
         top = std::min(top, y);
         cairo_line_to(context, screen.minX() + x, y);
     }
-    cairo_line_to(context, screen.maxX() + Step, screen.maxY());
+    cairo_line_to(context, screen.maxX(), screen.maxY());
     cairo_close_path(context);
 
     const double nearness = static_cast<double>(layer) / (Layers - 1);

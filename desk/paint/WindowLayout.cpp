@@ -1,43 +1,24 @@
 #include "desk/paint/WindowLayout.h"
 
-#include "desk/paint/ControlPainter.h"
-#include "desk/paint/MenuBarLayout.h"
-#include "desk/paint/PanelPainter.h"
+#include "desk/paint/Measures.h"
+#include "desk/paint/RectMath.h"
 
-#include <algorithm>
-#include <cmath>
 #include <variant>
 
 namespace kestrune::desk {
 
-WindowLayout windowLayoutAt(Point topLeft, const WindowPicture& shown) {
-    constexpr double ButtonInset = 8;
+WindowLayout windowLayout(const WindowPicture& shown) {
+    const Rect frame = shown.frame.standardized();
     const double titleHeight = shown.titleBarHeight;
-    const Size size{shown.frame.width(), shown.frame.height()};
     WindowLayout result;
-    result.frame = {topLeft.x, topLeft.y, size.width, size.height};
-    result.titleBar = {topLeft.x, topLeft.y, size.width, titleHeight};
-    result.content = {topLeft.x, topLeft.y + titleHeight, size.width, size.height - titleHeight};
-    result.closeButton = {topLeft.x + ButtonInset, topLeft.y + (titleHeight - WindowButtonSide) / 2,
-                          WindowButtonSide, WindowButtonSide};
-    result.minimizeButton = result.closeButton;
-    result.minimizeButton.origin.x += WindowButtonDistance;
+    result.frame = frame;
+    result.titleBar = {frame.minX(), frame.minY(), frame.width(), titleHeight};
+    result.content = {frame.minX(), frame.minY() + titleHeight, frame.width(), frame.height() - titleHeight};
+    result.closeButton = {frame.minX() + WindowButtonInset,
+                          frame.minY() + (titleHeight - WindowButtonSide) / 2, WindowButtonSide,
+                          WindowButtonSide};
+    result.minimizeButton = movedBy(result.closeButton, {WindowButtonDistance, 0});
     return result;
-}
-
-WindowLayout windowLayout(const DeskLayout& layout, const WindowPicture& shown, Size window) {
-    constexpr double BelowMenuBar = 6;
-    const Size size{shown.frame.width(), shown.frame.height()};
-    const Point anchor = layout.toWindow(
-        {shown.frame.minX() + size.width / 2, shown.frame.minY() + size.height * WindowAnchorHeight});
-    Rect frame{std::round(anchor.x - size.width / 2), std::round(anchor.y - size.height * WindowAnchorHeight),
-               size.width, size.height};
-    const Point middle{shown.frame.minX() + size.width / 2, shown.frame.minY() + size.height / 2};
-    if (const DisplayPlace* const place = layout.placeContaining(middle)) {
-        const double highest = menuBarArea(*place, layout.scale()).maxY() + BelowMenuBar;
-        frame.origin.y = std::max(frame.origin.y, std::round(highest));
-    }
-    return windowLayoutAt(keptInside(frame, window).origin, shown);
 }
 
 Rect controlArea(const WindowLayout& layout, const WindowPicture& shown, std::size_t element) {
@@ -53,8 +34,7 @@ Rect controlArea(const WindowLayout& layout, const WindowPicture& shown, std::si
     } else {
         return area;
     }
-    return {area.minX() + layout.content.minX(), area.minY() + layout.content.minY(), area.width(),
-            area.height()};
+    return movedBy(area, layout.content.origin);
 }
 
 } // namespace kestrune::desk

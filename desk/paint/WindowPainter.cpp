@@ -79,12 +79,13 @@ void paintMiniature(const Canvas& canvas, const Rect& area, const WindowPicture&
     if (!(scale > SmallestScale && scale < 1 / SmallestScale)) {
         return; // Nothing to see, and the transformation would come close to a singular one.
     }
-    const WindowLayout layout = windowLayoutAt({0, 0}, shown);
+    const WindowLayout layout = windowLayout(shown);
     const PanelStyle style = applicationWindowStyle(canvas.palette, false);
     const SavedState saved{canvas.context};
     cairo_translate(canvas.context, area.minX() + (area.width() - shown.frame.width() * scale) / 2,
                     area.minY() + (area.height() - shown.frame.height() * scale) / 2);
     cairo_scale(canvas.context, scale, scale);
+    cairo_translate(canvas.context, -layout.frame.minX(), -layout.frame.minY());
     fillRoundedRectangle(canvas.context, layout.frame, style.cornerRadius, style.color);
     paintWindow(canvas, layout, shown);
     strokeRoundedRectangle(canvas.context, layout.frame, style.cornerRadius, 0.75 / scale,

@@ -10,7 +10,6 @@
 #include "desk/window/WindowCanvas.h"
 
 #include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <optional>
 #include <string>
@@ -110,6 +109,9 @@ private:
     DeskPicture picture() {
         DeskPicture result = pictureOf(desk_);
         result.dark = isDark_;
+        if (zoomedTo_) {
+            result.shown = Rect{zoomedTo_->x, zoomedTo_->y, 0, 0};
+        }
         if (hidesKeys_) {
             result.keys = {{"H", "show the keys"}};
         }
@@ -128,13 +130,11 @@ private:
             break;
         case SDL_MOUSEBUTTONDOWN:
             if (event.button.button == SDL_BUTTON_LEFT) {
-                desk_.placeHand(placeOf(event.button));
                 desk_.pressButton(targetAt(placeOf(event.button)));
             }
             break;
         case SDL_MOUSEBUTTONUP:
             if (event.button.button == SDL_BUTTON_LEFT) {
-                desk_.placeHand(placeOf(event.button));
                 desk_.releaseButton(targetAt(placeOf(event.button)));
             }
             break;
@@ -157,21 +157,23 @@ private:
 
     void handleMotion(const SDL_MouseMotionEvent& motion) {
         const Point place = placeOf(motion);
-        const DeskLayout layout = DeskLayout::of(pictureOf(desk_), canvas_.size());
-        const std::optional<DeskTarget> target = targetAt(place);
-        hand_.moveTo(layout.toGlobal(place), motionType(motion.state), elapsed());
-        desk_.placeHand(place);
+        follow(place);
+        const DeskPicture shown = picture();
+        const DeskLayout seen = DeskLayout::of(shown, canvas_.size());
+        const std::optional<DeskTarget> target = targetAt(place, shown, seen);
+        hand_.moveTo(seen.toGlobal(place), motionType(motion.state), elapsed());
         desk_.hover(target);
-        // The simulated pointer stands in for the real one where the displays are, but cannot follow it over
-        // a menu that reaches beyond them.
-        const bool isBesideDisplays =
-            layout.isEmpty() || !layout.content().contains(place) || (target && !isOnDisplay(layout, place));
-        SDL_ShowCursor(isBesideDisplays ? SDL_ENABLE : SDL_DISABLE);
+        // The simulated pointer stands in for the real one on the stage.
+        const bool isOnStage = !seen.isEmpty() && seen.stage().contains(place);
+        SDL_ShowCursor(isOnStage ? SDL_DISABLE : SDL_ENABLE);
     }
 
-    static bool isOnDisplay(const DeskLayout& layout, Point place) {
-        const Point nearest = layout.toWindow(layout.toGlobal(place));
-        return std::abs(nearest.x - place.x) < 1 && std::abs(nearest.y - place.y) < 1;
+    // Where only a part of the displays is shown, that comes along with the pointer.
+    void follow(Point place) {
+        if (zoomedTo_) {
+            const DeskLayout seen = layout();
+            zoomedTo_ = seen.stage().contains(place) ? seen.centerFor(place) : *zoomedTo_;
+        }
     }
 
     template <typename MouseEvent>
@@ -179,9 +181,14 @@ private:
         return {static_cast<double>(event.x), static_cast<double>(event.y)};
     }
 
-    std::optional<DeskTarget> targetAt(Point place) {
-        return hitTest_.targetAt(pictureOf(desk_), canvas_.size(), place);
+    DeskLayout layout() { return DeskLayout::of(picture(), canvas_.size()); }
+
+    std::optional<DeskTarget> targetAt(Point place, const DeskPicture& shown, const DeskLayout& seen) {
+        const std::optional<Point> point = seen.pointAt(place);
+        return point ? hitTest_.targetAt(shown, *point) : std::nullopt;
     }
+
+    std::optional<DeskTarget> targetAt(Point place) { return targetAt(place, picture(), layout()); }
 
     void press(const SDL_KeyboardEvent& event) {
         const SDL_Keycode key = event.keysym.sym;
@@ -214,6 +221,9 @@ private:
         case SDLK_h:
             hidesKeys_ = !hidesKeys_;
             break;
+        case SDLK_z:
+            zoom();
+            break;
         case SDLK_s:
             saveScreenshot();
             break;
@@ -221,6 +231,24 @@ private:
             pressDeskKey(desk_, character);
             break;
         }
+    }
+
+    void zoom() {
+        const Point pointer = desk_.session().pointer();
+        const auto placeOfPointer = [&](const DeskLayout& seen) {
+            const DisplayPlace* const place = seen.placeContaining(pointer);
+            return place != nullptr ? std::optional(place->toWindow(pointer)) : std::nullopt;
+        };
+        const std::optional<Point> before = placeOfPointer(layout());
+        if (zoomedTo_ || !before) {
+            zoomedTo_.reset();
+            return;
+        }
+        zoomedTo_ = pointer;
+        // The pointer stays where it is in the window, as far as there is something around it.
+        const DeskLayout zoomed = layout();
+        const Point after = *placeOfPointer(zoomed);
+        zoomedTo_ = zoomed.centerAfter({after.x - before->x, after.y - before->y});
     }
 
     void saveScreenshot() {
@@ -238,6 +266,7 @@ private:
     DeskHitTest hitTest_;
     bool isDark_;
     bool hidesKeys_ = false;
+    std::optional<Point> zoomedTo_; // in the middle of the stage, in global display coordinates
     bool isClosed_ = false;
 };
 

@@ -66,7 +66,7 @@ TEST(DeskKeys, AreAllInTheLegend) {
         EXPECT_FALSE(hint.action.empty());
         keys += hint.key + " ";
     }
-    EXPECT_EQ(keys, "1–9 G M U P A I W F C T + − L D S H Q ");
+    EXPECT_EQ(keys, "1–9 G M U P A I W F C T + − L Z D S H Q ");
 }
 
 } // namespace

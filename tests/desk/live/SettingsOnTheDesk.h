@@ -78,11 +78,17 @@ protected:
                                     : std::nullopt;
     }
 
+    // Moves the pointer while the button is held down.
+    void drag(double across, double down) {
+        const Point pointer = desk.session().pointer();
+        desk.movePointerTowards({pointer.x + across, pointer.y + down}, EventType::leftMouseDragged);
+    }
+
     // Presses the switch, and moves the hand by that much before it lets go.
     void dragSwitch(double distance) {
         hand.pointAt(toggle());
         desk.pressButton(toggle());
-        desk.placeHand({hand.place().x + distance, hand.place().y});
+        drag(distance, 0);
         desk.hover(std::nullopt);
         desk.releaseButton(std::nullopt);
     }

@@ -94,12 +94,12 @@ TEST_F(SettingsOnTheDesk, DragTheKnobToTheOtherSide) {
     hand.pointAt(toggle());
     desk.pressButton(toggle());
     EXPECT_FALSE(window().movingSwitch);
-    desk.placeHand({hand.place().x + 5, hand.place().y + 40});
+    drag(5, 40);
     desk.hover(std::nullopt);
     EXPECT_GT(window().movingSwitch.value().position, 0.3);
     EXPECT_EQ(window().pressedElement, toggle().element) << "a knob is held wherever the hand goes";
     EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
-    desk.placeHand({hand.place().x + 12, hand.place().y + 40});
+    drag(7, 0);
     desk.releaseButton(std::nullopt);
     EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
     EXPECT_FALSE(window().pressedElement);
@@ -125,7 +125,7 @@ TEST_F(SettingsOnTheDesk, DropAKnobWhoseWindowHasGone) {
     open();
     hand.pointAt(toggle());
     desk.pressButton(toggle());
-    desk.placeHand({hand.place().x + 12, hand.place().y});
+    drag(12, 0);
     desk.quitOrLaunch();
     desk.releaseButton(std::nullopt);
     EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);

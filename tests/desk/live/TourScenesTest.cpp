@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -209,6 +210,27 @@ TEST(HandOfTheTour, NamesWhatItDidNotFind) {
     EXPECT_EQ(missed([](TourHand& hand) { hand.pointAt(DialogButtonTarget{}); }),
               "a button of the permission dialog");
     EXPECT_EQ(missed([](TourHand& hand) { hand.pointAt(WindowTarget{7}); }), "a part of the screen");
+}
+
+TEST(SceneOfTheTour, FramesWhatItTalksAbout) {
+    LiveDesk desk(otherDisplays());
+    desk.advance(std::chrono::seconds(1));
+    const DeskPicture picture = pictureOf(desk);
+    ASSERT_EQ(picture.windows.size(), 1U);
+    const Rect wizard = picture.windows[0].frame;
+    const auto framed = [&](TourScenes::Frame frame) {
+        return TourScenes::framed({"a scene", nullptr, frame}, picture);
+    };
+    EXPECT_FALSE(framed(TourScenes::Frame::everything));
+    const Rect display = framed(TourScenes::Frame::display).value();
+    const Rect open = framed(TourScenes::Frame::whatIsOpen).value();
+    const Rect pointer = framed(TourScenes::Frame::pointer).value();
+    EXPECT_EQ(display, (Rect{-48, -48, 1096, 696})) << "the one with the pointer";
+    EXPECT_LT(open.minX(), wizard.minX());
+    EXPECT_GT(open.maxY(), wizard.maxY());
+    EXPECT_TRUE(open.contains(picture.pointer));
+    EXPECT_LT(open.width(), display.width());
+    EXPECT_EQ(pointer, (Rect{picture.pointer.x - 48, picture.pointer.y - 48, 96, 96}));
 }
 
 // The first one that expects it, and what it expected.

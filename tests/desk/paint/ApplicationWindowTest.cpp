@@ -1,5 +1,6 @@
 #include "desk/paint/DeskHitTest.h"
 #include "desk/paint/WindowLayout.h"
+#include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/WindowPictures.h"
 
 #include <gtest/gtest.h>
@@ -9,43 +10,64 @@
 namespace kestrune::desk {
 namespace {
 
-WindowLayout layoutOf(const DeskPicture& picture, std::size_t index = 0, Size window = TestWindow) {
-    return windowLayout(DeskLayout::of(picture, window), picture.windows[index], window);
+WindowLayout layoutOf(const DeskPicture& picture, std::size_t index = 0) {
+    return windowLayout(picture.windows[index]);
 }
 
 std::optional<DeskTarget> targetAt(const DeskPicture& picture, Point place) {
     DeskHitTest hitTest;
-    return hitTest.targetAt(picture, TestWindow, place);
+    return hitTest.targetAt(picture, place);
 }
 
-TEST(ApplicationWindow, KeepsItsSizeWithItsAnchorWhereItIsOnItsDisplay) {
+TEST(ApplicationWindow, IsWhereItIsOnItsDisplay) {
+    const DeskPicture picture = withWindow();
+    const WindowLayout layout = layoutOf(picture);
+    EXPECT_EQ(layout.frame, (Rect{600, 400, 300, 228}));
+    EXPECT_EQ(layout.titleBar, (Rect{600, 400, 300, 28}));
+    EXPECT_EQ(layout.content, (Rect{600, 428, 300, 200}));
+    EXPECT_EQ(layout.closeButton, (Rect{608, 408, 12, 12}));
+    EXPECT_EQ(layout.minimizeButton, (Rect{628, 408, 12, 12}));
+}
+
+TEST(ApplicationWindow, IsPaintedToScaleOnItsDisplay) {
     DeskPicture picture = withWindow();
+    DeskPicture without = picture;
+    without.windows.clear();
     const DeskLayout desk = DeskLayout::of(picture, TestWindow);
-    for (const Point corner : {Point{600, 400}, Point{400, 500}, Point{2400, 400}}) {
-        picture.windows[0].frame.origin = corner;
-        const WindowLayout layout = layoutOf(picture);
-        EXPECT_EQ(layout.frame.size, (Size{300, 228}));
-        const double down = 228 * WindowAnchorHeight;
-        const Point anchor = desk.toWindow({corner.x + 150, corner.y + down});
-        EXPECT_NEAR(centerOf(layout.frame).x, anchor.x, 0.5);
-        EXPECT_NEAR(layout.frame.minY() + down, anchor.y, 0.5);
-        EXPECT_EQ(layout.content.size, (Size{300, 200}));
-        EXPECT_EQ(layout.content.minY(), layout.titleBar.maxY());
-        EXPECT_TRUE(encloses(layout.titleBar, layout.closeButton));
+    const auto changed = differenceOf(PaintedPicture{picture}, PaintedPicture{without});
+    ASSERT_TRUE(changed);
+    const Rect frame = desk.place(0)->toWindow(picture.windows[0].frame);
+    EXPECT_NEAR(frame.width(), 300 * desk.scale(), 1e-9);
+    EXPECT_TRUE(encloses(*changed, frame, 1));
+    EXPECT_LT(changed->width(), frame.width() + 110 * desk.scale()) << "with the shadow";
+}
+
+TEST(ApplicationWindow, IsOnEveryDisplayThatItReachesAndOnNoHousing) {
+    DeskPicture picture = withWindow();
+    picture.windows[0].frame.origin = {1400, 400};
+    DeskPicture without = picture;
+    without.windows.clear();
+    const PaintedPicture with{picture};
+    const PaintedPicture plain{without};
+    const DeskLayout desk = DeskLayout::of(picture, TestWindow);
+    const auto differsAt = [&](Point place) { return with.at(place) != plain.at(place); };
+    EXPECT_TRUE(differsAt(desk.place(0)->toWindow(Point{1450, 600})));
+    EXPECT_TRUE(differsAt(desk.place(1)->toWindow(Point{1650, 600})));
+    const double middle = (desk.place(0)->housing.maxX() + desk.place(1)->housing.minX()) / 2;
+    const double down = desk.place(0)->toWindow(Point{0, 600}).y;
+    for (double x = desk.place(0)->screen.maxX() + 1; x < desk.place(1)->screen.minX() - 1; x += 1) {
+        EXPECT_FALSE(differsAt({x, down})) << x - middle;
     }
 }
 
-TEST(ApplicationWindow, StaysBelowTheMenuBarAndInsideTheDesk) {
+TEST(ApplicationWindow, IsBehindTheDockAndTheMenuBars) {
     DeskPicture picture = withWindow();
-    picture.windows[0].frame.origin = {600, 30};
-    const DeskLayout desk = DeskLayout::of(picture, TestWindow);
-    EXPECT_GE(layoutOf(picture).frame.minY(), menuBarArea(*desk.place(0), desk.scale()).maxY());
-    for (const Point corner : {Point{-4000, 300}, Point{9000, 300}, Point{600, -5000}, Point{600, 9000}}) {
-        picture.windows[0].frame.origin = corner;
-        EXPECT_TRUE(encloses({0, 0, TestWindow.width, TestWindow.height}, layoutOf(picture).frame));
-    }
-    picture.displays.clear();
-    EXPECT_TRUE(encloses({0, 0, TestWindow.width, TestWindow.height}, layoutOf(picture).frame));
+    picture.windows[0].frame = {600, 0, 300, 982};
+    EXPECT_FALSE(targetAt(picture, {700, 5}));
+    EXPECT_FALSE(targetAt(picture, {700, 982 - 30}));
+    EXPECT_TRUE(targetAt(picture, {700, 500}));
+    picture.dockDisplay.reset();
+    EXPECT_TRUE(targetAt(picture, {700, 982 - 30}));
 }
 
 TEST(ApplicationWindow, WithoutTitleBarIsAllContent) {
@@ -56,8 +78,8 @@ TEST(ApplicationWindow, WithoutTitleBarIsAllContent) {
     EXPECT_EQ(layout.content, layout.frame);
     EXPECT_EQ(targetAt(picture, centerOf(layout.closeButton)), DeskTarget{WindowTarget{7}});
     DeskHitTest hitTest;
-    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowTitleTarget{7}));
-    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowCloseTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, WindowTitleTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, WindowCloseTarget{7}));
 }
 
 TEST(ApplicationWindow, TellsItsPartsApart) {
@@ -67,46 +89,46 @@ TEST(ApplicationWindow, TellsItsPartsApart) {
                                         WindowControlTarget{7, Link},   WindowControlTarget{7, Main},
                                         WindowControlTarget{7, Switch}, WindowControlTarget{7, Push}};
     for (std::size_t index = 0; index < parts.size(); ++index) {
-        const auto area = hitTest.areaOf(picture, TestWindow, parts[index]);
+        const auto area = hitTest.areaOf(picture, parts[index]);
         ASSERT_TRUE(area) << index;
-        EXPECT_EQ(hitTest.targetAt(picture, TestWindow, centerOf(*area)), parts[index]) << index;
+        EXPECT_EQ(hitTest.targetAt(picture, centerOf(*area)), parts[index]) << index;
         EXPECT_TRUE(encloses(layoutOf(picture).frame, *area)) << index;
     }
     const Point inSentence{layoutOf(picture).content.minX() + 30, layoutOf(picture).content.minY() + 26};
-    EXPECT_EQ(hitTest.targetAt(picture, TestWindow, inSentence), DeskTarget{WindowTarget{7}});
+    EXPECT_EQ(hitTest.targetAt(picture, inSentence), DeskTarget{WindowTarget{7}});
     const Rect frame = layoutOf(picture).frame;
-    EXPECT_FALSE(hitTest.targetAt(picture, TestWindow, {frame.minX() - 2, centerOf(frame).y}));
-    EXPECT_FALSE(hitTest.targetAt(picture, TestWindow, {frame.maxX() + 1, centerOf(frame).y}));
+    EXPECT_FALSE(hitTest.targetAt(picture, {frame.minX() - 2, centerOf(frame).y}));
+    EXPECT_FALSE(hitTest.targetAt(picture, {frame.maxX() + 1, centerOf(frame).y}));
 }
 
 TEST(ApplicationWindow, IsATileInTheDockOnceItIsMinimized) {
     DeskPicture picture = withWindow();
     DeskHitTest hitTest;
     picture.windows[0].isMiniaturizable = true;
-    const auto button = hitTest.areaOf(picture, TestWindow, WindowMinimizeTarget{7});
+    const auto button = hitTest.areaOf(picture, WindowMinimizeTarget{7});
     ASSERT_TRUE(button);
     EXPECT_EQ(targetAt(picture, centerOf(*button)), DeskTarget{WindowMinimizeTarget{7}});
-    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, DockTileTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, DockTileTarget{7}));
 
     picture.windows.clear();
     picture.dockDisplay = 0;
-    const PaintedPicture without{picture};
+    const CloseUp without{picture, {756, 900}};
     picture.miniaturized = {windowWithControls(), windowWithControls()};
     picture.miniaturized[1].number = 8;
     std::vector<Rect> tiles;
     for (const std::size_t number : {7U, 8U}) {
-        const auto tile = hitTest.areaOf(picture, TestWindow, DockTileTarget{number});
+        const auto tile = hitTest.areaOf(picture, DockTileTarget{number});
         ASSERT_TRUE(tile);
         EXPECT_EQ(targetAt(picture, centerOf(*tile)), DeskTarget{DockTileTarget{number}});
         tiles.push_back(*tile);
     }
     EXPECT_GT(tiles[1].minX(), tiles[0].maxX());
-    const auto changed = differenceOf(PaintedPicture{picture}, without);
+    const auto changed = differenceOf(CloseUp(picture, {756, 900}), without);
     ASSERT_TRUE(changed);
     EXPECT_TRUE(encloses(*changed, tiles[1]));
-    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, DockTileTarget{9}));
+    EXPECT_FALSE(hitTest.areaOf(picture, DockTileTarget{9}));
     picture.dockDisplay.reset();
-    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, DockTileTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, DockTileTarget{7}));
 }
 
 TEST(ApplicationWindow, HasNoPlaceForPartsThatItDoesNotHave) {
@@ -116,12 +138,12 @@ TEST(ApplicationWindow, HasNoPlaceForPartsThatItDoesNotHave) {
          {DeskTarget{WindowControlTarget{7, Sentence}}, DeskTarget{WindowControlTarget{7, 99}},
           DeskTarget{WindowControlTarget{8, Main}}, DeskTarget{WindowTarget{7}},
           DeskTarget{WindowTitleTarget{8}}, DeskTarget{WindowCloseTarget{8}}}) {
-        EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, target)) << target.index();
+        EXPECT_FALSE(hitTest.areaOf(picture, target)) << target.index();
     }
     picture.windows[0].isClosable = false;
-    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowCloseTarget{7}));
-    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowMinimizeTarget{7}));
-    EXPECT_FALSE(hitTest.areaOf(picture, TestWindow, WindowMinimizeTarget{8}));
+    EXPECT_FALSE(hitTest.areaOf(picture, WindowCloseTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, WindowMinimizeTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, WindowMinimizeTarget{8}));
     EXPECT_EQ(targetAt(picture, centerOf(layoutOf(picture).closeButton)), DeskTarget{WindowTitleTarget{7}});
 }
 
@@ -132,8 +154,8 @@ TEST(ApplicationWindow, LiesAsFarInFrontAsItsDepthSays) {
         picture.windows = {windowWithControls()};
         picture.windows[0].frame = {450, 250, 612, 600};
         picture.windows[0].depth = depth;
-        const Rect area = *hitTest.areaOf(picture, TestWindow, other);
-        return hitTest.targetAt(picture, TestWindow, centerOf(area)) != other;
+        const Rect area = *hitTest.areaOf(picture, other);
+        return hitTest.targetAt(picture, centerOf(area)) != other;
     };
     const DeskTarget inPane = PaneSwitchTarget{1};
     EXPECT_FALSE(isCovered(withPane(), inPane, WindowDepth::behindSystemWindows));
@@ -153,13 +175,13 @@ TEST(ApplicationWindow, IsPaintedInTheOrderInWhichItIsHit) {
     picture.windows[0].frame = {450, 250, 612, 600};
     picture.windows[0].scene = {};
     DeskHitTest hitTest;
-    const Rect toggle = *hitTest.areaOf(picture, TestWindow, PaneSwitchTarget{0});
+    const Rect toggle = *hitTest.areaOf(picture, PaneSwitchTarget{0});
     const Point onTrack{toggle.minX() + 7, centerOf(toggle).y};
     const auto isBlue = [](Pixel pixel) { return pixel.blue > pixel.red + 100; };
     picture.windows[0].depth = WindowDepth::behindSystemWindows;
-    EXPECT_TRUE(isBlue(PaintedPicture{picture}.at(onTrack)));
+    EXPECT_TRUE(isBlue(CloseUp{picture}.at(onTrack)));
     picture.windows[0].depth = WindowDepth::beforePane;
-    EXPECT_TRUE(isNear(PaintedPicture{picture}.at(onTrack), 0xEC, 0xEC, 0xEC, 2));
+    EXPECT_TRUE(isNear(CloseUp{picture}.at(onTrack), 0xEC, 0xEC, 0xEC, 2));
 }
 
 TEST(ApplicationWindow, HasTheFirstOfSeveralInFront) {
@@ -172,18 +194,18 @@ TEST(ApplicationWindow, HasTheFirstOfSeveralInFront) {
     const Point shared = centerOf(layoutOf(picture, 1).closeButton);
     ASSERT_TRUE(layoutOf(picture, 0).frame.contains(shared));
     EXPECT_EQ(targetAt(picture, shared), DeskTarget{WindowTarget{7}});
-    const Pixel front = PaintedPicture{picture}.at(shared);
+    const Pixel front = CloseUp{picture}.at(shared);
     picture.windows.pop_back();
-    EXPECT_EQ(PaintedPicture{picture}.at(shared), front);
+    EXPECT_EQ(CloseUp{picture}.at(shared), front);
     picture.windows = {second};
-    EXPECT_FALSE(PaintedPicture{picture}.at(shared) == front);
+    EXPECT_FALSE(CloseUp{picture}.at(shared) == front);
 }
 
 TEST(ApplicationWindow, HasARedCloseButtonWhileItIsKeyAndGreyOnesForWhatItCannotDo) {
     DeskPicture picture = withWindow();
     const Point close = centerOf(layoutOf(picture).closeButton);
     const auto buttons = [&] {
-        const PaintedPicture painted{picture};
+        const CloseUp painted{picture};
         return std::vector{painted.at(close), painted.at({close.x + 20, close.y}),
                            painted.at({close.x + 40, close.y})};
     };
@@ -215,11 +237,11 @@ TEST(ApplicationWindow, ShowsACrossInTheCloseButtonUnderThePointerInTheBackgroun
     for (const bool isKey : {true, false}) {
         picture.windows[0].isKey = isKey;
         picture.windows[0].isCloseButtonHovered = true;
-        const PaintedPicture hovered{picture};
+        const CloseUp hovered{picture};
         EXPECT_LT(hovered.at(close).red, 160);
         EXPECT_TRUE(isNear(hovered.at({close.x + 4, close.y}), 0xFF, 0x5F, 0x57, 3));
         picture.windows[0].isClosable = false;
-        EXPECT_GT(PaintedPicture{picture}.at(close).red, 160);
+        EXPECT_GT(CloseUp{picture}.at(close).red, 160);
         picture.windows[0].isClosable = true;
     }
 }
@@ -228,9 +250,9 @@ TEST(ApplicationWindow, ShowsALineInTheMinimizeButtonUnderThePointer) {
     DeskPicture picture = withWindow();
     picture.windows[0].isMiniaturizable = true;
     const Point minimize = centerOf(layoutOf(picture).minimizeButton);
-    EXPECT_TRUE(isNear(PaintedPicture{picture}.at(minimize), 0xFE, 0xBC, 0x2E, 3));
+    EXPECT_TRUE(isNear(CloseUp{picture}.at(minimize), 0xFE, 0xBC, 0x2E, 3));
     picture.windows[0].isMinimizeButtonHovered = true;
-    const PaintedPicture hovered{picture};
+    const CloseUp hovered{picture};
     EXPECT_LT(hovered.at(minimize).red, 180);
     EXPECT_TRUE(isNear(hovered.at({minimize.x, minimize.y + 3}), 0xFE, 0xBC, 0x2E, 3));
 }
@@ -238,14 +260,7 @@ TEST(ApplicationWindow, ShowsALineInTheMinimizeButtonUnderThePointer) {
 TEST(ApplicationWindow, ShowsItsTitleInTheMiddleAndPalerInTheBackground) {
     DeskPicture picture = withWindow();
     const Rect bar = layoutOf(picture).titleBar;
-    const auto darkest = [&](const Rect& area) {
-        int value = 255;
-        PaintedPicture{picture}.count(area, [&](Pixel pixel) {
-            value = std::min(value, pixel.red);
-            return false;
-        });
-        return value;
-    };
+    const auto darkest = [&](const Rect& area) { return CloseUp{picture}.darkest(area); };
     const Rect middle{centerOf(bar).x - 30, bar.minY() + 6, 60, 16};
     const int inFront = darkest(middle);
     EXPECT_LT(inFront, 110);
@@ -270,7 +285,8 @@ TEST(ApplicationWindow, IsPaintedAnewOnlyWhenItHasChanged) {
     const auto changed = differenceOf(pressed, moved);
     ASSERT_TRUE(changed);
     DeskHitTest hitTest;
-    EXPECT_TRUE(encloses(*hitTest.areaOf(picture, TestWindow, WindowControlTarget{7, Main}), *changed, 1));
+    const Rect area = *hitTest.areaOf(picture, WindowControlTarget{7, Main});
+    EXPECT_TRUE(encloses(DeskLayout::of(picture, TestWindow).place(0)->toWindow(area), *changed, 1));
     picture.windows.clear();
     const PaintedPicture closed{painter, picture, TestWindow};
     EXPECT_FALSE(differenceOf(closed, PaintedPicture{picture}));

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace kestrune::desk {
 namespace {
 
@@ -18,44 +20,63 @@ protected:
         });
     }
 
+    int alphaAt(int x, int y) const {
+        return std::to_integer<int>(
+            surface_->pixels()[static_cast<std::size_t>(y * surface_->stride() + x * 4 + 3)]);
+    }
+
     CachedSprite<int> sprite_;
     int paintings_ = 0;
     std::optional<Surface> surface_ = Surface::create({40, 40}, 1);
     std::optional<Surface> fine_ = Surface::create({40, 40}, 2);
 };
 
-TEST_F(Sprite, IsPaintedAnewOnlyForAnotherSubjectPlaceOrResolution) {
+TEST_F(Sprite, IsPaintedAnewOnlyForAnotherSubjectGridOrResolution) {
     const Rect extent{8, 8, 8, 8};
     paint(surface_->context(), extent, 1);
     paint(surface_->context(), extent, 1);
     EXPECT_EQ(paintings_, 1);
     paint(surface_->context(), extent, 2);
     EXPECT_EQ(paintings_, 2);
-    paint(surface_->context(), {9, 8, 8, 8}, 2);
+    paint(surface_->context(), {8.5, 8, 8, 8}, 2);
     EXPECT_EQ(paintings_, 3);
-    paint(fine_->context(), {9, 8, 8, 8}, 2);
+    paint(fine_->context(), {8.5, 8, 8, 8}, 2);
     EXPECT_EQ(paintings_, 4);
-    sprite_.forget();
-    paint(fine_->context(), {9, 8, 8, 8}, 2);
-    EXPECT_EQ(paintings_, 5);
 }
 
 TEST_F(Sprite, LeavesWhatItDoesNotCoverAsItWas) {
     paint(surface_->context(), {7.3, 7.6, 12.2, 12.1}, 1);
-    const auto pixels = surface_->pixels();
-    const auto alpha = [&](int x, int y) {
-        return std::to_integer<int>(pixels[static_cast<std::size_t>(y * surface_->stride() + x * 4 + 3)]);
-    };
-    EXPECT_EQ(alpha(10, 10), 255);
-    EXPECT_EQ(alpha(13, 13), 255);
-    EXPECT_EQ(alpha(9, 12), 0);
-    EXPECT_EQ(alpha(14, 12), 0);
+    EXPECT_EQ(alphaAt(10, 10), 255);
+    EXPECT_EQ(alphaAt(13, 13), 255);
+    EXPECT_EQ(alphaAt(9, 12), 0);
+    EXPECT_EQ(alphaAt(14, 12), 0);
 }
 
-TEST(OnDevicePixels, EnlargesToWholePixelsOfTheResolution) {
-    EXPECT_EQ(onDevicePixels({1.3, 2.6, 2, 2}, 1), (Rect{1, 2, 3, 3}));
-    EXPECT_EQ(onDevicePixels({1.3, 2.6, 2, 2}, 2), (Rect{1, 2.5, 2.5, 2.5}));
-    EXPECT_EQ(onDevicePixels({1, 2, 3, 4}, 2), (Rect{1, 2, 3, 4}));
+TEST_F(Sprite, IsMovedByWholePixelsAsItIs) {
+    paint(surface_->context(), {8, 8, 8, 8}, 1);
+    cairo_translate(surface_->context(), 20, 10);
+    paint(surface_->context(), {8, 8, 8, 8}, 1);
+    EXPECT_EQ(paintings_, 1);
+    EXPECT_EQ(alphaAt(31, 21), 255);
+    EXPECT_EQ(alphaAt(29, 21), 0);
+    cairo_translate(surface_->context(), 0.5, 0);
+    paint(surface_->context(), {8, 8, 8, 8}, 1);
+    EXPECT_EQ(paintings_, 2);
+}
+
+TEST_F(Sprite, IsWhatIsPaintedWithoutItUnderATransformation) {
+    cairo_translate(surface_->context(), 3.3, 4.6);
+    cairo_scale(surface_->context(), 0.37, 0.37);
+    paint(surface_->context(), {8, 8, 8, 8}, 1);
+    const auto withSprite = std::vector(surface_->pixels().begin(), surface_->pixels().end());
+    cairo_t* const context = surface_->context();
+    cairo_set_operator(context, CAIRO_OPERATOR_CLEAR);
+    cairo_paint(context);
+    cairo_set_operator(context, CAIRO_OPERATOR_OVER);
+    cairo_set_source_rgb(context, 1, 0, 0);
+    cairo_rectangle(context, 10, 10, 4, 4);
+    cairo_fill(context);
+    EXPECT_EQ(withSprite, std::vector(surface_->pixels().begin(), surface_->pixels().end()));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "desk/paint/SettingsPaneLayout.h"
 #include "desk/paint/ToolTipPainter.h"
 #include "tests/base/UnusualNumbers.h"
+#include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
@@ -15,18 +16,12 @@ namespace {
 class HitTest : public testing::Test {
 protected:
     std::optional<DeskTarget> at(const DeskPicture& picture, Point place) {
-        return hitTest_.targetAt(picture, TestWindow, place);
+        return hitTest_.targetAt(picture, place);
     }
 
-    MenuLayout menu(const DeskPicture& picture) {
-        return *menuLayout(measure_, DeskLayout::of(picture, TestWindow), picture, TestWindow);
-    }
-    AlertLayout dialog(const DeskPicture& picture) {
-        return *alertLayout(measure_, DeskLayout::of(picture, TestWindow), picture, TestWindow);
-    }
-    SettingsPaneLayout pane(const DeskPicture& picture) {
-        return *settingsPaneLayout(DeskLayout::of(picture, TestWindow), picture, TestWindow);
-    }
+    MenuLayout menu(const DeskPicture& picture) { return *menuLayout(measure_, picture); }
+    AlertLayout dialog(const DeskPicture& picture) { return *alertLayout(measure_, picture); }
+    SettingsPaneLayout pane(const DeskPicture& picture) { return *settingsPaneLayout(picture); }
 
     DeskHitTest hitTest_;
     TextMeasure measure_;
@@ -53,7 +48,7 @@ TEST_F(HitTest, FindsStatusItemsAndTitlesOnEachDisplay) {
 TEST_F(HitTest, FindsNothingOnTheBareDesk) {
     const DeskPicture picture = withStatusItem();
     for (const Point place :
-         {Point{5, 5}, Point{300, 400}, Point{600, 680}, Point{-50, 1e9}, Point{NotANumber, NotANumber}}) {
+         {Point{300, 400}, Point{2000, -90}, Point{-50, 1e9}, Point{NotANumber, NotANumber}}) {
         EXPECT_FALSE(at(picture, place));
     }
 }
@@ -104,7 +99,9 @@ TEST_F(HitTest, PrefersTheMenuToTheDialogToThePaneToTheMenuBar) {
     DeskPicture picture = withPane();
     picture.menu = withMenu().menu;
     picture.menu->display = 0;
-    picture.menu->rows.assign(12, {.title = "A row that reaches far across the windows behind it"});
+    picture.mainMenuTitles = {"Kestrune"};
+    picture.menu->anchor = MainMenuTitleAnchor{0};
+    picture.menu->rows.assign(30, {.title = std::string(120, 'm')});
     picture.permissionDialog = withDialog().permissionDialog;
     picture.permissionDialog->display = 0;
 
@@ -128,8 +125,7 @@ TEST_F(HitTest, LetsToolTipsThrough) {
     DeskPicture picture = withPane();
     picture.settingsPane->rows.assign(9, {.name = "Application", .iconPath = std::nullopt});
     picture.toolTip = ToolTipPicture{0, 0, "Kestrune"};
-    const std::optional<Rect> tip =
-        toolTipArea(measure_, DeskLayout::of(picture, TestWindow), picture, TestWindow);
+    const std::optional<Rect> tip = toolTipArea(measure_, picture);
     ASSERT_TRUE(tip);
     const std::optional<DeskTarget> covered = at(picture, centerOf(*tip));
     picture.toolTip.reset();
@@ -139,7 +135,7 @@ TEST_F(HitTest, LetsToolTipsThrough) {
 class AreaOf : public HitTest {
 protected:
     std::optional<Rect> areaOf(const DeskPicture& picture, const DeskTarget& target) {
-        return hitTest_.areaOf(picture, TestWindow, target);
+        return hitTest_.areaOf(picture, target);
     }
 
     // Whether the part is found where it is said to be.
@@ -223,20 +219,49 @@ TEST_F(AreaOf, IsAbsentForPartsWithoutRoom) {
     EXPECT_FALSE(areaOf(crowded, StatusItemTarget{0, 0}));
 }
 
+TEST_F(HitTest, FindsNoTitlesOfTheFinder) {
+    const DeskPicture picture = withStatusItem();
+    EXPECT_FALSE(at(picture, centerOf(menuBarOf(picture, 0).titles[1])));
+    EXPECT_FALSE(hitTest_.areaOf(picture, MainMenuTitleTarget{0, 1}));
+}
+
+TEST_F(HitTest, FindsNothingOfAPartBeyondItsDisplay) {
+    DeskPicture picture = withPane();
+    picture.displays[0].bounds.size.width = 400;
+    picture.displays[1].bounds.origin.x = 400;
+    const Rect frame = pane(picture).frame;
+    ASSERT_GT(frame.maxX(), 410);
+    EXPECT_TRUE(at(picture, {395, frame.maxY() - 5}));
+    EXPECT_FALSE(at(picture, {405, frame.maxY() - 5}));
+}
+
 TEST_F(HitTest, AgreesWithWhatIsPaintedAtEveryResolution) {
     DeskPicture picture = withMenu();
     picture.menu->rows[4].highlighted = true;
     DeskPicture plain = picture;
     plain.menu->rows[4].highlighted = false;
     for (const double scale : {1.0, 1.5, 2.0}) {
-        const std::optional<Rect> row = differenceOf(PaintedPicture{picture, TestWindow, scale},
-                                                     PaintedPicture{plain, TestWindow, scale});
+        const std::optional<Rect> row = differenceOf(CloseUp{picture, scale}, CloseUp{plain, scale});
         ASSERT_TRUE(row);
-        const Point top{(row->minX() + 8) / scale, row->minY() / scale + 1};
-        const Point bottom{(row->maxX() - 8) / scale, row->maxY() / scale - 1};
-        EXPECT_EQ(at(picture, top), DeskTarget(MenuRowTarget{4})) << scale;
-        EXPECT_EQ(at(picture, bottom), DeskTarget(MenuRowTarget{4})) << scale;
+        EXPECT_EQ(at(picture, {row->minX() + 8, row->minY() + 1}), DeskTarget(MenuRowTarget{4})) << scale;
+        EXPECT_EQ(at(picture, {row->maxX() - 8, row->maxY() - 1}), DeskTarget(MenuRowTarget{4})) << scale;
     }
+}
+
+TEST_F(HitTest, KnowsWhatIsOpen) {
+    DeskPicture picture = withStatusItem();
+    EXPECT_FALSE(hitTest_.openParts(picture));
+    picture = withPane();
+    EXPECT_EQ(hitTest_.openParts(picture), pane(picture).frame);
+    picture.permissionDialog = withDialog().permissionDialog;
+    const Rect both = *hitTest_.openParts(picture);
+    EXPECT_TRUE(encloses(both, pane(picture).frame));
+    EXPECT_TRUE(encloses(both, dialog(picture).frame));
+    EXPECT_EQ(both, unionOf(pane(picture).frame, dialog(picture).frame));
+    picture.toolTip = ToolTipPicture{0, 0, "Kestrune"};
+    EXPECT_EQ(hitTest_.openParts(picture), toolTipArea(measure_, picture));
+    picture.menu = withMenu().menu;
+    EXPECT_EQ(hitTest_.openParts(picture), menu(picture).panel);
 }
 
 } // namespace

@@ -40,8 +40,8 @@ public:
     }
 
     // What a painter that has painted other pictures before makes of this one.
-    PaintedPicture(DeskPainter& painter, const DeskPicture& picture, Size window)
-        : surface_(*Surface::create(window, 1)) {
+    PaintedPicture(DeskPainter& painter, const DeskPicture& picture, Size window, double scale = 1)
+        : surface_(*Surface::create(window, scale)) {
         paint(painter, picture, window);
     }
 

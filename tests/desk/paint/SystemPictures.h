@@ -1,8 +1,8 @@
 // Pictures with the parts of a Mac's screen that the application lives in, for their tests.
 #pragma once
 
-#include "desk/paint/DeskLayout.h"
 #include "desk/paint/MenuBarLayout.h"
+#include "desk/paint/RectMath.h"
 #include "desk/paint/TextMeasure.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/paint/PaintedPicture.h"
@@ -74,14 +74,9 @@ inline DeskPicture withPane() {
     return picture;
 }
 
-inline MenuBarLayout menuBarOf(const DeskPicture& picture, std::size_t display, Size window = TestWindow) {
+inline MenuBarLayout menuBarOf(const DeskPicture& picture, std::size_t display) {
     TextMeasure measure;
-    const DeskLayout layout = DeskLayout::of(picture, window);
-    return menuBarLayout(measure, *layout.place(display), layout.scale(), picture);
-}
-
-inline Point centerOf(const Rect& rect) {
-    return {rect.minX() + rect.width() / 2, rect.minY() + rect.height() / 2};
+    return menuBarLayout(measure, picture.displays[display].bounds, picture);
 }
 
 } // namespace kestrune::desk

@@ -2,6 +2,7 @@
 #include "desk/paint/SettingsPaneLayout.h"
 #include "desk/paint/ToolTipPainter.h"
 #include "tests/base/Overlap.h"
+#include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
@@ -9,18 +10,16 @@
 namespace kestrune::desk {
 namespace {
 
-AlertLayout dialogOf(const DeskPicture& picture, Size window = TestWindow) {
+AlertLayout dialogOf(const DeskPicture& picture) {
     TextMeasure measure;
-    return *alertLayout(measure, DeskLayout::of(picture, window), picture, window);
+    return *alertLayout(measure, picture);
 }
 
-SettingsPaneLayout paneOf(const DeskPicture& picture, Size window = TestWindow) {
-    return *settingsPaneLayout(DeskLayout::of(picture, window), picture, window);
-}
+SettingsPaneLayout paneOf(const DeskPicture& picture) { return *settingsPaneLayout(picture); }
 
-std::optional<Rect> toolTipOf(const DeskPicture& picture, Size window = TestWindow) {
+std::optional<Rect> toolTipOf(const DeskPicture& picture) {
     TextMeasure measure;
-    return toolTipArea(measure, DeskLayout::of(picture, window), picture, window);
+    return toolTipArea(measure, picture);
 }
 
 TEST(PermissionDialog, HoldsItsPartsApartFromEachOther) {
@@ -53,20 +52,18 @@ TEST(PermissionDialog, StandsABitAboveTheMiddleOfItsDisplay) {
     DeskPicture picture = withDialog();
     for (const std::size_t display : {0U, 1U}) {
         picture.permissionDialog->display = display;
-        const Point middle = centerOf(DeskLayout::of(picture, TestWindow).place(display)->screen);
+        const Point middle = centerOf(picture.displays[display].bounds);
         const Point center = centerOf(dialogOf(picture).frame);
-        EXPECT_NEAR(center.x, middle.x, 30);
-        EXPECT_LT(center.y, middle.y);
-        EXPECT_GT(center.y, middle.y - 60);
+        EXPECT_NEAR(center.x, middle.x, 1);
+        EXPECT_LT(center.y, middle.y - 20);
+        EXPECT_GT(center.y, middle.y - 120);
     }
-    picture.permissionDialog->display = 9;
-    EXPECT_NEAR(centerOf(dialogOf(picture).frame).x, TestWindow.width / 2, 1);
 }
 
 TEST(PermissionDialog, HasDenyInTheAccentColour) {
     const DeskPicture picture = withDialog();
     const AlertLayout dialog = dialogOf(picture);
-    const PaintedPicture painted{picture};
+    const CloseUp painted{picture};
     const Pixel deny = painted.at({dialog.deny.minX() + 6, dialog.deny.maxY() - 5});
     EXPECT_GT(deny.blue, deny.red + 80);
     const Pixel open =
@@ -77,28 +74,28 @@ TEST(PermissionDialog, HasDenyInTheAccentColour) {
 TEST(PermissionDialog, DarkensThePressedButtonOnly) {
     DeskPicture picture = withDialog();
     const AlertLayout dialog = dialogOf(picture);
-    const PaintedPicture released{picture};
+    const CloseUp released{picture};
     picture.pressed = DialogButtonTarget{DialogButton::deny};
-    std::optional<Rect> changed = differenceOf(PaintedPicture{picture}, released);
+    std::optional<Rect> changed = differenceOf(CloseUp{picture}, released);
     ASSERT_TRUE(changed);
     EXPECT_TRUE(encloses(dialog.deny, *changed, 1));
     picture.pressed = DialogButtonTarget{DialogButton::openSystemSettings};
-    changed = differenceOf(PaintedPicture{picture}, released);
+    changed = differenceOf(CloseUp{picture}, released);
     ASSERT_TRUE(changed);
     EXPECT_TRUE(encloses(dialog.openSystemSettings, *changed, 1));
     picture.pressed = PaneCloseTarget{};
-    EXPECT_FALSE(differenceOf(PaintedPicture{picture}, released));
+    EXPECT_FALSE(differenceOf(CloseUp{picture}, released));
 }
 
 TEST(PermissionDialog, ShowsTheApplicationsIconOrAGeneralOne) {
     const IconFile icon{rgb(0x00FF00)};
     DeskPicture picture = withDialog();
     const Point center = centerOf(dialogOf(picture).icon);
-    const PaintedPicture general{picture};
+    const CloseUp general{picture};
     picture.permissionDialog->iconPath = "/no/such/icon.png";
-    EXPECT_FALSE(differenceOf(PaintedPicture{picture}, general));
+    EXPECT_FALSE(differenceOf(CloseUp{picture}, general));
     picture.permissionDialog->iconPath = icon.path();
-    EXPECT_TRUE(isNear(PaintedPicture{picture}.at(center), 0, 255, 0, 4));
+    EXPECT_TRUE(isNear(CloseUp{picture}.at(center), 0, 255, 0, 4));
 }
 
 TEST(SettingsPane, ListsEachApplicationWithItsSwitch) {
@@ -122,7 +119,7 @@ TEST(SettingsPane, ListsEachApplicationWithItsSwitch) {
 TEST(SettingsPane, ShowsWhichSwitchesAreOn) {
     const DeskPicture picture = withPane();
     const SettingsPaneLayout pane = paneOf(picture);
-    const PaintedPicture painted{picture};
+    const CloseUp painted{picture};
     // The half of the switch that its knob leaves free.
     const auto track = [&](std::size_t row, double part) {
         const Rect& toggle = pane.rows[row].toggle;
@@ -138,14 +135,7 @@ TEST(SettingsPane, EnablesRemovingOnlyWithASelectedRow) {
     DeskPicture picture = withPane();
     EXPECT_FALSE(canRemove(*picture.settingsPane));
     const Rect minus = paneOf(picture).removeButton;
-    const auto darkest = [&] {
-        int value = 255;
-        PaintedPicture{picture}.count(minus, [&](Pixel pixel) {
-            value = std::min(value, pixel.red);
-            return false;
-        });
-        return value;
-    };
+    const auto darkest = [&] { return CloseUp{picture}.darkest(minus); };
     const int disabled = darkest();
     picture.settingsPane->rows[1].selected = true;
     EXPECT_TRUE(canRemove(*picture.settingsPane));
@@ -156,13 +146,13 @@ TEST(SettingsPane, ShowsWhatIsHeldDown) {
     DeskPicture picture = withPane();
     picture.settingsPane->rows[0].selected = true;
     const SettingsPaneLayout pane = paneOf(picture);
-    const PaintedPicture released{picture};
+    const CloseUp released{picture};
     const std::vector<std::pair<DeskTarget, Rect>> parts{{PaneSwitchTarget{1}, pane.rows[1].toggle},
                                                          {PaneCloseTarget{}, pane.closeButton},
                                                          {PaneRemoveTarget{}, pane.removeButton}};
     for (std::size_t index = 0; index < parts.size(); ++index) {
         picture.pressed = parts[index].first;
-        const std::optional<Rect> changed = differenceOf(PaintedPicture{picture}, released);
+        const std::optional<Rect> changed = differenceOf(CloseUp{picture}, released);
         ASSERT_TRUE(changed) << index;
         EXPECT_TRUE(encloses(parts[index].second, *changed, 1)) << index;
     }
@@ -174,39 +164,47 @@ TEST(SettingsPane, SaysThatItsListIsEmpty) {
     const SettingsPaneLayout pane = paneOf(picture);
     EXPECT_TRUE(pane.rows.empty());
     const Point middle = centerOf(pane.list);
-    EXPECT_GT(PaintedPicture{picture}.count({middle.x - 40, middle.y - 8, 80, 16},
-                                            [](Pixel pixel) { return pixel.red < 190; }),
+    EXPECT_GT(CloseUp{picture}.count({middle.x - 40, middle.y - 8, 80, 16},
+                                     [](Pixel pixel) { return pixel.red < 190; }),
               30);
 }
 
-TEST(SystemWindows, StayInsideTheWindow) {
+TEST(SystemWindows, StayOnTheirDisplay) {
     DeskPicture picture = withDialog();
     picture.settingsPane = withPane().settingsPane;
-    for (const Size window : {Size{1440, 900}, Size{900, 600}, Size{720, 450}}) {
-        for (const std::size_t rows : {0U, 2U, 80U}) {
-            picture.settingsPane->rows.assign(rows, {.name = "Application", .iconPath = std::nullopt});
-            for (const std::size_t display : {0U, 1U, 5U}) {
-                picture.permissionDialog->display = display;
-                picture.settingsPane->display = display;
-                const Rect all{0, 0, window.width, window.height};
-                EXPECT_TRUE(encloses(all, dialogOf(picture, window).frame)) << window.width;
-                EXPECT_TRUE(encloses(all, paneOf(picture, window).frame)) << window.width << " " << rows;
-            }
+    for (const std::size_t rows : {0U, 2U, 80U}) {
+        picture.settingsPane->rows.assign(rows, {.name = "Application", .iconPath = std::nullopt});
+        for (const std::size_t display : {0U, 1U}) {
+            picture.permissionDialog->display = display;
+            picture.settingsPane->display = display;
+            const Rect& bounds = picture.displays[display].bounds;
+            EXPECT_TRUE(encloses(bounds, dialogOf(picture).frame));
+            EXPECT_TRUE(encloses(bounds, paneOf(picture).frame)) << rows;
         }
     }
+}
+
+TEST(SystemWindows, AreAbsentFromADisplayThatIsNotThere) {
+    DeskPicture picture = withDialog();
+    picture.settingsPane = withPane().settingsPane;
+    picture.permissionDialog->display = 2;
+    picture.settingsPane->display = 2;
+    TextMeasure measure;
+    EXPECT_FALSE(alertLayout(measure, picture));
+    EXPECT_FALSE(settingsPaneLayout(picture));
 }
 
 TEST(SystemWindows, HaveTheDialogInFrontOfThePane) {
     DeskPicture picture = withDialog();
     picture.permissionDialog->display = 0;
-    const Point inDialog = centerOf(dialogOf(picture).message);
-    const Pixel alone = PaintedPicture{picture}.at(inDialog);
+    const Point inDialog = centerOf(dialogOf(picture).deny);
+    const Pixel alone = CloseUp{picture}.at(inDialog);
     picture.settingsPane = withPane().settingsPane;
     ASSERT_TRUE(paneOf(picture).frame.contains(inDialog));
-    EXPECT_EQ(PaintedPicture{picture}.at(inDialog), alone);
+    EXPECT_EQ(CloseUp{picture}.at(inDialog), alone);
 }
 
-TEST(ToolTip, StandsBelowItsStatusItemAndInsideTheWindow) {
+TEST(ToolTip, StandsBelowItsStatusItemOnItsDisplay) {
     DeskPicture picture = withStatusItem();
     for (const char* const text :
          {"Kestrune", "A tool tip that has so much to tell that it cannot be shown"}) {
@@ -216,7 +214,7 @@ TEST(ToolTip, StandsBelowItsStatusItemAndInsideTheWindow) {
             const std::optional<Rect> area = toolTipOf(picture);
             ASSERT_TRUE(area);
             EXPECT_GT(area->minY(), slot.maxY());
-            EXPECT_TRUE(encloses({0, 0, TestWindow.width, TestWindow.height}, *area));
+            EXPECT_TRUE(encloses(picture.displays[display].bounds, *area));
         }
     }
 }

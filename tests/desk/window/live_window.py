@@ -164,6 +164,12 @@ class Area:
         """A place by fractions of the width and the height, moved down by some pixels."""
         return round(self.left + across * self.width), round(self.top + down * self.height) + offset
 
+    def enlarged(self, factor):
+        """Around its middle."""
+        width, height = factor * self.width, factor * self.height
+        left, top = self.left + (self.width - width) / 2, self.top + (self.height - height) / 2
+        return Area(left, top, width, height)
+
     def columns(self, step):
         return range(round(self.left) + 10, round(self.left + self.width) - 10, step)
 

@@ -8,7 +8,9 @@
 #include "desk/live/LivePicture.h"
 #include "desk/live/WindowParts.h"
 #include "desk/paint/DeskHitTest.h"
+#include "desk/paint/DeskLayout.h"
 #include "desk/paint/MenuLayout.h"
+#include "desk/paint/RectMath.h"
 
 #include <chrono>
 #include <cstddef>
@@ -30,10 +32,17 @@ void print(const std::string& name, const Rect& area) {
     std::printf("%s\t%g\t%g\t%g\t%g\n", name.c_str(), area.minX(), area.minY(), area.width(), area.height());
 }
 
+// An area of the displays.
+void printSeen(const DeskPicture& picture, const std::string& name, const Rect& area) {
+    const DeskLayout layout = DeskLayout::of(picture, UsualWindow);
+    print(name, layout.placeContaining(centerOf(area))->toWindow(area));
+}
+
 void printTarget(LiveDesk& desk, const std::string& name, const DeskTarget& target) {
     DeskHitTest hitTest;
-    if (const auto area = hitTest.areaOf(pictureOf(desk), UsualWindow, target)) {
-        print(name, *area);
+    const DeskPicture picture = pictureOf(desk);
+    if (const auto area = hitTest.areaOf(picture, target)) {
+        printSeen(picture, name, *area);
     }
 }
 
@@ -42,13 +51,14 @@ void printMenu(LiveDesk& desk, const std::string& kind) {
     desk.openStatusMenu();
     const DeskPicture picture = pictureOf(desk);
     TextMeasure measure;
-    const auto layout = menuLayout(measure, DeskLayout::of(picture, UsualWindow), picture, UsualWindow);
+    const auto layout = menuLayout(measure, picture);
     for (std::size_t row = 0; layout && row < layout->rows.size(); ++row) {
         const Rect& area = layout->rows[row];
         const std::string& title = picture.menu->rows[row].title;
         const std::string name = title.empty() ? "separator" : title.substr(title.find_first_not_of(' '));
-        print(kind + ": " + name, area);
-        print(kind + " mark: " + name, {layout->checkLeft, area.minY(), MarkWidth, area.height()});
+        printSeen(picture, kind + ": " + name, area);
+        printSeen(picture, kind + " mark: " + name,
+                  {layout->checkLeft, area.minY(), MarkWidth, area.height()});
     }
     desk.navigate(NavigationKey::escape);
 }

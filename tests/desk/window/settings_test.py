@@ -13,6 +13,8 @@ from live_window import WindowTest, pixels, places, skip_without_programs, wait_
 # Where nothing is that a pointer could be over, in the window's header.
 ASIDE = (800, 20)
 
+BUILT_IN_WIDTH = 1512  # points
+
 OPENED = "Kestrune opened its window “Kestrune Settings”"
 AT_LOGIN = "Kestrune will open when the user logs in"
 NOT_AT_LOGIN = "Kestrune will not open when the user logs in"
@@ -78,12 +80,18 @@ class Settings(WindowTest):
         desk.press("space", NOT_AT_LOGIN)
         desk.quit()
 
-    def test_the_knob_is_dragged(self):
+    def test_the_knob_is_dragged_at_a_hundred_percent(self):
         desk = self.desk
         self.open_with_keys()
+        # What is under the pointer stays there.
+        desk.move([self.toggle.middle])
+        desk.key("z")
+        toggle = self.toggle.enlarged(BUILT_IN_WIDTH / self.where["display 1"].width)
         desk.move([ASIDE])
-        off = self.look(self.toggle)
-        left, right = self.toggle.at(0.25, 0.5), self.toggle.at(0.8, 0.5)
+        # The title changes once the picture before it is seen.
+        desk.press("f", "The update feed has a new version")
+        off = self.look(toggle)
+        left, right = toggle.at(0.25, 0.5), toggle.at(0.8, 0.5)
         desk.drag(left, right)
         desk.expect(AT_LOGIN)
         # Not as far as the other side.
@@ -92,7 +100,10 @@ class Settings(WindowTest):
         desk.drag(right, (left[0] - 60, left[1] + 60))
         desk.expect(NOT_AT_LOGIN)
         desk.move([ASIDE])
-        wait_for(lambda: self.look(self.toggle) == off, "the switch at rest")
+        wait_for(lambda: self.look(toggle) == off, "the switch at rest")
+        desk.key("z")
+        desk.click(self.toggle.middle)
+        desk.expect(AT_LOGIN)
         desk.quit()
 
 

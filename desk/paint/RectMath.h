@@ -1,0 +1,36 @@
+// Rectangles next to, around and inside each other. None of these takes a null rectangle.
+#pragma once
+
+#include "base/Geometry.h"
+
+#include <algorithm>
+
+namespace kestrune::desk {
+
+inline Point centerOf(const Rect& rect) {
+    return {rect.minX() + rect.width() / 2, rect.minY() + rect.height() / 2};
+}
+
+// With every edge moved outwards, or inwards by a negative distance.
+inline Rect enlargedBy(const Rect& rect, double distance) {
+    return {rect.minX() - distance, rect.minY() - distance, rect.width() + 2 * distance,
+            rect.height() + 2 * distance};
+}
+
+inline Rect movedBy(const Rect& rect, Point way) {
+    return {rect.minX() + way.x, rect.minY() + way.y, rect.width(), rect.height()};
+}
+
+inline Rect unionOf(const Rect& first, const Rect& second) {
+    const double left = std::min(first.minX(), second.minX());
+    const double top = std::min(first.minY(), second.minY());
+    return {left, top, std::max(first.maxX(), second.maxX()) - left,
+            std::max(first.maxY(), second.maxY()) - top};
+}
+
+inline bool doOverlap(const Rect& first, const Rect& second) {
+    return first.minX() < second.maxX() && second.minX() < first.maxX() && first.minY() < second.maxY() &&
+           second.minY() < first.maxY();
+}
+
+} // namespace kestrune::desk
