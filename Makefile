@@ -147,8 +147,8 @@ bench:
 
 simulate:
 	$(call build,simulate,kestrune-simulate kestrune-simulate-shell)
-	@$(DIR)/tests/simulate/kestrune-simulate --seed $(SEED) --seeds $(SEEDS)
-	@$(DIR)/tests/shell/kestrune-simulate-shell --seed $(SEED) --seeds $(SEEDS)
+	@$(DIR)/tests/random/kestrune-simulate --seed $(SEED) --seeds $(SEEDS)
+	@$(DIR)/tests/random/kestrune-simulate-shell --seed $(SEED) --seeds $(SEEDS)
 
 first-run:
 	$(call build,test $(for_macs),scenarios_sim scenarios_gnustep $(mac_stories))

@@ -1,7 +1,7 @@
 #include "benchmarks/EventPathCase.h"
 
 #include "base/Geometry.h"
-#include "sim/Display.h"
+#include "sim/session/Display.h"
 
 #include <utility>
 

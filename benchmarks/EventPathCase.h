@@ -5,8 +5,8 @@
 #include "Kestrune/Preferences.h"
 #include "benchmarks/EventPathFloor.h"
 #include "platform/UserDefaults.h"
-#include "sim/PointerEvent.h"
-#include "sim/Session.h"
+#include "sim/session/PointerEvent.h"
+#include "sim/session/Session.h"
 
 #include <array>
 #include <cstddef>

@@ -3,7 +3,7 @@
 #include "Kestrune/Preferences.h"
 #include "base/Fatal.h"
 #include "platform/UserDefaults.h"
-#include "sim/Display.h"
+#include "sim/session/Display.h"
 
 #include <algorithm>
 #include <array>

@@ -5,7 +5,7 @@
 #include "base/Geometry.h"
 #include "benchmarks/RestlessHand.h"
 #include "benchmarks/ResultHash.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <cstddef>
 #include <cstdint>

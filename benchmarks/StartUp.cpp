@@ -3,8 +3,8 @@
 #include "Kestrune/KestruneApp.h"
 #include "benchmarks/CountArgument.h"
 #include "benchmarks/Quantile.h"
-#include "sim/Session.h"
-#include "sim/StatusItemState.h"
+#include "sim/seam/StatusItemState.h"
+#include "sim/session/Session.h"
 
 #include <chrono>
 #include <cstdio>

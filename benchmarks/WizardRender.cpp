@@ -7,7 +7,7 @@
 #include "benchmarks/CountArgument.h"
 #include "benchmarks/Quantile.h"
 #include "platform/Application.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,5 +1,5 @@
 # Every source folder is a target of its own and sees only the folders it links: its include root holds one
-# link to the folder, so `#include "sim/Session.h"` does not compile in a target that does not link sim.
+# link to the folder, so `#include "sim/session/Session.h"` does not compile in a target without sim.
 function(kestrune_include_root target scope folder)
     set(root "${PROJECT_BINARY_DIR}/roots/${folder}")
     file(MAKE_DIRECTORY "${root}")

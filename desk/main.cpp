@@ -3,9 +3,9 @@
 #include "desk/command/OptionsReader.h"
 #include "desk/headless/LaunchCommand.h"
 #include "desk/headless/ReplayCommand.h"
-#include "desk/live/SettingsPictures.h"
-#include "desk/live/Tour.h"
-#include "desk/live/WizardPictures.h"
+#include "desk/live/gallery/SettingsPictures.h"
+#include "desk/live/gallery/Tour.h"
+#include "desk/live/gallery/WizardPictures.h"
 #include "desk/window/DeskWindow.h"
 
 #include <cstdio>

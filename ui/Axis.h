@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "ui/Layout.h"
+#include "ui/layout/Layout.h"
 
 #include <optional>
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "ui/Layout.h"
 #include "ui/Scene.h"
+#include "ui/layout/Layout.h"
 
 #include <memory>
 #include <optional>

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "ui/Environment.h"
-#include "ui/Layout.h"
-#include "ui/LayoutItem.h"
 #include "ui/MeasuredText.h"
 #include "ui/View.h"
+#include "ui/layout/Layout.h"
+#include "ui/layout/LayoutItem.h"
 
 #include <memory>
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "ui/Environment.h"
-#include "ui/Layout.h"
 #include "ui/Scene.h"
+#include "ui/layout/Layout.h"
 
 #include <span>
 #include <string>

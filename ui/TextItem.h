@@ -1,8 +1,8 @@
 // A text on its way to the scene.
 #pragma once
 
-#include "ui/LayoutItem.h"
 #include "ui/MeasuredText.h"
+#include "ui/layout/LayoutItem.h"
 
 #include <memory>
 #include <optional>

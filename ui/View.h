@@ -1,7 +1,7 @@
 // Declarative views as values, in the words of SwiftUI.
 //
-// A view says what is to be seen; `ui/Layout.h` decides where. Copying one is cheap: the description is
-// shared and never changes. Lengths are in points. A modifier gives a new view around the old one, so the
+// A view says what is to be seen; `ui/layout/Layout.h` decides where. Copying one is cheap: the description
+// is shared and never changes. Lengths are in points. A modifier gives a new view around the old one, so the
 // order of modifiers matters as it does there.
 #pragma once
 

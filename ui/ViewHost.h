@@ -2,10 +2,10 @@
 // changed, however often it did.
 #pragma once
 
-#include "ui/Layout.h"
 #include "ui/ObservableObject.h"
 #include "ui/Scene.h"
 #include "ui/View.h"
+#include "ui/layout/Layout.h"
 
 #include <functional>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "benchmarks/gnustep/CallbackTimes.h"
 
 #include "benchmarks/AllocationCounter.h"
-#include "tests/gnustep/PrivateHome.h"
+#include "tests/gnustep/harness/PrivateHome.h"
 
 #include <algorithm>
 #include <chrono>

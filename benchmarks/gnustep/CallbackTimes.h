@@ -1,7 +1,7 @@
 // What a tap's callback does with an event, and how long it takes.
 #pragma once
 
-#include "tests/gnustep/standins/EventTaps.h"
+#include "tests/gnustep/standins/system/EventTaps.h"
 
 #include <span>
 #include <vector>

@@ -3,7 +3,7 @@
 #include "mac/objc/Pool.h"
 #include "platform/Application.h"
 #include "platform/NotificationCenter.h"
-#include "tests/gnustep/Objects.h"
+#include "tests/gnustep/harness/Objects.h"
 
 namespace kestrune::benchmarks {
 

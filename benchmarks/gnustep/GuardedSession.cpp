@@ -1,8 +1,8 @@
 #include "benchmarks/gnustep/GuardedSession.h"
 
 #include "base/Fatal.h"
-#include "tests/gnustep/standins/AccessibilityTrust.h"
-#include "tests/gnustep/standins/Screens.h"
+#include "tests/gnustep/standins/appkit/Screens.h"
+#include "tests/gnustep/standins/system/AccessibilityTrust.h"
 
 #include <cstdint>
 #include <optional>

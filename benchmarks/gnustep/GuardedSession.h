@@ -3,7 +3,7 @@
 
 #include "Kestrune/DockGuardController.h"
 #include "Kestrune/Preferences.h"
-#include "tests/gnustep/standins/EventTaps.h"
+#include "tests/gnustep/standins/system/EventTaps.h"
 
 #include <memory>
 

@@ -4,11 +4,11 @@
 #include "benchmarks/gnustep/CallbackTimes.h"
 #include "benchmarks/gnustep/GuardedSession.h"
 #include "mac/objc/Pool.h"
-#include "tests/gnustep/PrivateHome.h"
-#include "tests/gnustep/SuspendedProgram.h"
-#include "tests/gnustep/standins/MainBundle.h"
-#include "tests/gnustep/standins/RunningApplication.h"
+#include "tests/gnustep/harness/PrivateHome.h"
+#include "tests/gnustep/mach/SuspendedProgram.h"
 #include "tests/gnustep/standins/StandIns.h"
+#include "tests/gnustep/standins/system/MainBundle.h"
+#include "tests/gnustep/standins/system/RunningApplication.h"
 #include "tests/scenarios/ShippedBundle.h"
 
 #include <array>

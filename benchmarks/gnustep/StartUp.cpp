@@ -10,9 +10,9 @@
 #include "mac/objc/Pool.h"
 #include "platform/MainActor.h"
 #include "platform/NotificationCenter.h"
-#include "tests/gnustep/PrivateHome.h"
+#include "tests/gnustep/harness/PrivateHome.h"
 #include "tests/gnustep/process/Session.h"
-#include "tests/gnustep/standins/StatusItems.h"
+#include "tests/gnustep/standins/appkit/StatusItems.h"
 
 #include <sys/wait.h>
 #include <unistd.h>

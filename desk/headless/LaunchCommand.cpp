@@ -1,8 +1,8 @@
 #include "desk/headless/LaunchCommand.h"
 
-#include "desk/live/LiveDeskSetup.h"
+#include "desk/live/world/LiveDeskSetup.h"
 #include "desk/replay/ApplicationHost.h"
-#include "sim/JournalOutline.h"
+#include "sim/session/JournalOutline.h"
 
 #include <cstddef>
 

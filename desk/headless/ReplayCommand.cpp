@@ -1,7 +1,7 @@
 #include "desk/headless/ReplayCommand.h"
 
-#include "desk/live/LivePicture.h"
-#include "desk/paint/Surface.h"
+#include "desk/live/world/LivePicture.h"
+#include "desk/paint/toolkit/Surface.h"
 #include "desk/recording/MotionGenerator.h"
 #include "desk/recording/RecordingReader.h"
 #include "desk/recording/RecordingWriter.h"

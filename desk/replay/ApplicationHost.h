@@ -3,7 +3,7 @@
 
 #include "Kestrune/KestruneApp.h"
 #include "platform/DisplayUUID.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <memory>
 

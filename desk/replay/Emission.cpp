@@ -1,6 +1,6 @@
 #include "desk/replay/Emission.h"
 
-#include "sim/PropertyList.h"
+#include "sim/formats/PropertyList.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desk/recording/InputError.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <cstdint>
 #include <fstream>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <cstddef>
 #include <vector>

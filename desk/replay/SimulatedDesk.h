@@ -4,7 +4,7 @@
 #include "base/Geometry.h"
 #include "desk/replay/ApplicationHost.h"
 #include "desk/replay/Judge.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,12 +1,12 @@
 #include "desk/window/DeskWindow.h"
 
-#include "desk/live/DeskKeys.h"
-#include "desk/live/Hand.h"
-#include "desk/live/LivePicture.h"
-#include "desk/live/OpenDesk.h"
-#include "desk/live/Tour.h"
-#include "desk/paint/DeskHitTest.h"
-#include "desk/paint/DeskLayout.h"
+#include "desk/live/gallery/Tour.h"
+#include "desk/live/hand/DeskKeys.h"
+#include "desk/live/hand/Hand.h"
+#include "desk/live/world/LivePicture.h"
+#include "desk/live/world/OpenDesk.h"
+#include "desk/paint/desk/DeskHitTest.h"
+#include "desk/paint/desk/DeskLayout.h"
 #include "desk/window/WindowCanvas.h"
 
 #include <chrono>

@@ -1,7 +1,7 @@
 // Sizes of texts, symbols and controls, as the platform has them.
 #pragma once
 
-#include "ui/Layout.h"
+#include "ui/layout/Layout.h"
 
 namespace kestrune::mac {
 

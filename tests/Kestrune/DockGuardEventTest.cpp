@@ -1,4 +1,4 @@
-#include "sim/PointerEvent.h"
+#include "sim/session/PointerEvent.h"
 #include "tests/Kestrune/GuardFixture.h"
 #include "tests/base/UnusualNumbers.h"
 

@@ -3,7 +3,7 @@
 
 #include "Kestrune/DockGuardController.h"
 #include "Kestrune/Preferences.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "sim/MenuState.h"
+#include "sim/seam/MenuState.h"
 #include "tests/Kestrune/AppFixture.h"
 
 namespace kestrune {

@@ -1,6 +1,6 @@
 #include "Kestrune/AccessibilityPane.h"
-#include "sim/MenuState.h"
-#include "sim/StatusItemState.h"
+#include "sim/seam/MenuState.h"
+#include "sim/seam/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 
 namespace kestrune {

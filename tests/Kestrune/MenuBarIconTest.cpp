@@ -1,4 +1,4 @@
-#include "sim/StatusItemState.h"
+#include "sim/seam/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 
 namespace kestrune {

@@ -1,5 +1,5 @@
 #include "Kestrune/KestruneApp.h"
-#include "sim/StatusItemState.h"
+#include "sim/seam/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 #include "tests/base/UnusualNumbers.h"
 

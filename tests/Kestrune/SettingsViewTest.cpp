@@ -2,11 +2,11 @@
 #include "Kestrune/SettingsView.h"
 
 #include "Kestrune/AppVersion.h"
-#include "sim/FixedAdvanceMeasurer.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
 #include "tests/Kestrune/SettingsFixture.h"
 #include "tests/ui/SceneParts.h"
-#include "ui/Layout.h"
 #include "ui/SceneText.h"
+#include "ui/layout/Layout.h"
 
 #include <memory>
 #include <set>

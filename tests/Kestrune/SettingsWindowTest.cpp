@@ -2,7 +2,7 @@
 #include "Kestrune/BugReport.h"
 #include "Kestrune/SettingsWindowController.h"
 #include "Kestrune/UpdaterManager.h"
-#include "sim/WindowState.h"
+#include "sim/seam/WindowState.h"
 #include "tests/Kestrune/SettingsFixture.h"
 #include "tests/Kestrune/WelcomeFixture.h"
 

@@ -1,7 +1,7 @@
 // The platform calls of the application shell, for comparing its procedures with the session's journal.
 #pragma once
 
-#include "sim/JournalOutline.h"
+#include "sim/session/JournalOutline.h"
 #include "tests/Kestrune/GuardFixture.h"
 
 #include <cstddef>

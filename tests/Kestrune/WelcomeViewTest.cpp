@@ -2,11 +2,11 @@
 #include "Kestrune/WelcomeView.h"
 
 #include "Kestrune/AccentProminentButtonStyle.h"
-#include "sim/FixedAdvanceMeasurer.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
 #include "tests/base/FileContent.h"
 #include "tests/ui/SceneParts.h"
-#include "ui/Layout.h"
 #include "ui/SceneText.h"
+#include "ui/layout/Layout.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // Sealed programs, in a bundle that stays the same: no byte of an accepted one can be changed unnoticed; what
 // is refused is refused in one line that names a file of the bundle.
 #include "tests/fuzz/SealRefusal.h"
-#include "tests/macho/CodeSignature.h"
 #include "tests/macho/MachFile.h"
-#include "tests/macho/SealCheck.h"
+#include "tests/macho/seal/CodeSignature.h"
+#include "tests/macho/seal/SealCheck.h"
 
 #include <numeric>
 

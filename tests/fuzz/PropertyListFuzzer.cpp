@@ -1,7 +1,7 @@
 // Property lists: whatever the reader accepts is written and read again as the same value, and whatever it
 // refuses is refused at a line of the input.
-#include "sim/PropertyListReader.h"
-#include "sim/PropertyListWriter.h"
+#include "sim/formats/PropertyListReader.h"
+#include "sim/formats/PropertyListWriter.h"
 #include "tests/fuzz/Fuzzer.h"
 
 #include <algorithm>

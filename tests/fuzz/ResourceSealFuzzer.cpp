@@ -2,8 +2,8 @@
 // nothing can be changed, added or taken away unnoticed, and no Info.plist is accepted but the one that was
 // sealed; what is refused is refused in one line that names a file of the bundle.
 #include "tests/fuzz/SealRefusal.h"
-#include "tests/macho/ResourceSeal.h"
-#include "tests/macho/SealCheck.h"
+#include "tests/macho/seal/ResourceSeal.h"
+#include "tests/macho/seal/SealCheck.h"
 
 #include <utility>
 

@@ -3,7 +3,7 @@
 
 #include "tests/fuzz/Fuzzer.h"
 #include "tests/macho/Bytes.h"
-#include "tests/macho/SealError.h"
+#include "tests/macho/seal/SealError.h"
 
 namespace kestrune {
 

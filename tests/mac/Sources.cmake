@@ -1,7 +1,7 @@
 # What a Mac's own world of the contract tests and the stories consists of, for whoever builds it: a Mac, and
 # the tests of it elsewhere.
 set(files
-    tests/gnustep/ShippedBundle.cpp
+    tests/gnustep/world/ShippedBundle.cpp
     tests/mac/CrashReport.cpp
     tests/mac/EventLoop.cpp
     tests/mac/Pictures.cpp

@@ -14,7 +14,7 @@ import struct
 from releasing.sealing import machofile
 
 REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
-SOURCES = REPOSITORY / "tests/gnustep/PlatformSources.tsv"
+SOURCES = REPOSITORY / "tests/gnustep/suites/PlatformSources.tsv"
 
 # Of words that end with colons, as in "setFrame:display:". Those without any look like other texts.
 SELECTOR = re.compile(r"[a-z]\w{2,}:(?:\w+:)*")

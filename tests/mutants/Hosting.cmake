@@ -198,7 +198,8 @@ function(kestrune_inline_mutant name library file compiles test from to)
         DRIVER ${library} kestrune_options GTest::gtest_main)
 endfunction()
 kestrune_inline_mutant(LinesOfTextHaveNoLeading kestrune_mac
-    mac/hosting/AttributedText.h tests/gnustep/NumbersTest.cpp NumbersOfThePlatform.AreThoseOfItsHeaders
+    mac/hosting/AttributedText.h tests/gnustep/suites/NumbersTest.cpp
+    NumbersOfThePlatform.AreThoseOfItsHeaders
     "TextLayoutOptions = 1 | 2" "TextLayoutOptions = 1")
 
 # kestrune_color_mutant(NAME COLOR OTHER): another of the system's colours in the place of one.

@@ -1,5 +1,5 @@
 #include "tests/properties/Generators.h"
-#include "tests/simulate/GuardedSession.h"
+#include "tests/random/guard/GuardedSession.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>

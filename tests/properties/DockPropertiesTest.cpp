@@ -1,6 +1,6 @@
-#include "sim/Dock.h"
+#include "sim/session/Dock.h"
 #include "tests/properties/Generators.h"
-#include "tests/simulate/GuardedSession.h"
+#include "tests/random/guard/GuardedSession.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>

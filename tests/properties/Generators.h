@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "tests/simulate/Arrangement.h"
-#include "tests/simulate/StoredValue.h"
+#include "tests/random/common/Arrangement.h"
+#include "tests/random/common/StoredValue.h"
 
 #include <rapidcheck.h>
 

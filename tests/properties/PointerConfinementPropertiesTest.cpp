@@ -1,4 +1,4 @@
-#include "sim/PointerConfinement.h"
+#include "sim/session/PointerConfinement.h"
 #include "tests/properties/Generators.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "Kestrune/ManagedScreen.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 #include "tests/properties/Generators.h"
-#include "tests/simulate/GuardedSession.h"
+#include "tests/random/guard/GuardedSession.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>

@@ -1,4 +1,4 @@
-#include "sim/Accessibility.h"
+#include "sim/session/Accessibility.h"
 
 #include <gtest/gtest.h>
 

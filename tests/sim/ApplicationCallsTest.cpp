@@ -8,7 +8,7 @@
 #include "platform/StatusBar.h"
 #include "platform/Timer.h"
 #include "platform/Workspace.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingObjects.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "sim/BundleContents.h"
+#include "sim/session/BundleContents.h"
 
 #include <gtest/gtest.h>
 

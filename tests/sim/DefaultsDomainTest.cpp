@@ -1,4 +1,4 @@
-#include "sim/DefaultsDomain.h"
+#include "sim/session/DefaultsDomain.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

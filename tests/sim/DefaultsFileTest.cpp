@@ -1,4 +1,4 @@
-#include "sim/DefaultsFile.h"
+#include "sim/formats/DefaultsFile.h"
 
 #include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"

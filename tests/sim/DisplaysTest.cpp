@@ -1,4 +1,4 @@
-#include "sim/Displays.h"
+#include "sim/session/Displays.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "sim/Dock.h"
+#include "sim/session/Dock.h"
 
 #include "tests/sim/PointerStep.h"
 

@@ -1,4 +1,4 @@
-#include "sim/FixedAdvanceMeasurer.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
 
 #include <gtest/gtest.h>
 

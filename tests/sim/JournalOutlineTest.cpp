@@ -1,4 +1,4 @@
-#include "sim/JournalOutline.h"
+#include "sim/session/JournalOutline.h"
 
 #include <gtest/gtest.h>
 

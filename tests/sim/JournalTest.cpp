@@ -1,4 +1,4 @@
-#include "sim/Journal.h"
+#include "sim/session/Journal.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "sim/LoginItem.h"
+#include "sim/session/LoginItem.h"
 
 #include <gtest/gtest.h>
 

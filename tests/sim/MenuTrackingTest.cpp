@@ -1,6 +1,6 @@
 #include "platform/Application.h"
 #include "platform/StatusBar.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingObjects.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
-#include "sim/Observers.h"
+#include "sim/session/Observers.h"
 
-#include "sim/NotificationState.h"
-#include "sim/Session.h"
-#include "sim/WindowState.h"
+#include "sim/seam/NotificationState.h"
+#include "sim/seam/WindowState.h"
+#include "sim/session/Session.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

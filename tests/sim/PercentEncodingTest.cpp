@@ -1,4 +1,4 @@
-#include "sim/PercentEncoding.h"
+#include "sim/formats/PercentEncoding.h"
 
 #include <gtest/gtest.h>
 

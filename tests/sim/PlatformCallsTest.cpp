@@ -5,7 +5,7 @@
 #include "platform/Log.h"
 #include "platform/Screen.h"
 #include "platform/UserDefaults.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingTap.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "sim/PointerConfinement.h"
+#include "sim/session/PointerConfinement.h"
 
 #include "tests/base/UnusualNumbers.h"
 #include "tests/sim/PointerStep.h"

@@ -1,4 +1,4 @@
-#include "sim/PropertyListReader.h"
+#include "sim/formats/PropertyListReader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sim/PropertyList.h"
+#include "sim/formats/PropertyList.h"
 
 #include "tests/base/UnusualNumbers.h"
 

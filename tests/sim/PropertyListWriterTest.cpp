@@ -1,6 +1,6 @@
-#include "sim/PropertyListWriter.h"
+#include "sim/formats/PropertyListWriter.h"
 
-#include "sim/PropertyListReader.h"
+#include "sim/formats/PropertyListReader.h"
 
 #include <gtest/gtest.h>
 

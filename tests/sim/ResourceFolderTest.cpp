@@ -1,4 +1,4 @@
-#include "sim/ResourceFolder.h"
+#include "sim/formats/ResourceFolder.h"
 
 #include "tests/base/TemporaryFolder.h"
 

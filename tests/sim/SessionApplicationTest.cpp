@@ -5,7 +5,7 @@
 #include "platform/NotificationCenter.h"
 #include "platform/StatusBar.h"
 #include "platform/Timer.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingObjects.h"
 #include "tests/contract/RecordingTap.h"
 

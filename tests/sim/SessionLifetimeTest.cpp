@@ -11,7 +11,7 @@
 #include "platform/Timer.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingTap.h"
 
 #include <gmock/gmock.h>

@@ -2,7 +2,7 @@
 #include "platform/MainActor.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Workspace.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // The pointer of a session: hardware motion, posted events, and what follows the displays.
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingTap.h"
 #include "tests/sim/PointerStep.h"
 

@@ -1,6 +1,6 @@
 #include "platform/StatusBar.h"
-#include "sim/Session.h"
-#include "sim/StatusItemState.h"
+#include "sim/seam/StatusItemState.h"
+#include "sim/session/Session.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sim/StringsTable.h"
+#include "sim/formats/StringsTable.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What several taps do to one event, and to each other while it is on its way.
-#include "sim/PointerEvent.h"
-#include "sim/Session.h"
+#include "sim/session/PointerEvent.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingTap.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // The window server waits for an active tap, and what happens when it waits in vain.
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingTap.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 // The session's timers; their behaviour towards the application is in the contract tests.
 #include "platform/Timer.h"
-#include "sim/Session.h"
+#include "sim/session/Session.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

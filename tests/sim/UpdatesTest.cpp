@@ -1,11 +1,11 @@
-#include "sim/Updates.h"
+#include "sim/session/Updates.h"
 
 #include "platform/Application.h"
 #include "platform/Bundle.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Updater.h"
-#include "sim/Session.h"
-#include "sim/WindowState.h"
+#include "sim/seam/WindowState.h"
+#include "sim/session/Session.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

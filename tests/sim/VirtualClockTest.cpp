@@ -1,4 +1,4 @@
-#include "sim/VirtualClock.h"
+#include "sim/session/VirtualClock.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

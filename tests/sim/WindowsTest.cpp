@@ -1,7 +1,7 @@
 // What only the simulation can be asked: the faults, the hands on a window, and the system beside it.
 #include "platform/Application.h"
-#include "sim/Session.h"
-#include "sim/WindowState.h"
+#include "sim/seam/WindowState.h"
+#include "sim/session/Session.h"
 #include "tests/contract/RecordingWindows.h"
 
 #include <gmock/gmock.h>

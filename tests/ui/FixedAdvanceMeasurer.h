@@ -1,7 +1,7 @@
 // The simulation's measurer, which counts here what it is asked.
 #pragma once
 
-#include "sim/FixedAdvanceMeasurer.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
 
 #include <optional>
 

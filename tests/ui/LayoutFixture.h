@@ -2,9 +2,9 @@
 #pragma once
 
 #include "tests/ui/FixedAdvanceMeasurer.h"
-#include "ui/Layout.h"
 #include "ui/SceneText.h"
 #include "ui/View.h"
+#include "ui/layout/Layout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "tests/ui/FixedAdvanceMeasurer.h"
 #include "tests/ui/ViewTree.h"
 #include "tests/ui/ViewTreeGenerators.h"
-#include "ui/Layout.h"
+#include "ui/layout/Layout.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>

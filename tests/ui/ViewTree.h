@@ -2,8 +2,8 @@
 // it and to its children can be judged.
 #pragma once
 
-#include "ui/Layout.h"
 #include "ui/View.h"
+#include "ui/layout/Layout.h"
 
 #include <iosfwd>
 #include <optional>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tests/ui/ViewTree.h"
-#include "ui/Layout.h"
+#include "ui/layout/Layout.h"
 
 #include <rapidcheck.h>
 

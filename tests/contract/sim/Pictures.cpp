@@ -1,9 +1,9 @@
 // The simulated Mac's windows as the desk paints them.
-#include "desk/paint/ScenePainter.h"
-#include "desk/paint/Shapes.h"
-#include "desk/paint/Surface.h"
-#include "sim/Session.h"
-#include "sim/WindowState.h"
+#include "desk/paint/mac/ScenePainter.h"
+#include "desk/paint/toolkit/Shapes.h"
+#include "desk/paint/toolkit/Surface.h"
+#include "sim/seam/WindowState.h"
+#include "sim/session/Session.h"
 #include "tests/contract/World.h"
 
 #include <cstdint>

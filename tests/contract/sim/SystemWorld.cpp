@@ -1,6 +1,6 @@
 // What surrounds the application beside displays, menus and windows: login items, the system, frameworks.
-#include "sim/Session.h"
-#include "sim/WindowState.h"
+#include "sim/seam/WindowState.h"
+#include "sim/session/Session.h"
 #include "tests/contract/World.h"
 
 namespace kestrune::contract {

@@ -1,9 +1,9 @@
 #include "tests/contract/World.h"
 
 #include "base/Fatal.h"
-#include "sim/Session.h"
-#include "sim/StatusItemState.h"
-#include "sim/WindowState.h"
+#include "sim/seam/StatusItemState.h"
+#include "sim/seam/WindowState.h"
+#include "sim/session/Session.h"
 #include "tests/ui/SceneParts.h"
 
 #include <chrono>

@@ -1,4 +1,4 @@
-#include "desk/live/Arrangement.h"
+#include "desk/live/world/Arrangement.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "desk/live/DeskKeys.h"
+#include "desk/live/hand/DeskKeys.h"
 
 #include "tests/desk/live/LiveFixture.h"
 

@@ -1,4 +1,4 @@
-#include "desk/live/Hand.h"
+#include "desk/live/hand/Hand.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "desk/live/LiveDeskSetup.h"
+#include "desk/live/world/LiveDeskSetup.h"
 
 #include "tests/base/TemporaryFolder.h"
 

@@ -1,7 +1,7 @@
 // Ways to play with a live desk.
 #pragma once
 
-#include "desk/live/LiveDesk.h"
+#include "desk/live/world/LiveDesk.h"
 
 #include <chrono>
 #include <cstddef>

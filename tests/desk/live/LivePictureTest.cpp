@@ -1,6 +1,6 @@
-#include "desk/live/LivePicture.h"
+#include "desk/live/world/LivePicture.h"
 
-#include "desk/live/DeskKeys.h"
+#include "desk/live/hand/DeskKeys.h"
 #include "tests/desk/live/LiveFixture.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "desk/live/MailLink.h"
+#include "desk/live/world/MailLink.h"
 
 #include <gtest/gtest.h>
 

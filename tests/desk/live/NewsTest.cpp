@@ -1,4 +1,4 @@
-#include "desk/live/News.h"
+#include "desk/live/world/News.h"
 
 #include <gtest/gtest.h>
 

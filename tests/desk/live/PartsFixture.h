@@ -2,7 +2,7 @@
 // complete.
 #pragma once
 
-#include "desk/live/ScreenParts.h"
+#include "desk/live/world/ScreenParts.h"
 #include "desk/replay/ApplicationHost.h"
 
 #include <gtest/gtest.h>

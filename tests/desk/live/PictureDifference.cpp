@@ -1,6 +1,6 @@
 #include "tests/desk/live/PictureDifference.h"
 
-#include "desk/paint/CairoObjects.h"
+#include "desk/paint/toolkit/CairoObjects.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "desk/live/PinnedDisplay.h"
+#include "desk/live/world/PinnedDisplay.h"
 
 #include <gtest/gtest.h>
 

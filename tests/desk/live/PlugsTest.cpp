@@ -1,4 +1,4 @@
-#include "desk/live/Plugs.h"
+#include "desk/live/world/Plugs.h"
 
 #include <gtest/gtest.h>
 

@@ -7,10 +7,10 @@
 //
 // A picture that differs is written to tests/desk/live/differing/ of the build directory.
 
-#include "desk/live/SettingsPictures.h"
-#include "desk/live/WizardPictures.h"
-#include "desk/paint/ContactSheet.h"
-#include "sim/FixedAdvanceMeasurer.h"
+#include "desk/live/gallery/SettingsPictures.h"
+#include "desk/live/gallery/WizardPictures.h"
+#include "desk/paint/sheets/ContactSheet.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/live/PictureDifference.h"
 #include "tests/desk/live/WithoutLetters.h"

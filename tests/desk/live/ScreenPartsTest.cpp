@@ -1,4 +1,4 @@
-#include "desk/live/ScreenParts.h"
+#include "desk/live/world/ScreenParts.h"
 
 #include "tests/desk/live/PartsFixture.h"
 

@@ -1,9 +1,9 @@
 // The application with its setup complete, and a user who opens its Settings.
 #pragma once
 
-#include "desk/live/LivePicture.h"
-#include "desk/live/TourHand.h"
-#include "desk/live/WindowParts.h"
+#include "desk/live/gallery/TourHand.h"
+#include "desk/live/world/LivePicture.h"
+#include "desk/live/world/WindowParts.h"
 #include "tests/desk/live/WindowTitles.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "desk/live/SettingsTour.h"
+#include "desk/live/gallery/SettingsTour.h"
 
-#include "desk/live/SettingsPictures.h"
+#include "desk/live/gallery/SettingsPictures.h"
 #include "tests/base/TemporaryFolder.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "desk/live/SwitchMotion.h"
+#include "desk/live/world/SwitchMotion.h"
 
 #include <gtest/gtest.h>
 

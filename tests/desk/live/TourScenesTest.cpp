@@ -1,9 +1,9 @@
 // What each scene of the tour leaves on the desk.
 
-#include "desk/live/TourScenes.h"
+#include "desk/live/gallery/TourScenes.h"
 
-#include "desk/live/LivePicture.h"
-#include "sim/WindowState.h"
+#include "desk/live/world/LivePicture.h"
+#include "sim/seam/WindowState.h"
 #include "tests/desk/live/WindowTitles.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "desk/live/Tour.h"
+#include "desk/live/gallery/Tour.h"
 
 #include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"

@@ -1,8 +1,8 @@
 // A user with mouse and keyboard at the windows of the updater.
 
-#include "desk/live/LivePicture.h"
-#include "desk/live/TourHand.h"
-#include "desk/live/WindowParts.h"
+#include "desk/live/gallery/TourHand.h"
+#include "desk/live/world/LivePicture.h"
+#include "desk/live/world/WindowParts.h"
 
 #include <gtest/gtest.h>
 

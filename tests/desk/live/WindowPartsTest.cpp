@@ -1,9 +1,9 @@
-#include "desk/live/WindowParts.h"
+#include "desk/live/world/WindowParts.h"
 
-#include "desk/live/ScreenParts.h"
-#include "desk/paint/PangoMeasurer.h"
+#include "desk/live/world/ScreenParts.h"
+#include "desk/paint/toolkit/PangoMeasurer.h"
 #include "desk/replay/ApplicationHost.h"
-#include "sim/WindowState.h"
+#include "sim/seam/WindowState.h"
 
 #include <gtest/gtest.h>
 

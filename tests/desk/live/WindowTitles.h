@@ -1,7 +1,7 @@
 // What the windows on the desk are called.
 #pragma once
 
-#include "desk/live/LivePicture.h"
+#include "desk/live/world/LivePicture.h"
 
 #include <string>
 #include <vector>

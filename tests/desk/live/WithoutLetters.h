@@ -1,7 +1,7 @@
 // Pictures of windows that no font has a part in, as each release of a font has other outlines and widths.
 #pragma once
 
-#include "desk/paint/SystemPicture.h"
+#include "desk/paint/mac/SystemPicture.h"
 
 namespace kestrune::desk {
 

@@ -1,6 +1,6 @@
-#include "desk/live/WizardTour.h"
+#include "desk/live/gallery/WizardTour.h"
 
-#include "desk/live/WizardPictures.h"
+#include "desk/live/gallery/WizardPictures.h"
 #include "tests/base/TemporaryFolder.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
-#include "desk/paint/DeskHitTest.h"
-#include "desk/paint/WindowLayout.h"
+#include "desk/paint/desk/DeskHitTest.h"
+#include "desk/paint/mac/WindowLayout.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/WindowPictures.h"
 

@@ -1,4 +1,4 @@
-#include "desk/paint/CachedSprite.h"
+#include "desk/paint/toolkit/CachedSprite.h"
 
 #include "tests/desk/paint/PaintedPicture.h"
 

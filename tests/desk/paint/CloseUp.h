@@ -1,9 +1,9 @@
 // Pictures at 100 %, and a look at their pixels by where these are on the displays.
 #pragma once
 
-#include "desk/paint/DeskHitTest.h"
-#include "desk/paint/DeskLayout.h"
-#include "desk/paint/RectMath.h"
+#include "desk/paint/desk/DeskHitTest.h"
+#include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/toolkit/RectMath.h"
 #include "tests/desk/paint/PaintedPicture.h"
 
 #include <algorithm>

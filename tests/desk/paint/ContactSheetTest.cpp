@@ -1,4 +1,4 @@
-#include "desk/paint/ContactSheet.h"
+#include "desk/paint/sheets/ContactSheet.h"
 
 #include "tests/base/Overlap.h"
 #include "tests/base/TemporaryFolder.h"

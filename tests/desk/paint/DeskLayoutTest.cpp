@@ -1,6 +1,6 @@
-#include "desk/paint/DeskLayout.h"
+#include "desk/paint/desk/DeskLayout.h"
 
-#include "desk/paint/RectMath.h"
+#include "desk/paint/toolkit/RectMath.h"
 #include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/PaintedPicture.h"
 

@@ -1,5 +1,5 @@
-#include "desk/paint/DeskHitTest.h"
-#include "desk/paint/MailLayout.h"
+#include "desk/paint/desk/DeskHitTest.h"
+#include "desk/paint/mac/MailLayout.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/SystemPictures.h"
 

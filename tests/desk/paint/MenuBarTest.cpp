@@ -1,5 +1,5 @@
-#include "desk/paint/ImageStore.h"
-#include "desk/paint/MenuBarLayout.h"
+#include "desk/paint/mac/MenuBarLayout.h"
+#include "desk/paint/toolkit/ImageStore.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/SystemPictures.h"

@@ -1,4 +1,4 @@
-#include "desk/paint/MenuLayout.h"
+#include "desk/paint/mac/MenuLayout.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/SystemPictures.h"
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/Canvas.h"
-#include "desk/paint/Shapes.h"
-#include "desk/paint/Surface.h"
+#include "desk/paint/toolkit/Canvas.h"
+#include "desk/paint/toolkit/Shapes.h"
+#include "desk/paint/toolkit/Surface.h"
 #include "tests/desk/paint/PaintedPicture.h"
 
 #include <cstdint>

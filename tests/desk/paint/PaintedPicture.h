@@ -2,9 +2,9 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/DeskPainter.h"
-#include "desk/paint/DeskPicture.h"
-#include "desk/paint/Surface.h"
+#include "desk/paint/desk/DeskPainter.h"
+#include "desk/paint/desk/DeskPicture.h"
+#include "desk/paint/toolkit/Surface.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
-#include "desk/paint/PangoMeasurer.h"
+#include "desk/paint/toolkit/PangoMeasurer.h"
 
-#include "desk/paint/ScenePainter.h"
+#include "desk/paint/mac/ScenePainter.h"
 #include "tests/desk/paint/PaintedCanvas.h"
 
 #include <gtest/gtest.h>

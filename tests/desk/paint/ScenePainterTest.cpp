@@ -1,6 +1,6 @@
-#include "desk/paint/ScenePainter.h"
+#include "desk/paint/mac/ScenePainter.h"
 
-#include "desk/paint/SceneColor.h"
+#include "desk/paint/toolkit/SceneColor.h"
 #include "tests/desk/paint/PaintedCanvas.h"
 #include "tests/desk/paint/WindowPictures.h"
 

@@ -1,4 +1,4 @@
-#include "desk/paint/Surface.h"
+#include "desk/paint/toolkit/Surface.h"
 
 #include "tests/base/TemporaryFolder.h"
 #include "tests/base/UnusualNumbers.h"

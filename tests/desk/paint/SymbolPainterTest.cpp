@@ -1,4 +1,4 @@
-#include "desk/paint/SymbolPainter.h"
+#include "desk/paint/mac/SymbolPainter.h"
 
 #include "tests/desk/paint/PaintedCanvas.h"
 

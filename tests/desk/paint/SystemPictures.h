@@ -1,9 +1,9 @@
 // Pictures with the parts of a Mac's screen that the application lives in, for their tests.
 #pragma once
 
-#include "desk/paint/MenuBarLayout.h"
-#include "desk/paint/RectMath.h"
-#include "desk/paint/TextMeasure.h"
+#include "desk/paint/mac/MenuBarLayout.h"
+#include "desk/paint/toolkit/RectMath.h"
+#include "desk/paint/toolkit/TextMeasure.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/paint/PaintedPicture.h"
 

@@ -1,6 +1,6 @@
-#include "desk/paint/StatusBarPainter.h"
-#include "desk/paint/Surface.h"
-#include "desk/paint/TextPainter.h"
+#include "desk/paint/desk/StatusBarPainter.h"
+#include "desk/paint/toolkit/Surface.h"
+#include "desk/paint/toolkit/TextPainter.h"
 
 #include <gtest/gtest.h>
 

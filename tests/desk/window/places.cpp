@@ -4,13 +4,13 @@
 // The arguments are those of the desk; a file with preferences is read and left as it is.
 
 #include "desk/command/OptionsReader.h"
-#include "desk/live/LiveDesk.h"
-#include "desk/live/LivePicture.h"
-#include "desk/live/WindowParts.h"
-#include "desk/paint/DeskHitTest.h"
-#include "desk/paint/DeskLayout.h"
-#include "desk/paint/MenuLayout.h"
-#include "desk/paint/RectMath.h"
+#include "desk/live/world/LiveDesk.h"
+#include "desk/live/world/LivePicture.h"
+#include "desk/live/world/WindowParts.h"
+#include "desk/paint/desk/DeskHitTest.h"
+#include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/mac/MenuLayout.h"
+#include "desk/paint/toolkit/RectMath.h"
 
 #include <chrono>
 #include <cstddef>

@@ -12,11 +12,11 @@
 #include "mac/objc/Text.h"
 #include "platform/MainActor.h"
 #include "platform/Menu.h"
-#include "tests/gnustep/Objects.h"
+#include "tests/gnustep/harness/Objects.h"
 #include "tests/gnustep/process/Session.h"
 #include "tests/gnustep/process/Teller.h"
-#include "tests/gnustep/standins/Methods.h"
-#include "tests/gnustep/standins/StatusItems.h"
+#include "tests/gnustep/standins/appkit/StatusItems.h"
+#include "tests/gnustep/standins/runtime/Methods.h"
 
 #include <algorithm>
 #include <string>

@@ -1,10 +1,10 @@
 #include "tests/gnustep/process/SystemWatch.h"
 
 #include "tests/gnustep/process/Teller.h"
-#include "tests/gnustep/standins/ActivationPolicy.h"
-#include "tests/gnustep/standins/LoginItem.h"
-#include "tests/gnustep/standins/OpenedURLs.h"
-#include "tests/gnustep/standins/Sparkle.h"
+#include "tests/gnustep/standins/appkit/ActivationPolicy.h"
+#include "tests/gnustep/standins/sparkle/Sparkle.h"
+#include "tests/gnustep/standins/system/LoginItem.h"
+#include "tests/gnustep/standins/system/OpenedURLs.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "tests/gnustep/process/Teller.h"
 
-#include "tests/gnustep/Send.h"
+#include "tests/gnustep/harness/Send.h"
 
 #include <cstdint>
 #include <cstdio>

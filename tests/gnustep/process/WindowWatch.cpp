@@ -3,10 +3,10 @@
 #include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
-#include "tests/gnustep/Send.h"
-#include "tests/gnustep/ShownWindows.h"
+#include "tests/gnustep/harness/Send.h"
+#include "tests/gnustep/harness/ShownWindows.h"
 #include "tests/gnustep/process/Teller.h"
-#include "tests/gnustep/standins/Methods.h"
+#include "tests/gnustep/standins/runtime/Methods.h"
 
 #include <string>
 #include <string_view>

@@ -1,10 +1,10 @@
 #include "tests/macho/loader/Program.h"
 
-#include "tests/macho/CodeSignature.h"
 #include "tests/macho/FileTree.h"
 #include "tests/macho/MachFile.h"
-#include "tests/macho/SealError.h"
 #include "tests/macho/loader/Unwinding.h"
+#include "tests/macho/seal/CodeSignature.h"
+#include "tests/macho/seal/SealError.h"
 
 #include <dlfcn.h>
 #include <unistd.h>

@@ -1,7 +1,7 @@
 #include "tests/scenarios/ShippedBundle.h"
 
 #include "base/Fatal.h"
-#include "sim/ResourceFolder.h"
+#include "sim/formats/ResourceFolder.h"
 
 #include <variant>
 

@@ -1,0 +1,68 @@
+#include "desk/live/world/LiveDeskSetup.h"
+
+#include "desk/paint/toolkit/PangoMeasurer.h"
+#include "desk/replay/SimulatedDesk.h"
+#include "sim/formats/DefaultsFile.h"
+#include "sim/formats/ResourceFolder.h"
+
+#include <utility>
+
+namespace kestrune::desk {
+
+namespace {
+
+const ui::Measurer& pangoMeasurer() {
+    static const PangoMeasurer shared;
+    return shared;
+}
+
+} // namespace
+
+std::variant<LiveDeskSetup, InputError> setupOf(const Options& options) {
+    LiveDeskSetup setup;
+    setup.displays = options.displays;
+    setup.pinned = options.pinned;
+    setup.guardOn = options.guardOn;
+    setup.margin = options.margin;
+    setup.defaultsFile = options.defaults;
+    setup.permission = options.isPermissionGranted ? sim::Permission::granted : sim::Permission::notListed;
+    auto bundle = sim::loadResourceFolder(KESTRUNE_RESOURCES);
+    if (auto* error = std::get_if<std::string>(&bundle)) {
+        return InputError{std::move(*error)};
+    }
+    setup.bundle = std::get<sim::BundleContents>(std::move(bundle));
+    // Which address a build has is decided when it is packaged; here it only has to be there.
+    setup.bundle.infoDictionary.emplace("SUFeedURL",
+                                        sim::PropertyList{std::string("https://example.org/appcast.xml")});
+    if (options.defaults) {
+        auto loaded = sim::loadDefaultsFile(*options.defaults);
+        if (auto* error = std::get_if<std::string>(&loaded)) {
+            return InputError{std::move(*error)};
+        }
+        setup.defaults = std::get<sim::PropertyListDictionary>(std::move(loaded));
+    }
+    return setup;
+}
+
+sim::SessionOptions sessionOptionsOf(const LiveDeskSetup& setup) {
+    sim::SessionOptions options;
+    options.displays = connectDisplays(setup.displays);
+    options.recordJournal = false;
+    options.permission = setup.permission;
+    options.bundle = setup.bundle;
+    options.measurer = setup.measurer != nullptr ? setup.measurer : &pangoMeasurer();
+    options.defaults = setup.defaults;
+    if (setup.guardOn) {
+        options.defaults.insert_or_assign("isEnabled", sim::PropertyList{*setup.guardOn});
+    }
+    if (setup.pinned) {
+        options.defaults.insert_or_assign("pinnedScreenUUID",
+                                          sim::PropertyList{*options.displays.at(*setup.pinned).uuid});
+    }
+    if (setup.margin) {
+        options.defaults.insert_or_assign("blockMargin", sim::PropertyList{*setup.margin});
+    }
+    return options;
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,20 @@
+// Pictures of a desk as it is now.
+#pragma once
+
+#include "desk/live/world/LiveDesk.h"
+#include "desk/paint/desk/DeskPicture.h"
+#include "desk/replay/Report.h"
+#include "desk/replay/SimulatedDesk.h"
+
+namespace kestrune::desk {
+
+// The size of a window or picture unless something else is wanted, in logical pixels.
+inline constexpr Size UsualWindow{1440, 900};
+
+// With the key legend, and with the marks as old as they are now.
+DeskPicture pictureOf(LiveDesk& desk);
+
+// The desk in the end, and a sentence on what came of the recording. Without the key legend.
+DeskPicture pictureAfterReplay(SimulatedDesk& desk, const Report& report);
+
+} // namespace kestrune::desk

@@ -1,0 +1,42 @@
+// The displays that can be unplugged and plugged in again.
+#pragma once
+
+#include "sim/session/Session.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kestrune::desk {
+
+// A display that comes or goes, and the arrangement that results.
+struct PlugChange {
+    std::string name;
+    std::vector<sim::Display> arrangement;
+};
+
+class Plugs {
+public:
+    // `session` must outlive the plugs.
+    explicit Plugs(sim::Session& session) : session_(session) {}
+
+    // Absent when no display is there.
+    std::optional<PlugChange> unplug(Point location);
+
+    // The display that was unplugged last, where it was if the others are the same; otherwise a new one.
+    // Absent when there are as many as the keys can choose.
+    std::optional<PlugChange> plugIn();
+
+private:
+    struct Unplugged {
+        sim::Display display;
+        std::vector<sim::Display> arrangement; // before it was unplugged
+    };
+
+    std::vector<sim::Display> arrangementWith(Unplugged unplugged);
+
+    sim::Session& session_;
+    std::vector<Unplugged> unplugged_;
+};
+
+} // namespace kestrune::desk

@@ -1,0 +1,338 @@
+#include "desk/live/world/ScreenParts.h"
+
+#include "sim/seam/MenuState.h"
+#include "sim/seam/StatusItemState.h"
+#include "sim/seam/WindowState.h"
+
+#include <utility>
+#include <variant>
+
+namespace kestrune::desk {
+
+namespace {
+
+constexpr sim::Duration ToolTipDelay = std::chrono::milliseconds(1200);
+
+constexpr const char* ApplicationName = "Kestrune";
+
+bool canBeHighlighted(const sim::MenuRow& row) { return row.isEnabled && !row.isSeparator; }
+
+std::string keyText(const sim::MenuRow& row) {
+    if (row.keyEquivalent.empty()) {
+        return {};
+    }
+    std::string text;
+    const auto has = [&](EventModifierFlags flag) {
+        return (static_cast<std::uintptr_t>(row.modifiers) & static_cast<std::uintptr_t>(flag)) != 0;
+    };
+    text += has(EventModifierFlags::control) ? "⌃" : "";
+    text += has(EventModifierFlags::option) ? "⌥" : "";
+    text += has(EventModifierFlags::shift) ? "⇧" : "";
+    text += has(EventModifierFlags::command) ? "⌘" : "";
+    for (const char character : row.keyEquivalent) {
+        text += character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
+    }
+    return text;
+}
+
+// The menu that hangs from a place in the menu bar, and on which display; absent for any other target.
+std::optional<std::pair<sim::MenuPlace, std::size_t>> menuOf(const std::optional<DeskTarget>& target) {
+    if (!target) {
+        return std::nullopt;
+    }
+    if (const auto* item = std::get_if<StatusItemTarget>(&*target)) {
+        return std::pair(sim::MenuPlace(sim::StatusItemIndex{item->item}), item->display);
+    }
+    if (const auto* title = std::get_if<MainMenuTitleTarget>(&*target)) {
+        return std::pair(sim::MenuPlace(sim::MainMenuIndex{title->title}), title->display);
+    }
+    return std::nullopt;
+}
+
+bool isPartOfMenu(const std::optional<DeskTarget>& target) {
+    return target && (std::holds_alternative<MenuRowTarget>(*target) ||
+                      std::holds_alternative<MenuPanelTarget>(*target));
+}
+
+} // namespace
+
+PartsOutcome ScreenParts::press(const std::optional<DeskTarget>& target) {
+    hovered_.reset();
+    isOpenedByThisPress_ = false;
+    pressed_ = target;
+    const auto menu = menuOf(target);
+    if (isMenuOpen() && !isPartOfMenu(target)) {
+        const bool isSameMenu =
+            menu && menu->first == *session_.menus().place() && menu->second == menuDisplay_;
+        closeMenu();
+        if (isSameMenu || !menu) {
+            pressed_.reset();
+            return {};
+        }
+    }
+    if (menu) {
+        openMenu(menu->first, menu->second);
+        isOpenedByThisPress_ = true;
+    } else if (!isPartOfMenu(target)) {
+        windows_.press(target);
+    }
+    return {};
+}
+
+PartsOutcome ScreenParts::release(const std::optional<DeskTarget>& target) {
+    const std::optional<DeskTarget> pressed = std::exchange(pressed_, std::nullopt);
+    if (isMenuOpen()) {
+        if (const auto* row = target ? std::get_if<MenuRowTarget>(&*target) : nullptr) {
+            return choose(row->row);
+        }
+        const bool isDragThatEndsElsewhere =
+            isOpenedByThisPress_ && target != pressed && !isPartOfMenu(target);
+        if (isDragThatEndsElsewhere) {
+            closeMenu();
+        }
+        return {};
+    }
+    PartsOutcome outcome;
+    outcome.pressedControl = windows_.release(target);
+    if (pressed && pressed == target) {
+        act(*target);
+    }
+    return outcome;
+}
+
+void ScreenParts::act(const DeskTarget& target) {
+    sim::Accessibility& accessibility = session_.accessibility();
+    if (const auto* dialog = std::get_if<DialogButtonTarget>(&target)) {
+        if (dialog->button == DialogButton::openSystemSettings) {
+            accessibility.openSettingsFromDialog();
+        } else {
+            accessibility.denyInDialog();
+        }
+    } else if (std::holds_alternative<MailCloseTarget>(target)) {
+        mail_.close();
+    } else {
+        settings_.act(target);
+    }
+}
+
+void ScreenParts::hover(const std::optional<DeskTarget>& target) {
+    if (hovered_ != target) {
+        hovered_ = target;
+        hoveredSince_ = session_.clock().now();
+    }
+    windows_.hover(target);
+    if (!isMenuOpen()) {
+        return;
+    }
+    const auto menu = menuOf(target);
+    const bool isInSameBar = menu && menu->second == menuDisplay_;
+    if (isInSameBar && menu->first != *session_.menus().place()) {
+        openMenu(menu->first, menu->second);
+        return;
+    }
+    const auto* row = target ? std::get_if<MenuRowTarget>(&*target) : nullptr;
+    const auto rows = session_.menus().rows();
+    highlightedRow_ = row != nullptr && row->row < rows.size() && canBeHighlighted(rows[row->row])
+                          ? std::optional(row->row)
+                          : std::nullopt;
+}
+
+void ScreenParts::openStatusMenu(std::size_t display) {
+    openMenu(sim::StatusItemIndex{0}, display);
+    moveHighlight(+1);
+}
+
+void ScreenParts::openMenu(const sim::MenuPlace& place, std::size_t display) {
+    session_.menus().open(place);
+    menuDisplay_ = display;
+    highlightedRow_.reset();
+}
+
+void ScreenParts::closeMenu() {
+    session_.menus().close();
+    noteClosedMenu();
+}
+
+void ScreenParts::noteClosedMenu() {
+    highlightedRow_.reset();
+    hoveredSince_ = session_.clock().now();
+}
+
+void ScreenParts::displaysChanged() {
+    closeMenu();
+    windows_.letGo();
+    windows_.hover(std::nullopt);
+    pressed_.reset();
+    hovered_.reset();
+}
+
+PartsOutcome ScreenParts::choose(std::size_t row) {
+    const auto rows = session_.menus().rows();
+    PartsOutcome outcome;
+    if (row < rows.size() && session_.menus().choose(row)) {
+        outcome.chosenRow = rows[row].title;
+        outcome.wasMarked = rows[row].state != ControlState::off;
+    }
+    if (!isMenuOpen()) {
+        noteClosedMenu();
+    }
+    return outcome;
+}
+
+bool ScreenParts::takesKeys() const {
+    return isMenuOpen() || windows_.takesKeys() || session_.accessibility().isDialogShown();
+}
+
+PartsOutcome ScreenParts::press(NavigationKey key) {
+    if (isMenuOpen()) {
+        return pressInMenu(key);
+    }
+    PartsOutcome outcome;
+    if (windows_.takesKeys()) {
+        outcome.pressedControl = windows_.press(key);
+        return outcome;
+    }
+    // The dialog's default button is the one that denies.
+    if (key == NavigationKey::enter || key == NavigationKey::space || key == NavigationKey::escape) {
+        session_.accessibility().denyInDialog();
+    }
+    return outcome;
+}
+
+PartsOutcome ScreenParts::pressInMenu(NavigationKey key) {
+    switch (key) {
+    case NavigationKey::up:
+        moveHighlight(-1);
+        break;
+    case NavigationKey::down:
+        moveHighlight(+1);
+        break;
+    case NavigationKey::left:
+        moveToMenuBeside(-1);
+        break;
+    case NavigationKey::right:
+        moveToMenuBeside(+1);
+        break;
+    case NavigationKey::enter:
+    case NavigationKey::space:
+        if (highlightedRow_) {
+            return choose(*highlightedRow_);
+        }
+        closeMenu();
+        break;
+    case NavigationKey::escape:
+        closeMenu();
+        break;
+    case NavigationKey::tab:
+    case NavigationKey::backTab:
+        break;
+    }
+    return {};
+}
+
+void ScreenParts::moveHighlight(int step) {
+    const auto rows = session_.menus().rows();
+    const auto count = static_cast<int>(rows.size());
+    int row = highlightedRow_ ? static_cast<int>(*highlightedRow_) : (step > 0 ? -1 : count);
+    for (row += step; row >= 0 && row < count; row += step) {
+        if (canBeHighlighted(rows[static_cast<std::size_t>(row)])) {
+            highlightedRow_ = static_cast<std::size_t>(row);
+            return;
+        }
+    }
+}
+
+void ScreenParts::moveToMenuBeside(int step) {
+    const auto* title = std::get_if<sim::MainMenuIndex>(&*session_.menus().place());
+    const auto count = static_cast<int>(session_.menus().mainMenuTitles().size());
+    if (title == nullptr || count == 0) {
+        return;
+    }
+    const int beside = (static_cast<int>(title->value) + step + count) % count;
+    openMenu(sim::MainMenuIndex{static_cast<std::size_t>(beside)}, menuDisplay_);
+    moveHighlight(+1);
+}
+
+PartsOutcome ScreenParts::pressEquivalent(std::string_view character, bool withShift) {
+    const auto modifiers =
+        withShift ? EventModifierFlags::command | EventModifierFlags::shift : EventModifierFlags::command;
+    PartsOutcome outcome;
+    if (session_.menus().press(character, modifiers)) {
+        outcome.chosenRow = "⌘" + std::string(character);
+        noteClosedMenu();
+    } else if (character == "w" && mail_.isOpen() && !windows_.takesKeys()) {
+        mail_.close();
+    }
+    return outcome;
+}
+
+const MailProgram& ScreenParts::mailAfterLinks() {
+    mail_.lookForLinks();
+    return mail_;
+}
+
+void ScreenParts::addTo(DeskPicture& picture, const std::string& iconPath) {
+    for (const auto& item : session_.statusItems().shown()) {
+        StatusItemPicture shown;
+        if (item->button && item->button->image) {
+            const Image::State& image = *item->button->image->state();
+            shown.imagePath = image.file;
+            shown.imageSize = image.size.value_or(shown.imageSize);
+            shown.isTemplate = image.isTemplate;
+        }
+        shown.toolTip = item->button ? item->button->toolTip : "";
+        picture.statusItems.push_back(std::move(shown));
+    }
+    picture.mainMenuTitles = session_.menus().mainMenuTitles();
+    addMenu(picture);
+    addToolTip(picture);
+    const sim::Accessibility& accessibility = session_.accessibility();
+    if (accessibility.isDialogShown()) {
+        picture.permissionDialog =
+            PermissionDialogPicture{0, ApplicationName, iconPath, Window::State::TitleBarHeight};
+    }
+    const std::size_t displayBeside = picture.displays.size() > 1 ? 1 : 0;
+    settings_.addTo(picture, iconPath, displayBeside);
+    mail_.addTo(picture, displayBeside);
+    windows_.addTo(picture);
+    if (session_.application().policy == ActivationPolicy::regular) {
+        picture.dockIcon = iconPath;
+    }
+    picture.pressed = pressed_;
+}
+
+void ScreenParts::addMenu(DeskPicture& picture) const {
+    const auto& place = session_.menus().place();
+    if (!place) {
+        return;
+    }
+    MenuPicture menu;
+    menu.display = menuDisplay_;
+    if (const auto* title = std::get_if<sim::MainMenuIndex>(&*place)) {
+        menu.anchor = MainMenuTitleAnchor{title->value};
+    } else {
+        menu.anchor = StatusItemAnchor{std::get<sim::StatusItemIndex>(*place).value};
+    }
+    const auto rows = session_.menus().rows();
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        const sim::MenuRow& row = rows[index];
+        menu.rows.push_back({row.isSeparator ? MenuRowKind::separator : MenuRowKind::item, row.title,
+                             row.state != ControlState::off, row.isEnabled, highlightedRow_ == index,
+                             keyText(row)});
+    }
+    picture.menu = std::move(menu);
+}
+
+void ScreenParts::addToolTip(DeskPicture& picture) {
+    const auto* item = hovered_ ? std::get_if<StatusItemTarget>(&*hovered_) : nullptr;
+    const bool rests = session_.clock().now() - hoveredSince_ >= ToolTipDelay;
+    if (item == nullptr || !rests || isMenuOpen() || item->item >= picture.statusItems.size()) {
+        return;
+    }
+    const std::string& text = picture.statusItems[item->item].toolTip;
+    if (!text.empty()) {
+        picture.toolTip = ToolTipPicture{item->display, item->item, text};
+    }
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,17 @@
+// The icon of an application.
+#pragma once
+
+#include "base/Geometry.h"
+#include "desk/paint/toolkit/Canvas.h"
+#include "desk/paint/toolkit/ImageStore.h"
+
+#include <optional>
+#include <string>
+
+namespace kestrune::desk {
+
+// Without a path, and for a file that cannot be read, a general icon.
+void paintApplicationIcon(const Canvas& canvas, ImageStore& images, const std::optional<std::string>& path,
+                          const Rect& area);
+
+} // namespace kestrune::desk

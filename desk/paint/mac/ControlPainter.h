@@ -1,0 +1,72 @@
+// The controls in the system's windows.
+#pragma once
+
+#include "base/Geometry.h"
+#include "desk/paint/toolkit/Canvas.h"
+#include "ui/Style.h"
+
+#include <optional>
+#include <string_view>
+
+namespace kestrune::desk {
+
+inline constexpr double PushButtonHeight = 24;
+inline constexpr double ButtonPadding = 15; // on either side of the label
+
+// The label's; the colour is left to the painter.
+TextStyle pushButtonStyle();
+
+// Of the push buttons in applications' windows.
+struct PushButtonLook {
+    double height = PushButtonHeight;
+    double padding = ButtonPadding;
+    double cornerRadius = 6;
+    TextStyle label = pushButtonStyle();
+};
+PushButtonLook pushButtonLook(ui::ControlSize size);
+
+struct PushButtonState {
+    bool isDefault = false;
+    bool isPressed = false;
+};
+void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state,
+                     const PushButtonLook& look = {});
+
+// In the system's own windows.
+inline constexpr Size SwitchSize{28, 16};
+
+struct SwitchState {
+    bool isOn = false;
+    // Where the knob is while it moves, from 0, off, to 1, on.
+    std::optional<double> position = std::nullopt;
+    bool isPressed = false;
+    bool isInKeyWindow = true; // only there the accent colour shows
+};
+void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state);
+
+// How far the knob goes from off to on.
+double switchTravel(const Rect& area);
+
+// Close, minimise and zoom at the leading end of a title bar.
+struct WindowButtons {
+    bool isClosable = true;
+    bool isMiniaturizable = false;
+    bool isZoomable = false;
+    bool isActive = true; // without it the buttons are grey while the pointer is elsewhere
+    bool isClosePressed = false;
+    bool isCloseHovered = false;
+    bool isMinimizePressed = false;
+    bool isMinimizeHovered = false;
+};
+// `close` is the area of the first.
+void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowButtons& buttons);
+
+// Around a control that the keyboard works on.
+void paintFocusRing(const Canvas& canvas, const Rect& control, double cornerRadius);
+
+// The signs of buttons that add to a list and remove from it.
+enum class ListButton { add, remove };
+void paintListButton(const Canvas& canvas, const Rect& area, ListButton button, bool isEnabled,
+                     bool isPressed);
+
+} // namespace kestrune::desk

@@ -1,0 +1,152 @@
+#include "desk/paint/mac/SymbolPainter.h"
+
+#include "desk/paint/toolkit/Shapes.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <string_view>
+
+namespace kestrune::desk {
+namespace {
+
+// A symbol is drawn around the origin, in units of its font's size with the scale applied. `line` is the
+// width of its lines.
+struct Drawing {
+    std::string_view name;
+    Size size;
+    void (*draw)(cairo_t* context, double line);
+};
+
+// A circle is somewhat larger than its font, so that it looks as high as a line of text.
+constexpr double CircleDiameter = 1.17;
+constexpr double CircleRadius = CircleDiameter / 2;
+constexpr Size CircleSize{CircleDiameter, CircleDiameter};
+constexpr Size ScreenSize{1.40, 1.06};
+
+void strokeRound(cairo_t* context, double width) {
+    cairo_set_line_cap(context, CAIRO_LINE_CAP_ROUND);
+    cairo_set_line_join(context, CAIRO_LINE_JOIN_ROUND);
+    cairo_set_line_width(context, width);
+    cairo_stroke(context);
+}
+
+// Fills the symbol's disc and takes what `addSign` adds, as a line of `width`, out of it.
+void fillDiscWithout(cairo_t* context, double width, void (*addSign)(cairo_t*)) {
+    addCircle(context, {0, 0}, CircleRadius);
+    cairo_fill(context);
+    cairo_set_operator(context, CAIRO_OPERATOR_DEST_OUT);
+    cairo_new_path(context);
+    addSign(context);
+    strokeRound(context, width);
+}
+
+void drawScreenWithDock(cairo_t* context, double line) {
+    const Rect edge{-ScreenSize.width / 2 + line / 2, -ScreenSize.height / 2 + line / 2,
+                    ScreenSize.width - line, ScreenSize.height - line};
+    addRoundedRectangle(context, edge, 0.17);
+    cairo_set_line_width(context, line);
+    cairo_stroke(context);
+    const double dockHeight = 0.15 + 0.4 * line;
+    const double bottom = edge.maxY() - line / 2 - 0.075;
+    addRoundedRectangle(context, {-0.40, bottom - dockHeight, 0.80, dockHeight}, 0.075);
+    cairo_fill(context);
+}
+
+void addTwo(cairo_t* context) {
+    constexpr double Radius = 0.155;
+    constexpr double Left = -0.165;
+    constexpr double Right = 0.175;
+    constexpr double Bottom = 0.285;
+    constexpr Point Bowl{0.0, -0.13};
+    constexpr double Turn = std::numbers::pi;
+    cairo_arc(context, Bowl.x, Bowl.y, Radius, -0.92 * Turn, 0.16 * Turn);
+    cairo_curve_to(context, Bowl.x + 0.085, Bowl.y + 0.17, Left + 0.10, Bottom - 0.13, Left, Bottom);
+    cairo_line_to(context, Right, Bottom);
+}
+
+void addCheckMark(cairo_t* context) {
+    cairo_move_to(context, -0.225, 0.035);
+    cairo_line_to(context, -0.065, 0.215);
+    cairo_line_to(context, 0.235, -0.215);
+}
+
+void drawTwoOnDisc(cairo_t* context, double line) { fillDiscWithout(context, 0.035 + 0.85 * line, addTwo); }
+
+void drawCheckMarkOnDisc(cairo_t* context, double line) {
+    fillDiscWithout(context, 0.04 + 0.85 * line, addCheckMark);
+}
+
+void drawDashedCircle(cairo_t* context, double line) {
+    constexpr int Dashes = 10;
+    constexpr double DashShare = 0.56; // of each step around the circle, without the round ends
+    const double radius = CircleRadius - line / 2;
+    const double step = 2 * std::numbers::pi / Dashes;
+    for (int dash = 0; dash < Dashes; ++dash) {
+        // Symmetrical about both axes, with a dash at the top.
+        const double middle = -std::numbers::pi / 2 + step * dash;
+        const double half = std::max(0.02, (DashShare * step - line / radius * 0.5) / 2);
+        cairo_new_sub_path(context);
+        cairo_arc(context, 0, 0, radius, middle - half, middle + half);
+    }
+    strokeRound(context, line);
+}
+
+constexpr std::array Drawings{
+    Drawing{"dock.rectangle", ScreenSize, drawScreenWithDock},
+    Drawing{"2.circle.fill", CircleSize, drawTwoOnDisc},
+    Drawing{"checkmark.circle.fill", CircleSize, drawCheckMarkOnDisc},
+    Drawing{"circle.dashed", CircleSize, drawDashedCircle},
+};
+
+const Drawing* drawingOf(std::string_view name) {
+    const auto* const found = std::find_if(Drawings.begin(), Drawings.end(),
+                                           [name](const Drawing& drawing) { return drawing.name == name; });
+    return found != Drawings.end() ? found : nullptr;
+}
+
+double lineWidth(ui::FontWeight weight) {
+    constexpr std::array<double, 9> Widths{0.025, 0.035, 0.055, 0.08, 0.09, 0.105, 0.12, 0.14, 0.16};
+    return Widths[static_cast<std::size_t>(weight)];
+}
+
+double scaleFactor(ui::ImageScale scale) {
+    switch (scale) {
+    case ui::ImageScale::small:
+        return 0.78;
+    case ui::ImageScale::medium:
+        return 1;
+    case ui::ImageScale::large:
+        return 1.28;
+    }
+    return 1;
+}
+
+} // namespace
+
+Size symbolSize(const ui::StyledSymbol& symbol) {
+    const Drawing* const drawing = drawingOf(symbol.name);
+    const double unit = symbol.font.size * scaleFactor(symbol.scale);
+    return drawing ? Size{drawing->size.width * unit, drawing->size.height * unit} : Size{};
+}
+
+void paintSymbol(cairo_t* context, const ui::StyledSymbol& symbol, const Rect& frame, const Color& color) {
+    const Drawing* const drawing = drawingOf(symbol.name);
+    if (!drawing) {
+        return;
+    }
+    const SavedState saved{context};
+    const double unit = symbol.font.size * scaleFactor(symbol.scale);
+    cairo_translate(context, frame.minX() + frame.width() / 2, frame.minY() + frame.height() / 2);
+    cairo_scale(context, unit, unit);
+    // What a symbol leaves out must not be taken out of what is behind it.
+    cairo_push_group_with_content(context, CAIRO_CONTENT_ALPHA);
+    cairo_set_source_rgba(context, 0, 0, 0, 1);
+    drawing->draw(context, lineWidth(symbol.font.weight));
+    const PatternHandle mask{cairo_pop_group(context)};
+    setColor(context, color);
+    cairo_mask(context, mask.get());
+}
+
+} // namespace kestrune::desk

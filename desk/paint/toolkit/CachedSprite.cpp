@@ -1,0 +1,49 @@
+#include "desk/paint/toolkit/CachedSprite.h"
+
+#include <cmath>
+
+namespace kestrune::desk {
+
+SpritePlace spritePlace(cairo_t* context, const Rect& area) {
+    cairo_matrix_t matrix;
+    cairo_get_matrix(context, &matrix);
+    SpritePlace place;
+    SpriteGrid& grid = place.grid;
+    double deviceScaleY = 1;
+    cairo_surface_get_device_scale(cairo_get_group_target(context), &grid.deviceScale, &deviceScaleY);
+    grid.scale = matrix.xx * grid.deviceScale;
+    const Point start{area.minX() * grid.scale + matrix.x0 * grid.deviceScale,
+                      area.minY() * grid.scale + matrix.y0 * grid.deviceScale};
+    place.corner = {std::floor(start.x), std::floor(start.y)};
+    grid.phase = {start.x - place.corner.x, start.y - place.corner.y};
+    grid.pixels = {std::ceil(grid.phase.x + area.width() * grid.scale),
+                   std::ceil(grid.phase.y + area.height() * grid.scale)};
+    return place;
+}
+
+SurfaceHandle makeSpriteSurface(const SpriteGrid& grid) {
+    SurfaceHandle surface{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(grid.pixels.width),
+                                                     static_cast<int>(grid.pixels.height))};
+    cairo_surface_set_device_scale(surface.get(), grid.deviceScale, grid.deviceScale);
+    return surface;
+}
+
+ContextHandle makeSpriteContext(cairo_surface_t* sprite, const SpriteGrid& grid, Point areaOrigin) {
+    ContextHandle context{cairo_create(sprite)};
+    cairo_translate(context.get(), grid.phase.x / grid.deviceScale, grid.phase.y / grid.deviceScale);
+    cairo_scale(context.get(), grid.scale / grid.deviceScale, grid.scale / grid.deviceScale);
+    cairo_translate(context.get(), -areaOrigin.x, -areaOrigin.y);
+    return context;
+}
+
+void paintSprite(cairo_t* context, cairo_surface_t* sprite, const SpritePlace& place) {
+    const SavedState saved{context};
+    cairo_identity_matrix(context);
+    cairo_set_source_surface(context, sprite, place.corner.x / place.grid.deviceScale,
+                             place.corner.y / place.grid.deviceScale);
+    // Pixel lies on pixel, so nothing is to be interpolated.
+    cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
+    cairo_paint(context);
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,60 @@
+// A part in front of the rest of the picture that is kept until what it shows changes.
+#pragma once
+
+#include "base/Geometry.h"
+#include "desk/paint/toolkit/CairoObjects.h"
+
+#include <functional>
+#include <utility>
+
+namespace kestrune::desk {
+
+// The device pixels of an area under a context's transformation, which neither turns nor slants.
+struct SpriteGrid {
+    double scale = 1; // device pixels for each user unit
+    double deviceScale = 1;
+    Point phase; // from the corner of the first pixel to that of the area, in device pixels
+    Size pixels;
+
+    friend bool operator==(const SpriteGrid&, const SpriteGrid&) = default;
+};
+struct SpritePlace {
+    SpriteGrid grid;
+    Point corner; // of the first pixel, in device pixels
+};
+SpritePlace spritePlace(cairo_t* context, const Rect& area);
+
+// Transparent memory for the grid's pixels, and a context for it whose area begins at the same user's
+// coordinates.
+SurfaceHandle makeSpriteSurface(const SpriteGrid& grid);
+ContextHandle makeSpriteContext(cairo_surface_t* sprite, const SpriteGrid& grid, Point areaOrigin);
+
+void paintSprite(cairo_t* context, cairo_surface_t* sprite, const SpritePlace& place);
+
+// `Subject` is the value that decides what the sprite shows; two that compare equal must give the same
+// picture.
+template <typename Subject>
+class CachedSprite {
+public:
+    // `extent` encloses all that is to be seen of what `paintAnew` paints, in the same coordinates as the
+    // context's. `paintAnew` is called only when the subject, or how the extent lies on the device's pixels,
+    // is another than last time.
+    void paint(cairo_t* context, const Rect& extent, Subject subject,
+               const std::function<void(cairo_t*)>& paintAnew) {
+        const SpritePlace place = spritePlace(context, extent);
+        if (!surface_ || place.grid != grid_ || !(subject == subject_)) {
+            surface_ = makeSpriteSurface(place.grid);
+            paintAnew(makeSpriteContext(surface_.get(), place.grid, {extent.minX(), extent.minY()}).get());
+            grid_ = place.grid;
+            subject_ = std::move(subject);
+        }
+        paintSprite(context, surface_.get(), place);
+    }
+
+private:
+    SurfaceHandle surface_;
+    SpriteGrid grid_;
+    Subject subject_;
+};
+
+} // namespace kestrune::desk

@@ -1,0 +1,29 @@
+// Images from PNG files: status items and the icons of applications.
+#pragma once
+
+#include "base/Geometry.h"
+#include "desk/paint/mac/Palette.h"
+#include "desk/paint/toolkit/CairoObjects.h"
+
+#include <string>
+#include <unordered_map>
+
+namespace kestrune::desk {
+
+// Reads each file once, on its first use.
+class ImageStore {
+public:
+    // Borrowed; valid as long as the store. Null for a file that is missing or no PNG.
+    cairo_surface_t* image(const std::string& path);
+
+private:
+    std::unordered_map<std::string, SurfaceHandle> images_;
+};
+
+// Fills the area with the image.
+void paintImage(cairo_t* context, cairo_surface_t* image, const Rect& area);
+
+// As paintImage, in one colour; of the image only the opacity counts.
+void paintTemplateImage(cairo_t* context, cairo_surface_t* image, const Rect& area, const Color& tint);
+
+} // namespace kestrune::desk

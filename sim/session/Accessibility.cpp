@@ -1,0 +1,75 @@
+#include "sim/session/Accessibility.h"
+
+namespace kestrune::sim {
+
+bool Accessibility::readsAsTrusted() const {
+    return !isTrustDelayed_ && (permission_ == Permission::granted || permission_ == Permission::rowDeleted);
+}
+
+void Accessibility::listApplication() {
+    if (permission_ == Permission::notListed) {
+        permission_ = Permission::switchedOff;
+    }
+}
+
+void Accessibility::askUser() {
+    listApplication();
+    isDialogShown_ = true;
+    tell(true);
+}
+
+void Accessibility::openSettingsFromDialog() {
+    isDialogShown_ = false;
+    showPane();
+}
+
+void Accessibility::denyInDialog() {
+    isDialogShown_ = false;
+    tell(isPaneShown_);
+}
+
+void Accessibility::showPane() {
+    isPaneShown_ = true;
+    tell(true);
+}
+
+void Accessibility::closePane() {
+    isPaneShown_ = false;
+    tell(isDialogShown_);
+}
+
+void Accessibility::tell(bool isInFront) const {
+    if (systemInFront_) {
+        systemInFront_(isInFront);
+    }
+}
+
+bool Accessibility::isListed() const {
+    return permission_ != Permission::notListed && permission_ != Permission::rowDeleted;
+}
+
+bool Accessibility::isSwitchedOn() const {
+    return permission_ == Permission::granted || permission_ == Permission::stale;
+}
+
+void Accessibility::flipSwitch() {
+    if (permission_ == Permission::switchedOff) {
+        permission_ = Permission::granted;
+    } else if (permission_ == Permission::granted) {
+        permission_ = Permission::switchedOff;
+    }
+}
+
+void Accessibility::removeRow() {
+    if (isListed()) {
+        permission_ = permission_ == Permission::granted ? Permission::rowDeleted : Permission::notListed;
+    }
+}
+
+void Accessibility::processEnded() {
+    if (permission_ == Permission::rowDeleted) {
+        permission_ = Permission::notListed;
+    }
+}
+
+} // namespace kestrune::sim

@@ -1,0 +1,179 @@
+#include "sim/session/Updates.h"
+
+#include "sim/seam/HostedView.h"
+#include "sim/seam/WindowState.h"
+#include "sim/session/Session.h"
+
+#include <utility>
+#include <vector>
+
+namespace kestrune::sim {
+
+namespace {
+
+constexpr std::string_view AlertClass = "_NSAlertPanel";
+
+constexpr double Margin = 20;
+constexpr double ContentWidth = 380;
+
+// A sentence, an explanation, and buttons at the bottom right.
+ui::View page(std::string_view heading, std::string_view text, std::vector<ui::View> buttons) {
+    buttons.insert(buttons.begin(), ui::Spacer());
+    return ui::VStack({ui::HorizontalAlignment::leading, 10},
+                      ui::VerbatimText(heading).font(ui::Font::preferred(ui::TextStyle::headline)),
+                      ui::VerbatimText(text).font(ui::Font::preferred(ui::TextStyle::callout)),
+                      ui::HStack({.spacing = 12}, std::move(buttons)).padding({.top = 6}))
+        .frame({.width = ContentWidth})
+        .padding(Margin);
+}
+
+} // namespace
+
+std::optional<Error> Updates::start(const std::weak_ptr<StandardUserDriverDelegate>& delegate) {
+    switch (framework_) {
+    case UpdateFramework::missing:
+        return Error{std::string(MissingUpdateFramework)};
+    case UpdateFramework::broken:
+        return Error{std::string(StartFailure)};
+    case UpdateFramework::working:
+        break;
+    }
+    delegate_ = delegate;
+    isStarted_ = true;
+    return std::nullopt;
+}
+
+void Updates::checkForUser() { check(true); }
+
+void Updates::checkAsScheduled() { check(false); }
+
+// What is shown already comes forward instead, as a check that goes on and a scheduled update do.
+void Updates::check(bool isByUser) {
+    if (!isStarted_ || stage_ == Stage::alert || stage_ == Stage::checking) {
+        return;
+    }
+    if (stage_ == Stage::update) {
+        if (isByUser) {
+            announce();
+            session_.windows().makeKeyAndOrderFront(window_);
+        }
+        return;
+    }
+    stage_ = Stage::checking;
+    ++sessionNumber_;
+    if (isByUser) {
+        const ui::View cancel = ui::Button("Cancel", [this] { dismiss(); });
+        show("Updating Kestrune", windowClass_, page("Checking for updates…", "", {cancel}), true);
+    }
+    session_.enqueueOnMainQueue(
+        [this, isByUser, number = sessionNumber_] {
+            if (stage_ == Stage::checking && number == sessionNumber_) {
+                finishCheck(isByUser);
+            }
+        },
+        CheckDuration);
+}
+
+void Updates::finishCheck(bool isByUser) {
+    hide();
+    const bool hasAddress = session_.bundle().infoString("SUFeedURL").has_value();
+    const UpdateFeed feed = hasAddress ? feed_ : UpdateFeed::unreachable;
+    if (feed == UpdateFeed::newVersion) {
+        stage_ = Stage::update;
+        announce();
+        showUpdate(isByUser);
+    } else if (isByUser) {
+        stage_ = Stage::alert;
+        showAlert(feed);
+    } else {
+        stage_ = Stage::idle;
+    }
+}
+
+void Updates::announce() {
+    tell("standardUserDriverWillHandleShowingUpdate:forUpdate:state:",
+         &StandardUserDriverDelegate::standardUserDriverWillHandleShowingUpdate);
+}
+
+// Who did not ask for it is not interrupted.
+void Updates::showUpdate(bool isByUser) {
+    std::vector<ui::View> buttons;
+    buttons.push_back(ui::Button("Skip This Version", [this] { dismiss(); }));
+    buttons.push_back(ui::Button("Remind Me Later", [this] {
+                          dismiss();
+                      }).keyboardShortcut(ui::KeyboardShortcut::cancelAction));
+    show("Software Update", windowClass_,
+         page("A new version of Kestrune is available!", "Would you like to download it now?",
+              std::move(buttons)),
+         isByUser);
+}
+
+// Modal: until it is closed the main queue is not served, as it is from there that the alert was shown.
+void Updates::showAlert(UpdateFeed feed) {
+    tell("standardUserDriverWillShowModalAlert",
+         &StandardUserDriverDelegate::standardUserDriverWillShowModalAlert);
+    const ui::View ok =
+        ui::Button("OK", [this] { dismiss(); }).keyboardShortcut(ui::KeyboardShortcut::defaultAction);
+    show("", AlertClass,
+         feed == UpdateFeed::nothingNew
+             ? page("You’re up to date!", "Kestrune is the newest version available.", {ok})
+             : page("Update Error!", "An error occurred in retrieving update information.", {ok}),
+         true);
+    session_.beginModalAlert();
+}
+
+void Updates::dismiss() {
+    if (stage_ == Stage::idle) {
+        return;
+    }
+    const bool wasAlert = std::exchange(stage_, Stage::idle) == Stage::alert;
+    hide();
+    if (wasAlert) {
+        session_.endModalAlert();
+        tell("standardUserDriverDidShowModalAlert",
+             &StandardUserDriverDelegate::standardUserDriverDidShowModalAlert);
+    }
+    tell("standardUserDriverWillFinishUpdateSession",
+         &StandardUserDriverDelegate::standardUserDriverWillFinishUpdateSession);
+}
+
+void Updates::show(std::string_view title, std::string_view className, const ui::View& content, bool asKey) {
+    window_ = std::make_shared<Window::State>();
+    window_->className = className;
+    window_->title = title;
+    window_->styleMask = WindowStyleMask::titled;
+    window_->isReleasedWhenClosed = false;
+    window_->hidesOnDeactivate = windowsHide_ && className != AlertClass;
+    window_->content = HostedView::make({[content] { return content; }, nullptr});
+    window_->content->enter(window_);
+    session_.windows().add(window_);
+    session_.windows().center(*window_);
+    if (asKey) {
+        session_.windows().makeKeyAndOrderFront(window_);
+    } else {
+        session_.windows().orderFront(window_);
+    }
+}
+
+void Updates::hide() {
+    if (window_) {
+        session_.windows().orderOut(window_);
+        window_.reset();
+    }
+}
+
+void Updates::tell(std::string_view selector, void (StandardUserDriverDelegate::*method)()) {
+    if (const auto delegate = delegate_.lock()) {
+        session_.journal().record("-[", delegate->className(), " ", selector, "]");
+        (delegate.get()->*method)();
+    }
+}
+
+void Updates::clear() {
+    stage_ = Stage::idle;
+    isStarted_ = false;
+    delegate_.reset();
+    window_.reset();
+}
+
+} // namespace kestrune::sim

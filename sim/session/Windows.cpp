@@ -1,0 +1,242 @@
+#include "sim/session/Windows.h"
+
+#include "base/Fatal.h"
+#include "platform/NotificationCenter.h"
+#include "sim/seam/HostedView.h"
+#include "sim/seam/WindowState.h"
+#include "sim/session/Session.h"
+
+#include <algorithm>
+
+namespace kestrune::sim {
+
+namespace {
+
+// Runs an action of the hosted view; window and view live until it returns.
+template <typename Wanted, typename Action>
+void withElement(const Windows::WindowState& window, std::size_t element, Action&& action) {
+    if (!window->content) {
+        return;
+    }
+    const auto view = window->content;
+    const auto& elements = view->host().scene().elements;
+    if (element >= elements.size()) {
+        return;
+    }
+    if (const auto* const wanted = std::get_if<Wanted>(&elements[element])) {
+        action(view->host(), *wanted);
+    }
+}
+
+} // namespace
+
+std::vector<Windows::WindowState> Windows::shown() const {
+    const bool isActive = session_.application().isActive;
+    std::vector<WindowState> result;
+    for (const auto& reference : ordered_) {
+        if (auto window = reference.lock(); window && (isActive || !window->hidesOnDeactivate)) {
+            result.push_back(std::move(window));
+        }
+    }
+    std::stable_sort(result.begin(), result.end(),
+                     [](const auto& one, const auto& other) { return one->level > other->level; });
+    return result;
+}
+
+std::vector<Windows::WindowState> Windows::all() const {
+    std::vector<WindowState> result;
+    for (const auto& reference : all_) {
+        if (auto window = reference.lock()) {
+            result.push_back(std::move(window));
+        }
+    }
+    return result;
+}
+
+std::vector<Windows::WindowState> Windows::miniaturized() const {
+    std::vector<WindowState> result = all();
+    std::erase_if(result, [](const WindowState& window) { return !window->isMiniaturized; });
+    return result;
+}
+
+void Windows::add(const WindowState& window) {
+    std::erase_if(all_, [](const auto& reference) { return reference.expired(); });
+    all_.push_back(window);
+}
+
+Windows::WindowState Windows::keyWindow() const {
+    if (!session_.application().isActive) {
+        return nullptr;
+    }
+    if (auto wanted = wantedKey_.lock(); wanted && wanted->isVisible) {
+        return wanted;
+    }
+    const auto windows = shown();
+    return windows.empty() ? nullptr : windows.front();
+}
+
+const ui::Scene& Windows::sceneOf(const Window::State& window) {
+    static const ui::Scene nothing;
+    return window.content ? window.content->host().scene() : nothing;
+}
+
+void Windows::center(Window::State& window) const {
+    const auto main = session_.displays().main();
+    if (!main) {
+        return;
+    }
+    const Rect screen = session_.displays().appKitFrame(main->bounds);
+    window.frame.origin = {screen.minX() + (screen.width() - window.frame.width()) / 2,
+                           screen.minY() + (screen.height() - window.frame.height()) * 2 / 3};
+}
+
+void Windows::makeKeyAndOrderFront(const WindowState& window) {
+    requireUnreleased(*window);
+    const WindowState before = keyWindow();
+    orderFront(window);
+    wantedKey_ = window;
+    tellNewKeyWindow(before);
+}
+
+void Windows::orderFront(const WindowState& window) {
+    takeOut(*window);
+    ordered_.insert(ordered_.begin(), window);
+    window->isVisible = true;
+    window->isMiniaturized = false;
+}
+
+void Windows::orderOut(const WindowState& window) {
+    requireUnreleased(*window);
+    const WindowState before = keyWindow();
+    hide(*window);
+    tellNewKeyWindow(before);
+}
+
+void Windows::hide(Window::State& window) {
+    takeOut(window);
+    window.isVisible = false;
+    window.isMiniaturized = false;
+}
+
+void Windows::takeOut(const Window::State& window) {
+    std::erase_if(ordered_, [&window](const auto& reference) {
+        const auto other = reference.lock();
+        return !other || other.get() == &window;
+    });
+}
+
+void Windows::tellNewKeyWindow(const WindowState& before) const {
+    const WindowState key = keyWindow();
+    if (!key || key == before) {
+        return;
+    }
+    if (const auto delegate = key->delegate.lock()) {
+        session_.journal().record("-[", delegate->className(), " windowDidBecomeKey:]");
+        delegate->windowDidBecomeKey();
+    }
+    session_.observers().post(WindowDidBecomeKeyNotification, key);
+}
+
+void Windows::click(const WindowState& window) {
+    const WindowState before = keyWindow();
+    session_.application().isActive = true;
+    orderFront(window);
+    wantedKey_ = window;
+    tellNewKeyWindow(before);
+}
+
+void Windows::closeByUser(const WindowState& window) {
+    if (!window->has(WindowStyleMask::closable) || !window->isVisible) {
+        return;
+    }
+    if (const auto delegate = window->delegate.lock()) {
+        session_.journal().record("-[", delegate->className(), " windowWillClose:]");
+        delegate->windowWillClose();
+    }
+    orderOut(window);
+    window->isReleased = window->isReleasedWhenClosed;
+}
+
+void Windows::miniaturizeByUser(const WindowState& window) {
+    if (!window->has(WindowStyleMask::miniaturizable) || !window->isVisible) {
+        return;
+    }
+    const WindowState before = keyWindow();
+    hide(*window);
+    window->isMiniaturized = true;
+    tellNewKeyWindow(before);
+}
+
+void Windows::moveTo(const WindowState& window, Point topLeft) const {
+    window->frame = session_.displays().appKitFrame(
+        {topLeft.x, topLeft.y, window->frame.width(), window->frame.height()});
+}
+
+void Windows::pressButton(const WindowState& window, std::size_t element) {
+    withElement<ui::ButtonElement>(window, element, [](ui::ViewHost& host, const ui::ButtonElement& button) {
+        host.press(button.action);
+    });
+}
+
+void Windows::flipSwitch(const WindowState& window, std::size_t element) {
+    withElement<ui::ToggleElement>(window, element, [](ui::ViewHost& host, const ui::ToggleElement& toggle) {
+        host.flip(toggle.action, !toggle.isOn);
+    });
+}
+
+std::optional<std::size_t> Windows::elementFor(const Window::State& window, ui::KeyboardShortcut shortcut) {
+    const auto& elements = sceneOf(window).elements;
+    const auto button =
+        std::find_if(elements.begin(), elements.end(), [shortcut](const ui::Element& element) {
+            const auto* const candidate = std::get_if<ui::ButtonElement>(&element);
+            return candidate != nullptr && candidate->shortcut == shortcut;
+        });
+    return button != elements.end() ? std::optional(static_cast<std::size_t>(button - elements.begin()))
+                                    : std::nullopt;
+}
+
+bool Windows::press(ui::KeyboardShortcut shortcut) {
+    const WindowState key = keyWindow();
+    const auto element = key ? elementFor(*key, shortcut) : std::nullopt;
+    if (element) {
+        pressButton(key, *element);
+    }
+    return element.has_value();
+}
+
+void Windows::setActive(bool isActive) {
+    const WindowState before = keyWindow();
+    session_.application().isActive = isActive;
+    tellNewKeyWindow(before);
+}
+
+void Windows::registerController(std::string_view className, std::string_view sourcePath) {
+    sourcePaths_.emplace(className, sourcePath);
+}
+
+void Windows::refuseConstruction(std::string_view className) const {
+    const auto known = sourcePaths_.find(className);
+    if (known == sourcePaths_.end()) {
+        fatal("The runtime does not know the class yet.");
+    }
+    fatal("init(coder:) is not supported", known->second);
+}
+
+void Windows::requireUnreleased(const Window::State& window) {
+    if (window.isReleased) {
+        fatal("A window is used that its closing has released.");
+    }
+}
+
+// What is left of them has no effect any more.
+void Windows::clear() {
+    for (const WindowState& window : all()) {
+        hide(*window);
+    }
+    ordered_.clear();
+    all_.clear();
+    wantedKey_.reset();
+    sourcePaths_.clear();
+}
+
+} // namespace kestrune::sim

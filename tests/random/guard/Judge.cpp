@@ -1,0 +1,91 @@
+#include "tests/random/guard/Judge.h"
+
+#include "tests/random/common/Arrangement.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+
+namespace kestrune::simulate {
+
+namespace {
+
+bool identical(double one, double other) {
+    return std::bit_cast<std::uint64_t>(one) == std::bit_cast<std::uint64_t>(other);
+}
+
+Rect edgesOf(const KnownDisplay& display) {
+    return {display.left, display.top, display.width, display.height};
+}
+
+bool isHeldBelowTopEdge(const GuardState& state, const sim::Delivery& delivery) {
+    const KnownDisplay* display = state.displayUnder(delivery.sent);
+    return display != nullptr && delivery.delivered.y == display->top + 1 &&
+           display->bottom() - 1 - state.bandDepth() <= display->top + 1;
+}
+
+bool overlapsAnother(const sim::Display& target, const GuardState& state,
+                     const std::vector<sim::Display>& connected) {
+    const bool overlapsConnected =
+        std::any_of(connected.begin(), connected.end(), [&](const sim::Display& other) {
+            return other.displayID != target.displayID && overlap(other.bounds, target.bounds);
+        });
+    const auto overlapping =
+        std::count_if(state.displays.begin(), state.displays.end(),
+                      [&](const KnownDisplay& known) { return overlap(edgesOf(known), target.bounds); });
+    return overlapsConnected || overlapping > 1;
+}
+
+} // namespace
+
+std::string textOf(Point point) {
+    return "(" + sim::shortestText(point.x) + ", " + sim::shortestText(point.y) + ")";
+}
+
+bool identical(Point one, Point other) { return identical(one.x, other.x) && identical(one.y, other.y); }
+
+std::optional<std::string> judgeDelivery(const GuardState& state, bool handled,
+                                         const sim::Delivery& delivery) {
+    const std::string way = textOf(delivery.sent) + " was delivered at " + textOf(delivery.delivered);
+    if (delivery.swallowed) {
+        return "an event was swallowed: " + textOf(delivery.sent);
+    }
+    if (delivery.replaced) {
+        return "an event was replaced: " + textOf(delivery.sent);
+    }
+    if (!identical(delivery.sent.x, delivery.delivered.x)) {
+        return "x changed: " + way;
+    }
+    const bool changed = !identical(delivery.sent, delivery.delivered);
+    if (changed && (!handled || state.guardedDisplayUnder(delivery.sent) == nullptr)) {
+        return "an event changed where none may: " + way;
+    }
+    if (delivery.delivered.y > delivery.sent.y && !isHeldBelowTopEdge(state, delivery)) {
+        return "an event moved downwards: " + way;
+    }
+    const Point expected = handled ? expectedLocation(state, delivery.sent) : delivery.sent;
+    if (!identical(delivery.delivered, expected)) {
+        return way + ", expected " + textOf(expected);
+    }
+    return std::nullopt;
+}
+
+bool guardKeepsDockFrom(const sim::Display& target, const GuardState& state,
+                        const std::vector<sim::Display>& connected) {
+    if (!state.enabled || state.displays.size() < 2 || !state.pinned) {
+        return false;
+    }
+    const auto known =
+        std::find_if(state.displays.begin(), state.displays.end(),
+                     [&](const KnownDisplay& candidate) { return edgesOf(candidate) == target.bounds; });
+    if (known == state.displays.end() || known->identifier == state.pinned->identifier) {
+        return false;
+    }
+    if (overlapsAnother(target, state, connected)) {
+        return false;
+    }
+    const double pullingFrom = target.bounds.maxY() - 1;
+    return pullingFrom - state.bandDepth() < pullingFrom && target.bounds.minY() + 1 < pullingFrom;
+}
+
+} // namespace kestrune::simulate

@@ -1,0 +1,153 @@
+#include "tests/random/guard/Oracle.h"
+
+#include <algorithm>
+#include <cmath>
+#include <variant>
+
+namespace kestrune::simulate {
+
+namespace {
+
+struct ScreenReading {
+    sim::Display display;
+    Rect appKitFrame;
+};
+
+std::vector<ScreenReading> readScreens(sim::Displays& system) {
+    std::vector<ScreenReading> readings;
+    for (const sim::Display& display : system.read()) {
+        readings.push_back({display, system.appKitFrame(display.bounds)});
+    }
+    return readings;
+}
+
+// A long double holds every whole number of the description's without rounding.
+long double numberIn(const DeviceDescriptionValue& value) {
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+        return static_cast<long double>(*whole);
+    }
+    const auto* real = std::get_if<double>(&value);
+    return real != nullptr ? static_cast<long double>(*real) : -1;
+}
+
+std::optional<std::uint32_t> usableNumber(const sim::Display& display) {
+    const long double number = display.screenNumber ? numberIn(*display.screenNumber) : -1;
+    if (number >= 0 && number < 0x1p32L && std::floor(number) == number) {
+        return static_cast<std::uint32_t>(number);
+    }
+    return std::nullopt;
+}
+
+std::string identifierOf(const sim::Displays& system, std::uint32_t number) {
+    const std::optional<std::string> uuid = system.uuidOf(number);
+    return uuid && !system.uuidStringsFail() ? *uuid : "display-" + std::to_string(number);
+}
+
+} // namespace
+
+std::vector<KnownDisplay> enumerateDisplays(sim::Displays& system) {
+    std::vector<KnownDisplay> known;
+    for (const ScreenReading& reading : readScreens(system)) {
+        const std::optional<std::uint32_t> number = usableNumber(reading.display);
+        if (!number) {
+            continue;
+        }
+        const Rect& frame = reading.appKitFrame;
+        KnownDisplay display{identifierOf(system, *number),
+                             *number,
+                             reading.display.localizedName,
+                             frame.origin.x,
+                             frame.origin.y,
+                             frame.size.width,
+                             frame.size.height};
+        const std::vector<sim::Display> primaryFirst = system.read();
+        if (!primaryFirst.empty()) {
+            const double primaryHeight = std::fabs(primaryFirst[0].bounds.size.height);
+            display.top = primaryHeight - frame.origin.y - display.height;
+        }
+        known.push_back(std::move(display));
+    }
+    return known;
+}
+
+std::optional<std::string> mainIdentifier(const sim::Displays& system) {
+    const std::optional<sim::Display> main = system.main();
+    const std::optional<std::uint32_t> number = main ? usableNumber(*main) : std::nullopt;
+    return number ? std::optional(identifierOf(system, *number)) : std::nullopt;
+}
+
+namespace {
+
+std::optional<KnownDisplay> findByEnumerating(sim::Displays& system, const std::string& identifier) {
+    for (KnownDisplay& display : enumerateDisplays(system)) {
+        if (display.identifier == identifier) {
+            return std::move(display);
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+bool KnownDisplay::holds(Point point) const {
+    const bool inColumn = left <= point.x && point.x < left + width;
+    const bool inRow = top <= point.y && point.y < top + height;
+    return inColumn && inRow;
+}
+
+Resolution resolve(sim::Displays& system, const std::optional<std::string>& storedChoice) {
+    Resolution resolution;
+    resolution.displays = enumerateDisplays(system);
+    if (storedChoice) {
+        resolution.pinned = findByEnumerating(system, *storedChoice);
+    }
+    if (!resolution.pinned) {
+        if (const std::optional<std::string> main = mainIdentifier(system)) {
+            resolution.pinned = findByEnumerating(system, *main);
+        }
+    }
+    if (!resolution.pinned && !resolution.displays.empty()) {
+        resolution.pinned = resolution.displays[0];
+    }
+    std::optional<std::string> resolved;
+    if (resolution.pinned) {
+        resolved = resolution.pinned->identifier;
+    }
+    if (storedChoice && resolved != storedChoice) {
+        resolution.writes = true;
+        resolution.written = resolved;
+    }
+    return resolution;
+}
+
+Resolution expectedResolution(sim::Displays system, const std::optional<std::string>& storedChoice) {
+    return resolve(system, storedChoice);
+}
+
+double GuardState::bandDepth() const { return storedMargin > 0 ? storedMargin : 4; }
+
+const KnownDisplay* GuardState::displayUnder(Point point) const {
+    const auto first = std::find_if(displays.begin(), displays.end(),
+                                    [point](const KnownDisplay& display) { return display.holds(point); });
+    return first != displays.end() ? &*first : nullptr;
+}
+
+const KnownDisplay* GuardState::guardedDisplayUnder(Point point) const {
+    if (!enabled || displays.size() <= 1 || !pinned) {
+        return nullptr;
+    }
+    const KnownDisplay* display = displayUnder(point);
+    return display != nullptr && display->identifier != pinned->identifier ? display : nullptr;
+}
+
+Point expectedLocation(const GuardState& state, Point sent) {
+    const KnownDisplay* display = state.guardedDisplayUnder(sent);
+    if (display == nullptr) {
+        return sent;
+    }
+    const double bandTop = display->bottom() - 1 - state.bandDepth();
+    const double highest = display->top + 1;
+    return sent.y > bandTop ? Point{sent.x, std::max(highest, bandTop)} : sent;
+}
+
+} // namespace kestrune::simulate

@@ -1,0 +1,76 @@
+// What the application must do, worked out from its rules a second time and without its code: the judge of
+// the simulated sessions and of the properties.
+#pragma once
+
+#include "base/Geometry.h"
+#include "sim/session/Displays.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kestrune::simulate {
+
+// A display as the application must know it; its edges are in global display coordinates, in points.
+struct KnownDisplay {
+    std::string identifier;
+    std::uint32_t number;
+    std::string name;
+    double left;
+    double top;
+    double width;
+    double height;
+
+    double bottom() const { return top + height; }
+
+    // Minimum edges are inside, maximum edges are not.
+    bool holds(Point point) const;
+};
+
+// What a refresh must come to.
+struct Resolution {
+    std::vector<KnownDisplay> displays;
+    std::optional<KnownDisplay> pinned;
+
+    // Whether the stored choice is written, and with what; an absent text removes the entry.
+    bool writes = false;
+    std::optional<std::string> written;
+};
+
+// The displays that the application must list, in order; uses up readings of the system's list, as it does.
+std::vector<KnownDisplay> enumerateDisplays(sim::Displays& system);
+
+// The identifier of the main display; absent when there is none or it has no usable number.
+std::optional<std::string> mainIdentifier(const sim::Displays& system);
+
+// Uses up readings, as the refresh does. `storedChoice` is what stringForKey: answers.
+Resolution resolve(sim::Displays& system, const std::optional<std::string>& storedChoice);
+
+// The same for a copy of what the system knows at the moment of the refresh, whose readings are still unused
+// afterwards.
+Resolution expectedResolution(sim::Displays system, const std::optional<std::string>& storedChoice);
+
+// All that the decision about an event depends on.
+struct GuardState {
+    std::vector<KnownDisplay> displays;
+    std::optional<KnownDisplay> pinned;
+    bool enabled = true;
+
+    // What doubleForKey: answers for the margin.
+    double storedMargin = 0;
+
+    // The depth of the band, in points.
+    double bandDepth() const;
+
+    // The display that decides about a point, null when none does.
+    const KnownDisplay* displayUnder(Point point) const;
+
+    // The display under the point when its band is guarded there, null when nothing may change.
+    const KnownDisplay* guardedDisplayUnder(Point point) const;
+};
+
+// Where an event that was sent to `sent` must arrive, to the last bit.
+Point expectedLocation(const GuardState& state, Point sent);
+
+} // namespace kestrune::simulate
