@@ -53,14 +53,15 @@ DeskPicture withDisplaysAndPress(const DeskPicture& picture) {
 
 void StackPainter::paint(const Canvas& canvas, const DeskLayout& layout, const DeskPicture& picture) {
     std::map<Key, Sprites> painted;
-    const std::vector<StackedPart> stack = stackOf(picture);
-    for (auto part = stack.rbegin(); part != stack.rend(); ++part) {
-        const std::optional<Look> look = lookOf(*part, picture, canvas.palette);
-        const bool isWindow = part->kind == PartKind::window;
+    std::vector<StackedPart> fromBackToFront = stackOf(picture);
+    std::reverse(fromBackToFront.begin(), fromBackToFront.end());
+    for (const StackedPart& part : fromBackToFront) {
+        const std::optional<Look> look = lookOf(part, picture, canvas.palette);
+        const bool isWindow = part.kind == PartKind::window;
         for (std::size_t display = 0; look && display < picture.displays.size(); ++display) {
             const DisplayPlace* const place = layout.place(display);
-            if (place && (isWindow || display == part->display)) {
-                const Key key{part->kind, isWindow ? picture.windows[part->window].number : 0, display};
+            if (place && (isWindow || display == part.display)) {
+                const Key key{part.kind, isWindow ? picture.windows[part.window].number : 0, display};
                 Sprites& sprites = painted[key] = std::move(sprites_[key]);
                 paintOn(*place, canvas, *look, sprites);
             }
