@@ -1,23 +1,23 @@
 #include "platform/AccessibilityTrust.h"
 
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Accessibility.h"
+#include "sim/session/Current.h"
 
 namespace kestrune {
 
 bool isProcessTrusted() {
-    sim::Session& session = sim::Session::current();
-    const bool trusted = session.accessibility().readsAsTrusted();
-    session.journal().record("AXIsProcessTrusted() -> ", trusted);
+    const bool trusted = sim::current<sim::Accessibility>().readsAsTrusted();
+    sim::recordCall("AXIsProcessTrusted() -> ", trusted);
     return trusted;
 }
 
 bool isProcessTrustedWithOptions(const TrustOptions& options) {
-    sim::Session& session = sim::Session::current();
-    const bool trusted = session.accessibility().readsAsTrusted();
-    session.journal().record("AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: ", options.prompt,
-                             "}) -> ", trusted);
+    const bool trusted = sim::current<sim::Accessibility>().readsAsTrusted();
+    sim::recordCall("AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: ", options.prompt, "}) -> ",
+                    trusted);
     if (options.prompt && !trusted) {
-        session.accessibility().askUser();
+        sim::current<sim::Accessibility>().askUser();
     }
     return trusted;
 }

@@ -1,30 +1,29 @@
 #include "platform/AppService.h"
 
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/LoginItem.h"
 
 namespace kestrune {
 
 AppService AppService::mainAppService() {
-    sim::Session::current().journal().record("SMAppService.mainAppService");
+    sim::recordCall("SMAppService.mainAppService");
     return {};
 }
 
 AppServiceStatus AppService::status() const {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[SMAppService status]");
-    return session.loginItem().status();
+    sim::recordCall("-[SMAppService status]");
+    return sim::current<sim::LoginItem>().status();
 }
 
 std::optional<Error> AppService::registerAndReturnError() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[SMAppService registerAndReturnError:]");
-    return session.loginItem().registerItem();
+    sim::recordCall("-[SMAppService registerAndReturnError:]");
+    return sim::current<sim::LoginItem>().registerItem();
 }
 
 std::optional<Error> AppService::unregisterAndReturnError() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[SMAppService unregisterAndReturnError:]");
-    return session.loginItem().unregisterItem();
+    sim::recordCall("-[SMAppService unregisterAndReturnError:]");
+    return sim::current<sim::LoginItem>().unregisterItem();
 }
 
 } // namespace kestrune

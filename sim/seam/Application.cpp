@@ -1,7 +1,12 @@
 #include "platform/Application.h"
 
 #include "sim/seam/MenuState.h"
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/ApplicationState.h"
+#include "sim/session/Current.h"
+#include "sim/session/MainThread.h"
+#include "sim/session/Process.h"
+#include "sim/session/Windows.h"
 
 namespace kestrune {
 
@@ -22,84 +27,71 @@ std::string_view nameOf(ActivationPolicy policy) {
 } // namespace
 
 Application Application::sharedApplication() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("NSApplication.sharedApplication");
-    session.startApplication();
+    sim::recordCall("NSApplication.sharedApplication");
+    sim::current<sim::Process>().startApplication();
     return {};
 }
 
 std::optional<Application> Application::nsApp() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("NSApp");
-    return session.application().exists ? std::optional(Application()) : std::nullopt;
+    sim::recordCall("NSApp");
+    return sim::current<sim::ApplicationState>().exists ? std::optional(Application()) : std::nullopt;
 }
 
 void Application::setDelegate(const std::weak_ptr<ApplicationDelegate>& delegate) {
-    sim::Session& session = sim::Session::current();
     const auto object = delegate.lock();
-    session.journal().record("-[NSApplication setDelegate:] ", object ? object->className() : "nil");
-    session.application().delegate = delegate;
+    sim::recordCall("-[NSApplication setDelegate:] ", object ? object->className() : "nil");
+    sim::current<sim::ApplicationState>().delegate = delegate;
 }
 
 bool Application::setActivationPolicy(ActivationPolicy policy) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSApplication setActivationPolicy:] ", nameOf(policy));
-    session.application().policy = policy;
+    sim::recordCall("-[NSApplication setActivationPolicy:] ", nameOf(policy));
+    sim::current<sim::ApplicationState>().policy = policy;
     return true;
 }
 
 ActivationPolicy Application::activationPolicy() const {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSApplication activationPolicy]");
-    return session.application().policy;
+    sim::recordCall("-[NSApplication activationPolicy]");
+    return sim::current<sim::ApplicationState>().policy;
 }
 
 std::vector<Window> Application::windows() const {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSApplication windows]");
+    sim::recordCall("-[NSApplication windows]");
     std::vector<Window> windows;
-    for (const auto& window : session.windows().all()) {
+    for (const auto& window : sim::current<sim::Windows>().all()) {
         windows.emplace_back(window);
     }
     return windows;
 }
 
 void Application::setMainMenu(const Menu& menu) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSApplication setMainMenu:] ", menu.state()->items.size(), " items");
-    session.application().mainMenu = menu;
+    sim::recordCall("-[NSApplication setMainMenu:] ", menu.state()->items.size(), " items");
+    sim::current<sim::ApplicationState>().mainMenu = menu;
 }
 
 // The system takes its time.
 void Application::activateIgnoringOtherApps(bool ignoring) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSApplication activateIgnoringOtherApps:] ", ignoring);
-    session.enqueueOnMainQueue([&session] {
-        if (!session.refusesActivation()) {
-            session.windows().setActive(true);
-        }
-    });
+    sim::recordCall("-[NSApplication activateIgnoringOtherApps:] ", ignoring);
+    sim::current<sim::MainThread>().enqueue(
+        [&windows = sim::current<sim::Windows>()] { windows.activateByApplication(); });
 }
 
 // Returns after the launch: whoever drives the session is the loop that delivers the events.
 void Application::run() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSApplication run]");
-    session.application().isRunning = true;
-    if (const auto delegate = session.application().delegate.lock()) {
-        session.journal().record("-[", delegate->className(), " applicationDidFinishLaunching:]");
+    sim::recordCall("-[NSApplication run]");
+    sim::current<sim::ApplicationState>().isRunning = true;
+    if (const auto delegate = sim::current<sim::ApplicationState>().delegate.lock()) {
+        sim::recordCall("-[", delegate->className(), " applicationDidFinishLaunching:]");
         delegate->applicationDidFinishLaunching();
     }
 }
 
 void Application::terminate() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSApplication terminate:]");
-    if (const auto delegate = session.application().delegate.lock()) {
-        session.journal().record("-[", delegate->className(), " applicationWillTerminate:]");
+    sim::recordCall("-[NSApplication terminate:]");
+    if (const auto delegate = sim::current<sim::ApplicationState>().delegate.lock()) {
+        sim::recordCall("-[", delegate->className(), " applicationWillTerminate:]");
         delegate->applicationWillTerminate();
     }
-    session.endApplication();
+    sim::current<sim::Process>().end();
 }
 
 } // namespace kestrune

@@ -1,13 +1,14 @@
 #include "platform/CrashReport.h"
 
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/Process.h"
 
 namespace kestrune {
 
 void setCrashReportMessage(const std::string& message) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("crashreporter_annotations_t.message = ", message);
-    session.setCrashReportMessage(message);
+    sim::recordCall("crashreporter_annotations_t.message = ", message);
+    sim::current<sim::Process>().setCrashReportMessage(message);
 }
 
 } // namespace kestrune

@@ -1,7 +1,9 @@
 #include "platform/DisplayUUID.h"
 
 #include "sim/seam/LiveObject.h"
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/Displays.h"
 
 #include <utility>
 
@@ -17,9 +19,8 @@ struct DisplayUUID::State {
 DisplayUUID::DisplayUUID(std::shared_ptr<const State> state) : state_(std::move(state)) {}
 
 std::optional<DisplayUUID> DisplayUUID::createFromDisplayID(DisplayID displayID) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("CGDisplayCreateUUIDFromDisplayID(", displayID, ")");
-    std::optional<std::string> uuid = session.displays().uuidOf(displayID);
+    sim::recordCall("CGDisplayCreateUUIDFromDisplayID(", displayID, ")");
+    std::optional<std::string> uuid = sim::current<sim::Displays>().uuidOf(displayID);
     if (!uuid) {
         return std::nullopt;
     }
@@ -27,9 +28,8 @@ std::optional<DisplayUUID> DisplayUUID::createFromDisplayID(DisplayID displayID)
 }
 
 std::optional<std::string> DisplayUUID::createString() const {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("CFUUIDCreateString(kCFAllocatorDefault)");
-    if (session.displays().uuidStringsFail()) {
+    sim::recordCall("CFUUIDCreateString(kCFAllocatorDefault)");
+    if (sim::current<sim::Displays>().uuidStringsFail()) {
         return std::nullopt;
     }
     const sim::LiveObject string("string");

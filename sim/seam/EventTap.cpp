@@ -1,7 +1,11 @@
 #include "platform/EventTap.h"
 
+#include "sim/seam/RecordCall.h"
 #include "sim/seam/RunLoopState.h"
-#include "sim/session/Session.h"
+#include "sim/session/Accessibility.h"
+#include "sim/session/Current.h"
+#include "sim/session/Journal.h"
+#include "sim/session/TapChain.h"
 
 #include <array>
 #include <cstdio>
@@ -47,32 +51,30 @@ EventTap::EventTap(std::shared_ptr<State> state) : state_(std::move(state)) {}
 std::optional<EventTap> EventTap::create(EventTapLocation location, EventTapPlacement placement,
                                          EventTapOptions options, EventMask eventsOfInterest,
                                          EventTapCallback callback, void* userInfo) {
-    sim::Session& session = sim::Session::current();
-    if (session.journal().isRecording()) {
+    if (sim::current<sim::Journal>().isRecording()) {
         std::array<char, 24> mask;
         std::snprintf(mask.data(), mask.size(), "0x%08llX",
                       static_cast<unsigned long long>(eventsOfInterest));
-        session.journal().record("CGEventTapCreate(", nameOf(location), ", ", nameOf(placement), ", ",
-                                 nameOf(options), ", ", mask.data(), ")");
+        sim::recordCall("CGEventTapCreate(", nameOf(location), ", ", nameOf(placement), ", ", nameOf(options),
+                        ", ", mask.data(), ")");
     }
-    if (options == EventTapOptions::defaultTap && !session.allowsTapCreation()) {
-        session.accessibility().listApplication();
+    if (options == EventTapOptions::defaultTap && !sim::current<sim::Accessibility>().allowsTapCreation()) {
+        sim::current<sim::Accessibility>().listApplication();
         return std::nullopt;
     }
     auto tap = std::make_shared<sim::Tap>(
         sim::Tap{location, placement, options, eventsOfInterest, callback, userInfo});
-    session.taps().add(tap);
+    sim::current<sim::TapChain>().add(tap);
     return EventTap(std::make_shared<State>(std::move(tap)));
 }
 
 void EventTap::enable(bool enabled) const {
-    sim::Session::current().journal().record("CGEventTapEnable(tap, ", enabled, ")");
+    sim::recordCall("CGEventTapEnable(tap, ", enabled, ")");
     state_->tap->enabled = enabled;
 }
 
 RunLoopSource EventTap::createRunLoopSource(std::intptr_t order) const {
-    sim::Session::current().journal().record("CFMachPortCreateRunLoopSource(kCFAllocatorDefault, tap, ",
-                                             order, ")");
+    sim::recordCall("CFMachPortCreateRunLoopSource(kCFAllocatorDefault, tap, ", order, ")");
     return RunLoopSource(std::make_shared<RunLoopSource::State>(state_, state_->tap));
 }
 

@@ -1,7 +1,10 @@
 #include "sim/seam/HostedView.h"
 
+#include "sim/seam/RecordCall.h"
 #include "sim/seam/WindowState.h"
-#include "sim/session/Session.h"
+#include "sim/session/BundleContents.h"
+#include "sim/session/Current.h"
+#include "sim/session/MainThread.h"
 
 #include <string>
 #include <string_view>
@@ -27,13 +30,9 @@ std::string uppercase(std::string_view text) {
     return result;
 }
 
-std::string localized(std::string_view key) {
-    const auto& strings = Session::current().bundle().localizedStrings;
-    const auto entry = strings.find(key);
-    return entry != strings.end() ? entry->second : std::string(key);
-}
+std::string localized(std::string_view key) { return current<const BundleContents>().localized(key); }
 
-ui::LayoutContext layoutContext() { return {Session::current().measurer(), localized, uppercase}; }
+ui::LayoutContext layoutContext() { return {current<const ui::Measurer>(), localized, uppercase}; }
 
 // Who is to render: known only after the first description, which may change the model already.
 struct Renderer {
@@ -46,7 +45,7 @@ std::shared_ptr<HostedView> HostedView::make(ui::RootView root) {
     const auto renderer = std::make_shared<Renderer>();
     // A turn of the run loop later; never after the view is gone.
     auto view = std::make_shared<HostedView>(std::move(root), [renderer] {
-        Session::current().enqueueOnMainQueue([renderer] {
+        current<MainThread>().enqueue([renderer] {
             if (const auto alive = renderer->view.lock()) {
                 alive->render();
             }
@@ -71,7 +70,7 @@ void HostedView::setFollowed(bool isFollowed) {
 
 void HostedView::render() {
     if (host_.render()) {
-        Session::current().journal().record("the view changed");
+        recordCall("the view changed");
         fitWindow();
     }
 }

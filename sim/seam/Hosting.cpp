@@ -1,25 +1,24 @@
 #include "platform/Hosting.h"
 
 #include "sim/seam/HostedView.h"
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
 
 #include <utility>
 
 namespace kestrune {
 
 HostingController::HostingController(ui::RootView rootView) {
-    sim::Session::current().journal().record("-[NSHostingController initWithRootView:]");
+    sim::recordCall("-[NSHostingController initWithRootView:]");
     state_ = std::make_shared<State>(State{sim::HostedView::make(std::move(rootView))});
 }
 
 void HostingController::setSizingOptions(HostingSizingOptions options) {
-    sim::Session::current().journal().record("-[NSHostingController setSizingOptions:] ",
-                                             static_cast<std::uintptr_t>(options));
+    sim::recordCall("-[NSHostingController setSizingOptions:] ", static_cast<std::uintptr_t>(options));
     state_->view->setFollowed(contains(options, HostingSizingOptions::preferredContentSize));
 }
 
 HostingView::HostingView(ui::RootView rootView) {
-    sim::Session::current().journal().record("-[NSHostingView initWithRootView:]");
+    sim::recordCall("-[NSHostingView initWithRootView:]");
     state_ = std::make_shared<State>(State{sim::HostedView::make(std::move(rootView))});
     state_->view->setFollowed(true);
 }

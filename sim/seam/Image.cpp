@@ -1,7 +1,10 @@
 #include "platform/Image.h"
 
+#include "sim/seam/RecordCall.h"
 #include "sim/seam/StatusItemState.h"
-#include "sim/session/Session.h"
+#include "sim/session/BundleContents.h"
+#include "sim/session/Current.h"
+#include "sim/session/StatusItems.h"
 
 #include <utility>
 
@@ -10,13 +13,12 @@ namespace kestrune {
 Image::Image(std::shared_ptr<State> state) : state_(std::move(state)) {}
 
 std::optional<Image> Image::imageNamed(std::string_view name) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("+[NSImage imageNamed:] ", name);
-    const auto file = session.bundle().images.find(name);
-    if (file == session.bundle().images.end()) {
+    sim::recordCall("+[NSImage imageNamed:] ", name);
+    const auto file = sim::current<const sim::BundleContents>().images.find(name);
+    if (file == sim::current<const sim::BundleContents>().images.end()) {
         return std::nullopt;
     }
-    auto& named = session.statusItems().namedImages();
+    auto& named = sim::current<sim::StatusItems>().namedImages();
     const auto [known, isNew] = named.try_emplace(std::string(name));
     if (isNew) {
         known->second = std::make_shared<State>(State{std::string(name), file->second});
@@ -25,12 +27,12 @@ std::optional<Image> Image::imageNamed(std::string_view name) {
 }
 
 void Image::setTemplate(bool isTemplate) {
-    sim::Session::current().journal().record("-[NSImage setTemplate:] ", isTemplate);
+    sim::recordCall("-[NSImage setTemplate:] ", isTemplate);
     state_->isTemplate = isTemplate;
 }
 
 void Image::setSize(Size size) {
-    sim::Session::current().journal().record("-[NSImage setSize:] ", size.width, " x ", size.height);
+    sim::recordCall("-[NSImage setSize:] ", size.width, " x ", size.height);
     state_->size = size;
 }
 

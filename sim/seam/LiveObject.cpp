@@ -1,20 +1,22 @@
 #include "sim/seam/LiveObject.h"
 
-#include "sim/session/Session.h"
+#include "sim/session/Current.h"
+#include "sim/session/LiveObjects.h"
 
 namespace kestrune::sim {
 
 LiveObject::LiveObject(std::string_view kind, Release release)
-    : kind_(kind), release_(release), sessionNumber_(Session::current().number()) {
-    Session::current().countLiveObject(+1);
+    : kind_(kind), release_(release), all_(current<LiveObjects>().weak_from_this()) {
+    current<LiveObjects>().made();
 }
 
 LiveObject::~LiveObject() {
     // The session may be gone by now: nothing is left to count in.
-    if (Session* session = Session::withNumber(sessionNumber_)) {
-        session->countLiveObject(-1);
+    if (const auto all = all_.lock()) {
         if (release_ == Release::recorded) {
-            session->journal().record("CFRelease(", kind_, ")");
+            all->released(kind_);
+        } else {
+            all->gone();
         }
     }
 }

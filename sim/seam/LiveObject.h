@@ -2,10 +2,12 @@
 // journaled.
 #pragma once
 
-#include <cstdint>
+#include <memory>
 #include <string_view>
 
 namespace kestrune::sim {
+
+class LiveObjects;
 
 // Member of an implementation's state, so that it lives as long as the last reference.
 class LiveObject {
@@ -23,7 +25,7 @@ public:
 private:
     std::string_view kind_;
     Release release_;
-    std::uint64_t sessionNumber_;
+    std::weak_ptr<LiveObjects> all_;
 };
 
 } // namespace kestrune::sim

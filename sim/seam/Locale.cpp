@@ -1,18 +1,19 @@
 #include "platform/Locale.h"
 
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/Surroundings.h"
 
 namespace kestrune {
 
 Locale Locale::currentLocale() {
-    sim::Session::current().journal().record("NSLocale.currentLocale");
+    sim::recordCall("NSLocale.currentLocale");
     return {};
 }
 
 std::string Locale::localeIdentifier() const {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSLocale localeIdentifier]");
-    return session.surroundings().localeIdentifier;
+    sim::recordCall("-[NSLocale localeIdentifier]");
+    return sim::current<const sim::Surroundings>().localeIdentifier;
 }
 
 } // namespace kestrune

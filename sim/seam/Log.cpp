@@ -1,6 +1,8 @@
 #include "platform/Log.h"
 
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/LogRecords.h"
 
 #include <string>
 
@@ -12,9 +14,9 @@ struct Log::State {
 
     void append(std::string_view function, sim::LogLevel level, std::string_view message,
                 std::string_view format) const {
-        sim::Session& session = sim::Session::current();
-        session.journal().record(function, "(", category, ", ", message, ")");
-        session.appendLogRecord({level, subsystem, category, std::string(message), std::string(format)});
+        sim::recordCall(function, "(", category, ", ", message, ")");
+        sim::current<sim::LogRecords>().append(
+            {level, subsystem, category, std::string(message), std::string(format)});
     }
 
     void append(std::string_view function, sim::LogLevel level, LogMessage message) const {
@@ -31,7 +33,7 @@ struct Log::State {
 
 Log::Log(std::string_view subsystem, std::string_view category)
     : state_(std::make_shared<State>(State{std::string(subsystem), std::string(category)})) {
-    sim::Session::current().journal().record("os_log_create(", subsystem, ", ", category, ")");
+    sim::recordCall("os_log_create(", subsystem, ", ", category, ")");
 }
 
 void Log::debug(LogMessage message) const { state_->append("os_log_debug", sim::LogLevel::debug, message); }

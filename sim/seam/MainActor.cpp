@@ -1,29 +1,28 @@
 #include "platform/MainActor.h"
 
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/MainThread.h"
 
 #include <utility>
 
 namespace kestrune {
 
 void MainActor::startTask(std::function<void()> body) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("Task on the main actor");
-    session.enqueueOnMainQueue(std::move(body));
+    sim::recordCall("Task on the main actor");
+    sim::current<sim::MainThread>().enqueue(std::move(body));
 }
 
 void MainActor::startTask(std::chrono::milliseconds sleep, std::function<void()> body) {
     startTask([sleep, body = std::move(body)] {
-        sim::Session& session = sim::Session::current();
-        session.journal().record("Task.sleep(for: ", sleep.count(), " ms, clock: .continuous)");
-        session.enqueueOnMainQueue(body, sleep);
+        sim::recordCall("Task.sleep(for: ", sleep.count(), " ms, clock: .continuous)");
+        sim::current<sim::MainThread>().enqueue(body, sleep);
     });
 }
 
 bool MainActor::isCurrent() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("+[NSThread isMainThread]");
-    return session.isOnMainThread();
+    sim::recordCall("+[NSThread isMainThread]");
+    return sim::current<sim::MainThread>().isCurrent();
 }
 
 } // namespace kestrune

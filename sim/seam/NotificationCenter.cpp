@@ -1,39 +1,39 @@
 #include "platform/NotificationCenter.h"
 
 #include "sim/seam/NotificationState.h"
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/Observers.h"
 
 #include <utility>
 
 namespace kestrune {
 
 std::optional<Window> Notification::objectAsWindow() const {
-    sim::Session::current().journal().record("-[NSNotification object]");
+    sim::recordCall("-[NSNotification object]");
     return state_.window ? std::optional(Window(state_.window)) : std::nullopt;
 }
 
 OperationQueue OperationQueue::mainQueue() {
-    sim::Session::current().journal().record("NSOperationQueue.mainQueue");
+    sim::recordCall("NSOperationQueue.mainQueue");
     return {};
 }
 
 NotificationCenter NotificationCenter::defaultCenter() {
-    sim::Session::current().journal().record("NSNotificationCenter.defaultCenter");
+    sim::recordCall("NSNotificationCenter.defaultCenter");
     return {};
 }
 
 NotificationObserver NotificationCenter::addObserver(const NotificationName& name, const OperationQueue&,
                                                      std::function<void(const Notification&)> block) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSNotificationCenter addObserverForName:object:queue:usingBlock:] ",
-                             name.name(), ", nil, main queue");
-    return NotificationObserver(session.observers().add(name.name(), std::move(block)));
+    sim::recordCall("-[NSNotificationCenter addObserverForName:object:queue:usingBlock:] ", name.name(),
+                    ", nil, main queue");
+    return NotificationObserver(sim::current<sim::Observers>().add(name.name(), std::move(block)));
 }
 
 void NotificationCenter::removeObserver(const NotificationObserver& observer) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSNotificationCenter removeObserver:]");
-    session.observers().remove(*observer.state());
+    sim::recordCall("-[NSNotificationCenter removeObserver:]");
+    sim::current<sim::Observers>().remove(*observer.state());
 }
 
 } // namespace kestrune

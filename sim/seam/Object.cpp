@@ -1,7 +1,7 @@
 #include "platform/Object.h"
 
 #include "sim/seam/ObjectCounterpart.h"
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
 
 namespace kestrune {
 
@@ -10,7 +10,7 @@ Object::Object() = default;
 Object::~Object() = default;
 
 void Object::init() {
-    sim::Session::current().journal().record("-[", className(), " init]");
+    sim::recordCall("-[", className(), " init]");
     counterpart_ = std::make_unique<Counterpart>();
 }
 

@@ -1,18 +1,19 @@
 #include "platform/ProcessInfo.h"
 
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/Surroundings.h"
 
 namespace kestrune {
 
 ProcessInfo ProcessInfo::processInfo() {
-    sim::Session::current().journal().record("NSProcessInfo.processInfo");
+    sim::recordCall("NSProcessInfo.processInfo");
     return {};
 }
 
 OperatingSystemVersion ProcessInfo::operatingSystemVersion() const {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSProcessInfo operatingSystemVersion]");
-    return session.surroundings().operatingSystemVersion;
+    sim::recordCall("-[NSProcessInfo operatingSystemVersion]");
+    return sim::current<const sim::Surroundings>().operatingSystemVersion;
 }
 
 } // namespace kestrune

@@ -1,11 +1,12 @@
 #include "platform/ProcessLifetime.h"
 
-#include "sim/session/Session.h"
+#include "sim/session/Current.h"
+#include "sim/session/Process.h"
 
 namespace kestrune {
 
 std::shared_ptr<void>& ProcessLifetime::place(const void* key) {
-    return sim::Session::current().processObjects()[key];
+    return sim::current<sim::Process>().objects()[key];
 }
 
 } // namespace kestrune

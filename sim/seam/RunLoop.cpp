@@ -1,7 +1,9 @@
 #include "platform/RunLoop.h"
 
+#include "sim/seam/RecordCall.h"
 #include "sim/seam/RunLoopState.h"
-#include "sim/session/Session.h"
+#include "sim/session/Current.h"
+#include "sim/session/RunLoopSources.h"
 
 #include <string_view>
 #include <utility>
@@ -21,21 +23,19 @@ struct RunLoop::State {};
 RunLoopSource::RunLoopSource(std::shared_ptr<State> state) : state_(std::move(state)) {}
 
 RunLoop RunLoop::current() {
-    sim::Session::current().journal().record("CFRunLoopGetCurrent()");
-    // A session has one thread and so one run loop: the session itself.
+    sim::recordCall("CFRunLoopGetCurrent()");
+    // A session has one thread and so one run loop, whose sources are a service.
     return RunLoop(nullptr);
 }
 
 void RunLoop::addSource(const RunLoopSource& source, RunLoopMode mode) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("CFRunLoopAddSource(main, source, ", nameOf(mode), ")");
-    session.sources().add(source.state_, source.state_->tap, mode);
+    sim::recordCall("CFRunLoopAddSource(main, source, ", nameOf(mode), ")");
+    sim::current<sim::RunLoopSources>().add(source.state_, source.state_->tap, mode);
 }
 
 void RunLoop::removeSource(const RunLoopSource& source, RunLoopMode mode) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("CFRunLoopRemoveSource(main, source, ", nameOf(mode), ")");
-    session.sources().remove(source.state_, mode);
+    sim::recordCall("CFRunLoopRemoveSource(main, source, ", nameOf(mode), ")");
+    sim::current<sim::RunLoopSources>().remove(source.state_, mode);
 }
 
 } // namespace kestrune

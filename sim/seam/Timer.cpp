@@ -1,7 +1,9 @@
 #include "platform/Timer.h"
 
+#include "sim/seam/RecordCall.h"
 #include "sim/seam/TimerState.h"
-#include "sim/session/Session.h"
+#include "sim/session/Current.h"
+#include "sim/session/Timers.h"
 
 #include <chrono>
 #include <utility>
@@ -9,17 +11,14 @@
 namespace kestrune {
 
 Timer Timer::scheduledTimer(double interval, bool repeats, std::function<void(Timer&)> block) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("+[NSTimer scheduledTimerWithTimeInterval:repeats:block:] ", interval, ", ",
-                             repeats);
+    sim::recordCall("+[NSTimer scheduledTimerWithTimeInterval:repeats:block:] ", interval, ", ", repeats);
     const auto length = std::chrono::duration_cast<sim::Duration>(std::chrono::duration<double>(interval));
-    return Timer(session.timers().schedule(length, repeats, std::move(block)));
+    return Timer(sim::current<sim::Timers>().schedule(length, repeats, std::move(block)));
 }
 
 void Timer::invalidate() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSTimer invalidate]");
-    session.timers().invalidate(*state_);
+    sim::recordCall("-[NSTimer invalidate]");
+    sim::current<sim::Timers>().invalidate(*state_);
 }
 
 } // namespace kestrune

@@ -2,8 +2,10 @@
 
 #include "base/Fatal.h"
 #include "sim/formats/PercentEncoding.h"
+#include "sim/seam/RecordCall.h"
 #include "sim/seam/URLState.h"
-#include "sim/session/Session.h"
+#include "sim/session/Current.h"
+#include "sim/session/Links.h"
 
 namespace kestrune {
 
@@ -25,11 +27,11 @@ bool isScheme(std::string_view text) {
 } // namespace
 
 URLComponents::URLComponents() : state_(std::make_shared<State>()) {
-    sim::Session::current().journal().record("-[NSURLComponents init]");
+    sim::recordCall("-[NSURLComponents init]");
 }
 
 void URLComponents::setScheme(std::string_view scheme) {
-    sim::Session::current().journal().record("-[NSURLComponents setScheme:] ", scheme);
+    sim::recordCall("-[NSURLComponents setScheme:] ", scheme);
     if (!isScheme(scheme)) {
         fatal("NSInvalidArgumentException: the scheme of a URL has characters that it may not have.");
     }
@@ -37,7 +39,7 @@ void URLComponents::setScheme(std::string_view scheme) {
 }
 
 void URLComponents::setPath(std::string_view path) {
-    sim::Session::current().journal().record("-[NSURLComponents setPath:] ", path);
+    sim::recordCall("-[NSURLComponents setPath:] ", path);
     state_->path = path;
 }
 
@@ -51,14 +53,13 @@ void URLComponents::setQueryItems(std::span<const URLQueryItem> items) {
             state_->query += "=" + sim::encodedQueryText(*item.value);
         }
     }
-    sim::Session::current().journal().record("-[NSURLComponents setQueryItems:] ", names);
+    sim::recordCall("-[NSURLComponents setQueryItems:] ", names);
 }
 
 std::optional<URL> URLComponents::url() const {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSURLComponents URL]");
+    sim::recordCall("-[NSURLComponents URL]");
     // Two slashes would begin a host.
-    if (session.refusesURLs() || state_->path.starts_with("//")) {
+    if (sim::current<sim::Links>().refusesMaking() || state_->path.starts_with("//")) {
         return std::nullopt;
     }
     const std::string scheme = state_->scheme.empty() ? "" : state_->scheme + ":";

@@ -1,7 +1,10 @@
 #include "platform/Updater.h"
 
 #include "sim/seam/LiveObject.h"
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/DefaultsDomain.h"
+#include "sim/session/Updates.h"
 
 namespace kestrune {
 
@@ -27,36 +30,32 @@ std::string_view nameOf(const std::weak_ptr<Object>& delegate) {
 StandardUserDriver::StandardUserDriver(const Bundle&,
                                        const std::weak_ptr<StandardUserDriverDelegate>& delegate)
     : state_(std::make_shared<State>()) {
-    sim::Session::current().journal().record(
-        "-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, ", nameOf(delegate));
+    sim::recordCall("-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, ", nameOf(delegate));
     state_->delegate = delegate;
 }
 
 Updater::Updater(const Bundle&, const Bundle&, const StandardUserDriver& userDriver,
                  const std::weak_ptr<Object>& delegate)
     : state_(std::make_shared<State>()) {
-    sim::Session::current().journal().record(
+    sim::recordCall(
         "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] main bundle, main bundle, ",
         nameOf(delegate));
     state_->userDriver = userDriver.state();
 }
 
 std::optional<Error> Updater::startUpdater() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[SPUUpdater startUpdater:]");
-    return session.updates().start(state_->userDriver->delegate);
+    sim::recordCall("-[SPUUpdater startUpdater:]");
+    return sim::current<sim::Updates>().start(state_->userDriver->delegate);
 }
 
 void Updater::setAutomaticallyDownloadsUpdates(bool downloads) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[SPUUpdater setAutomaticallyDownloadsUpdates:] ", downloads);
-    session.defaults().set("SUAutomaticallyUpdate", sim::PropertyList{downloads});
+    sim::recordCall("-[SPUUpdater setAutomaticallyDownloadsUpdates:] ", downloads);
+    sim::current<sim::DefaultsDomain>().set("SUAutomaticallyUpdate", sim::PropertyList{downloads});
 }
 
 void Updater::checkForUpdates() {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[SPUUpdater checkForUpdates]");
-    session.updates().checkForUser();
+    sim::recordCall("-[SPUUpdater checkForUpdates]");
+    sim::current<sim::Updates>().checkForUser();
 }
 
 } // namespace kestrune

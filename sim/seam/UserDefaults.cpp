@@ -1,6 +1,8 @@
 #include "platform/UserDefaults.h"
 
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/DefaultsDomain.h"
 
 #include <utility>
 
@@ -12,9 +14,8 @@ struct UserDefaults::State {};
 namespace {
 
 const sim::PropertyList* stored(std::string_view selector, const UserDefaultsKey& key) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSUserDefaults ", selector, "] ", key.name());
-    return session.defaults().find(key.name());
+    sim::recordCall("-[NSUserDefaults ", selector, "] ", key.name());
+    return sim::current<sim::DefaultsDomain>().find(key.name());
 }
 
 } // namespace
@@ -24,7 +25,7 @@ UserDefaults::UserDefaults(std::unique_ptr<State> state) : state_(std::move(stat
 UserDefaults::~UserDefaults() = default;
 
 std::shared_ptr<UserDefaults> UserDefaults::standardUserDefaults() {
-    sim::Session::current().journal().record("NSUserDefaults.standardUserDefaults");
+    sim::recordCall("NSUserDefaults.standardUserDefaults");
     return std::shared_ptr<UserDefaults>(new UserDefaults(nullptr));
 }
 
@@ -48,17 +49,14 @@ std::optional<std::string> UserDefaults::stringForKey(const UserDefaultsKey& key
 }
 
 void UserDefaults::setBool(bool value, const UserDefaultsKey& key) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSUserDefaults setBool:forKey:] ", key.name(), " = ", value);
-    session.defaults().set(key.name(), sim::PropertyList{value});
+    sim::recordCall("-[NSUserDefaults setBool:forKey:] ", key.name(), " = ", value);
+    sim::current<sim::DefaultsDomain>().set(key.name(), sim::PropertyList{value});
 }
 
 void UserDefaults::setObject(std::optional<std::string_view> value, const UserDefaultsKey& key) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSUserDefaults setObject:forKey:] ", key.name(), " = ",
-                             value.value_or("nil"));
-    session.defaults().set(key.name(),
-                           value ? std::optional(sim::PropertyList{std::string(*value)}) : std::nullopt);
+    sim::recordCall("-[NSUserDefaults setObject:forKey:] ", key.name(), " = ", value.value_or("nil"));
+    sim::current<sim::DefaultsDomain>().set(
+        key.name(), value ? std::optional(sim::PropertyList{std::string(*value)}) : std::nullopt);
 }
 
 } // namespace kestrune

@@ -1,17 +1,14 @@
 #include "platform/Window.h"
 
 #include "sim/seam/HostedView.h"
+#include "sim/seam/RecordCall.h"
 #include "sim/seam/WindowState.h"
-#include "sim/session/Session.h"
+#include "sim/session/Current.h"
+#include "sim/session/Windows.h"
 
 namespace kestrune {
 
 namespace {
-
-template <typename... Parts>
-void recordCall(const Parts&... parts) {
-    sim::Session::current().journal().record(parts...);
-}
 
 std::string_view nameOf(WindowLevel level) {
     return level == WindowLevel::floating ? "NSFloatingWindowLevel" : "NSNormalWindowLevel";
@@ -31,82 +28,82 @@ void Window::State::setContentSize(Size size) {
 
 Window::Window(const Rect& contentRect, WindowStyleMask styleMask, BackingStoreType backing, bool defer)
     : state_(std::make_shared<State>()) {
-    recordCall("-[NSWindow initWithContentRect:styleMask:backing:defer:] ", contentRect.origin, " ",
-               contentRect.size.width, " x ", contentRect.size.height, ", ",
-               static_cast<std::uintptr_t>(styleMask), ", ", static_cast<std::uintptr_t>(backing), ", ",
-               defer);
+    sim::recordCall("-[NSWindow initWithContentRect:styleMask:backing:defer:] ", contentRect.origin, " ",
+                    contentRect.size.width, " x ", contentRect.size.height, ", ",
+                    static_cast<std::uintptr_t>(styleMask), ", ", static_cast<std::uintptr_t>(backing), ", ",
+                    defer);
     state_->styleMask = styleMask;
     state_->frame = contentRect;
     state_->frame.size.height += state_->titleBarHeight();
-    sim::Session::current().windows().add(state_);
+    sim::current<sim::Windows>().add(state_);
 }
 
 std::string Window::className() const {
-    recordCall("object_getClassName");
+    sim::recordCall("object_getClassName");
     return state_->className;
 }
 
 std::string Window::title() const {
-    recordCall("-[NSWindow title]");
+    sim::recordCall("-[NSWindow title]");
     return state_->title;
 }
 
 void Window::setTitle(std::string_view title) {
-    recordCall("-[NSWindow setTitle:] ", title);
+    sim::recordCall("-[NSWindow setTitle:] ", title);
     state_->title = title;
 }
 
 void Window::setReleasedWhenClosed(bool released) {
-    recordCall("-[NSWindow setReleasedWhenClosed:] ", released);
+    sim::recordCall("-[NSWindow setReleasedWhenClosed:] ", released);
     state_->isReleasedWhenClosed = released;
 }
 
 void Window::setLevel(WindowLevel level) {
-    recordCall("-[NSWindow setLevel:] ", nameOf(level));
+    sim::recordCall("-[NSWindow setLevel:] ", nameOf(level));
     state_->level = level;
 }
 
 void Window::setHidesOnDeactivate(bool hides) {
-    recordCall("-[NSWindow setHidesOnDeactivate:] ", hides);
+    sim::recordCall("-[NSWindow setHidesOnDeactivate:] ", hides);
     state_->hidesOnDeactivate = hides;
 }
 
 void Window::setCollectionBehavior(WindowCollectionBehavior behavior) {
-    recordCall("-[NSWindow setCollectionBehavior:] ", static_cast<std::uintptr_t>(behavior));
+    sim::recordCall("-[NSWindow setCollectionBehavior:] ", static_cast<std::uintptr_t>(behavior));
     state_->collectionBehavior = behavior;
 }
 
 void Window::center() {
-    recordCall("-[NSWindow center]");
-    sim::Session::current().windows().center(*state_);
+    sim::recordCall("-[NSWindow center]");
+    sim::current<sim::Windows>().center(*state_);
 }
 
 void Window::setContentViewController(const HostingController& controller) {
-    recordCall("-[NSWindow setContentViewController:]");
+    sim::recordCall("-[NSWindow setContentViewController:]");
     state_->content = controller.state()->view;
     state_->content->enter(state_);
 }
 
 void Window::setContentView(const HostingView& view) {
-    recordCall("-[NSWindow setContentView:]");
+    sim::recordCall("-[NSWindow setContentView:]");
     state_->content = view.state()->view;
     state_->content->enter(state_);
 }
 
 void Window::setDelegate(const std::weak_ptr<WindowDelegate>& delegate) {
     const auto object = delegate.lock();
-    recordCall("-[NSWindow setDelegate:] ", object ? object->className() : "nil");
+    sim::recordCall("-[NSWindow setDelegate:] ", object ? object->className() : "nil");
     state_->delegate = delegate;
 }
 
 void Window::makeKeyAndOrderFront() {
-    recordCall("-[NSWindow makeKeyAndOrderFront:]");
-    sim::Session::current().windows().makeKeyAndOrderFront(state_);
+    sim::recordCall("-[NSWindow makeKeyAndOrderFront:]");
+    sim::current<sim::Windows>().makeKeyAndOrderFront(state_);
 }
 
 void Window::orderOut() {
-    recordCall("-[NSWindow orderOut:]");
-    sim::Session::current().windows().orderOut(state_);
+    sim::recordCall("-[NSWindow orderOut:]");
+    sim::current<sim::Windows>().orderOut(state_);
 }
 
 } // namespace kestrune

@@ -1,16 +1,17 @@
 #include "platform/WindowController.h"
 
 #include "sim/seam/ObjectCounterpart.h"
-#include "sim/session/Session.h"
+#include "sim/seam/RecordCall.h"
+#include "sim/session/Current.h"
+#include "sim/session/Windows.h"
 
 namespace kestrune {
 
 void WindowController::initWithWindow(const Window& window) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[", className(), " initWithWindow:]");
+    sim::recordCall("-[", className(), " initWithWindow:]");
     counterpart_ = std::make_unique<Counterpart>();
     window_ = window;
-    session.windows().registerController(className(), sourcePath());
+    sim::current<sim::Windows>().registerController(className(), sourcePath());
 }
 
 } // namespace kestrune

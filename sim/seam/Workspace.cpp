@@ -1,19 +1,20 @@
 #include "platform/Workspace.h"
 
+#include "sim/seam/RecordCall.h"
 #include "sim/seam/URLState.h"
-#include "sim/session/Session.h"
+#include "sim/session/Current.h"
+#include "sim/session/Links.h"
 
 namespace kestrune {
 
 Workspace Workspace::sharedWorkspace() {
-    sim::Session::current().journal().record("NSWorkspace.sharedWorkspace");
+    sim::recordCall("NSWorkspace.sharedWorkspace");
     return {};
 }
 
 bool Workspace::openURL(const URL& url) {
-    sim::Session& session = sim::Session::current();
-    session.journal().record("-[NSWorkspace openURL:] ", url.state()->text);
-    return session.openURL(url.state()->text);
+    sim::recordCall("-[NSWorkspace openURL:] ", url.state()->text);
+    return sim::current<sim::Links>().open(url.state()->text);
 }
 
 } // namespace kestrune

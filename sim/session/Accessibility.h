@@ -37,8 +37,12 @@ public:
     // What AXIsProcessTrusted answers.
     bool readsAsTrusted() const;
 
-    // Whether active taps of the application can be created and are waited for in good order.
+    // Whether active taps of the application are waited for in good order.
     bool allowsActiveTaps() const { return permission_ == Permission::granted; }
+
+    // Fault: CGEventTapCreate refuses although the permission is there.
+    void refuseTapCreation(bool refuse) { refusesTapCreation_ = refuse; }
+    bool allowsTapCreation() const { return !refusesTapCreation_ && allowsActiveTaps(); }
 
     // The application asked for something that needs the permission: it gets a row, switched off.
     void listApplication();
@@ -71,6 +75,7 @@ private:
     Permission permission_;
     std::function<void(bool isInFront)> systemInFront_;
     bool isTrustDelayed_ = false;
+    bool refusesTapCreation_ = false;
     bool isDialogShown_ = false;
     bool isPaneShown_ = false;
 };

@@ -2,6 +2,11 @@
 
 namespace kestrune::sim {
 
+std::string BundleContents::localized(std::string_view key) const {
+    const auto entry = localizedStrings.find(key);
+    return entry != localizedStrings.end() ? entry->second : std::string(key);
+}
+
 std::optional<std::string> BundleContents::infoString(std::string_view key) const {
     const auto entry = infoDictionary.find(key);
     const auto* text =

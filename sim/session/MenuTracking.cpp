@@ -2,7 +2,11 @@
 
 #include "sim/seam/MenuState.h"
 #include "sim/seam/StatusItemState.h"
-#include "sim/session/Session.h"
+#include "sim/session/ApplicationState.h"
+#include "sim/session/BundleContents.h"
+#include "sim/session/Journal.h"
+#include "sim/session/StatusItems.h"
+#include "sim/session/Timers.h"
 
 #include <algorithm>
 #include <utility>
@@ -56,10 +60,10 @@ MenuRow rowOf(const MenuItem& item, bool isEnabled) {
 
 std::optional<Menu> MenuTracking::menuAt(const MenuPlace& place) const {
     if (const auto* index = std::get_if<StatusItemIndex>(&place)) {
-        const auto items = session_.statusItems().shown();
+        const auto items = statusItems_.shown();
         return index->value < items.size() ? items[index->value]->menu : std::nullopt;
     }
-    const auto& mainMenu = session_.application().mainMenu;
+    const auto& mainMenu = application_.mainMenu;
     const std::size_t index = std::get<MainMenuIndex>(place).value;
     if (mainMenuTitles().size() <= index) {
         return std::nullopt;
@@ -75,12 +79,12 @@ bool MenuTracking::open(const MenuPlace& place) {
     }
     menu_ = menu;
     place_ = place;
-    session_.timers().leaveDefaultMode();
+    timers_.leaveDefaultMode();
     if (const auto delegate = menu->state()->delegate.lock()) {
-        session_.journal().record("-[", delegate->className(), " menuWillOpen:]");
+        journal_.record("-[", delegate->className(), " menuWillOpen:]");
         delegate->menuWillOpen(*menu);
     }
-    // The delegate may have ended the application.
+    // The delegate may have ended the application_.
     return menu_.has_value();
 }
 
@@ -88,7 +92,7 @@ bool MenuTracking::isEnabled(const Menu& menu, const MenuItem& item) const {
     if (!menu.state()->autoenablesItems) {
         return item.state()->isEnabled;
     }
-    return item.state()->submenu || receiverOf(item, session_.application());
+    return item.state()->submenu || receiverOf(item, application_);
 }
 
 std::vector<MenuRow> MenuTracking::rows() const {
@@ -119,13 +123,13 @@ bool MenuTracking::endWith(const MenuItem& chosen) {
     place_.reset();
     const bool isSent = sendAction(chosen);
     if (wasOpen) {
-        session_.timers().enterDefaultMode();
+        timers_.enterDefaultMode();
     }
     return isSent;
 }
 
 bool MenuTracking::sendAction(const MenuItem& item) {
-    const Receiver receiver = receiverOf(item, session_.application());
+    const Receiver receiver = receiverOf(item, application_);
     if (receiver.isApplication) {
         Application::sharedApplication().terminate();
         return true;
@@ -133,7 +137,7 @@ bool MenuTracking::sendAction(const MenuItem& item) {
     if (receiver.method == nullptr) {
         return false;
     }
-    session_.journal().record("-[", receiver.object->className(), " ", receiver.method->selector.name(), "]");
+    journal_.record("-[", receiver.object->className(), " ", receiver.method->selector.name(), "]");
     const bool takesSender = receiver.method->selector.name().ends_with(':');
     receiver.method->perform(*receiver.object,
                              takesSender ? item : MenuItem(std::make_shared<MenuItem::State>()));
@@ -144,22 +148,22 @@ void MenuTracking::close() {
     if (menu_) {
         menu_.reset();
         place_.reset();
-        session_.timers().enterDefaultMode();
+        timers_.enterDefaultMode();
     }
 }
 
 std::vector<std::string> MenuTracking::mainMenuTitles() const {
-    const ApplicationState& application = session_.application();
     std::vector<std::string> titles;
-    if (!application.mainMenu || !application.isActive || application.policy != ActivationPolicy::regular) {
+    if (!application_.mainMenu || !application_.isActive ||
+        application_.policy != ActivationPolicy::regular) {
         return titles;
     }
-    for (const MenuItem& item : application.mainMenu->state()->items) {
+    for (const MenuItem& item : application_.mainMenu->state()->items) {
         const auto& submenu = item.state()->submenu;
         titles.push_back(submenu ? submenu->state()->title : item.state()->title);
     }
     if (!titles.empty()) {
-        titles.front() = session_.bundle().infoString("CFBundleName").value_or("Kestrune");
+        titles.front() = bundle_.infoString("CFBundleName").value_or("Kestrune");
     }
     return titles;
 }
@@ -184,9 +188,8 @@ bool MenuTracking::press(std::string_view keyEquivalent, EventModifierFlags modi
     if (keyEquivalent.empty()) {
         return false;
     }
-    const ApplicationState& application = session_.application();
     const std::optional<Menu> menu =
-        menu_ ? menu_ : (application.isActive ? application.mainMenu : std::nullopt);
+        menu_ ? menu_ : (application_.isActive ? application_.mainMenu : std::nullopt);
     const auto item = menu ? itemFor(*menu, keyEquivalent, modifiers) : std::nullopt;
     return item && endWith(*item);
 }

@@ -14,7 +14,11 @@
 
 namespace kestrune::sim {
 
-class Session;
+class Journal;
+class StatusItems;
+class Timers;
+struct ApplicationState;
+struct BundleContents;
 
 // One row as the user sees it.
 struct MenuRow {
@@ -41,8 +45,14 @@ using MenuPlace = std::variant<StatusItemIndex, MainMenuIndex>;
 
 class MenuTracking {
 public:
-    // `session` must outlive the tracking.
-    explicit MenuTracking(Session& session) : session_(session) {}
+    // All of them must outlive the tracking.
+    MenuTracking(const ApplicationState& application, const StatusItems& statusItems,
+                 const BundleContents& bundle, Timers& timers, Journal& journal)
+        : application_(application),
+          statusItems_(statusItems),
+          bundle_(bundle),
+          timers_(timers),
+          journal_(journal) {}
 
     // The user opens the menu there; one that is open closes before. Tells the menu's delegate. The menu that
     // shows is the one that was there when it was opened. False when there is none.
@@ -76,7 +86,11 @@ private:
     std::optional<MenuItem> itemFor(const Menu& menu, std::string_view keyEquivalent,
                                     EventModifierFlags modifiers) const;
 
-    Session& session_;
+    const ApplicationState& application_;
+    const StatusItems& statusItems_;
+    const BundleContents& bundle_;
+    Timers& timers_;
+    Journal& journal_;
     std::optional<Menu> menu_;
     std::optional<MenuPlace> place_;
 };

@@ -2,7 +2,10 @@
 
 #include "sim/seam/HostedView.h"
 #include "sim/seam/WindowState.h"
-#include "sim/session/Session.h"
+#include "sim/session/BundleContents.h"
+#include "sim/session/Journal.h"
+#include "sim/session/MainThread.h"
+#include "sim/session/Windows.h"
 
 #include <utility>
 #include <vector>
@@ -55,7 +58,7 @@ void Updates::check(bool isByUser) {
     if (stage_ == Stage::update) {
         if (isByUser) {
             announce();
-            session_.windows().makeKeyAndOrderFront(window_);
+            windows_.makeKeyAndOrderFront(window_);
         }
         return;
     }
@@ -65,7 +68,7 @@ void Updates::check(bool isByUser) {
         const ui::View cancel = ui::Button("Cancel", [this] { dismiss(); });
         show("Updating Kestrune", windowClass_, page("Checking for updates…", "", {cancel}), true);
     }
-    session_.enqueueOnMainQueue(
+    mainThread_.enqueue(
         [this, isByUser, number = sessionNumber_] {
             if (stage_ == Stage::checking && number == sessionNumber_) {
                 finishCheck(isByUser);
@@ -76,7 +79,7 @@ void Updates::check(bool isByUser) {
 
 void Updates::finishCheck(bool isByUser) {
     hide();
-    const bool hasAddress = session_.bundle().infoString("SUFeedURL").has_value();
+    const bool hasAddress = bundle_.infoString("SUFeedURL").has_value();
     const UpdateFeed feed = hasAddress ? feed_ : UpdateFeed::unreachable;
     if (feed == UpdateFeed::newVersion) {
         stage_ = Stage::update;
@@ -119,7 +122,7 @@ void Updates::showAlert(UpdateFeed feed) {
              ? page("You’re up to date!", "Kestrune is the newest version available.", {ok})
              : page("Update Error!", "An error occurred in retrieving update information.", {ok}),
          true);
-    session_.beginModalAlert();
+    mainThread_.beginModalAlert();
 }
 
 void Updates::dismiss() {
@@ -129,7 +132,7 @@ void Updates::dismiss() {
     const bool wasAlert = std::exchange(stage_, Stage::idle) == Stage::alert;
     hide();
     if (wasAlert) {
-        session_.endModalAlert();
+        mainThread_.endModalAlert();
         tell("standardUserDriverDidShowModalAlert",
              &StandardUserDriverDelegate::standardUserDriverDidShowModalAlert);
     }
@@ -146,25 +149,25 @@ void Updates::show(std::string_view title, std::string_view className, const ui:
     window_->hidesOnDeactivate = windowsHide_ && className != AlertClass;
     window_->content = HostedView::make({[content] { return content; }, nullptr});
     window_->content->enter(window_);
-    session_.windows().add(window_);
-    session_.windows().center(*window_);
+    windows_.add(window_);
+    windows_.center(*window_);
     if (asKey) {
-        session_.windows().makeKeyAndOrderFront(window_);
+        windows_.makeKeyAndOrderFront(window_);
     } else {
-        session_.windows().orderFront(window_);
+        windows_.orderFront(window_);
     }
 }
 
 void Updates::hide() {
     if (window_) {
-        session_.windows().orderOut(window_);
+        windows_.orderOut(window_);
         window_.reset();
     }
 }
 
 void Updates::tell(std::string_view selector, void (StandardUserDriverDelegate::*method)()) {
     if (const auto delegate = delegate_.lock()) {
-        session_.journal().record("-[", delegate->className(), " ", selector, "]");
+        journal_.record("-[", delegate->className(), " ", selector, "]");
         (delegate.get()->*method)();
     }
 }

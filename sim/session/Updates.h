@@ -20,7 +20,10 @@
 
 namespace kestrune::sim {
 
-class Session;
+class Journal;
+class MainThread;
+class Windows;
+struct BundleContents;
 
 // Whether the bundle has the framework, and whether that starts.
 enum class UpdateFramework { missing, broken, working };
@@ -36,7 +39,14 @@ public:
     // What the framework says when it does not start.
     static constexpr std::string_view StartFailure = "The updater failed to start.";
 
-    Updates(Session& session, UpdateFramework framework) : session_(session), framework_(framework) {}
+    // All of them must outlive this.
+    Updates(UpdateFramework framework, const BundleContents& bundle, MainThread& mainThread, Windows& windows,
+            Journal& journal)
+        : framework_(framework),
+          bundle_(bundle),
+          mainThread_(mainThread),
+          windows_(windows),
+          journal_(journal) {}
 
     // What the world is like. The framework is what it was when the application started it.
     void setFramework(UpdateFramework framework) { framework_ = framework; }
@@ -80,8 +90,11 @@ private:
     void hide();
     void tell(std::string_view selector, void (StandardUserDriverDelegate::*method)());
 
-    Session& session_;
     UpdateFramework framework_;
+    const BundleContents& bundle_;
+    MainThread& mainThread_;
+    Windows& windows_;
+    Journal& journal_;
     UpdateFeed feed_ = UpdateFeed::nothingNew;
     std::string windowClass_ = "NSWindow";
     bool windowsHide_ = false;

@@ -4,7 +4,10 @@
 #include "platform/NotificationCenter.h"
 #include "sim/seam/HostedView.h"
 #include "sim/seam/WindowState.h"
-#include "sim/session/Session.h"
+#include "sim/session/ApplicationState.h"
+#include "sim/session/Displays.h"
+#include "sim/session/Journal.h"
+#include "sim/session/Observers.h"
 
 #include <algorithm>
 
@@ -31,7 +34,7 @@ void withElement(const Windows::WindowState& window, std::size_t element, Action
 } // namespace
 
 std::vector<Windows::WindowState> Windows::shown() const {
-    const bool isActive = session_.application().isActive;
+    const bool isActive = application_.isActive;
     std::vector<WindowState> result;
     for (const auto& reference : ordered_) {
         if (auto window = reference.lock(); window && (isActive || !window->hidesOnDeactivate)) {
@@ -65,7 +68,7 @@ void Windows::add(const WindowState& window) {
 }
 
 Windows::WindowState Windows::keyWindow() const {
-    if (!session_.application().isActive) {
+    if (!application_.isActive) {
         return nullptr;
     }
     if (auto wanted = wantedKey_.lock(); wanted && wanted->isVisible) {
@@ -81,11 +84,11 @@ const ui::Scene& Windows::sceneOf(const Window::State& window) {
 }
 
 void Windows::center(Window::State& window) const {
-    const auto main = session_.displays().main();
+    const auto main = displays_.main();
     if (!main) {
         return;
     }
-    const Rect screen = session_.displays().appKitFrame(main->bounds);
+    const Rect screen = displays_.appKitFrame(main->bounds);
     window.frame.origin = {screen.minX() + (screen.width() - window.frame.width()) / 2,
                            screen.minY() + (screen.height() - window.frame.height()) * 2 / 3};
 }
@@ -131,15 +134,15 @@ void Windows::tellNewKeyWindow(const WindowState& before) const {
         return;
     }
     if (const auto delegate = key->delegate.lock()) {
-        session_.journal().record("-[", delegate->className(), " windowDidBecomeKey:]");
+        journal_.record("-[", delegate->className(), " windowDidBecomeKey:]");
         delegate->windowDidBecomeKey();
     }
-    session_.observers().post(WindowDidBecomeKeyNotification, key);
+    observers_.post(WindowDidBecomeKeyNotification, key);
 }
 
 void Windows::click(const WindowState& window) {
     const WindowState before = keyWindow();
-    session_.application().isActive = true;
+    application_.isActive = true;
     orderFront(window);
     wantedKey_ = window;
     tellNewKeyWindow(before);
@@ -150,7 +153,7 @@ void Windows::closeByUser(const WindowState& window) {
         return;
     }
     if (const auto delegate = window->delegate.lock()) {
-        session_.journal().record("-[", delegate->className(), " windowWillClose:]");
+        journal_.record("-[", delegate->className(), " windowWillClose:]");
         delegate->windowWillClose();
     }
     orderOut(window);
@@ -168,8 +171,8 @@ void Windows::miniaturizeByUser(const WindowState& window) {
 }
 
 void Windows::moveTo(const WindowState& window, Point topLeft) const {
-    window->frame = session_.displays().appKitFrame(
-        {topLeft.x, topLeft.y, window->frame.width(), window->frame.height()});
+    window->frame =
+        displays_.appKitFrame({topLeft.x, topLeft.y, window->frame.width(), window->frame.height()});
 }
 
 void Windows::pressButton(const WindowState& window, std::size_t element) {
@@ -206,8 +209,14 @@ bool Windows::press(ui::KeyboardShortcut shortcut) {
 
 void Windows::setActive(bool isActive) {
     const WindowState before = keyWindow();
-    session_.application().isActive = isActive;
+    application_.isActive = isActive;
     tellNewKeyWindow(before);
+}
+
+void Windows::activateByApplication() {
+    if (!refusesActivation_) {
+        setActive(true);
+    }
 }
 
 void Windows::registerController(std::string_view className, std::string_view sourcePath) {

@@ -16,14 +16,19 @@
 
 namespace kestrune::sim {
 
-class Session;
+class Displays;
+class Journal;
+class Observers;
+struct ApplicationState;
 
 class Windows {
 public:
     using WindowState = std::shared_ptr<Window::State>;
 
-    // `session` must outlive this.
-    explicit Windows(Session& session) : session_(session) {}
+    // All of them must outlive this.
+    Windows(ApplicationState& application, const Displays& displays, const Observers& observers,
+            Journal& journal)
+        : application_(application), displays_(displays), observers_(observers), journal_(journal) {}
 
     // The windows that are to be seen, the frontmost first: by level, and within a level the one first that
     // was ordered front last.
@@ -79,6 +84,10 @@ public:
     // The application becomes the active one, or ceases to be.
     void setActive(bool isActive);
 
+    // The same at the application's own wish. Fault: the system does not let it.
+    void activateByApplication();
+    void refuseActivation(bool refuse) { refusesActivation_ = refuse; }
+
     // The platform makes an object of the class itself, from an archive or from a bare window: both are
     // refused.
     void registerController(std::string_view className, std::string_view sourcePath);
@@ -93,7 +102,11 @@ private:
     void tellNewKeyWindow(const WindowState& before) const;
     static void requireUnreleased(const Window::State& window);
 
-    Session& session_;
+    ApplicationState& application_;
+    const Displays& displays_;
+    const Observers& observers_;
+    Journal& journal_;
+    bool refusesActivation_ = false;
     std::vector<std::weak_ptr<Window::State>> all_;
     std::vector<std::weak_ptr<Window::State>> ordered_; // the front one first, whatever its level
     std::weak_ptr<Window::State> wantedKey_;            // the one that was made key last

@@ -220,7 +220,7 @@ TEST_F(SettingsWindow, ActivatesTheApplicationAlsoWhenTheManagerIsGoneMeanwhile)
     session.updates().dismiss();
     settle();
     manager.reset();
-    session.processObjects().clear();
+    session.process().objects().clear();
     calls();
     session.advance(300ms);
     EXPECT_THAT(calls(), ElementsAreArray(ActivatingTheApplication));

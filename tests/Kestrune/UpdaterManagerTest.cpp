@@ -365,7 +365,7 @@ TEST_F(Updates, DoNothingAnyMoreOnceTheManagerIsGone) {
     manager->standardUserDriverWillFinishUpdateSession();
     const std::weak_ptr<UpdaterManager> weakManager = manager;
     manager.reset();
-    session.processObjects().clear();
+    session.process().objects().clear();
     ASSERT_TRUE(weakManager.expired());
     calls();
     settle();

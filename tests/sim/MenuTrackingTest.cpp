@@ -239,11 +239,11 @@ TEST_F(MenuTrackingTest, LeavesTimersWaitingBehindAnAlertWhenAKeyIsPressed) {
     showMainMenu();
     bool hasFired = false;
     const Timer timer = Timer::scheduledTimer(1, false, [&](Timer& /*timer*/) { hasFired = true; });
-    session_.beginModalAlert();
+    session_.mainThread().beginModalAlert();
     session_.advance(1s);
     EXPECT_TRUE(menus_.press("h", EventModifierFlags::command));
     EXPECT_FALSE(hasFired);
-    session_.endModalAlert();
+    session_.mainThread().endModalAlert();
     EXPECT_TRUE(hasFired);
 }
 

@@ -199,10 +199,10 @@ TEST(SessionApplicationPolicy, IsRegularUnlessTheBundleSaysOtherwise) {
 
 TEST_F(SessionApplicationTest, DropsItsMainQueueWithItsProcess) {
     Application::sharedApplication();
-    session_.enqueueOnMainQueue([this] { calls_.emplace_back("former"); });
+    session_.mainThread().enqueue([this] { calls_.emplace_back("former"); });
     session_.endApplication();
     Application::sharedApplication();
-    session_.enqueueOnMainQueue([this] { calls_.emplace_back("current"); });
+    session_.mainThread().enqueue([this] { calls_.emplace_back("current"); });
     session_.advance(1s);
     EXPECT_THAT(calls_, ElementsAre("current"));
 }

@@ -73,19 +73,14 @@ TEST(SessionDeathTest, StopsACallOfAnObjectThatSurvivedIt) {
     EXPECT_DEATH(uuid->createString(), NoSession);
 }
 
-TEST(Session, CanFollowAnother) {
-    std::uint64_t first = 0;
+TEST(SessionDeathTest, CanFollowAnother) {
     {
         const Session session;
-        first = session.number();
         EXPECT_EQ(&Session::current(), &session);
-        EXPECT_EQ(Session::withNumber(first), &session);
     }
-    EXPECT_EQ(Session::withNumber(first), nullptr);
+    EXPECT_DEATH(Session::current(), NoSession);
     const Session session;
-    EXPECT_NE(session.number(), first);
-    EXPECT_EQ(Session::withNumber(first), nullptr);
-    EXPECT_EQ(Session::withNumber(session.number()), &session);
+    EXPECT_EQ(&Session::current(), &session);
 }
 
 TEST(Session, StartsWithNothingOfTheOneBefore) {

@@ -44,18 +44,18 @@ TEST_F(SessionMainThreadTest, HearsOfChangedDisplaysOnceItsMainThreadIsFree) {
 }
 
 TEST_F(SessionMainThreadTest, WorksOffItsMainQueueInOrderWhenTimePasses) {
-    session_.enqueueOnMainQueue([this] {
+    session_.mainThread().enqueue([this] {
         calls_.emplace_back("first");
-        session_.enqueueOnMainQueue([this] { calls_.emplace_back("third"); });
+        session_.mainThread().enqueue([this] { calls_.emplace_back("third"); });
     });
-    session_.enqueueOnMainQueue([this] { calls_.emplace_back("second"); });
+    session_.mainThread().enqueue([this] { calls_.emplace_back("second"); });
     EXPECT_THAT(calls_, IsEmpty());
     session_.advance(0s);
     EXPECT_THAT(calls_, ElementsAre("first", "second", "third"));
 }
 
 TEST_F(SessionMainThreadTest, WorksOffItsMainQueueOnceItsMainThreadIsFree) {
-    session_.enqueueOnMainQueue([this] { calls_.emplace_back("task"); });
+    session_.mainThread().enqueue([this] { calls_.emplace_back("task"); });
     session_.stallMainThread(1s);
     session_.advance(999ms);
     EXPECT_THAT(calls_, IsEmpty());
@@ -84,7 +84,7 @@ TEST_F(SessionMainThreadTest, RefusesTextsAsURLsOnDemand) {
 }
 
 TEST_F(SessionMainThreadTest, DoesWorkOnAnotherThreadOnDemand) {
-    EXPECT_TRUE(session_.isOnMainThread());
+    EXPECT_TRUE(session_.mainThread().isCurrent());
     observeDisplays("observer");
     std::vector<bool> isCurrent;
     session_.onAnotherThread([&] {

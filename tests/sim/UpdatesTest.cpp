@@ -208,7 +208,7 @@ TEST_F(UpdatesTest, KeepTheMainQueueAndTheTimersWhileTheirAlertIsModal) {
     updates().checkForUser();
     session_.advance(500ms);
     ASSERT_TRUE(updates().isShowingAlert());
-    session_.enqueueOnMainQueue([&] { done.emplace_back("task"); });
+    session_.mainThread().enqueue([&] { done.emplace_back("task"); });
     session_.advance(5s);
     EXPECT_THAT(done, IsEmpty());
     updates().dismiss();
@@ -227,7 +227,7 @@ TEST_F(UpdatesTest, EndWithTheProcess) {
     EXPECT_FALSE(updates().isShowingAlert());
     EXPECT_THAT(titles(), IsEmpty());
     bool isDone = false;
-    session_.enqueueOnMainQueue([&] { isDone = true; });
+    session_.mainThread().enqueue([&] { isDone = true; });
     session_.advance(0s);
     EXPECT_TRUE(isDone);
     EXPECT_THAT(delegate_->told, ElementsAre("will alert"));

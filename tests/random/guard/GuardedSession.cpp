@@ -163,7 +163,7 @@ void GuardedSession::start() {
 }
 
 void GuardedSession::startOrBeRefused() {
-    const bool allowed = session_.allowsTapCreation();
+    const bool allowed = session_.accessibility().allowsTapCreation();
     const std::uint64_t writesBefore = writes_;
     guard_->start();
     require(writes_ == writesBefore, "starting wrote to the defaults");

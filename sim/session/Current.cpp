@@ -1,0 +1,11 @@
+#include "sim/session/Current.h"
+
+#include "base/Fatal.h"
+
+namespace kestrune::sim {
+
+void stopWithoutSession() { fatal("A platform call needs a simulated session."); }
+
+void stopBeforeSecondSession() { fatal("A simulated session exists already."); }
+
+} // namespace kestrune::sim

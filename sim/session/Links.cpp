@@ -1,0 +1,18 @@
+#include "sim/session/Links.h"
+
+#include "sim/session/Accessibility.h"
+
+namespace kestrune::sim {
+
+bool Links::open(const std::string& text) {
+    if (refusesOpening_) {
+        return false;
+    }
+    opened_.push_back(text);
+    if (text == Accessibility::PaneAddress) {
+        accessibility_.showPane();
+    }
+    return true;
+}
+
+} // namespace kestrune::sim

@@ -1,0 +1,85 @@
+// What the application meets of a simulated Mac: its services, each handed those that it needs.
+#pragma once
+
+#include "sim/session/Accessibility.h"
+#include "sim/session/ApplicationState.h"
+#include "sim/session/BundleContents.h"
+#include "sim/session/Current.h"
+#include "sim/session/DefaultsDomain.h"
+#include "sim/session/Displays.h"
+#include "sim/session/Dock.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
+#include "sim/session/Journal.h"
+#include "sim/session/Links.h"
+#include "sim/session/LiveObjects.h"
+#include "sim/session/LogRecords.h"
+#include "sim/session/LoginItem.h"
+#include "sim/session/MainThread.h"
+#include "sim/session/MenuTracking.h"
+#include "sim/session/Observers.h"
+#include "sim/session/Process.h"
+#include "sim/session/RunLoopSources.h"
+#include "sim/session/SessionOptions.h"
+#include "sim/session/StatusItems.h"
+#include "sim/session/Surroundings.h"
+#include "sim/session/TapChain.h"
+#include "sim/session/Timers.h"
+#include "sim/session/Updates.h"
+#include "sim/session/VirtualClock.h"
+#include "sim/session/Windows.h"
+#include "ui/layout/Layout.h"
+
+#include <memory>
+
+namespace kestrune::sim {
+
+// Each service is declared after those that it is handed. All that the seam asks for are current while this
+// lives.
+struct System {
+    explicit System(SessionOptions options);
+    ~System();
+
+    System(const System&) = delete;
+    System& operator=(const System&) = delete;
+
+    Journal journal;
+    VirtualClock clock;
+    Accessibility accessibility;
+    Displays displays;
+    Dock dock; // not met: the application sees nothing of it
+    DefaultsDomain defaults;
+    TapChain taps;
+    RunLoopSources sources;
+    const BundleContents bundle;
+    const Surroundings surroundings;
+    LoginItem loginItem;
+    Links links{accessibility};
+    LogRecords log;
+    ApplicationState application;
+    Process process;
+    Timers timers{clock};
+    MainThread mainThread{clock, timers};
+    Observers observers;
+    StatusItems statusItems;
+    MenuTracking menus{application, statusItems, bundle, timers, journal};
+    Windows windows{application, displays, observers, journal};
+    Updates updates;
+    const FixedAdvanceMeasurer fixedAdvance;
+    const ui::Measurer& measurer;
+    const std::shared_ptr<LiveObjects> liveObjects = std::make_shared<LiveObjects>(journal);
+
+private:
+    void systemCameForward(bool isInFront);
+    void endProcess();
+
+    // The last one, so that nothing is found any more while the others go.
+    AllCurrent<Journal, Accessibility, Displays, DefaultsDomain, TapChain, RunLoopSources,
+               const BundleContents, const Surroundings, LoginItem, Links, LogRecords, ApplicationState,
+               Process, Timers, MainThread, Observers, StatusItems, Windows, Updates, const ui::Measurer,
+               LiveObjects>
+        current_{journal,      accessibility, displays,    defaults, taps,        sources,  bundle,
+                 surroundings, loginItem,     links,       log,      application, process,  timers,
+                 mainThread,   observers,     statusItems, windows,  updates,     measurer, *liveObjects};
+};
+
+} // namespace kestrune::sim
