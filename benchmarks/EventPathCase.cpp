@@ -1,8 +1,10 @@
 #include "benchmarks/EventPathCase.h"
 
 #include "base/Geometry.h"
+#include "desk/replay/StoredChoices.h"
 #include "sim/session/Display.h"
 
+#include <optional>
 #include <utility>
 
 namespace kestrune::benchmarks {
@@ -29,11 +31,9 @@ sim::SessionOptions optionsOf(const EventPathRow& row) {
     options.displays = column(row.displayCount);
     options.recordJournal = false;
     const std::size_t pinned = row.place == Place::pinned ? row.displayCount - 1 : 0;
-    const std::string pinnedUUID = sim::uuidOfDisplay(numberOf(pinned));
-    options.defaults.emplace(Preferences::PinnedScreenUUIDKey.name(), sim::PropertyList{pinnedUUID});
-    if (row.isEnabledStored) {
-        options.defaults.emplace(Preferences::IsEnabledKey.name(), sim::PropertyList{true});
-    }
+    desk::store({.isEnabled = row.isEnabledStored ? std::optional(true) : std::nullopt,
+                 .pinnedScreenUUID = sim::uuidOfDisplay(numberOf(pinned))},
+                options.defaults);
     return options;
 }
 

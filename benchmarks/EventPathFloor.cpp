@@ -2,7 +2,6 @@
 
 #include "Kestrune/Preferences.h"
 #include "base/Fatal.h"
-#include "base/Geometry.h"
 
 #include <algorithm>
 #include <cstring>
@@ -25,10 +24,8 @@ namespace {
     const Point location = event->location();
     const Edges* const frames = floor.frames.data();
     // Unrolled by the library, which beats a loop of one's own from four displays on.
-    const Edges* const frame = std::find_if(frames, frames + count, [location](const Edges& edges) {
-        return location.x >= edges.minX && location.x < edges.maxX && location.y >= edges.minY &&
-               location.y < edges.maxY;
-    });
+    const Edges* const frame = std::find_if(
+        frames, frames + count, [location](const Edges& edges) { return edges.contains(location); });
     if (frame == frames + count) {
         return event;
     }
@@ -59,8 +56,7 @@ EventPathFloor makeFloor(const DockGuardController& controller, const UserDefaul
     EventPathFloor floor;
     floor.defaults = &defaults;
     for (const ManagedScreen& screen : controller.screensCache()) {
-        const Rect& frame = screen.cgFrame;
-        floor.frames[floor.displayCount] = {frame.minX(), frame.minY(), frame.maxX(), frame.maxY()};
+        floor.frames[floor.displayCount] = screen.cgFrame.edges();
         floor.identifiers[floor.displayCount] = screen.uuid;
         ++floor.displayCount;
     }

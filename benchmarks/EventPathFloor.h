@@ -6,6 +6,7 @@
 #pragma once
 
 #include "Kestrune/DockGuardController.h"
+#include "base/Geometry.h"
 #include "platform/Event.h"
 #include "platform/EventTap.h"
 #include "platform/UserDefaults.h"
@@ -15,14 +16,6 @@
 #include <string_view>
 
 namespace kestrune::benchmarks {
-
-// A rectangle that was standardized once: minimum edges are inside, maximum edges are not.
-struct Edges {
-    double minX = 0;
-    double minY = 0;
-    double maxX = 0;
-    double maxY = 0;
-};
 
 // What the guard has resolved, as plain data. The identifiers are borrowed from the controller that the floor
 // was made from.

@@ -2,6 +2,7 @@
 
 #include "Kestrune/Preferences.h"
 #include "base/Fatal.h"
+#include "desk/replay/StoredChoices.h"
 #include "platform/UserDefaults.h"
 #include "sim/session/Display.h"
 
@@ -24,9 +25,7 @@ sim::SessionOptions optionsFor(std::size_t displayCount) {
     for (const Rect& bounds : arrangementOf(displayCount)) {
         options.displays.push_back(sim::makeDisplay(++number, "Display", bounds));
     }
-    const std::string pinned = *options.displays.front().uuid;
-    options.defaults.emplace(Preferences::PinnedScreenUUIDKey.name(), sim::PropertyList{pinned});
-    options.defaults.emplace(Preferences::IsEnabledKey.name(), sim::PropertyList{true});
+    desk::store({.isEnabled = true, .pinnedScreenUUID = options.displays.front().uuid}, options.defaults);
     return options;
 }
 

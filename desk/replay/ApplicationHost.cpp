@@ -1,5 +1,7 @@
 #include "desk/replay/ApplicationHost.h"
 
+#include "desk/replay/StoredChoices.h"
+
 #include <algorithm>
 #include <optional>
 #include <vector>
@@ -62,11 +64,10 @@ bool ApplicationHost::chooseDisplay(DisplayID number) {
 
 bool ApplicationHost::flipSwitch() {
     // Before the setup is complete the switch leads to the wizard.
-    const sim::PropertyList* before = session_.defaults().find("isEnabled");
-    const bool wasEnabled = before == nullptr || before->asBool();
+    const StoredChoices choices(session_.defaults());
+    const bool wasEnabled = choices.isEnabled();
     choose(wasEnabled ? "Disable" : "Enable");
-    const sim::PropertyList* after = session_.defaults().find("isEnabled");
-    return after != nullptr && after->asBool() != wasEnabled;
+    return choices.isEnabled() != wasEnabled;
 }
 
 bool ApplicationHost::quit() {

@@ -1,30 +1,24 @@
 #include "desk/replay/SimulatedDesk.h"
 
+#include "desk/replay/StoredChoices.h"
+
 #include <string>
 
 namespace kestrune::desk {
 
 namespace {
 
-// Any margin that is not greater than 0 stands for this one.
-constexpr double UsualMargin = DockGuardController::DefaultBlockMargin;
-
 sim::SessionOptions sessionOptions(const DeskSetup& setup) {
     sim::SessionOptions options;
     options.displays = connectDisplays(setup.displays);
     options.recordJournal = false;
-    options.defaults.insert_or_assign("isEnabled", sim::PropertyList{setup.guardOn});
-    options.defaults.insert_or_assign("pinnedScreenUUID",
-                                      sim::PropertyList{*options.displays.at(setup.pinned).uuid});
-    if (setup.margin) {
-        options.defaults.insert_or_assign("blockMargin", sim::PropertyList{*setup.margin});
-    }
+    store({setup.guardOn, options.displays.at(setup.pinned).uuid, setup.margin}, options.defaults);
     return options;
 }
 
 JudgedDesk judgedDesk(const DeskSetup& setup) {
-    const double margin = setup.margin.value_or(UsualMargin);
-    return {setup.displays, setup.pinned, setup.guardOn, margin > 0 ? margin : UsualMargin};
+    const double margin = setup.margin.value_or(UsualBlockMargin);
+    return {setup.displays, setup.pinned, setup.guardOn, margin > 0 ? margin : UsualBlockMargin};
 }
 
 } // namespace

@@ -38,6 +38,7 @@ protected:
 
     ~GuardFixture() override { guard.stop(); }
 
+    // Tests of the application spell the entries out: users have stored their choices under these names.
     void store(std::string_view key, std::optional<sim::PropertyList> value) {
         session.defaults().set(key, std::move(value));
     }

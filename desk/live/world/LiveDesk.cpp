@@ -12,7 +12,6 @@ namespace kestrune::desk {
 
 namespace {
 
-constexpr double UsualMargin = DockGuardController::DefaultBlockMargin;
 constexpr double NarrowestMargin = 1;
 constexpr double DeepestMargin = 256;
 
@@ -183,15 +182,14 @@ Standing LiveDesk::standing() {
     result.applicationRuns = host_.isRunning();
     result.guardRuns = host_.guardIsRunning();
     result.isWatching = host_.isWatchingAccessibility();
-    result.isEnabled = isEnabled();
+    result.isEnabled = choices().isEnabled();
     result.permission = session_.accessibility().permission();
     const sim::Display* pinned = pinnedDisplay(session_);
     if (pinned != nullptr) {
         result.pinned = pinned->localizedName;
         result.pinnedHasDock = session_.dock().display() == pinned->displayID;
     }
-    const sim::PropertyList* choice = session_.defaults().find("pinnedScreenUUID");
-    result.choice = choice != nullptr ? choice->asString() : std::nullopt;
+    result.choice = choices().pinnedScreenUUID();
     result.loginItem = session_.loginItem().status();
     result.mails = parts_.mailAfterLinks().count();
     for (const auto& window : session_.windows().shown()) {
@@ -201,11 +199,6 @@ Standing LiveDesk::standing() {
         result.miniaturized.push_back(window->title);
     }
     return result;
-}
-
-bool LiveDesk::isEnabled() {
-    const sim::PropertyList* stored = session_.defaults().find("isEnabled");
-    return stored == nullptr || stored->asBool();
 }
 
 void LiveDesk::openLoginItems() {
@@ -287,20 +280,14 @@ void LiveDesk::timeOutTap() {
     news_ = newsOfTapTimeout(session_.taps().enabledCount() > 0);
 }
 
-void LiveDesk::deepenBand() { setMargin(std::exp2(std::floor(std::log2(margin())) + 1)); }
+void LiveDesk::deepenBand() { setMargin(std::exp2(std::floor(std::log2(choices().blockMargin())) + 1)); }
 
-void LiveDesk::narrowBand() { setMargin(std::exp2(std::ceil(std::log2(margin())) - 1)); }
+void LiveDesk::narrowBand() { setMargin(std::exp2(std::ceil(std::log2(choices().blockMargin())) - 1)); }
 
 void LiveDesk::setMargin(double wanted) {
     const double margin = std::clamp(wanted, NarrowestMargin, DeepestMargin);
-    session_.defaults().set("blockMargin", sim::PropertyList{margin});
+    choices().setBlockMargin(margin);
     news_ = newsOfMargin(margin);
-}
-
-double LiveDesk::margin() {
-    const sim::PropertyList* stored = session_.defaults().find("blockMargin");
-    const double margin = stored != nullptr ? stored->asDouble() : 0;
-    return margin > 0 ? margin : UsualMargin;
 }
 
 // Made from what is stored and connected, not from what the guard remembers.
@@ -313,8 +300,8 @@ JudgedDesk LiveDesk::judgedDesk() {
         }
         judged.displays.push_back(display.bounds);
     }
-    judged.guardOn = host_.guardIsRunning() && isEnabled();
-    judged.margin = margin();
+    judged.guardOn = host_.guardIsRunning() && choices().isEnabled();
+    judged.margin = choices().blockMargin();
     return judged;
 }
 
@@ -326,7 +313,7 @@ Whereabouts LiveDesk::whereabouts() {
     if (const sim::Display* pinned = pinnedDisplay(session_)) {
         result.pinned = pinned->localizedName;
     }
-    result.isPinStored = session_.defaults().find("pinnedScreenUUID") != nullptr;
+    result.isPinStored = choices().pinnedScreenUUID().has_value();
     if (const auto dock = session_.dock().display()) {
         result.dock = nameOf(dock);
     }

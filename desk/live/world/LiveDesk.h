@@ -9,6 +9,7 @@
 #include "desk/replay/ApplicationHost.h"
 #include "desk/replay/Judge.h"
 #include "desk/replay/Report.h"
+#include "desk/replay/StoredChoices.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
@@ -129,12 +130,11 @@ private:
     // Does something and tells what has changed by it.
     void tell(const std::function<PartsOutcome()>& action);
     Standing standing();
-    bool isEnabled();
+    StoredChoices choices() { return StoredChoices(session_.defaults()); }
     void noteDelivery(const sim::Delivery& delivery, bool answered);
     void noteDockMove(DisplayID from);
     void changeDisplays(std::vector<sim::Display> displays);
     void setMargin(double wanted);
-    double margin();
     JudgedDesk judgedDesk();
     Whereabouts whereabouts();
     std::string nameOf(std::optional<DisplayID> number);

@@ -2,6 +2,7 @@
 
 #include "desk/paint/toolkit/PangoMeasurer.h"
 #include "desk/replay/SimulatedDesk.h"
+#include "desk/replay/StoredChoices.h"
 #include "sim/formats/DefaultsFile.h"
 #include "sim/formats/ResourceFolder.h"
 
@@ -52,16 +53,8 @@ sim::SessionOptions sessionOptionsOf(const LiveDeskSetup& setup) {
     options.bundle = setup.bundle;
     options.measurer = setup.measurer != nullptr ? setup.measurer : &pangoMeasurer();
     options.defaults = setup.defaults;
-    if (setup.guardOn) {
-        options.defaults.insert_or_assign("isEnabled", sim::PropertyList{*setup.guardOn});
-    }
-    if (setup.pinned) {
-        options.defaults.insert_or_assign("pinnedScreenUUID",
-                                          sim::PropertyList{*options.displays.at(*setup.pinned).uuid});
-    }
-    if (setup.margin) {
-        options.defaults.insert_or_assign("blockMargin", sim::PropertyList{*setup.margin});
-    }
+    const auto pinned = setup.pinned ? options.displays.at(*setup.pinned).uuid : std::nullopt;
+    store({setup.guardOn, pinned, setup.margin}, options.defaults);
     return options;
 }
 

@@ -4,6 +4,7 @@
 #include "desk/live/hand/DeskKeys.h"
 #include "desk/live/world/PinnedDisplay.h"
 #include "desk/paint/desk/StatusBarPainter.h"
+#include "desk/replay/StoredChoices.h"
 
 #include <algorithm>
 #include <array>
@@ -27,15 +28,8 @@ std::string clockText(sim::Duration sinceStart) {
     return text.data();
 }
 
-double margin(sim::Session& session) {
-    const sim::PropertyList* stored = session.defaults().find("blockMargin");
-    const double margin = stored != nullptr ? stored->asDouble() : 0;
-    return margin > 0 ? margin : DockGuardController::DefaultBlockMargin;
-}
-
 GuardState guardState(sim::Session& session, const ApplicationHost& host) {
-    const sim::PropertyList* isEnabled = session.defaults().find("isEnabled");
-    if (!host.isRunning() || (isEnabled != nullptr && !isEnabled->asBool())) {
+    if (!host.isRunning() || !StoredChoices(session.defaults()).isEnabled()) {
         return GuardState::off;
     }
     if (!session.accessibility().allowsActiveTaps()) {
@@ -50,7 +44,8 @@ DisplayPicture pictureOfDisplay(const sim::Display& display, sim::Session& sessi
     picture.bounds = display.bounds;
     picture.pinned = &display == pinnedDisplay(session);
     if (!picture.pinned && session.displays().connected().size() >= 2) {
-        picture.bandTop = BlockedBand(display.bounds, margin(session)).heldY();
+        picture.bandTop =
+            BlockedBand(display.bounds, StoredChoices(session.defaults()).blockMargin()).heldY();
     }
     picture.wallpaper = display.displayID - 1;
     return picture;

@@ -1,5 +1,7 @@
 #include "desk/live/world/PinnedDisplay.h"
 
+#include "desk/replay/StoredChoices.h"
+
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -8,8 +10,7 @@ namespace kestrune::desk {
 
 const sim::Display* pinnedDisplay(sim::Session& session) {
     const auto& connected = session.displays().connected();
-    const sim::PropertyList* stored = session.defaults().find("pinnedScreenUUID");
-    const std::optional<std::string> choice = stored != nullptr ? stored->asString() : std::nullopt;
+    const std::optional<std::string> choice = StoredChoices(session.defaults()).pinnedScreenUUID();
     const auto chosen = std::find_if(connected.begin(), connected.end(), [&](const sim::Display& display) {
         return choice && display.uuid == choice;
     });

@@ -4,6 +4,7 @@
 
 #include "desk/live/world/ScreenParts.h"
 #include "desk/replay/ApplicationHost.h"
+#include "desk/replay/StoredChoices.h"
 
 #include <gtest/gtest.h>
 
@@ -66,10 +67,7 @@ protected:
         return std::nullopt;
     }
 
-    std::string storedChoice() {
-        const sim::PropertyList* stored = session.defaults().find("pinnedScreenUUID");
-        return stored != nullptr ? stored->asString().value_or("") : "";
-    }
+    std::string storedChoice() { return StoredChoices(session.defaults()).pinnedScreenUUID().value_or(""); }
 
     // As one of the application's windows does when it opens.
     void makeRegular() {

@@ -26,8 +26,6 @@
 
 namespace kestrune::simulate {
 
-constexpr std::string_view OnboardingEntry = "hasCompletedOnboarding";
-
 // The updater's own.
 constexpr std::string_view DownloadsEntry = "SUAutomaticallyUpdate";
 

@@ -1,22 +1,12 @@
 #include "tests/random/application/ShellSession.h"
 
+#include "desk/replay/StoredChoices.h"
 #include "platform/Application.h"
 
 #include <chrono>
 #include <utility>
 
 namespace kestrune::simulate {
-
-namespace {
-
-void put(sim::PropertyListDictionary& dictionary, std::string_view key,
-         const std::optional<sim::PropertyList>& value) {
-    if (value) {
-        dictionary.emplace(key, *value);
-    }
-}
-
-} // namespace
 
 ShellSession::ShellSession(const ShellBeginning& beginning)
     : session_(options(beginning)), model_(beginning) {
@@ -31,9 +21,9 @@ sim::SessionOptions ShellSession::options(const ShellBeginning& beginning) {
     sim::SessionOptions result;
     result.displays = beginning.displays;
     result.permission = beginning.permission;
-    put(result.defaults, SwitchEntry, beginning.entries.isEnabled.stored);
-    put(result.defaults, ChoiceEntry, beginning.entries.choice.stored);
-    put(result.defaults, OnboardingEntry, beginning.entries.onboarding.stored);
+    put(result.defaults, desk::entries::IsEnabled, beginning.entries.isEnabled.stored);
+    put(result.defaults, desk::entries::PinnedScreenUUID, beginning.entries.choice.stored);
+    put(result.defaults, desk::entries::HasCompletedOnboarding, beginning.entries.onboarding.stored);
     put(result.defaults, DownloadsEntry, beginning.entries.downloads);
     sim::PropertyListDictionary& info = result.bundle.infoDictionary;
     put(info, "CFBundleShortVersionString", beginning.bundle.version);
@@ -154,19 +144,19 @@ void ShellSession::setUUIDStringsFail(bool fail) {
 }
 
 void ShellSession::store(const StoredSwitch& isEnabled) {
-    session_.defaults().set(SwitchEntry, isEnabled.stored);
+    session_.defaults().set(desk::entries::IsEnabled, isEnabled.stored);
     model_.store(isEnabled);
     check();
 }
 
 void ShellSession::store(const StoredChoice& choice) {
-    session_.defaults().set(ChoiceEntry, choice.stored);
+    session_.defaults().set(desk::entries::PinnedScreenUUID, choice.stored);
     model_.store(choice);
     check();
 }
 
 void ShellSession::storeOnboarding(const StoredFlag& completed) {
-    session_.defaults().set(OnboardingEntry, completed.stored);
+    session_.defaults().set(desk::entries::HasCompletedOnboarding, completed.stored);
     model_.storeOnboarding(completed);
     check();
 }

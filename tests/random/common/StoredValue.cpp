@@ -115,6 +115,13 @@ const std::vector<StoredChoice>& remarkableChoices() {
     return choices;
 }
 
+void put(sim::PropertyListDictionary& dictionary, std::string_view key,
+         const std::optional<PropertyList>& value) {
+    if (value) {
+        dictionary.emplace(key, *value);
+    }
+}
+
 bool holdsExactly(const PropertyList* found, const std::optional<PropertyList>& expected) {
     if (found == nullptr || !expected) {
         return found == nullptr && !expected;

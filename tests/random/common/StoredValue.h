@@ -12,11 +12,6 @@
 
 namespace kestrune::simulate {
 
-// The entries of the application's domain, by name.
-constexpr std::string_view MarginEntry = "blockMargin";
-constexpr std::string_view SwitchEntry = "isEnabled";
-constexpr std::string_view ChoiceEntry = "pinnedScreenUUID";
-
 // What an entry holds, absent for an entry that is not there, and what it reads as. The two belong together,
 // so there is no default.
 template <typename Reading>
@@ -54,6 +49,10 @@ StoredSwitch randomSwitch(Random& random, double chanceOfOn);
 
 // Absent, of the wrong type, or naming no display that the arrangements here have.
 const std::vector<StoredChoice>& remarkableChoices();
+
+// For the domain to begin with; does nothing for an absent value.
+void put(sim::PropertyListDictionary& dictionary, std::string_view key,
+         const std::optional<sim::PropertyList>& value);
 
 // Whether an entry holds exactly that, also when it is not a number; `found` is null for no entry.
 bool holdsExactly(const sim::PropertyList* found, const std::optional<sim::PropertyList>& expected);

@@ -1,22 +1,12 @@
 #include "tests/random/guard/GuardedSession.h"
 
+#include "desk/replay/StoredChoices.h"
 #include "platform/AccessibilityTrust.h"
 #include "tests/random/guard/Judge.h"
 
 #include <utility>
 
 namespace kestrune::simulate {
-
-namespace {
-
-void put(sim::PropertyListDictionary& dictionary, std::string_view key,
-         const std::optional<sim::PropertyList>& value) {
-    if (value) {
-        dictionary.emplace(key, *value);
-    }
-}
-
-} // namespace
 
 Counts& Counts::operator+=(const Counts& other) {
     events += other.events;
@@ -48,9 +38,9 @@ sim::SessionOptions GuardedSession::options(std::vector<sim::Display> displays, 
                                             sim::Duration dockDwell, bool cursorFollowsEvents) {
     sim::SessionOptions result;
     result.displays = std::move(displays);
-    put(result.defaults, MarginEntry, entries.margin.stored);
-    put(result.defaults, SwitchEntry, entries.isEnabled.stored);
-    put(result.defaults, ChoiceEntry, entries.choice.stored);
+    put(result.defaults, desk::entries::BlockMargin, entries.margin.stored);
+    put(result.defaults, desk::entries::IsEnabled, entries.isEnabled.stored);
+    put(result.defaults, desk::entries::PinnedScreenUUID, entries.choice.stored);
     result.recordJournal = false;
     result.cursorFollowsEvents = cursorFollowsEvents;
     result.dockDwell = dockDwell;
@@ -84,18 +74,18 @@ void GuardedSession::storeFromOutside(std::string_view key, const std::optional<
 void GuardedSession::store(const StoredMargin& margin) {
     entries_.margin = margin;
     expected_.storedMargin = margin.reading;
-    storeFromOutside(MarginEntry, margin.stored);
+    storeFromOutside(desk::entries::BlockMargin, margin.stored);
 }
 
 void GuardedSession::store(const StoredSwitch& isEnabled) {
     entries_.isEnabled = isEnabled;
     expected_.enabled = isEnabled.reading;
-    storeFromOutside(SwitchEntry, isEnabled.stored);
+    storeFromOutside(desk::entries::IsEnabled, isEnabled.stored);
 }
 
 void GuardedSession::store(const StoredChoice& choice) {
     entries_.choice = choice;
-    storeFromOutside(ChoiceEntry, choice.stored);
+    storeFromOutside(desk::entries::PinnedScreenUUID, choice.stored);
 }
 
 void GuardedSession::setPermission(sim::Permission permission) {
