@@ -84,17 +84,14 @@ private:
         desk_.movePointerTowards({pointer.x + distance, pointer.y}, EventType::leftMouseDragged);
     }
 
-    std::optional<WindowPicture> settings() {
-        const DeskPicture picture = pictureOf(desk_);
-        return picture.windows.empty() ? std::nullopt : std::optional(picture.windows.front());
-    }
+    std::optional<WindowPicture> settings() { return desk_.parts().applicationWindow(); }
 
     template <typename Wanted>
     std::optional<DeskTarget> firstControl() {
         const auto window = settings();
         for (std::size_t element = 0; window && element < window->scene.elements.size(); ++element) {
             if (std::holds_alternative<Wanted>(window->scene.elements[element])) {
-                return WindowControlTarget{window->number, element};
+                return DeskTarget::control(window->number, element);
             }
         }
         return std::nullopt;

@@ -42,12 +42,14 @@ public:
     void pointAtRow(std::string_view title);
     void clickRow(std::string_view title);
 
-    // Moves over the button or switch of one of the application's windows that has that title; the second
-    // also clicks there.
+    // Moves over the button or switch that has that title, in the frontmost window that has one; the second
+    // also clicks there, and the third leaves the letting go to another call.
     void pointAtControl(std::string_view title);
     void clickControl(std::string_view title);
+    void holdControl(std::string_view title);
+    void letGo();
 
-    // The close button of one of the application's windows, by its title.
+    // The close button of a window, by its title.
     void closeWindow(std::string_view title);
 
 private:
@@ -55,10 +57,12 @@ private:
     std::optional<DeskTarget> controlWith(std::string_view title);
     void miss(const std::string& name);
     bool reach(const std::optional<DeskTarget>& target, const std::string& name);
+    void hold(const std::optional<DeskTarget>& target, const std::string& name);
     void use(const std::optional<DeskTarget>& target, const std::string& name);
 
     LiveDesk& desk_;
     DeskHitTest hitTest_;
+    std::optional<DeskTarget> held_;
     std::optional<std::string> missing_;
 };
 

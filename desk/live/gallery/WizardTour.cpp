@@ -63,7 +63,7 @@ public:
         takeShot(state, WizardLook::inBackground, shots);
         bringToFront();
 
-        const std::size_t element = std::get<WindowControlTarget>(*button).element;
+        const std::size_t element = button->index;
         for (std::size_t step = 0; step < wizard()->scene.elements.size(); ++step) {
             desk_.navigate(NavigationKey::tab);
             if (wizard()->focusedElement == element) {
@@ -74,10 +74,7 @@ public:
     }
 
 private:
-    std::optional<WindowPicture> wizard() {
-        const DeskPicture picture = pictureOf(desk_);
-        return picture.windows.empty() ? std::nullopt : std::optional(picture.windows.front());
-    }
+    std::optional<WindowPicture> wizard() { return desk_.parts().applicationWindow(); }
 
     // The button that leads on is drawn by the application itself.
     std::optional<DeskTarget> mainButton() {
@@ -85,7 +82,7 @@ private:
         for (std::size_t element = 0; window && element < window->scene.elements.size(); ++element) {
             const auto* const button = std::get_if<ui::ButtonElement>(&window->scene.elements[element]);
             if (button != nullptr && button->kind == ui::ButtonElement::Kind::custom) {
-                return WindowControlTarget{window->number, element};
+                return DeskTarget::control(window->number, element);
             }
         }
         return std::nullopt;
@@ -93,7 +90,7 @@ private:
 
     void bringToFront() {
         if (const auto window = wizard()) {
-            hand_.click(WindowTitleTarget{window->number});
+            hand_.click(DeskTarget::titleBar(window->number));
         }
         settle();
     }

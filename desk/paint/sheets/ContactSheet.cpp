@@ -30,9 +30,10 @@ void paintAlone(cairo_t* context, Point topLeft, const WindowPicture& shown, boo
     const SavedState saved{context};
     cairo_translate(context, topLeft.x - shown.frame.minX(), topLeft.y - shown.frame.minY());
     TextPainter text{context};
-    const Canvas canvas{context, text, paletteFor(dark)};
+    ImageStore images;
+    const Canvas canvas{context, text, images, paletteFor(dark)};
     const WindowLayout layout = windowLayout(shown);
-    paintPanel(canvas, layout.frame, applicationWindowStyle(canvas.palette, shown.isKey));
+    paintPanel(canvas, layout.frame, windowPanelStyle(canvas.palette, shown));
     paintWindow(canvas, layout, shown);
 }
 
