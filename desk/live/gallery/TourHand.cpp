@@ -106,6 +106,12 @@ void TourHand::use(const std::optional<DeskTarget>& target, const std::string& n
 
 void TourHand::pointAt(const DeskTarget& target) { reach(target, std::visit(NameOfTarget{}, target)); }
 
+void TourHand::press(const DeskTarget& target) {
+    if (reach(target, std::visit(NameOfTarget{}, target))) {
+        desk_.pressButton(target);
+    }
+}
+
 void TourHand::click(const DeskTarget& target) { use(target, std::visit(NameOfTarget{}, target)); }
 
 void TourHand::openMenu(DisplayID number) {
