@@ -65,6 +65,7 @@ int runCommandLine(std::span<const std::string_view> words) {
 } // namespace
 } // namespace kestrune::desk
 
+// NOLINTNEXTLINE(bugprone-exception-escape): a mode always has a value.
 int main(int argumentCount, char** arguments) {
     const std::vector<std::string_view> words(arguments + 1, arguments + argumentCount);
     return kestrune::desk::runCommandLine(words);

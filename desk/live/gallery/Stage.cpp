@@ -4,6 +4,8 @@
 #include "desk/live/world/PinnedDisplay.h"
 #include "desk/paint/toolkit/RectMath.h"
 
+#include <utility>
+
 namespace kestrune::desk {
 
 namespace {
@@ -24,12 +26,22 @@ Stage::Stage(const LiveDeskSetup& setup) : desk_(setup), first_(pinnedDisplay(de
     }
 }
 
+std::optional<WindowPicture> Stage::window() {
+    const DeskPicture picture = pictureOf(desk_);
+    return picture.windows.empty() ? std::nullopt : std::optional(picture.windows.front());
+}
+
 std::variant<DeskPicture, std::string> Stage::perform(const Scene& scene) {
     desk_.advance(Pause);
     std::string story = scene.play(*this);
     DeskPicture picture = pictureOf(desk_);
-    if (scene.frame == Frame::window && picture.windows.empty()) {
-        hand_.miss("a window");
+    if (scene.frame == Frame::window) {
+        picture.windows.clear();
+        if (auto shown = window()) {
+            picture.windows.push_back(*std::move(shown));
+        } else {
+            hand_.miss("a window");
+        }
     }
     if (const auto& missing = hand_.missing()) {
         return *missing;

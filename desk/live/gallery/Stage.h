@@ -40,8 +40,12 @@ public:
     // Another one; absent unless both have a bottom edge that the pointer can be pushed against.
     std::optional<DisplayID> other() const { return other_; }
 
-    // Plays a scene after those before it. What it shows, with its words as the story and without keys, or
-    // what was not there that it needs, as in: the menu row “Disable”.
+    // The application's frontmost window.
+    std::optional<WindowPicture> window();
+
+    // Plays a scene after those before it. What it shows, with its words as the story, without keys and,
+    // where it is about one window, with no other; or what was not there that it needs, as in: the menu row
+    // “Disable”.
     std::variant<DeskPicture, std::string> perform(const Scene& scene);
 
 private:

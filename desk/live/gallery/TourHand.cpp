@@ -79,6 +79,13 @@ void TourHand::push(DisplayID number, EventType type) {
     }
 }
 
+void TourHand::press(const DeskTarget& target) {
+    pointAt(target);
+    if (!missing_) {
+        desk_.pressButton(target);
+    }
+}
+
 void TourHand::miss(const std::string& name) {
     if (!missing_) {
         missing_ = name;
@@ -105,12 +112,6 @@ void TourHand::use(const std::optional<DeskTarget>& target, const std::string& n
 }
 
 void TourHand::pointAt(const DeskTarget& target) { reach(target, std::visit(NameOfTarget{}, target)); }
-
-void TourHand::press(const DeskTarget& target) {
-    if (reach(target, std::visit(NameOfTarget{}, target))) {
-        desk_.pressButton(target);
-    }
-}
 
 void TourHand::click(const DeskTarget& target) { use(target, std::visit(NameOfTarget{}, target)); }
 

@@ -2,7 +2,6 @@
 
 #include "Kestrune/Preferences.h"
 #include "desk/live/gallery/Chapter.h"
-#include "desk/live/world/LivePicture.h"
 #include "desk/recording/Utf8.h"
 
 #include <algorithm>
@@ -58,15 +57,10 @@ void withLongTextsAndNoPermission(LiveDeskSetup& setup) {
 
 void withoutCopyright(LiveDeskSetup& setup) { setup.bundle.infoDictionary.erase("NSHumanReadableCopyright"); }
 
-std::optional<WindowPicture> frontWindow(Stage& stage) {
-    const DeskPicture picture = pictureOf(stage.desk());
-    return picture.windows.empty() ? std::nullopt : std::optional(picture.windows.front());
-}
-
-// The front window's first control that is wanted, or one that nobody can reach.
+// The window's first control that is wanted, or one that nobody can reach.
 template <typename Wanted>
 DeskTarget firstControl(Stage& stage, bool (*isWanted)(const Wanted&)) {
-    const auto window = frontWindow(stage);
+    const auto window = stage.window();
     if (!window) {
         return WindowControlTarget{};
     }
@@ -101,7 +95,7 @@ void drawOff(Stage& stage) {
 void putBehind(Stage& stage) { stage.desk().session().windows().setActive(false); }
 
 void bringToFront(Stage& stage) {
-    if (const auto window = frontWindow(stage)) {
+    if (const auto window = stage.window()) {
         stage.hand().click(WindowTitleTarget{window->number});
     }
     stage.desk().advance(sim::Duration::zero());
@@ -139,10 +133,10 @@ void grantPermission(Stage& stage) {
 
 void focusMainButton(Stage& stage) {
     const auto button = std::get<WindowControlTarget>(mainButton(stage));
-    const auto window = frontWindow(stage);
+    const auto window = stage.window();
     for (std::size_t step = 0; window && step < window->scene.elements.size(); ++step) {
         stage.desk().navigate(NavigationKey::tab);
-        if (frontWindow(stage)->focusedElement == button.element) {
+        if (stage.window()->focusedElement == button.element) {
             return;
         }
     }

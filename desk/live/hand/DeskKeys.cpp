@@ -47,6 +47,7 @@ constexpr std::array Keys = {
 
 std::vector<KeyHint> keyLegend() {
     std::vector<KeyHint> legend;
+    legend.reserve(Keys.size());
     for (const DeskKey& key : Keys) {
         legend.push_back({std::string(key.shown), std::string(key.action)});
     }

@@ -20,6 +20,6 @@ std::vector<KeyHint> legendOfHiddenKeys();
 
 // Letters in lower case. What is left to the window; nothing of a key that does something to the desk or
 // that does nothing.
-std::optional<WindowCommand> pressDeskKey(LiveDesk& desk, char key);
+std::optional<WindowCommand> pressDeskKey(LiveDesk& desk, char pressed);
 
 } // namespace kestrune::desk
