@@ -26,10 +26,7 @@ Stage::Stage(const LiveDeskSetup& setup) : desk_(setup), first_(pinnedDisplay(de
     }
 }
 
-std::optional<WindowPicture> Stage::window() {
-    const DeskPicture picture = pictureOf(desk_);
-    return picture.windows.empty() ? std::nullopt : std::optional(picture.windows.front());
-}
+std::optional<WindowPicture> Stage::window() { return desk_.parts().applicationWindow(); }
 
 std::variant<DeskPicture, std::string> Stage::perform(const Scene& scene) {
     desk_.advance(Pause);

@@ -4,7 +4,7 @@
 #include "desk/paint/toolkit/RectMath.h"
 
 #include <cmath>
-#include <variant>
+#include <utility>
 
 namespace kestrune::desk {
 
@@ -23,18 +23,9 @@ std::string nameOfRow(std::string_view title) { return "the menu row " + quoted(
 
 std::string nameOfControl(std::string_view title) { return "the button or switch " + quoted(title); }
 
-struct NameOfTarget {
-    std::string operator()(const StatusItemTarget&) const { return "a status item"; }
-    std::string operator()(const DialogButtonTarget&) const { return "a button of the permission dialog"; }
-    std::string operator()(const PaneSwitchTarget&) const { return "a switch in System Settings"; }
-    std::string operator()(const PaneCloseTarget&) const { return "the close button of System Settings"; }
-    std::string operator()(const MailCloseTarget&) const { return "the close button of the mail"; }
-
-    template <typename OtherTarget>
-    std::string operator()(const OtherTarget&) const {
-        return "a part of the screen";
-    }
-};
+std::string nameOf(const DeskTarget& target) {
+    return target.kind == DeskTarget::Kind::statusItem ? "a status item" : "a part of the screen";
+}
 
 } // namespace
 
@@ -104,16 +95,25 @@ bool TourHand::reach(const std::optional<DeskTarget>& target, const std::string&
     return true;
 }
 
-void TourHand::use(const std::optional<DeskTarget>& target, const std::string& name) {
+void TourHand::hold(const std::optional<DeskTarget>& target, const std::string& name) {
     if (reach(target, name)) {
-        desk_.pressButton(target);
-        desk_.releaseButton(target);
+        held_ = target;
+        desk_.pressButton(held_);
     }
 }
 
-void TourHand::pointAt(const DeskTarget& target) { reach(target, std::visit(NameOfTarget{}, target)); }
+void TourHand::letGo() { desk_.releaseButton(std::exchange(held_, std::nullopt)); }
 
-void TourHand::click(const DeskTarget& target) { use(target, std::visit(NameOfTarget{}, target)); }
+void TourHand::use(const std::optional<DeskTarget>& target, const std::string& name) {
+    hold(target, name);
+    if (held_) {
+        letGo();
+    }
+}
+
+void TourHand::pointAt(const DeskTarget& target) { reach(target, nameOf(target)); }
+
+void TourHand::click(const DeskTarget& target) { use(target, nameOf(target)); }
 
 void TourHand::openMenu(DisplayID number) {
     const auto& connected = desk_.session().displays().connected();
@@ -122,14 +122,14 @@ void TourHand::openMenu(DisplayID number) {
         miss("display " + std::to_string(number));
         return;
     }
-    click(StatusItemTarget{static_cast<std::size_t>(display - connected.data()), 0});
+    click(DeskTarget::statusItem(static_cast<std::size_t>(display - connected.data()), 0));
 }
 
 std::optional<DeskTarget> TourHand::rowWith(std::string_view title) {
     const auto rows = desk_.session().menus().rows();
     for (std::size_t row = 0; row < rows.size(); ++row) {
         if (rows[row].title.find(title) != std::string::npos) {
-            return MenuRowTarget{row};
+            return DeskTarget::menuRow(row);
         }
     }
     return std::nullopt;
@@ -140,29 +140,20 @@ void TourHand::pointAtRow(std::string_view title) { reach(rowWith(title), nameOf
 void TourHand::clickRow(std::string_view title) { use(rowWith(title), nameOfRow(title)); }
 
 std::optional<DeskTarget> TourHand::controlWith(std::string_view title) {
-    const DeskPicture picture = pictureOf(desk_);
-    for (const WindowPicture& window : picture.windows) {
-        for (std::size_t element = 0; element < window.scene.elements.size(); ++element) {
-            if (titleOfControl(window.scene.elements[element]) == title) {
-                return WindowControlTarget{window.number, element};
-            }
-        }
-    }
-    return std::nullopt;
+    return controlTitled(pictureOf(desk_), title);
 }
 
 void TourHand::pointAtControl(std::string_view title) { reach(controlWith(title), nameOfControl(title)); }
 
+void TourHand::holdControl(std::string_view title) { hold(controlWith(title), nameOfControl(title)); }
+
 void TourHand::clickControl(std::string_view title) { use(controlWith(title), nameOfControl(title)); }
 
 void TourHand::closeWindow(std::string_view title) {
-    std::optional<DeskTarget> button;
-    for (const WindowPicture& window : pictureOf(desk_).windows) {
-        if (!button && window.title == title) {
-            button = WindowCloseTarget{window.number};
-        }
-    }
-    use(button, "the window " + quoted(title));
+    const DeskPicture picture = pictureOf(desk_);
+    const WindowPicture* const window = windowTitled(picture, title);
+    use(window != nullptr ? std::optional(DeskTarget::closeButton(window->number)) : std::nullopt,
+        "the window " + quoted(title));
 }
 
 } // namespace kestrune::desk

@@ -46,22 +46,26 @@ public:
     void pointAtRow(std::string_view title);
     void clickRow(std::string_view title);
 
-    // Moves over the button or switch of one of the application's windows that has that title; the second
-    // also clicks there.
+    // Moves over the button or switch that has that title, in the frontmost window that has one; the second
+    // also clicks there, and the third leaves the letting go to another call.
     void pointAtControl(std::string_view title);
     void clickControl(std::string_view title);
+    void holdControl(std::string_view title);
+    void letGo();
 
-    // The close button of one of the application's windows, by its title.
+    // The close button of a window, by its title.
     void closeWindow(std::string_view title);
 
 private:
     std::optional<DeskTarget> rowWith(std::string_view title);
     std::optional<DeskTarget> controlWith(std::string_view title);
     bool reach(const std::optional<DeskTarget>& target, const std::string& name);
+    void hold(const std::optional<DeskTarget>& target, const std::string& name);
     void use(const std::optional<DeskTarget>& target, const std::string& name);
 
     LiveDesk& desk_;
     DeskHitTest hitTest_;
+    std::optional<DeskTarget> held_;
     std::optional<std::string> missing_;
 };
 

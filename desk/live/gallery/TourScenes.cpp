@@ -96,20 +96,19 @@ std::string TourScenes::openMenuBeforeSetup() {
 std::string TourScenes::askForPermission() {
     hand_.clickRow("Complete setup");
     hand_.clickControl("Request permission");
-    hand_.pointAt(DialogButtonTarget{DialogButton::openSystemSettings});
-    desk_.pressButton(DialogButtonTarget{DialogButton::openSystemSettings});
+    hand_.holdControl("Open System Settings");
     return "Moving events needs the Accessibility permission. The wizard lets the system ask for it.";
 }
 
 std::string TourScenes::grantPermission() {
-    desk_.releaseButton(DialogButtonTarget{DialogButton::openSystemSettings});
-    hand_.click(PaneSwitchTarget{0});
+    hand_.letGo();
+    hand_.clickControl("Kestrune");
     desk_.advance(UntilTheWatcherLooks);
     return "Switched on in System Settings, and within a second the guard runs by itself.";
 }
 
 std::string TourScenes::finishWizard() {
-    hand_.click(PaneCloseTarget{});
+    hand_.closeWindow("Accessibility");
     hand_.pointAtControl("Finish");
     return "The wizard has noticed, too: one more click, and the first run is done.";
 }
@@ -133,7 +132,7 @@ std::string TourScenes::holdDrag() {
 std::string TourScenes::restToSeeTheToolTip() {
     const auto& connected = desk_.session().displays().connected();
     const sim::Display* other = desk_.session().displays().withID(*other_);
-    hand_.pointAt(StatusItemTarget{static_cast<std::size_t>(other - connected.data()), 0});
+    hand_.pointAt(DeskTarget::statusItem(static_cast<std::size_t>(other - connected.data()), 0));
     desk_.advance(LongRest);
     return "The pointer rests on the icon.";
 }
@@ -233,12 +232,12 @@ std::string TourScenes::openSettings() {
 std::string TourScenes::launchAtLogin() {
     hand_.clickControl("Launch at login");
     desk_.openLoginItems();
-    hand_.pointAt(PaneSwitchTarget{0});
+    hand_.pointAtControl("Kestrune");
     return "Launched at login from now on, and System Settings knows.";
 }
 
 std::string TourScenes::findNothingNew() {
-    hand_.click(PaneCloseTarget{});
+    hand_.closeWindow("Login Items");
     hand_.clickControl("Check for Updates…");
     desk_.advance(UntilTheUpdaterHasChecked);
     hand_.pointAtControl("OK");
@@ -261,7 +260,7 @@ std::string TourScenes::reportBug() {
 }
 
 std::string TourScenes::leaveOneDisplay() {
-    hand_.click(MailCloseTarget{});
+    hand_.closeWindow("New Message");
     hand_.closeWindow("Kestrune Settings");
     unplugAllBut(1);
     hand_.push(desk_.session().displays().connected().front().displayID);

@@ -62,14 +62,14 @@ template <typename Wanted>
 DeskTarget firstControl(Stage& stage, bool (*isWanted)(const Wanted&)) {
     const auto window = stage.window();
     if (!window) {
-        return WindowControlTarget{};
+        return DeskTarget::control(0, 0);
     }
     const auto& elements = window->scene.elements;
     const auto found = std::find_if(elements.begin(), elements.end(), [&](const ui::Element& element) {
         const auto* const control = std::get_if<Wanted>(&element);
         return control != nullptr && isWanted(*control);
     });
-    return WindowControlTarget{window->number, static_cast<std::size_t>(found - elements.begin())};
+    return DeskTarget::control(window->number, static_cast<std::size_t>(found - elements.begin()));
 }
 
 // The wizard's button that leads on, which is drawn by the application itself.
@@ -96,7 +96,7 @@ void putBehind(Stage& stage) { stage.desk().session().windows().setActive(false)
 
 void bringToFront(Stage& stage) {
     if (const auto window = stage.window()) {
-        stage.hand().click(WindowTitleTarget{window->number});
+        stage.hand().click(DeskTarget::titleBar(window->number));
     }
     stage.desk().advance(sim::Duration::zero());
 }
@@ -132,11 +132,11 @@ void grantPermission(Stage& stage) {
 }
 
 void focusMainButton(Stage& stage) {
-    const auto button = std::get<WindowControlTarget>(mainButton(stage));
+    const DeskTarget button = mainButton(stage);
     const auto window = stage.window();
     for (std::size_t step = 0; window && step < window->scene.elements.size(); ++step) {
         stage.desk().navigate(NavigationKey::tab);
-        if (stage.window()->focusedElement == button.element) {
+        if (stage.window()->focusedElement == button.index) {
             return;
         }
     }

@@ -122,9 +122,7 @@ DeskPicture pictureOf(LiveDesk& desk) {
     picture.whatHappened = news.text;
     picture.occurrence = news.kind;
     picture.keys = keyLegend();
-    const auto& images = desk.session().bundle().images;
-    const auto icon = images.find("AppIcon");
-    desk.parts().addTo(picture, icon != images.end() ? icon->second : "");
+    desk.parts().addTo(picture);
     return picture;
 }
 

@@ -22,10 +22,4 @@ void MailProgram::close() {
     leaveTheFront(session_);
 }
 
-void MailProgram::addTo(DeskPicture& picture, std::size_t display) const {
-    if (mail_) {
-        picture.mail = MailPicture{display, mail_->recipient, mail_->subject, mail_->body};
-    }
-}
-
 } // namespace kestrune::desk

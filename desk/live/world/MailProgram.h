@@ -2,7 +2,6 @@
 #pragma once
 
 #include "desk/live/world/MailLink.h"
-#include "desk/paint/desk/DeskPicture.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
@@ -21,13 +20,13 @@ public:
 
     bool isOpen() const { return mail_.has_value(); }
 
+    // While it is open.
+    const MailLink& mail() const { return *mail_; }
+
     // How many mails it was asked for.
     std::size_t count() const { return count_; }
 
     void close();
-
-    // On the display with that index.
-    void addTo(DeskPicture& picture, std::size_t display) const;
 
 private:
     sim::Session& session_;

@@ -10,4 +10,10 @@ void leaveTheFront(sim::Session& session) {
     }
 }
 
+ListedApplication kestruneAsListed(const sim::Session& session) {
+    const auto& images = session.bundle().images;
+    const auto icon = images.find("AppIcon");
+    return {"Kestrune", icon != images.end() ? icon->second : ""};
+}
+
 } // namespace kestrune::desk

@@ -1,6 +1,7 @@
-// Applications beside the simulated one, which the desk plays.
+// What applications beside the simulated one have in common, which the desk plays.
 #pragma once
 
+#include "desk/live/world/SystemViews.h"
 #include "sim/session/Session.h"
 
 namespace kestrune::desk {
@@ -11,5 +12,8 @@ void comeToTheFront(sim::Session& session);
 // Another application's last window is closed: Kestrune is active again if it has a window and a place in the
 // Dock.
 void leaveTheFront(sim::Session& session);
+
+// Kestrune, as other applications list it.
+ListedApplication kestruneAsListed(const sim::Session& session);
 
 } // namespace kestrune::desk

@@ -1,8 +1,8 @@
 #include "desk/live/world/ScreenParts.h"
 
+#include "desk/live/world/OtherApplication.h"
 #include "sim/seam/MenuState.h"
 #include "sim/seam/StatusItemState.h"
-#include "sim/seam/WindowState.h"
 
 #include <utility>
 #include <variant>
@@ -12,8 +12,6 @@ namespace kestrune::desk {
 namespace {
 
 constexpr sim::Duration ToolTipDelay = std::chrono::milliseconds(1200);
-
-constexpr const char* ApplicationName = "Kestrune";
 
 bool canBeHighlighted(const sim::MenuRow& row) { return row.isEnabled && !row.isSeparator; }
 
@@ -40,39 +38,40 @@ std::optional<std::pair<sim::MenuPlace, std::size_t>> menuOf(const std::optional
     if (!target) {
         return std::nullopt;
     }
-    if (const auto* item = std::get_if<StatusItemTarget>(&*target)) {
-        return std::pair(sim::MenuPlace(sim::StatusItemIndex{item->item}), item->display);
+    if (target->kind == DeskTarget::Kind::statusItem) {
+        return std::pair(sim::MenuPlace(sim::StatusItemIndex{target->index}), target->display);
     }
-    if (const auto* title = std::get_if<MainMenuTitleTarget>(&*target)) {
-        return std::pair(sim::MenuPlace(sim::MainMenuIndex{title->title}), title->display);
+    if (target->kind == DeskTarget::Kind::mainMenuTitle) {
+        return std::pair(sim::MenuPlace(sim::MainMenuIndex{target->index}), target->display);
     }
     return std::nullopt;
 }
 
+bool isRow(const std::optional<DeskTarget>& target) {
+    return target && target->kind == DeskTarget::Kind::menuRow;
+}
+
 bool isPartOfMenu(const std::optional<DeskTarget>& target) {
-    return target && (std::holds_alternative<MenuRowTarget>(*target) ||
-                      std::holds_alternative<MenuPanelTarget>(*target));
+    return isRow(target) || target == DeskTarget::menuPanel();
 }
 
 } // namespace
 
 PartsOutcome ScreenParts::press(const std::optional<DeskTarget>& target) {
     hovered_.reset();
-    isOpenedByThisPress_ = false;
-    pressed_ = target;
+    opener_.reset();
     const auto menu = menuOf(target);
     if (isMenuOpen() && !isPartOfMenu(target)) {
         const bool isSameMenu =
             menu && menu->first == *session_.menus().place() && menu->second == menuDisplay_;
         closeMenu();
         if (isSameMenu || !menu) {
-            pressed_.reset();
             return {};
         }
     }
     if (menu) {
         openMenu(menu->first, menu->second);
-        isOpenedByThisPress_ = true;
+        opener_ = target;
     } else if (!isPartOfMenu(target)) {
         windows_.press(target);
     }
@@ -80,39 +79,16 @@ PartsOutcome ScreenParts::press(const std::optional<DeskTarget>& target) {
 }
 
 PartsOutcome ScreenParts::release(const std::optional<DeskTarget>& target) {
-    const std::optional<DeskTarget> pressed = std::exchange(pressed_, std::nullopt);
-    if (isMenuOpen()) {
-        if (const auto* row = target ? std::get_if<MenuRowTarget>(&*target) : nullptr) {
-            return choose(row->row);
-        }
-        const bool isDragThatEndsElsewhere =
-            isOpenedByThisPress_ && target != pressed && !isPartOfMenu(target);
-        if (isDragThatEndsElsewhere) {
-            closeMenu();
-        }
-        return {};
-    }
+    const std::optional<DeskTarget> opener = std::exchange(opener_, std::nullopt);
     PartsOutcome outcome;
-    outcome.pressedControl = windows_.release(target);
-    if (pressed && pressed == target) {
-        act(*target);
+    if (!isMenuOpen()) {
+        outcome.pressedControl = windows_.release(target);
+    } else if (isRow(target)) {
+        return choose(target->index);
+    } else if (opener && target != opener && !isPartOfMenu(target)) {
+        closeMenu(); // A drag ends elsewhere.
     }
     return outcome;
-}
-
-void ScreenParts::act(const DeskTarget& target) {
-    sim::Accessibility& accessibility = session_.accessibility();
-    if (const auto* dialog = std::get_if<DialogButtonTarget>(&target)) {
-        if (dialog->button == DialogButton::openSystemSettings) {
-            accessibility.openSettingsFromDialog();
-        } else {
-            accessibility.denyInDialog();
-        }
-    } else if (std::holds_alternative<MailCloseTarget>(target)) {
-        mail_.close();
-    } else {
-        settings_.act(target);
-    }
 }
 
 void ScreenParts::hover(const std::optional<DeskTarget>& target) {
@@ -130,10 +106,9 @@ void ScreenParts::hover(const std::optional<DeskTarget>& target) {
         openMenu(menu->first, menu->second);
         return;
     }
-    const auto* row = target ? std::get_if<MenuRowTarget>(&*target) : nullptr;
     const auto rows = session_.menus().rows();
-    highlightedRow_ = row != nullptr && row->row < rows.size() && canBeHighlighted(rows[row->row])
-                          ? std::optional(row->row)
+    highlightedRow_ = isRow(target) && target->index < rows.size() && canBeHighlighted(rows[target->index])
+                          ? std::optional(target->index)
                           : std::nullopt;
 }
 
@@ -162,7 +137,8 @@ void ScreenParts::displaysChanged() {
     closeMenu();
     windows_.letGo();
     windows_.hover(std::nullopt);
-    pressed_.reset();
+    system_.displaysChanged();
+    opener_.reset();
     hovered_.reset();
 }
 
@@ -260,18 +236,18 @@ PartsOutcome ScreenParts::pressEquivalent(std::string_view character, bool withS
     if (session_.menus().press(character, modifiers)) {
         outcome.chosenRow = "⌘" + std::string(character);
         noteClosedMenu();
-    } else if (character == "w" && mail_.isOpen() && !windows_.takesKeys()) {
-        mail_.close();
+    } else if (character == "w" && system_.mail().isOpen() && !windows_.takesKeys()) {
+        system_.mail().close();
     }
     return outcome;
 }
 
 const MailProgram& ScreenParts::mailAfterLinks() {
-    mail_.lookForLinks();
-    return mail_;
+    system_.mail().lookForLinks();
+    return system_.mail();
 }
 
-void ScreenParts::addTo(DeskPicture& picture, const std::string& iconPath) {
+void ScreenParts::addTo(DeskPicture& picture) {
     for (const auto& item : session_.statusItems().shown()) {
         StatusItemPicture shown;
         if (item->button && item->button->image) {
@@ -286,19 +262,10 @@ void ScreenParts::addTo(DeskPicture& picture, const std::string& iconPath) {
     picture.mainMenuTitles = session_.menus().mainMenuTitles();
     addMenu(picture);
     addToolTip(picture);
-    const sim::Accessibility& accessibility = session_.accessibility();
-    if (accessibility.isDialogShown()) {
-        picture.permissionDialog =
-            PermissionDialogPicture{0, ApplicationName, iconPath, Window::State::TitleBarHeight};
-    }
-    const std::size_t displayBeside = picture.displays.size() > 1 ? 1 : 0;
-    settings_.addTo(picture, iconPath, displayBeside);
-    mail_.addTo(picture, displayBeside);
     windows_.addTo(picture);
     if (session_.application().policy == ActivationPolicy::regular) {
-        picture.dockIcon = iconPath;
+        picture.dockIcon = kestruneAsListed(session_).iconPath;
     }
-    picture.pressed = pressed_;
 }
 
 void ScreenParts::addMenu(DeskPicture& picture) const {
@@ -324,14 +291,14 @@ void ScreenParts::addMenu(DeskPicture& picture) const {
 }
 
 void ScreenParts::addToolTip(DeskPicture& picture) {
-    const auto* item = hovered_ ? std::get_if<StatusItemTarget>(&*hovered_) : nullptr;
+    const bool isOverItem = hovered_ && hovered_->kind == DeskTarget::Kind::statusItem;
     const bool rests = session_.clock().now() - hoveredSince_ >= ToolTipDelay;
-    if (item == nullptr || !rests || isMenuOpen() || item->item >= picture.statusItems.size()) {
+    if (!isOverItem || !rests || isMenuOpen() || hovered_->index >= picture.statusItems.size()) {
         return;
     }
-    const std::string& text = picture.statusItems[item->item].toolTip;
+    const std::string& text = picture.statusItems[hovered_->index].toolTip;
     if (!text.empty()) {
-        picture.toolTip = ToolTipPicture{item->display, item->item, text};
+        picture.toolTip = ToolTipPicture{hovered_->display, hovered_->index, text};
     }
 }
 

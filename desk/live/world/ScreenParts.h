@@ -1,10 +1,8 @@
-// The user's hand at the parts of the Mac's screen: menus, the permission dialog, System Settings, the mail
-// program and the application's windows.
+// The user's hand at the parts of the Mac's screen: menus and windows.
 #pragma once
 
 #include "desk/live/hand/NavigationKey.h"
-#include "desk/live/world/MailProgram.h"
-#include "desk/live/world/SystemSettings.h"
+#include "desk/live/world/SystemWindows.h"
 #include "desk/live/world/WindowParts.h"
 #include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/desk/DeskTarget.h"
@@ -35,7 +33,7 @@ class ScreenParts {
 public:
     // `session` must outlive the parts.
     explicit ScreenParts(sim::Session& session)
-        : session_(session), windows_(session), settings_(session), mail_(session) {}
+        : session_(session), system_(session), windows_(session, system_) {}
 
     // With the button that clicks, at what is under the pointer; absent for the bare desk.
     PartsOutcome press(const std::optional<DeskTarget>& target);
@@ -58,7 +56,7 @@ public:
     void openStatusMenu(std::size_t display);
 
     // The user opens the pane of System Settings.
-    void openLoginItems() { settings_.openLoginItems(); }
+    void openLoginItems() { system_.settings().openLoginItems(); }
 
     // Lets the mail program see which links were opened.
     const MailProgram& mailAfterLinks();
@@ -68,9 +66,11 @@ public:
     // Displays have come or gone: what was open or pressed on one of them is no longer there.
     void displaysChanged();
 
-    // Puts the parts into a picture of the session's displays. The dialog shows on the primary display;
-    // System Settings and the mail program show beside it where there is another.
-    void addTo(DeskPicture& picture, const std::string& iconPath);
+    // Puts the parts into a picture of the session's displays.
+    void addTo(DeskPicture& picture);
+
+    // The application's frontmost window; absent without any.
+    std::optional<WindowPicture> applicationWindow() { return windows_.applicationWindow(); }
 
 private:
     PartsOutcome pressInMenu(NavigationKey key);
@@ -78,20 +78,17 @@ private:
     void closeMenu();
     void noteClosedMenu();
     PartsOutcome choose(std::size_t row);
-    void act(const DeskTarget& target);
     void moveHighlight(int step);
     void moveToMenuBeside(int step);
     void addMenu(DeskPicture& picture) const;
     void addToolTip(DeskPicture& picture);
 
     sim::Session& session_;
+    SystemWindows system_;
     WindowParts windows_;
-    SystemSettings settings_;
-    MailProgram mail_;
     std::size_t menuDisplay_ = 0;
     std::optional<std::size_t> highlightedRow_;
-    std::optional<DeskTarget> pressed_;
-    bool isOpenedByThisPress_ = false;
+    std::optional<DeskTarget> opener_; // what the button was pressed on, if that opened the menu
 
     // Where the pointer rests, and since when without an open menu.
     std::optional<DeskTarget> hovered_;

@@ -1,16 +1,9 @@
 #include "desk/live/world/SystemSettings.h"
 
 #include "desk/live/world/OtherApplication.h"
-
-#include <variant>
+#include "desk/live/world/SystemViews.h"
 
 namespace kestrune::desk {
-
-namespace {
-
-constexpr const char* ListedApplication = "Kestrune";
-
-} // namespace
 
 void SystemSettings::openLoginItems() {
     session_.accessibility().closePane();
@@ -19,32 +12,43 @@ void SystemSettings::openLoginItems() {
     comeToTheFront(session_);
 }
 
-void SystemSettings::act(const DeskTarget& target) {
-    if (std::holds_alternative<PaneSwitchTarget>(target)) {
-        flipSwitch();
-    } else if (std::holds_alternative<PaneRowTarget>(target)) {
-        isRowSelected_ = true;
-    } else if (std::holds_alternative<PaneRemoveTarget>(target)) {
-        removeRow();
-    } else if (std::holds_alternative<PaneCloseTarget>(target)) {
-        close();
-    } else if (std::holds_alternative<PaneTarget>(target)) {
-        isRowSelected_ = false;
+std::optional<std::string> SystemSettings::title() const {
+    if (session_.accessibility().isPaneShown()) {
+        return "Accessibility";
     }
+    return areLoginItemsOpen_ ? std::optional<std::string>("Login Items") : std::nullopt;
 }
 
-bool SystemSettings::isLoginItem() const {
-    const AppServiceStatus status = session_.loginItem().status();
-    return status == AppServiceStatus::enabled || status == AppServiceStatus::requiresApproval;
+ui::View SystemSettings::view() {
+    SettingsPane pane;
+    pane.sentence = showsLoginItems() ? "These applications open automatically when you log in."
+                                      : "Allow the applications below to control your computer.";
+    if (isListed()) {
+        pane.rows.push_back({kestruneAsListed(session_), isOn(), isRowSelected_, [this] { flipSwitch(); },
+                             [this] { isRowSelected_ = true; }});
+    }
+    pane.deselect = [this] { isRowSelected_ = false; };
+    pane.remove = [this] { removeRow(); };
+    return settingsPane(pane);
 }
 
+bool SystemSettings::isListed() const {
+    return showsLoginItems() ? isOn() || session_.loginItem().status() == AppServiceStatus::requiresApproval
+                             : session_.accessibility().isListed();
+}
+
+bool SystemSettings::isOn() const {
+    return showsLoginItems() ? session_.loginItem().status() == AppServiceStatus::enabled
+                             : session_.accessibility().isSwitchedOn();
+}
+
+// A row that has gone meanwhile has no switch any more.
 void SystemSettings::flipSwitch() {
     if (!showsLoginItems()) {
         session_.accessibility().flipSwitch();
-    } else if (isLoginItem()) {
-        const bool isAllowed = session_.loginItem().status() == AppServiceStatus::enabled;
-        session_.loginItem().setStatus(isAllowed ? AppServiceStatus::requiresApproval
-                                                 : AppServiceStatus::enabled);
+    } else if (isListed()) {
+        session_.loginItem().setStatus(isOn() ? AppServiceStatus::requiresApproval
+                                              : AppServiceStatus::enabled);
     }
 }
 
@@ -64,24 +68,6 @@ void SystemSettings::close() {
         session_.accessibility().closePane();
     } else {
         leaveTheFront(session_);
-    }
-}
-
-void SystemSettings::addTo(DeskPicture& picture, const std::string& iconPath, std::size_t display) const {
-    const sim::Accessibility& accessibility = session_.accessibility();
-    if (accessibility.isPaneShown()) {
-        picture.settingsPane.emplace().display = display;
-        if (accessibility.isListed()) {
-            picture.settingsPane->rows.push_back(
-                {ListedApplication, iconPath, accessibility.isSwitchedOn(), isRowSelected_});
-        }
-    } else if (areLoginItemsOpen_) {
-        picture.settingsPane = SettingsPanePicture{
-            display, {}, "Login Items", "These applications open automatically when you log in."};
-        if (isLoginItem()) {
-            const bool isAllowed = session_.loginItem().status() == AppServiceStatus::enabled;
-            picture.settingsPane->rows.push_back({ListedApplication, iconPath, isAllowed, isRowSelected_});
-        }
     }
 }
 

@@ -1,10 +1,10 @@
 // The user in System Settings, at the panes that concern the application.
 #pragma once
 
-#include "desk/paint/desk/DeskPicture.h"
-#include "desk/paint/desk/DeskTarget.h"
 #include "sim/session/Session.h"
+#include "ui/View.h"
 
+#include <optional>
 #include <string>
 
 namespace kestrune::desk {
@@ -20,19 +20,20 @@ public:
     // The user opens the pane from the System Settings' own list.
     void openLoginItems();
 
-    // A button, switch or row of the pane was pressed; any other target does nothing.
-    void act(const DeskTarget& target);
+    // Of the pane; absent while the window is closed.
+    std::optional<std::string> title() const;
+    ui::View view();
 
-    // On the display with that index.
-    void addTo(DeskPicture& picture, const std::string& iconPath, std::size_t display) const;
+    // The user closes the window.
+    void close();
 
 private:
     // The Accessibility pane replaces the other as soon as somebody leads to it.
     bool showsLoginItems() const { return areLoginItemsOpen_ && !session_.accessibility().isPaneShown(); }
-    bool isLoginItem() const;
+    bool isListed() const;
+    bool isOn() const;
     void flipSwitch();
     void removeRow();
-    void close();
 
     sim::Session& session_;
     bool areLoginItemsOpen_ = false;

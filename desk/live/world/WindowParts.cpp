@@ -5,30 +5,10 @@
 #include "sim/seam/WindowState.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 #include <variant>
 
 namespace kestrune::desk {
-
-namespace {
-
-// The number of the window that a target belongs to.
-struct WindowNumber {
-    std::optional<std::size_t> operator()(const WindowCloseTarget& target) const { return target.window; }
-    std::optional<std::size_t> operator()(const WindowMinimizeTarget& target) const { return target.window; }
-    std::optional<std::size_t> operator()(const DockTileTarget& target) const { return target.window; }
-    std::optional<std::size_t> operator()(const WindowControlTarget& target) const { return target.window; }
-    std::optional<std::size_t> operator()(const WindowTitleTarget& target) const { return target.window; }
-    std::optional<std::size_t> operator()(const WindowTarget& target) const { return target.window; }
-
-    template <typename OtherTarget>
-    std::optional<std::size_t> operator()(const OtherTarget&) const {
-        return std::nullopt;
-    }
-};
-
-} // namespace
 
 std::optional<std::string> titleOfControl(const ui::Element& element) {
     if (const auto* const button = std::get_if<ui::ButtonElement>(&element)) {
@@ -40,34 +20,55 @@ std::optional<std::string> titleOfControl(const ui::Element& element) {
     return std::nullopt;
 }
 
+const WindowPicture* windowTitled(const DeskPicture& picture, std::string_view title) {
+    const auto found = std::find_if(picture.windows.begin(), picture.windows.end(),
+                                    [title](const WindowPicture& window) { return window.title == title; });
+    return found != picture.windows.end() ? &*found : nullptr;
+}
+
+std::optional<DeskTarget> controlTitled(const DeskPicture& picture, std::string_view title) {
+    for (const WindowPicture& window : picture.windows) {
+        for (std::size_t element = 0; element < window.scene.elements.size(); ++element) {
+            if (titleOfControl(window.scene.elements[element]) == title) {
+                return DeskTarget::control(window.number, element);
+            }
+        }
+    }
+    return std::nullopt;
+}
+
 void WindowParts::press(const std::optional<DeskTarget>& target) {
     letGo();
+    system_.update();
     const WindowState window = windowOf(target);
+    const bool isOfApplication = window && system_.find(window) == nullptr;
+    if (!isOfApplication && takesKeys()) {
+        session_.windows().setActive(false);
+    }
     if (!window) {
-        if (takesKeys()) {
-            session_.windows().setActive(false);
-        }
         return;
     }
-    if (const WindowState alert = modalAlert(); alert && alert != window) {
+    if (const WindowState alert = modalAlert(); isOfApplication && alert && alert != window) {
         session_.windows().click(alert);
         return;
     }
     pressed_ = target;
     isOverPressed_ = true;
+    using Kind = DeskTarget::Kind;
     // A window in the background can be closed without coming forward. A tile acts like a button.
-    if (std::holds_alternative<WindowCloseTarget>(*target) ||
-        std::holds_alternative<WindowMinimizeTarget>(*target) ||
-        std::holds_alternative<DockTileTarget>(*target)) {
+    if (target->kind == Kind::closeButton || target->kind == Kind::minimizeButton ||
+        target->kind == Kind::dockTile) {
         return;
     }
-    session_.windows().click(window);
-    if (const auto* const control = std::get_if<WindowControlTarget>(&*target)) {
-        pressedControl_ = controlIn(window, control->element);
+    if (isOfApplication) {
+        session_.windows().click(window);
+    }
+    if (target->kind == Kind::control) {
+        pressedControl_ = controlIn(window, target->index);
         if (const ui::ToggleElement* const toggle = switchOf(pressedControl_)) {
             grip_ = SwitchGrip(toggle->isOn, session_.pointer(), switchTravel(toggle->frame));
         }
-    } else if (std::holds_alternative<WindowTitleTarget>(*target)) {
+    } else if (target->kind == Kind::titleBar) {
         startDrag(window);
     }
 }
@@ -77,6 +78,7 @@ std::optional<std::string> WindowParts::release(const std::optional<DeskTarget>&
     const auto control = std::exchange(pressedControl_, std::nullopt);
     const auto grip = std::exchange(grip_, std::nullopt);
     letGo();
+    system_.update();
     if (grip && grip->isDragged()) {
         return letGoOfKnob(*control, *grip);
     }
@@ -84,16 +86,24 @@ std::optional<std::string> WindowParts::release(const std::optional<DeskTarget>&
     if (!window) {
         return std::nullopt;
     }
-    if (std::holds_alternative<WindowCloseTarget>(*target)) {
-        session_.windows().closeByUser(window);
-    } else if (std::holds_alternative<WindowMinimizeTarget>(*target)) {
+    if (target->kind == DeskTarget::Kind::closeButton) {
+        close(window);
+    } else if (target->kind == DeskTarget::Kind::minimizeButton) {
         session_.windows().miniaturizeByUser(window);
-    } else if (std::holds_alternative<DockTileTarget>(*target)) {
+    } else if (target->kind == DeskTarget::Kind::dockTile) {
         session_.windows().click(window);
     } else if (control && isStillThere(control, window)) {
         return act(*control);
     }
     return std::nullopt;
+}
+
+void WindowParts::close(const WindowState& window) {
+    if (const SystemWindow* const ofSystem = system_.find(window)) {
+        ofSystem->close();
+    } else {
+        session_.windows().closeByUser(window);
+    }
 }
 
 // What the switch was may have gone while the hand held it.
@@ -109,7 +119,7 @@ std::optional<std::string> WindowParts::letGoOfKnob(const Control& control, cons
         return std::nullopt;
     }
     session_.windows().flipSwitch(window, control.element);
-    return control.title;
+    return toldOf(control);
 }
 
 void WindowParts::slide(const Control& control, double from, bool isOn) {
@@ -218,7 +228,7 @@ bool WindowParts::isStillThere(const std::optional<Control>& control, const Wind
 
 std::optional<std::string> WindowParts::act(const Control& control) {
     const WindowState window = control.window.lock();
-    std::string title = control.title; // The action may end with the control.
+    const auto title = toldOf(control); // The action may end with the control.
     if (const ui::ToggleElement* const toggle = switchOf(control)) {
         slide(control, toggle->isOn ? 1 : 0, !toggle->isOn);
         session_.windows().flipSwitch(window, control.element);
@@ -226,6 +236,10 @@ std::optional<std::string> WindowParts::act(const Control& control) {
         session_.windows().pressButton(window, control.element);
     }
     return title;
+}
+
+std::optional<std::string> WindowParts::toldOf(const Control& control) const {
+    return system_.find(control.window.lock()) == nullptr ? std::optional(control.title) : std::nullopt;
 }
 
 const ui::ToggleElement* WindowParts::switchOf(const std::optional<Control>& control) {
@@ -266,9 +280,10 @@ std::size_t WindowParts::numberOf(const WindowState& window) {
 }
 
 WindowParts::WindowState WindowParts::windowOf(const std::optional<DeskTarget>& target) const {
-    const auto number = target ? std::visit(WindowNumber{}, *target) : std::nullopt;
-    const WindowState window = number && *number < numbered_.size() ? numbered_[*number].lock() : nullptr;
-    const bool isTile = target && std::holds_alternative<DockTileTarget>(*target);
+    const WindowState window = target && target->isOfWindow() && target->window < numbered_.size()
+                                   ? numbered_[target->window].lock()
+                                   : nullptr;
+    const bool isTile = target && target->kind == DeskTarget::Kind::dockTile;
     return window && (isTile ? window->isMiniaturized : window->isVisible) ? window : nullptr;
 }
 
@@ -276,11 +291,27 @@ Rect WindowParts::globalFrame(const Window::State& window) const {
     return session_.displays().appKitFrame(window.frame); // It turns a frame over, whichever way it was.
 }
 
-WindowDepth WindowParts::depthOf(const Window::State& window) const {
-    if (window.level > WindowLevel::normal) {
-        return WindowDepth::beforeDialog;
+// From front to back. The application's windows are in front of the system's while it is active, and those
+// that float always; only they are in front of the dialog.
+std::vector<WindowParts::WindowState> WindowParts::stack() const {
+    const auto firstNormal = [](std::vector<WindowState>& windows) {
+        return std::find_if(windows.begin(), windows.end(),
+                            [](const WindowState& window) { return window->level == WindowLevel::normal; });
+    };
+    std::vector<WindowState> own = session_.windows().shown();
+    std::vector<WindowState> result = system_.shown();
+    const auto normal = firstNormal(own);
+    result.insert(session_.application().isActive ? firstNormal(result) : result.end(), normal, own.end());
+    result.insert(result.begin(), own.begin(), normal);
+    return result;
+}
+
+// Beside the application, whoever has the frontmost window is the active one.
+bool WindowParts::isKey(const WindowState& window) const {
+    if (system_.find(window) == nullptr) {
+        return session_.windows().keyWindow() == window;
     }
-    return session_.application().isActive ? WindowDepth::beforePane : WindowDepth::behindSystemWindows;
+    return !session_.application().isActive && system_.shown().front() == window;
 }
 
 WindowPicture WindowParts::pictureOf(const WindowState& window) {
@@ -288,12 +319,13 @@ WindowPicture WindowParts::pictureOf(const WindowState& window) {
     picture.number = numberOf(window);
     picture.frame = globalFrame(*window);
     picture.title = window->title;
-    picture.titleBarHeight = window->titleBarHeight();
+    const SystemWindow* const ofSystem = system_.find(window);
+    picture.titleBarHeight = ofSystem != nullptr ? ofSystem->titleBarHeight() : window->titleBarHeight();
+    picture.look = ofSystem != nullptr ? ofSystem->look : WindowLook::standard;
     picture.isClosable = window->has(WindowStyleMask::closable);
     picture.isMiniaturizable = window->has(WindowStyleMask::miniaturizable);
     picture.isResizable = window->has(WindowStyleMask::resizable);
-    picture.isKey = session_.windows().keyWindow() == window;
-    picture.depth = depthOf(*window);
+    picture.isKey = isKey(window);
     picture.scene = sim::Windows::sceneOf(*window);
     if (isStillThere(focused_, window)) {
         picture.focusedElement = focused_->element;
@@ -303,10 +335,10 @@ WindowPicture WindowParts::pictureOf(const WindowState& window) {
         picture.pressedElement = pressedControl_->element;
     }
     picture.movingSwitch = movingSwitchIn(window);
-    const DeskTarget close = WindowCloseTarget{picture.number};
+    const DeskTarget close = DeskTarget::closeButton(picture.number);
     picture.isCloseButtonPressed = isPressed(close);
     picture.isCloseButtonHovered = isHovered(close);
-    const DeskTarget minimize = WindowMinimizeTarget{picture.number};
+    const DeskTarget minimize = DeskTarget::minimizeButton(picture.number);
     picture.isMinimizeButtonPressed = isPressed(minimize);
     picture.isMinimizeButtonHovered = isHovered(minimize);
     return picture;
@@ -319,12 +351,18 @@ bool WindowParts::isHovered(const DeskTarget& button) const {
 }
 
 void WindowParts::addTo(DeskPicture& picture) {
-    for (const WindowState& window : session_.windows().shown()) {
+    system_.update();
+    for (const WindowState& window : stack()) {
         picture.windows.push_back(pictureOf(window));
     }
     for (const WindowState& window : session_.windows().miniaturized()) {
         picture.miniaturized.push_back(pictureOf(window));
     }
+}
+
+std::optional<WindowPicture> WindowParts::applicationWindow() {
+    const std::vector<WindowState> shown = session_.windows().shown();
+    return shown.empty() ? std::nullopt : std::optional(pictureOf(shown.front()));
 }
 
 } // namespace kestrune::desk

@@ -1,8 +1,9 @@
-// The user's hand at the application's windows: buttons and switches, title bars, the keyboard.
+// The user's hand at windows: buttons and switches, title bars, the keyboard.
 #pragma once
 
 #include "desk/live/hand/NavigationKey.h"
 #include "desk/live/world/SwitchMotion.h"
+#include "desk/live/world/SystemWindows.h"
 #include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/desk/DeskTarget.h"
 #include "sim/session/Session.h"
@@ -11,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kestrune::desk {
@@ -18,20 +20,26 @@ namespace kestrune::desk {
 // What is read out for a button or switch; absent for any other element.
 std::optional<std::string> titleOfControl(const ui::Element& element);
 
+// The frontmost window of that title, and the button or switch of that title in the frontmost window that has
+// one; null and absent when there is none.
+const WindowPicture* windowTitled(const DeskPicture& picture, std::string_view title);
+std::optional<DeskTarget> controlTitled(const DeskPicture& picture, std::string_view title);
+
 // Works like macOS with keyboard navigation switched on: a click brings a window to the front and makes it
 // key; buttons and switches act when the press is released over them, and a switch also goes where its knob
 // is dragged; a minimised window comes back with a click on its tile in the Dock; Tab goes from control to
-// control. While a modal alert is shown, no other window takes a click.
+// control. While a modal alert is shown, no other window of the application takes
+// a click. The keys are for the application's windows alone.
 class WindowParts {
 public:
-    // `session` must outlive the parts.
-    explicit WindowParts(sim::Session& session) : session_(session) {}
+    // Both must outlive the parts.
+    WindowParts(sim::Session& session, SystemWindows& system) : session_(session), system_(system) {}
 
-    // With the button that clicks, at what is under the pointer. What is not of these windows is ignored, but
-    // a press there makes another application the active one.
+    // With the button that clicks, at what is under the pointer. A press beside the application's windows
+    // makes another application the active one.
     void press(const std::optional<DeskTarget>& target);
 
-    // The title of what was pressed by it, if anything was.
+    // The title of what was pressed by it in one of the application's windows, if anything was.
     std::optional<std::string> release(const std::optional<DeskTarget>& target);
 
     // The pointer is over that now.
@@ -41,7 +49,7 @@ public:
     // switch that is held by its knob.
     void followPointer();
 
-    // Whether a window receives the keys.
+    // Whether a window of the application receives the keys.
     bool takesKeys() const { return session_.windows().keyWindow() != nullptr; }
 
     // The title of what was pressed by it, if anything was.
@@ -52,6 +60,9 @@ public:
 
     // Puts the windows into a picture of the session's displays.
     void addTo(DeskPicture& picture);
+
+    // The application's frontmost one; absent without any.
+    std::optional<WindowPicture> applicationWindow();
 
 private:
     using WindowState = sim::Windows::WindowState;
@@ -75,7 +86,11 @@ private:
     static std::optional<Control> controlIn(const WindowState& window, std::size_t element);
     static bool isStillThere(const std::optional<Control>& control, const WindowState& window);
     static const ui::ToggleElement* switchOf(const std::optional<Control>& control);
+    void close(const WindowState& window);
     std::optional<std::string> act(const Control& control);
+    std::optional<std::string> toldOf(const Control& control) const;
+    std::vector<WindowState> stack() const;
+    bool isKey(const WindowState& window) const;
     std::optional<std::string> letGoOfKnob(const Control& control, const SwitchGrip& grip);
     void slide(const Control& control, double from, bool isOn);
     std::optional<MovingSwitch> movingSwitchIn(const WindowState& window) const;
@@ -88,10 +103,10 @@ private:
     WindowPicture pictureOf(const WindowState& window);
     bool isPressed(const DeskTarget& button) const;
     bool isHovered(const DeskTarget& button) const;
-    WindowDepth depthOf(const Window::State& window) const;
     Rect globalFrame(const Window::State& window) const;
 
     sim::Session& session_;
+    SystemWindows& system_;
     std::vector<std::weak_ptr<Window::State>> numbered_; // a window's number is its place
     std::optional<DeskTarget> pressed_;
     std::optional<Control> pressedControl_;

@@ -101,7 +101,7 @@ void DeskPainter::paint(cairo_t* context, const DeskPicture& picture, Size windo
                  [&](cairo_t* layer) { paintStill(layer, picture, layout, window); });
 
     TextPainter text{context};
-    const Canvas canvas{context, text, paletteFor(picture.dark)};
+    const Canvas canvas{context, text, images_, paletteFor(picture.dark)};
     paintStatus(canvas, layout, picture);
     // So small, nothing on a display could be seen, and neither Cairo nor FreeType take the transformation.
     constexpr double SmallestScale = 1.0 / 64;
@@ -128,7 +128,7 @@ void DeskPainter::paintStage(const Canvas& canvas, const DeskPicture& picture, c
 void DeskPainter::paintStill(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout,
                              Size window) {
     TextPainter text{context};
-    const Canvas canvas{context, text, paletteFor(picture.dark)};
+    const Canvas canvas{context, text, images_, paletteFor(picture.dark)};
     cairo_rectangle(context, 0, 0, window.width, window.height);
     fillWithVerticalGradient(context, 0, window.height,
                              {canvas.palette.windowTop, canvas.palette.windowBottom});

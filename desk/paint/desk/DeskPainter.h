@@ -37,6 +37,7 @@ private:
     // The subject is without what moves.
     CachedLayer<DeskPicture> still_;
     StackPainter stack_;
+    ImageStore images_;
 };
 
 } // namespace kestrune::desk

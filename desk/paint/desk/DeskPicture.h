@@ -5,7 +5,6 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/desk/DeskTarget.h"
 #include "desk/paint/mac/SystemPicture.h"
 
 #include <cstddef>
@@ -91,15 +90,10 @@ struct DeskPicture {
 
     std::optional<MenuPicture> menu;
     std::optional<ToolTipPicture> toolTip;
-    std::optional<PermissionDialogPicture> permissionDialog;
-    std::optional<MailPicture> mail;
-    std::optional<SettingsPanePicture> settingsPane;
-    // The application's own, from front to back.
+    // The application's and the system's, from front to back.
     std::vector<WindowPicture> windows;
     // Those that are tiles in the Dock instead, from left to right.
     std::vector<WindowPicture> miniaturized;
-    // The button, switch or close button of the system's windows that is held down.
-    std::optional<DeskTarget> pressed;
 
     // A sentence above the displays that tells what the picture is about; may be empty.
     std::string story;

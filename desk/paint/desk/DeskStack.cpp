@@ -4,13 +4,6 @@ namespace kestrune::desk {
 
 std::vector<StackedPart> stackOf(const DeskPicture& picture) {
     std::vector<StackedPart> stack;
-    const auto addWindows = [&](WindowDepth depth) {
-        for (std::size_t index = 0; index < picture.windows.size(); ++index) {
-            if (picture.windows[index].depth == depth) {
-                stack.push_back({.kind = PartKind::window, .window = index});
-            }
-        }
-    };
     const auto addIf = [&](PartKind kind, const auto& part) {
         if (part) {
             stack.push_back({.kind = kind, .display = part->display});
@@ -24,12 +17,9 @@ std::vector<StackedPart> stackOf(const DeskPicture& picture) {
     if (picture.dockDisplay) {
         stack.push_back({.kind = PartKind::dock, .display = *picture.dockDisplay});
     }
-    addWindows(WindowDepth::beforeDialog);
-    addIf(PartKind::dialog, picture.permissionDialog);
-    addWindows(WindowDepth::beforePane);
-    addIf(PartKind::mail, picture.mail);
-    addIf(PartKind::pane, picture.settingsPane);
-    addWindows(WindowDepth::behindSystemWindows);
+    for (std::size_t window = 0; window < picture.windows.size(); ++window) {
+        stack.push_back({.kind = PartKind::window, .window = window});
+    }
     return stack;
 }
 

@@ -9,7 +9,7 @@
 
 namespace kestrune::desk {
 
-enum class PartKind { menu, toolTip, menuBar, dock, dialog, mail, pane, window };
+enum class PartKind { menu, toolTip, menuBar, dock, window };
 
 struct StackedPart {
     PartKind kind = PartKind::window;

@@ -1,17 +1,10 @@
 #include "desk/paint/desk/PanelPainter.h"
 
-#include "desk/paint/mac/Measures.h"
 #include "desk/paint/toolkit/RectMath.h"
 #include "desk/paint/toolkit/Shapes.h"
 #include "desk/paint/toolkit/SoftShadow.h"
 
 namespace kestrune::desk {
-PanelStyle windowPanelStyle(const Palette& palette) {
-    return {.color = palette.system.windowPanel,
-            .cornerRadius = WindowCornerRadius,
-            .shadowBlur = 36,
-            .shadowDrop = 14};
-}
 
 Rect panelExtent(const Rect& panel, const PanelStyle& style) {
     return enlargedBy(panel, 1.25 * style.shadowBlur + style.shadowDrop + 2);

@@ -15,9 +15,6 @@ struct PanelStyle {
     friend bool operator==(const PanelStyle&, const PanelStyle&) = default;
 };
 
-// Of dialogs and other windows.
-PanelStyle windowPanelStyle(const Palette& palette);
-
 // All that the panel and its shadow cover.
 Rect panelExtent(const Rect& panel, const PanelStyle& style);
 

@@ -1,12 +1,9 @@
 #include "desk/paint/desk/StackPainter.h"
 
 #include "desk/paint/desk/DisplayPainter.h"
-#include "desk/paint/mac/AlertPainter.h"
 #include "desk/paint/mac/DockPainter.h"
-#include "desk/paint/mac/MailPainter.h"
 #include "desk/paint/mac/MenuBarPainter.h"
 #include "desk/paint/mac/MenuPainter.h"
-#include "desk/paint/mac/SettingsPanePainter.h"
 #include "desk/paint/mac/ToolTipPainter.h"
 #include "desk/paint/mac/WindowPainter.h"
 #include "desk/paint/toolkit/RectMath.h"
@@ -18,9 +15,9 @@ namespace kestrune::desk {
 namespace {
 
 // A sprite has a context of its own to paint text into.
-void paintInto(cairo_t* sprite, const Palette& palette, const std::function<void(const Canvas&)>& paint) {
+void paintInto(cairo_t* sprite, const Canvas& outside, const std::function<void(const Canvas&)>& paint) {
     TextPainter text{sprite};
-    paint(Canvas{sprite, text, palette});
+    paint(Canvas{sprite, text, outside.images, outside.palette});
 }
 
 Rect sharedBy(const Rect& first, const Rect& second) {
@@ -37,14 +34,6 @@ DeskPicture withMenuBarsOnly(const DeskPicture& picture) {
     result.clock = picture.clock;
     result.statusItems = picture.statusItems;
     result.mainMenuTitles = picture.mainMenuTitles;
-    result.dark = picture.dark;
-    return result;
-}
-
-DeskPicture withDisplaysAndPress(const DeskPicture& picture) {
-    DeskPicture result;
-    result.displays = picture.displays;
-    result.pressed = picture.pressed;
     result.dark = picture.dark;
     return result;
 }
@@ -80,14 +69,14 @@ void StackPainter::paintOn(const DisplayPlace& place, const Canvas& canvas, cons
     if (look.panel) {
         sprites.panel.paint(canvas.context, sharedBy(extent, place.bounds),
                             {look.frame, *look.panel, look.subject.dark}, [&](cairo_t* sprite) {
-                                paintInto(sprite, canvas.palette, [&](const Canvas& own) {
+                                paintInto(sprite, canvas, [&](const Canvas& own) {
                                     paintPanel(own, look.frame, *look.panel);
                                 });
                             });
     }
     if (doOverlap(look.frame, place.bounds)) {
         sprites.content.paint(canvas.context, sharedBy(look.frame, place.bounds), look.subject,
-                              [&](cairo_t* sprite) { paintInto(sprite, canvas.palette, look.paintContent); });
+                              [&](cairo_t* sprite) { paintInto(sprite, canvas, look.paintContent); });
     }
 }
 
@@ -103,12 +92,6 @@ std::optional<StackPainter::Look> StackPainter::lookOf(const StackedPart& part, 
     case PartKind::dock:
         return part.display < picture.displays.size() ? std::optional(lookOfDock(picture, part.display))
                                                       : std::nullopt;
-    case PartKind::dialog:
-        return lookOfDialog(picture, palette);
-    case PartKind::mail:
-        return lookOfMail(picture, palette);
-    case PartKind::pane:
-        return lookOfPane(picture, palette);
     case PartKind::window:
         return lookOfWindow(picture.windows[part.window], picture, palette);
     }
@@ -122,7 +105,7 @@ StackPainter::Look StackPainter::lookOfMenuBar(std::size_t display, const DeskPi
     }
     const MenuBarLayout bar = menuBarLayout(measure_, picture.displays[display].bounds, picture);
     return {bar.area, std::nullopt, std::move(subject),
-            [=, this, &picture](const Canvas& own) { paintMenuBar(own, images_, bar, picture, display); }};
+            [=, &picture](const Canvas& own) { paintMenuBar(own, bar, picture, display); }};
 }
 
 StackPainter::Look StackPainter::lookOfDock(const DeskPicture& picture, std::size_t display) {
@@ -134,7 +117,7 @@ StackPainter::Look StackPainter::lookOfDock(const DeskPicture& picture, std::siz
     subject.dark = picture.dark;
     const DockPlace dock = dockPlace(picture.displays[display].bounds, picture);
     return {dockExtent(dock), std::nullopt, std::move(subject),
-            [=, this, &picture](const Canvas& own) { paintDock(own, images_, dock, picture); }};
+            [=, &picture](const Canvas& own) { paintDock(own, dock, picture); }};
 }
 
 StackPainter::Look StackPainter::lookOfWindow(const WindowPicture& shown, const DeskPicture& picture,
@@ -142,7 +125,7 @@ StackPainter::Look StackPainter::lookOfWindow(const WindowPicture& shown, const 
     DeskPicture subject;
     subject.windows = {shown};
     subject.dark = picture.dark;
-    return {shown.frame, applicationWindowStyle(palette, shown.isKey), std::move(subject),
+    return {shown.frame, windowPanelStyle(palette, shown), std::move(subject),
             [&](const Canvas& own) { paintWindow(own, windowLayout(shown), shown); }};
 }
 
@@ -169,48 +152,6 @@ std::optional<StackPainter::Look> StackPainter::lookOfToolTip(const DeskPicture&
     return Look{
         *area, toolTipPanelStyle(palette), std::move(subject),
         [area = *area, &picture](const Canvas& own) { paintToolTip(own, area, picture.toolTip->text); }};
-}
-
-std::optional<StackPainter::Look> StackPainter::lookOfDialog(const DeskPicture& picture,
-                                                             const Palette& palette) {
-    const auto alert = alertLayout(measure_, picture);
-    if (!alert) {
-        return std::nullopt;
-    }
-    DeskPicture subject = withDisplaysAndPress(picture);
-    subject.permissionDialog = picture.permissionDialog;
-    return Look{alert->frame, windowPanelStyle(palette), std::move(subject),
-                [alert = *alert, this, &picture](const Canvas& own) {
-                    paintAlert(own, images_, alert, *picture.permissionDialog, picture.pressed);
-                }};
-}
-
-std::optional<StackPainter::Look> StackPainter::lookOfMail(const DeskPicture& picture,
-                                                           const Palette& palette) {
-    const auto mail = mailLayout(picture);
-    if (!mail) {
-        return std::nullopt;
-    }
-    DeskPicture subject = withDisplaysAndPress(picture);
-    subject.mail = picture.mail;
-    return Look{mail->frame, windowPanelStyle(palette), std::move(subject),
-                [mail = *mail, &picture](const Canvas& own) {
-                    paintMail(own, mail, *picture.mail, picture.pressed);
-                }};
-}
-
-std::optional<StackPainter::Look> StackPainter::lookOfPane(const DeskPicture& picture,
-                                                           const Palette& palette) {
-    const auto pane = settingsPaneLayout(picture);
-    if (!pane) {
-        return std::nullopt;
-    }
-    DeskPicture subject = withDisplaysAndPress(picture);
-    subject.settingsPane = picture.settingsPane;
-    return Look{pane->frame, windowPanelStyle(palette), std::move(subject),
-                [pane = *pane, this, &picture](const Canvas& own) {
-                    paintSettingsPane(own, images_, pane, *picture.settingsPane, picture.pressed);
-                }};
 }
 
 } // namespace kestrune::desk

@@ -7,7 +7,6 @@
 #include "desk/paint/desk/PanelPainter.h"
 #include "desk/paint/toolkit/CachedSprite.h"
 #include "desk/paint/toolkit/Canvas.h"
-#include "desk/paint/toolkit/ImageStore.h"
 #include "desk/paint/toolkit/TextMeasure.h"
 
 #include <cstddef>
@@ -57,13 +56,9 @@ private:
     static Look lookOfWindow(const WindowPicture& shown, const DeskPicture& picture, const Palette& palette);
     std::optional<Look> lookOfMenu(const DeskPicture& picture, const Palette& palette);
     std::optional<Look> lookOfToolTip(const DeskPicture& picture, const Palette& palette);
-    std::optional<Look> lookOfDialog(const DeskPicture& picture, const Palette& palette);
-    static std::optional<Look> lookOfMail(const DeskPicture& picture, const Palette& palette);
-    std::optional<Look> lookOfPane(const DeskPicture& picture, const Palette& palette);
     static void paintOn(const DisplayPlace& place, const Canvas& canvas, const Look& look, Sprites& sprites);
 
     TextMeasure measure_;
-    ImageStore images_;
     std::map<Key, Sprites> sprites_;
 };
 

@@ -3,9 +3,12 @@
 #include "desk/paint/toolkit/Shapes.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace kestrune::desk {
 namespace {
+
+constexpr std::string_view SymbolPrefix = "application-icon:";
 
 // A blank tile with rings, as wide within its area as the icons of other applications are.
 void paintGeneralIcon(cairo_t* context, const Rect& area) {
@@ -27,13 +30,19 @@ void paintGeneralIcon(cairo_t* context, const Rect& area) {
 
 } // namespace
 
-void paintApplicationIcon(const Canvas& canvas, ImageStore& images, const std::optional<std::string>& path,
-                          const Rect& area) {
-    if (cairo_surface_t* const image = path ? images.image(*path) : nullptr) {
+void paintApplicationIcon(const Canvas& canvas, const std::optional<std::string>& path, const Rect& area) {
+    if (cairo_surface_t* const image = path ? canvas.images.image(*path) : nullptr) {
         paintImage(canvas.context, image, area);
     } else {
         paintGeneralIcon(canvas.context, area);
     }
+}
+
+std::string iconSymbol(const std::string& path) { return std::string(SymbolPrefix) + path; }
+
+std::optional<std::string> pathOfIcon(const std::string& symbol) {
+    return symbol.starts_with(SymbolPrefix) ? std::optional(symbol.substr(SymbolPrefix.size()))
+                                            : std::nullopt;
 }
 
 } // namespace kestrune::desk

@@ -3,7 +3,6 @@
 
 #include "base/Geometry.h"
 #include "desk/paint/toolkit/Canvas.h"
-#include "desk/paint/toolkit/ImageStore.h"
 
 #include <optional>
 #include <string>
@@ -11,7 +10,11 @@
 namespace kestrune::desk {
 
 // Without a path, and for a file that cannot be read, a general icon.
-void paintApplicationIcon(const Canvas& canvas, ImageStore& images, const std::optional<std::string>& path,
-                          const Rect& area);
+void paintApplicationIcon(const Canvas& canvas, const std::optional<std::string>& path, const Rect& area);
+
+// The desk's own symbol for the icon in that file, as large as its font. The second takes the name apart;
+// absent for any other symbol.
+std::string iconSymbol(const std::string& path);
+std::optional<std::string> pathOfIcon(const std::string& symbol);
 
 } // namespace kestrune::desk

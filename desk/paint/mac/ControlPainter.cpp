@@ -20,33 +20,25 @@ void strokeLine(cairo_t* context, Point from, Point to, double width, const Colo
 
 } // namespace
 
-TextStyle pushButtonStyle() {
-    return {.size = 13, .weight = FontWeight::medium, .alignment = TextAlignment::center};
-}
-
 PushButtonLook pushButtonLook(ui::ControlSize size) {
-    PushButtonLook look;
-    const auto set = [&look](double height, double padding, double cornerRadius, double textSize) {
-        look.height = height;
-        look.padding = padding;
-        look.cornerRadius = cornerRadius;
-        look.label.size = textSize;
+    const auto look = [](double height, double padding, double cornerRadius, double textSize) {
+        return PushButtonLook{
+            height,
+            padding,
+            cornerRadius,
+            {.size = textSize, .weight = FontWeight::medium, .alignment = TextAlignment::center}};
     };
     switch (size) {
     case ui::ControlSize::mini:
-        set(16, 7, 4, 9);
-        break;
+        return look(16, 7, 4, 9);
     case ui::ControlSize::small:
-        set(19, 9, 4.5, 11);
-        break;
-    case ui::ControlSize::regular:
-        set(22, 12, 5.5, 13);
-        break;
+        return look(19, 9, 4.5, 11);
     case ui::ControlSize::large:
-        set(28, 14, 6.5, 13);
+        return look(28, 14, 6.5, 13);
+    case ui::ControlSize::regular:
         break;
     }
-    return look;
+    return look(22, 12, 5.5, 13);
 }
 
 void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state,
@@ -136,21 +128,6 @@ void paintFocusRing(const Canvas& canvas, const Rect& control, double cornerRadi
                        control.height() + 2 * Width};
     strokeRoundedRectangle(canvas.context, outside, cornerRadius + Width, Width,
                            canvas.palette.system.focusRing);
-}
-
-void paintListButton(const Canvas& canvas, const Rect& area, ListButton button, bool isEnabled,
-                     bool isPressed) {
-    constexpr double Arm = 4.5;
-    const SystemColors& colors = canvas.palette.system;
-    if (isPressed) {
-        fillRoundedRectangle(canvas.context, area, 4, colors.pressedShade);
-    }
-    const Point center = centerOf(area);
-    const Color color = isEnabled ? colors.text : colors.disabledText;
-    strokeLine(canvas.context, {center.x - Arm, center.y}, {center.x + Arm, center.y}, 1.4, color);
-    if (button == ListButton::add) {
-        strokeLine(canvas.context, {center.x, center.y - Arm}, {center.x, center.y + Arm}, 1.4, color);
-    }
 }
 
 } // namespace kestrune::desk

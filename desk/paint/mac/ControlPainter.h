@@ -1,4 +1,4 @@
-// The controls in the system's windows.
+// The controls in windows.
 #pragma once
 
 #include "base/Geometry.h"
@@ -10,18 +10,11 @@
 
 namespace kestrune::desk {
 
-inline constexpr double PushButtonHeight = 24;
-inline constexpr double ButtonPadding = 15; // on either side of the label
-
-// The label's; the colour is left to the painter.
-TextStyle pushButtonStyle();
-
-// Of the push buttons in applications' windows.
 struct PushButtonLook {
-    double height = PushButtonHeight;
-    double padding = ButtonPadding;
-    double cornerRadius = 6;
-    TextStyle label = pushButtonStyle();
+    double height;
+    double padding; // on either side of the label
+    double cornerRadius;
+    TextStyle label; // the colour is left to the painter
 };
 PushButtonLook pushButtonLook(ui::ControlSize size);
 
@@ -30,10 +23,7 @@ struct PushButtonState {
     bool isPressed = false;
 };
 void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state,
-                     const PushButtonLook& look = {});
-
-// In the system's own windows.
-inline constexpr Size SwitchSize{28, 16};
+                     const PushButtonLook& look);
 
 struct SwitchState {
     bool isOn = false;
@@ -63,10 +53,5 @@ void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowBut
 
 // Around a control that the keyboard works on.
 void paintFocusRing(const Canvas& canvas, const Rect& control, double cornerRadius);
-
-// The signs of buttons that add to a list and remove from it.
-enum class ListButton { add, remove };
-void paintListButton(const Canvas& canvas, const Rect& area, ListButton button, bool isEnabled,
-                     bool isPressed);
 
 } // namespace kestrune::desk

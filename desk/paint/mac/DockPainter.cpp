@@ -80,7 +80,7 @@ DockPlace dockPlace(const Rect& display, const DeskPicture& picture) {
 
 Rect dockExtent(const DockPlace& dock) { return enlargedBy(dock.panel, 2 * ShadowBlur * dock.scale); }
 
-void paintDock(const Canvas& canvas, ImageStore& images, const DockPlace& dock, const DeskPicture& picture) {
+void paintDock(const Canvas& canvas, const DockPlace& dock, const DeskPicture& picture) {
     constexpr double SmallestScale = 1.0 / 64;
     if (dock.scale < SmallestScale) {
         return; // Too small to see; the glyphs' transformation would come close to a singular one.
@@ -108,7 +108,7 @@ void paintDock(const Canvas& canvas, ImageStore& images, const DockPlace& dock, 
     }
     if (dock.icon) {
         // The drawing has the margin around it that all icons have on the Mac.
-        paintApplicationIcon(canvas, images, picture.dockIcon, enlargedBy(*dock.icon, 5 * dock.scale));
+        paintApplicationIcon(canvas, picture.dockIcon, enlargedBy(*dock.icon, 5 * dock.scale));
         paintDot(*dock.icon);
     }
     for (std::size_t tile = 0; tile < dock.tiles.size(); ++tile) {

@@ -3,7 +3,6 @@
 
 #include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/toolkit/Canvas.h"
-#include "desk/paint/toolkit/ImageStore.h"
 
 #include <optional>
 #include <vector>
@@ -25,7 +24,7 @@ DockPlace dockPlace(const Rect& display, const DeskPicture& picture);
 Rect dockExtent(const DockPlace& dock);
 
 // With a window in each tile.
-void paintDock(const Canvas& canvas, ImageStore& images, const DockPlace& dock, const DeskPicture& picture);
+void paintDock(const Canvas& canvas, const DockPlace& dock, const DeskPicture& picture);
 
 // A dotted arc between two places of the Dock's panel, in window coordinates, and the outline of the place
 // that it left.

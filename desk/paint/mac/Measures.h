@@ -19,6 +19,8 @@ inline constexpr double WindowCornerRadius = 10;
 inline constexpr double WindowButtonSide = 12;
 inline constexpr double WindowButtonDistance = 20; // from centre to centre
 inline constexpr double WindowButtonInset = 8;     // of the first one
+inline constexpr double ToolbarButtonInset = 20;   // of the first one in a bar of this height
+inline constexpr double ToolbarHeight = 52;
 
 inline constexpr double DockIconSide = 52;
 inline constexpr double DockIconGap = 8;

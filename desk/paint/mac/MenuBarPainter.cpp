@@ -15,13 +15,12 @@ void paintTitles(const Canvas& canvas, const MenuBarLayout& layout, const DeskPi
     }
 }
 
-void paintStatusItems(const Canvas& canvas, ImageStore& images, const MenuBarLayout& layout,
-                      const DeskPicture& picture) {
+void paintStatusItems(const Canvas& canvas, const MenuBarLayout& layout, const DeskPicture& picture) {
     for (std::size_t index = 0; index < layout.statusItems.size(); ++index) {
         const StatusItemPicture& item = picture.statusItems[index];
         const Rect& area = layout.statusItems[index].image;
         cairo_surface_t* const image =
-            item.imagePath && !area.isNull() ? images.image(*item.imagePath) : nullptr;
+            item.imagePath && !area.isNull() ? canvas.images.image(*item.imagePath) : nullptr;
         if (!image) {
             continue;
         }
@@ -42,15 +41,15 @@ void paintHighlight(const Canvas& canvas, const Rect& slot) {
 
 } // namespace
 
-void paintMenuBar(const Canvas& canvas, ImageStore& images, const MenuBarLayout& layout,
-                  const DeskPicture& picture, std::size_t display) {
+void paintMenuBar(const Canvas& canvas, const MenuBarLayout& layout, const DeskPicture& picture,
+                  std::size_t display) {
     fillRoundedRectangle(canvas.context, layout.area, 0, canvas.palette.menuBar);
     if (picture.menu && picture.menu->display == display) {
         paintHighlight(canvas, anchorSlot(layout, picture.menu->anchor));
     }
     fillCircle(canvas.context, layout.mark, MenuBarMarkRadius, canvas.palette.menuBarText);
     paintTitles(canvas, layout, picture);
-    paintStatusItems(canvas, images, layout, picture);
+    paintStatusItems(canvas, layout, picture);
     TextStyle style = clockStyle();
     style.color = canvas.palette.menuBarText;
     style.maximumWidth = layout.clockWidth + 1; // Against rounding in the measured width.

@@ -4,13 +4,12 @@
 #include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/mac/MenuBarLayout.h"
 #include "desk/paint/toolkit/Canvas.h"
-#include "desk/paint/toolkit/ImageStore.h"
 
 #include <cstddef>
 
 namespace kestrune::desk {
 
-void paintMenuBar(const Canvas& canvas, ImageStore& images, const MenuBarLayout& layout,
-                  const DeskPicture& picture, std::size_t display);
+void paintMenuBar(const Canvas& canvas, const MenuBarLayout& layout, const DeskPicture& picture,
+                  std::size_t display);
 
 } // namespace kestrune::desk

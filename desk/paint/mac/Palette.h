@@ -38,7 +38,6 @@ struct SystemColors {
 
     Color menuPanel;
     Color toolTipPanel;
-    Color windowPanel;
     Color panelEdge;      // a hairline around a panel
     Color panelHighlight; // a hairline inside that
     Color panelShadow;
@@ -47,12 +46,8 @@ struct SystemColors {
     Color detailText;
     Color disabledText;
     Color separator;
-    Color selection; // of a row that keeps its text's colour
 
     Color paper; // behind what is written
-
-    Color groupBox;
-    Color groupBoxEdge;
 
     Color buttonFace;
     Color buttonEdge;

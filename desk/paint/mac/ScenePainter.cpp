@@ -1,5 +1,6 @@
 #include "desk/paint/mac/ScenePainter.h"
 
+#include "desk/paint/mac/ApplicationIcon.h"
 #include "desk/paint/mac/ControlPainter.h"
 #include "desk/paint/mac/SymbolPainter.h"
 #include "desk/paint/toolkit/SceneColor.h"
@@ -44,6 +45,10 @@ public:
     }
 
     void operator()(const ui::SymbolElement& element) {
+        if (const auto path = pathOfIcon(element.symbol.name)) {
+            paintApplicationIcon(canvas_, path, element.frame);
+            return;
+        }
         paintSymbol(canvas_.context, element.symbol, element.frame,
                     sceneColor(canvas_.palette, element.symbol.color));
     }

@@ -1,5 +1,6 @@
 #include "desk/paint/mac/SymbolPainter.h"
 
+#include "desk/paint/mac/ApplicationIcon.h"
 #include "desk/paint/toolkit/Shapes.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ constexpr double CircleDiameter = 1.17;
 constexpr double CircleRadius = CircleDiameter / 2;
 constexpr Size CircleSize{CircleDiameter, CircleDiameter};
 constexpr Size ScreenSize{1.40, 1.06};
+constexpr Size SignSize{0.74, 0.74};
 
 void strokeRound(cairo_t* context, double width) {
     cairo_set_line_cap(context, CAIRO_LINE_CAP_ROUND);
@@ -93,11 +95,26 @@ void drawDashedCircle(cairo_t* context, double line) {
     strokeRound(context, line);
 }
 
+void drawMinus(cairo_t* context, double line) {
+    const double reach = (SignSize.width - line) / 2; // the ends are round
+    cairo_move_to(context, -reach, 0);
+    cairo_line_to(context, reach, 0);
+    strokeRound(context, line);
+}
+
+void drawPlus(cairo_t* context, double line) {
+    drawMinus(context, line);
+    cairo_rotate(context, std::numbers::pi / 2);
+    drawMinus(context, line);
+}
+
 constexpr std::array Drawings{
     Drawing{"dock.rectangle", ScreenSize, drawScreenWithDock},
     Drawing{"2.circle.fill", CircleSize, drawTwoOnDisc},
     Drawing{"checkmark.circle.fill", CircleSize, drawCheckMarkOnDisc},
     Drawing{"circle.dashed", CircleSize, drawDashedCircle},
+    Drawing{"minus", SignSize, drawMinus},
+    Drawing{"plus", SignSize, drawPlus},
 };
 
 const Drawing* drawingOf(std::string_view name) {
@@ -128,6 +145,9 @@ double scaleFactor(ui::ImageScale scale) {
 Size symbolSize(const ui::StyledSymbol& symbol) {
     const Drawing* const drawing = drawingOf(symbol.name);
     const double unit = symbol.font.size * scaleFactor(symbol.scale);
+    if (pathOfIcon(symbol.name)) {
+        return {unit, unit};
+    }
     return drawing ? Size{drawing->size.width * unit, drawing->size.height * unit} : Size{};
 }
 

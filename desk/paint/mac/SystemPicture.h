@@ -1,6 +1,5 @@
 // The parts of a Mac's screen that an application of the menu bar lives in, as plain data: status items,
-// menus, tool tips, its windows, the dialog that asks for a permission, the panes of System Settings that
-// concern it, and the mail that it lets its user write.
+// menus, tool tips and windows, its own and those of the system.
 #pragma once
 
 #include "base/Geometry.h"
@@ -71,55 +70,18 @@ struct ToolTipPicture {
     friend bool operator==(const ToolTipPicture&, const ToolTipPicture&) = default;
 };
 
-// The system's question whether an application may control the computer.
-struct PermissionDialogPicture {
-    std::size_t display = 0;
-    std::string applicationName = {};
-    std::optional<std::string> iconPath = std::nullopt; // a PNG file; otherwise a general icon is shown
-    double titleBarHeight = 0;
-
-    friend bool operator==(const PermissionDialogPicture&, const PermissionDialogPicture&) = default;
-};
-
-struct PaneRowPicture {
-    std::string name = {};
-    std::optional<std::string> iconPath = std::nullopt; // a PNG file; otherwise a general icon is shown
-    bool isOn = false;
-    bool selected = false;
-
-    friend bool operator==(const PaneRowPicture&, const PaneRowPicture&) = default;
-};
-
-// System Settings with a list of applications and what each may do. Usually the applications that may control
-// the computer.
-struct SettingsPanePicture {
-    std::size_t display = 0;
-    std::vector<PaneRowPicture> rows = {};
-    std::string title = "Accessibility";
-    std::string sentence = "Allow the applications below to control your computer.";
-
-    friend bool operator==(const SettingsPanePicture&, const SettingsPanePicture&) = default;
-};
-
-// A mail program with a mail that is not sent yet.
-struct MailPicture {
-    std::size_t display = 0;
-    std::string recipient = {};
-    std::string subject = {};
-    std::string body = {}; // lines end in line feeds
-
-    friend bool operator==(const MailPicture&, const MailPicture&) = default;
-};
-
-// How far in front an application's window lies.
-enum class WindowDepth { behindSystemWindows, beforePane, beforeDialog };
-
 // A switch whose knob is under way.
 struct MovingSwitch {
     std::size_t element = 0; // of the window's scene
     double position = 0;     // of the knob, from 0, off, to 1, on
 
     friend bool operator==(const MovingSwitch&, const MovingSwitch&) = default;
+};
+
+enum class WindowLook {
+    standard,
+    toolbar, // a higher bar that nothing parts from the content, with the title after the buttons
+    paper,   // the same, as white as what is written on
 };
 
 struct WindowPicture {
@@ -131,7 +93,7 @@ struct WindowPicture {
     bool isMiniaturizable = false;
     bool isResizable = false;
     bool isKey = false; // receives the keys
-    WindowDepth depth = WindowDepth::beforePane;
+    WindowLook look = WindowLook::standard;
     ui::Scene scene = {};
 
     // Indices into the scene's elements.

@@ -10,13 +10,13 @@ namespace kestrune::desk {
 WindowLayout windowLayout(const WindowPicture& shown) {
     const Rect frame = shown.frame.standardized();
     const double titleHeight = shown.titleBarHeight;
+    const double inset = shown.look == WindowLook::standard ? WindowButtonInset : ToolbarButtonInset;
     WindowLayout result;
     result.frame = frame;
     result.titleBar = {frame.minX(), frame.minY(), frame.width(), titleHeight};
     result.content = {frame.minX(), frame.minY() + titleHeight, frame.width(), frame.height() - titleHeight};
-    result.closeButton = {frame.minX() + WindowButtonInset,
-                          frame.minY() + (titleHeight - WindowButtonSide) / 2, WindowButtonSide,
-                          WindowButtonSide};
+    result.closeButton = {frame.minX() + inset, frame.minY() + (titleHeight - WindowButtonSide) / 2,
+                          WindowButtonSide, WindowButtonSide};
     result.minimizeButton = movedBy(result.closeButton, {WindowButtonDistance, 0});
     return result;
 }

@@ -1,6 +1,7 @@
 #include "desk/paint/mac/WindowPainter.h"
 
 #include "desk/paint/mac/ControlPainter.h"
+#include "desk/paint/mac/Measures.h"
 #include "desk/paint/mac/ScenePainter.h"
 #include "desk/paint/toolkit/SceneColor.h"
 #include "desk/paint/toolkit/Shapes.h"
@@ -15,17 +16,7 @@ bool hasButtons(const WindowPicture& shown) {
     return shown.isClosable || shown.isMiniaturizable || shown.isResizable;
 }
 
-void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
-    constexpr double ButtonsWidth = 72; // with the room after them
-    const WindowColors& colors = canvas.palette.application;
-    const Rect& bar = layout.titleBar;
-    if (shown.isKey) {
-        cairo_rectangle(canvas.context, bar.minX(), bar.minY(), bar.width(), bar.height());
-        setColor(canvas.context, colors.titleBar);
-        cairo_fill(canvas.context);
-    }
-    fillRoundedRectangle(canvas.context, {bar.minX(), bar.maxY() - 0.5, bar.width(), 0.5}, 0,
-                         sceneColor(canvas.palette, ui::Color::separator));
+void paintButtons(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
     if (hasButtons(shown)) {
         paintWindowButtons(canvas, layout.closeButton,
                            {.isClosable = shown.isClosable,
@@ -37,34 +28,58 @@ void paintTitleBar(const Canvas& canvas, const WindowLayout& layout, const Windo
                             .isMinimizePressed = shown.isMinimizeButtonPressed,
                             .isMinimizeHovered = shown.isMinimizeButtonHovered});
     }
-    canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, bar.minY() + bar.height() / 2},
-                      {.size = 13,
-                       .weight = FontWeight::bold,
-                       .color = shown.isKey ? colors.title : colors.inactiveTitle,
-                       .alignment = TextAlignment::center,
-                       .maximumWidth = std::max(0.0, bar.width() - 2 * ButtonsWidth)});
+}
+
+void paintBar(const Canvas& canvas, const Rect& bar, const WindowPicture& shown) {
+    if (shown.isKey) {
+        fillRoundedRectangle(canvas.context, bar, 0, canvas.palette.application.titleBar);
+    }
+    fillRoundedRectangle(canvas.context, {bar.minX(), bar.maxY() - 0.5, bar.width(), 0.5}, 0,
+                         sceneColor(canvas.palette, ui::Color::separator));
+}
+
+void paintTitle(const Canvas& canvas, const Rect& bar, const WindowPicture& shown) {
+    constexpr double ButtonsWidth = 72; // with the room after them
+    const WindowColors& colors = canvas.palette.application;
+    const double middle = bar.minY() + bar.height() / 2;
+    const Color color = shown.isKey ? colors.title : colors.inactiveTitle;
+    if (shown.look == WindowLook::standard) {
+        canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, middle},
+                          {.size = 13,
+                           .weight = FontWeight::bold,
+                           .color = color,
+                           .alignment = TextAlignment::center,
+                           .maximumWidth = std::max(0.0, bar.width() - 2 * ButtonsWidth)});
+    } else {
+        const double left = ButtonsWidth + ToolbarButtonInset;
+        canvas.text.paint(shown.title, {bar.minX() + left, middle},
+                          {.size = 15,
+                           .weight = FontWeight::bold,
+                           .color = color,
+                           .maximumWidth = std::max(0.0, bar.width() - left - ToolbarButtonInset)});
+    }
 }
 
 } // namespace
 
-PanelStyle applicationWindowStyle(const Palette& palette, bool isActive) {
-    PanelStyle style = windowPanelStyle(palette);
-    style.color = palette.application.window;
-    if (!isActive) {
-        style.shadowBlur = 24;
-        style.shadowDrop = 8;
-    }
-    return style;
+PanelStyle windowPanelStyle(const Palette& palette, const WindowPicture& shown) {
+    return {.color = shown.look == WindowLook::paper ? palette.system.paper : palette.application.window,
+            .cornerRadius = WindowCornerRadius,
+            .shadowBlur = shown.isKey ? 36.0 : 24.0,
+            .shadowDrop = shown.isKey ? 14.0 : 8.0};
 }
 
 void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
     const SavedState saved{canvas.context};
-    addRoundedRectangle(canvas.context, layout.frame,
-                        applicationWindowStyle(canvas.palette, shown.isKey).cornerRadius);
+    addRoundedRectangle(canvas.context, layout.frame, WindowCornerRadius);
     cairo_clip(canvas.context);
     // The title bar of an alert cannot be told from the rest of it.
     if (shown.isTitled() && (hasButtons(shown) || !shown.title.empty())) {
-        paintTitleBar(canvas, layout, shown);
+        if (shown.look == WindowLook::standard) {
+            paintBar(canvas, layout.titleBar, shown);
+        }
+        paintButtons(canvas, layout, shown);
+        paintTitle(canvas, layout.titleBar, shown);
     }
     paintScene(canvas, shown.scene, layout.content.origin,
                {.pressedElement = shown.pressedElement,
@@ -80,15 +95,15 @@ void paintMiniature(const Canvas& canvas, const Rect& area, const WindowPicture&
         return; // Nothing to see, and the transformation would come close to a singular one.
     }
     const WindowLayout layout = windowLayout(shown);
-    const PanelStyle style = applicationWindowStyle(canvas.palette, false);
     const SavedState saved{canvas.context};
     cairo_translate(canvas.context, area.minX() + (area.width() - shown.frame.width() * scale) / 2,
                     area.minY() + (area.height() - shown.frame.height() * scale) / 2);
     cairo_scale(canvas.context, scale, scale);
     cairo_translate(canvas.context, -layout.frame.minX(), -layout.frame.minY());
-    fillRoundedRectangle(canvas.context, layout.frame, style.cornerRadius, style.color);
+    fillRoundedRectangle(canvas.context, layout.frame, WindowCornerRadius,
+                         windowPanelStyle(canvas.palette, shown).color);
     paintWindow(canvas, layout, shown);
-    strokeRoundedRectangle(canvas.context, layout.frame, style.cornerRadius, 0.75 / scale,
+    strokeRoundedRectangle(canvas.context, layout.frame, WindowCornerRadius, 0.75 / scale,
                            canvas.palette.dockBorder);
 }
 

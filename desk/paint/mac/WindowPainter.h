@@ -1,4 +1,4 @@
-// The windows of applications.
+// Windows.
 #pragma once
 
 #include "desk/paint/desk/PanelPainter.h"
@@ -8,8 +8,8 @@
 
 namespace kestrune::desk {
 
-// An active window throws a deeper shadow.
-PanelStyle applicationWindowStyle(const Palette& palette, bool isActive);
+// The key window throws a deeper shadow.
+PanelStyle windowPanelStyle(const Palette& palette, const WindowPicture& shown);
 
 // Title bar and scene; the panel is not painted with them.
 void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown);

@@ -31,9 +31,10 @@ void paintWindowAlone(cairo_t* context, const WindowPicture& window, bool dark) 
     const Color bottom = dark ? rgb(0x151B27) : rgb(0xAFC0D0);
     fillWithVerticalGradient(context, all.minY(), all.maxY(), {top, bottom});
     TextPainter text{context};
-    const Canvas canvas{context, text, paletteFor(dark)};
+    ImageStore images;
+    const Canvas canvas{context, text, images, paletteFor(dark)};
     const WindowLayout layout = windowLayout(window);
-    paintPanel(canvas, layout.frame, applicationWindowStyle(canvas.palette, window.isKey));
+    paintPanel(canvas, layout.frame, windowPanelStyle(canvas.palette, window));
     paintWindow(canvas, layout, window);
 }
 

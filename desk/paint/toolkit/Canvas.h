@@ -3,6 +3,7 @@
 
 #include "desk/paint/mac/Palette.h"
 #include "desk/paint/toolkit/CairoObjects.h"
+#include "desk/paint/toolkit/ImageStore.h"
 #include "desk/paint/toolkit/TextPainter.h"
 
 namespace kestrune::desk {
@@ -10,6 +11,7 @@ namespace kestrune::desk {
 struct Canvas {
     cairo_t* context; // user units are the window's logical pixels
     TextPainter& text;
+    ImageStore& images;
     const Palette& palette;
 };
 

@@ -1,4 +1,5 @@
 #include "tests/desk/live/LiveFixture.h"
+#include "tests/desk/live/WindowTitles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -294,7 +295,7 @@ DeskTarget menuRow(LiveDesk& desk, std::string_view title) {
         return candidate.title.find(title) < 3;
     });
     EXPECT_NE(row, rows.end()) << title;
-    return MenuRowTarget{static_cast<std::size_t>(row - rows.begin())};
+    return DeskTarget::menuRow(static_cast<std::size_t>(row - rows.begin()));
 }
 
 // Past the menu that was built at launch, before the setup was noted.
@@ -378,12 +379,12 @@ TEST(LiveDesk, SwitchesThePermissionInThePane) {
     setup.permission = sim::Permission::notListed;
     LiveDesk desk(setup);
     desk.askForPermission();
-    click(desk, DialogButtonTarget{DialogButton::openSystemSettings});
-    click(desk, PaneSwitchTarget{0});
+    click(desk, controlTitled(pictureOf(desk), "Open System Settings").value());
+    click(desk, controlTitled(pictureOf(desk), "Kestrune").value());
     EXPECT_EQ(desk.news().text, "Accessibility permission granted: Kestrune looks for it once a second");
     desk.advance(std::chrono::seconds(1));
     EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
-    click(desk, PaneSwitchTarget{0});
+    click(desk, controlTitled(pictureOf(desk), "Kestrune").value());
     EXPECT_EQ(desk.news().text.substr(0, 32), "Accessibility permission revoked");
 }
 

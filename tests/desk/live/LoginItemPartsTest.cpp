@@ -2,66 +2,72 @@
 
 #include "tests/desk/live/SettingsOnTheDesk.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <optional>
 
 namespace kestrune::desk {
 namespace {
 
 using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
 
-class LoginItemsOnTheDesk : public SettingsOnTheDesk {};
+constexpr const char* LoginItemsTitle = "Login Items";
+
+class LoginItemsOnTheDesk : public SettingsOnTheDesk {
+protected:
+    // The switch of the application's row in System Settings; absent without a row.
+    std::optional<bool> isOn() { return kestrune::desk::isSwitchOn(picture(), "Kestrune"); }
+};
 
 TEST_F(LoginItemsOnTheDesk, ShowLaunchAtLoginAmongTheLoginItems) {
     desk.openLoginItems();
-    ASSERT_TRUE(picture().settingsPane);
-    EXPECT_EQ(picture().settingsPane->title, "Login Items");
-    EXPECT_TRUE(picture().settingsPane->rows.empty());
+    EXPECT_THAT(textsIn(window(LoginItemsTitle)),
+                ElementsAre("These applications open automatically when you log in.", "No Items"));
     open();
     hand.click(toggle());
-    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
-    EXPECT_EQ(picture().settingsPane->rows[0].name, "Kestrune");
-    EXPECT_TRUE(picture().settingsPane->rows[0].isOn);
+    EXPECT_EQ(isOn(), true);
     hand.click(toggle());
-    EXPECT_TRUE(picture().settingsPane->rows.empty());
+    EXPECT_EQ(isOn(), std::nullopt);
 }
 
 TEST_F(LoginItemsOnTheDesk, RevokeAndAllowTheLoginItem) {
     desk.session().loginItem().setStatus(AppServiceStatus::enabled);
     desk.openLoginItems();
-    hand.click(PaneSwitchTarget{0});
+    hand.clickControl("Kestrune");
     EXPECT_EQ(loginItem(), AppServiceStatus::requiresApproval);
     EXPECT_EQ(desk.news().text, "Kestrune may not open at login until System Settings allows it");
-    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
-    EXPECT_FALSE(picture().settingsPane->rows[0].isOn);
+    EXPECT_EQ(isOn(), false);
     open();
     EXPECT_FALSE(isSwitchOn()) << "what waits for approval counts as off";
-    hand.click(PaneSwitchTarget{0});
+    hand.clickControl("Kestrune");
     EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
-    hand.click(PaneRowTarget{0});
-    EXPECT_TRUE(picture().settingsPane->rows[0].selected);
-    hand.click(PaneRemoveTarget{});
+    hand.clickControl("Select Kestrune");
+    hand.clickControl("Remove");
     EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
-    EXPECT_TRUE(picture().settingsPane->rows.empty());
-    hand.click(PaneCloseTarget{});
-    EXPECT_FALSE(picture().settingsPane);
+    EXPECT_EQ(isOn(), std::nullopt);
+    hand.closeWindow(LoginItemsTitle);
+    EXPECT_FALSE(isOpen(LoginItemsTitle));
+    EXPECT_FALSE(hand.missing()) << *hand.missing();
     EXPECT_TRUE(window().isKey);
 }
 
 TEST_F(LoginItemsOnTheDesk, LetOnlyTheUserAllowWhatTheUserRevoked) {
     desk.session().loginItem().setStatus(AppServiceStatus::enabled);
     desk.openLoginItems();
-    hand.click(PaneSwitchTarget{0});
+    hand.clickControl("Kestrune");
     open();
     hand.click(toggle());
     desk.advance(1s);
     EXPECT_TRUE(isSwitchOn()) << "the switch stays where the user put it";
     EXPECT_EQ(loginItem(), AppServiceStatus::requiresApproval);
-    EXPECT_FALSE(picture().settingsPane->rows.at(0).isOn);
+    EXPECT_EQ(isOn(), false);
     reopen();
     EXPECT_FALSE(isSwitchOn());
-    hand.click(PaneSwitchTarget{0});
+    hand.clickControl("Kestrune");
     EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
     EXPECT_FALSE(isSwitchOn()) << "Settings look when they are opened";
     reopen();
@@ -77,11 +83,10 @@ TEST_F(LoginItemsOnTheDesk, RegisterAnItemThatWaitsForApproval) {
     EXPECT_TRUE(isSwitchOn());
     EXPECT_EQ(loginItem(), AppServiceStatus::requiresApproval);
     EXPECT_EQ(desk.news().text, "Kestrune may not open at login until System Settings allows it");
-    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
-    EXPECT_FALSE(picture().settingsPane->rows[0].isOn);
+    EXPECT_EQ(isOn(), false);
     reopen();
     EXPECT_FALSE(isSwitchOn());
-    hand.click(PaneSwitchTarget{0});
+    hand.clickControl("Kestrune");
     reopen();
     EXPECT_TRUE(isSwitchOn());
 
@@ -95,12 +100,12 @@ TEST_F(LoginItemsOnTheDesk, RegisterAnItemThatWaitsForApproval) {
 TEST_F(LoginItemsOnTheDesk, ShowOnePaneOfSystemSettingsAtATime) {
     desk.session().accessibility().showPane();
     desk.openLoginItems();
-    EXPECT_EQ(picture().settingsPane->title, "Login Items");
+    EXPECT_THAT(windowTitlesOn(desk), ElementsAre(LoginItemsTitle));
     EXPECT_FALSE(desk.session().accessibility().isPaneShown());
     desk.session().accessibility().showPane();
-    EXPECT_EQ(picture().settingsPane->title, "Accessibility");
-    hand.click(PaneCloseTarget{});
-    EXPECT_FALSE(picture().settingsPane);
+    EXPECT_THAT(windowTitlesOn(desk), ElementsAre("Accessibility"));
+    hand.closeWindow("Accessibility");
+    EXPECT_THAT(windowTitlesOn(desk), IsEmpty());
 }
 
 } // namespace

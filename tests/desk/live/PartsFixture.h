@@ -4,6 +4,7 @@
 
 #include "desk/live/world/ScreenParts.h"
 #include "desk/replay/ApplicationHost.h"
+#include "tests/desk/live/WindowTitles.h"
 
 #include <gtest/gtest.h>
 
@@ -17,8 +18,8 @@ namespace kestrune::desk {
 
 class PartsFixture : public testing::Test {
 protected:
-    static constexpr StatusItemTarget Icon{0, 0};
-    static constexpr StatusItemTarget IconOnTwo{1, 0};
+    static constexpr DeskTarget Icon = DeskTarget::statusItem(0, 0);
+    static constexpr DeskTarget IconOnTwo = DeskTarget::statusItem(1, 0);
 
     // How long the pointer rests until the tool tip comes.
     static constexpr sim::Duration Rest = std::chrono::milliseconds(1200);
@@ -31,8 +32,9 @@ protected:
 
     static sim::SessionOptions options() {
         sim::SessionOptions result;
-        result.displays = {sim::makeDisplay(1, "One", {0, 0, 100, 100}),
-                           sim::makeDisplay(2, "Two", {100, 0, 100, 100})};
+        result.displays = {sim::makeDisplay(1, "One", {0, 0, 1000, 800}),
+                           sim::makeDisplay(2, "Two", {1000, 0, 1000, 800})};
+        result.bundle.images["AppIcon"] = "icon.png";
         return result;
     }
 
@@ -41,18 +43,34 @@ protected:
         return parts.release(target);
     }
 
+    // Of the frontmost window that has it; fails when none does.
+    DeskTarget control(std::string_view title) {
+        const auto target = controlTitled(picture(), title);
+        EXPECT_TRUE(target) << title;
+        return target.value_or(DeskTarget());
+    }
+
+    std::vector<std::string> titles() { return titlesIn(picture()); }
+
+    // Fails when there is none of that title.
+    WindowPicture window(std::string_view title) {
+        const DeskPicture shown = picture();
+        const WindowPicture* const found = windowTitled(shown, title);
+        EXPECT_NE(found, nullptr) << title;
+        return found != nullptr ? *found : WindowPicture();
+    }
+
     // Both fail when the open menu has no such row.
-    MenuRowTarget row(std::string_view title) {
+    DeskTarget row(std::string_view title) {
         return rowWhere([title](const sim::MenuRow& row) { return row.title.find(title) < 3; });
     }
-    MenuRowTarget separator() {
+    DeskTarget separator() {
         return rowWhere([](const sim::MenuRow& row) { return row.isSeparator; });
     }
 
     DeskPicture picture() {
         DeskPicture result;
-        result.displays.resize(session.displays().connected().size());
-        parts.addTo(result, "icon.png");
+        parts.addTo(result);
         return result;
     }
 
@@ -83,11 +101,11 @@ protected:
 
 private:
     template <typename Predicate>
-    MenuRowTarget rowWhere(Predicate isMeant) {
+    DeskTarget rowWhere(Predicate isMeant) {
         const auto rows = session.menus().rows();
         const auto found = std::find_if(rows.begin(), rows.end(), isMeant);
         EXPECT_NE(found, rows.end());
-        return {static_cast<std::size_t>(found - rows.begin())};
+        return DeskTarget::menuRow(static_cast<std::size_t>(found - rows.begin()));
     }
 };
 

@@ -1,55 +1,80 @@
+// The user at the dialog that asks for the permission, and in System Settings' list of who has it.
+
+#include "desk/paint/toolkit/RectMath.h"
 #include "tests/desk/live/PartsFixture.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace kestrune::desk {
 namespace {
 
-constexpr DialogButtonTarget OpenSettings{DialogButton::openSystemSettings};
-constexpr DialogButtonTarget Deny{DialogButton::deny};
+using testing::ElementsAre;
+
+constexpr const char* DialogTitle = "Accessibility Access (Events)";
+constexpr const char* PaneTitle = "Accessibility";
 
 class PermissionDialog : public PartsFixture {
 protected:
     PermissionDialog() { session.accessibility().askUser(); }
 };
 
-class SettingsPane : public PartsFixture {
+class SettingsPaneOnTheDesk : public PartsFixture {
 protected:
-    SettingsPane() { session.accessibility().showPane(); }
+    SettingsPaneOnTheDesk() { session.accessibility().showPane(); }
 
     sim::Permission permission() { return session.accessibility().permission(); }
+    std::optional<bool> isOn() { return isSwitchOn(picture(), "Kestrune"); }
+    bool isRowSelected() { return controlTitled(picture(), "Remove").has_value(); }
 };
 
-TEST_F(PermissionDialog, ShowsOnThePrimaryDisplay) {
-    ASSERT_TRUE(picture().permissionDialog);
-    EXPECT_EQ(*picture().permissionDialog, (PermissionDialogPicture{0, "Kestrune", "icon.png", 28}));
-    EXPECT_FALSE(picture().settingsPane);
+TEST_F(PermissionDialog, ShowsOnThePrimaryDisplayAboveItsMiddle) {
+    EXPECT_THAT(titles(), ElementsAre(DialogTitle));
+    const WindowPicture dialog = window(DialogTitle);
+    EXPECT_EQ(centerOf(dialog.frame).x, 500);
+    EXPECT_LT(centerOf(dialog.frame).y, 380);
+    EXPECT_GT(dialog.frame.minY(), 100);
+    EXPECT_EQ(dialog.titleBarHeight, 28);
+    EXPECT_FALSE(dialog.isClosable);
+    EXPECT_TRUE(dialog.isKey);
+}
+
+TEST_F(PermissionDialog, SaysWhoAsksForWhat) {
+    const WindowPicture dialog = window(DialogTitle);
+    EXPECT_THAT(
+        textsIn(dialog),
+        ElementsAre("“Kestrune” would like to control this computer using accessibility features.",
+                    "Grant access to this application in Privacy & Security settings, located in System "
+                    "Settings."));
+    EXPECT_EQ(iconsIn(dialog), std::vector<std::string>{"icon.png"});
+    EXPECT_EQ(std::get<ui::ButtonElement>(dialog.scene.elements.at(control("Deny").index)).shortcut,
+              ui::KeyboardShortcut::defaultAction);
 }
 
 TEST_F(PermissionDialog, LeadsToThePane) {
-    click(OpenSettings);
-    EXPECT_FALSE(picture().permissionDialog);
-    EXPECT_TRUE(picture().settingsPane);
+    EXPECT_FALSE(click(control("Open System Settings")).pressedControl) << "it is none of the application's";
+    EXPECT_THAT(titles(), ElementsAre(PaneTitle));
 }
 
 TEST_F(PermissionDialog, CanBeDenied) {
-    click(Deny);
-    EXPECT_FALSE(picture().permissionDialog);
-    EXPECT_FALSE(picture().settingsPane);
+    click(control("Deny"));
+    EXPECT_THAT(titles(), ElementsAre());
 }
 
 TEST_F(PermissionDialog, ActsOnlyWhenTheButtonIsReleasedWhereItWasPressed) {
-    parts.press(OpenSettings);
-    EXPECT_EQ(picture().pressed, DeskTarget(OpenSettings));
-    parts.release(Deny);
-    EXPECT_FALSE(picture().pressed);
-    parts.press(Deny);
+    const DeskTarget openSettings = control("Open System Settings");
+    const DeskTarget deny = control("Deny");
+    parts.press(openSettings);
+    EXPECT_EQ(window(DialogTitle).pressedElement, openSettings.index);
+    parts.release(deny);
+    EXPECT_FALSE(window(DialogTitle).pressedElement);
+    parts.press(deny);
     parts.release(std::nullopt);
     parts.press(std::nullopt);
-    parts.release(Deny);
-    parts.release(Deny);
-    click(DialogTarget{});
-    EXPECT_TRUE(picture().permissionDialog);
+    parts.release(deny);
+    parts.release(deny);
+    click(DeskTarget::ofWindow(deny.window));
+    EXPECT_THAT(titles(), ElementsAre(DialogTitle));
 }
 
 TEST_F(PermissionDialog, IsDeniedByReturnAndEscape) {
@@ -57,9 +82,9 @@ TEST_F(PermissionDialog, IsDeniedByReturnAndEscape) {
         session.accessibility().askUser();
         EXPECT_TRUE(parts.takesKeys());
         parts.press(NavigationKey::down);
-        EXPECT_TRUE(picture().permissionDialog);
+        EXPECT_THAT(titles(), ElementsAre(DialogTitle));
         parts.press(key);
-        EXPECT_FALSE(picture().permissionDialog);
+        EXPECT_THAT(titles(), ElementsAre());
         EXPECT_FALSE(parts.takesKeys());
     }
 }
@@ -68,64 +93,126 @@ TEST_F(PermissionDialog, LeavesTheKeysToAnOpenMenu) {
     parts.openStatusMenu(0);
     parts.press(NavigationKey::escape);
     EXPECT_FALSE(parts.isMenuOpen());
-    EXPECT_TRUE(picture().permissionDialog);
+    EXPECT_THAT(titles(), ElementsAre(DialogTitle));
 }
 
-TEST_F(SettingsPane, ShowsBesideTheDialogWhereThereIsAnotherDisplay) {
-    EXPECT_EQ(picture().settingsPane->display, 1U);
-    session.changeDisplays({sim::makeDisplay(1, "One", {0, 0, 100, 100})});
-    EXPECT_EQ(picture().settingsPane->display, 0U);
+TEST_F(PermissionDialog, IsInFrontOfSystemSettings) {
+    session.accessibility().showPane();
+    EXPECT_THAT(titles(), ElementsAre(DialogTitle, PaneTitle));
+    EXPECT_TRUE(window(DialogTitle).isKey);
+    EXPECT_FALSE(window(PaneTitle).isKey);
 }
 
-TEST_F(SettingsPane, ListsTheApplicationWithItsSwitch) {
-    ASSERT_EQ(picture().settingsPane->rows.size(), 1U);
-    EXPECT_EQ(picture().settingsPane->rows[0], (PaneRowPicture{"Kestrune", "icon.png", true, false}));
+TEST_F(PermissionDialog, FollowsTheHandThatHoldsItsTitleBar) {
+    const Rect before = window(DialogTitle).frame;
+    session.movePointerTo({before.minX() + 30, before.minY() + 10});
+    parts.press(DeskTarget::titleBar(window(DialogTitle).number));
+    session.movePointerTo({before.minX() + 70, before.minY() + 30});
+    parts.followPointer();
+    parts.release(std::nullopt);
+    EXPECT_EQ(window(DialogTitle).frame,
+              (Rect{before.minX() + 40, before.minY() + 20, before.width(), before.height()}));
+}
+
+TEST_F(PermissionDialog, IsNotShownWithoutADisplay) {
+    parts.displaysChanged();
+    session.changeDisplays({});
+    EXPECT_THAT(titles(), ElementsAre());
+    session.changeDisplays({sim::makeDisplay(1, "One", {0, 0, 1000, 800})});
+    EXPECT_THAT(titles(), ElementsAre(DialogTitle));
+}
+
+TEST_F(SettingsPaneOnTheDesk, ShowsBesideTheDialogWhereThereIsAnotherDisplay) {
+    EXPECT_EQ(centerOf(window(PaneTitle).frame).x, 1500);
+    parts.displaysChanged();
+    session.changeDisplays({sim::makeDisplay(1, "One", {0, 0, 1000, 800})});
+    EXPECT_EQ(centerOf(window(PaneTitle).frame).x, 500);
+    EXPECT_EQ(window(PaneTitle).look, WindowLook::toolbar);
+    EXPECT_EQ(window(PaneTitle).titleBarHeight, 52);
+}
+
+TEST_F(SettingsPaneOnTheDesk, KeepsItsTitleBarBelowTheMenuBarOfASmallDisplay) {
+    parts.displaysChanged();
+    session.changeDisplays({sim::makeDisplay(1, "One", {0, 0, 300, 200})});
+    EXPECT_EQ(window(PaneTitle).frame.minY(), 24);
+}
+
+TEST_F(SettingsPaneOnTheDesk, ListsTheApplicationWithItsSwitch) {
+    EXPECT_THAT(textsIn(window(PaneTitle)),
+                ElementsAre("Allow the applications below to control your computer.", "Kestrune"));
+    EXPECT_EQ(iconsIn(window(PaneTitle)), std::vector<std::string>{"icon.png"});
+    EXPECT_EQ(isOn(), true);
     session.accessibility().setPermission(sim::Permission::switchedOff);
-    EXPECT_FALSE(picture().settingsPane->rows[0].isOn);
+    EXPECT_EQ(isOn(), false);
     session.accessibility().setPermission(sim::Permission::notListed);
-    EXPECT_TRUE(picture().settingsPane->rows.empty());
+    EXPECT_EQ(isOn(), std::nullopt);
+    EXPECT_THAT(textsIn(window(PaneTitle)),
+                ElementsAre("Allow the applications below to control your computer.", "No Items"));
 }
 
-TEST_F(SettingsPane, FlipsTheSwitchWithAClick) {
-    click(PaneSwitchTarget{0});
+TEST_F(SettingsPaneOnTheDesk, FlipsTheSwitchWithAClickAndSlidesItsKnob) {
+    EXPECT_FALSE(click(control("Kestrune")).pressedControl);
     EXPECT_EQ(permission(), sim::Permission::switchedOff);
-    click(PaneSwitchTarget{0});
+    EXPECT_EQ(window(PaneTitle).movingSwitch, (MovingSwitch{control("Kestrune").index, 1}));
+    click(control("Kestrune"));
     EXPECT_EQ(permission(), sim::Permission::granted);
-    parts.press(PaneSwitchTarget{0});
-    EXPECT_EQ(picture().pressed, DeskTarget(PaneSwitchTarget{0}));
-    parts.release(PaneRowTarget{0});
+    parts.press(control("Kestrune"));
+    EXPECT_EQ(window(PaneTitle).pressedElement, control("Kestrune").index);
+    parts.release(control("Select Kestrune"));
     EXPECT_EQ(permission(), sim::Permission::granted);
-    EXPECT_FALSE(picture().settingsPane->rows[0].selected);
+    EXPECT_FALSE(isRowSelected());
 }
 
-TEST_F(SettingsPane, SelectsARowUntilAClickBesideIt) {
-    click(PaneRowTarget{0});
-    EXPECT_TRUE(picture().settingsPane->rows[0].selected);
-    click(PaneTarget{});
-    EXPECT_FALSE(picture().settingsPane->rows[0].selected);
+TEST_F(SettingsPaneOnTheDesk, SelectsARowUntilAClickBesideIt) {
+    EXPECT_FALSE(isRowSelected()) << "there is nothing to remove";
+    click(control("Select Kestrune"));
+    EXPECT_TRUE(isRowSelected());
+    click(control("Select None"));
+    EXPECT_FALSE(isRowSelected());
 }
 
-TEST_F(SettingsPane, RemovesTheRow) {
-    click(PaneRowTarget{0});
-    click(PaneRemoveTarget{});
-    EXPECT_TRUE(picture().settingsPane->rows.empty());
+TEST_F(SettingsPaneOnTheDesk, RemovesTheRow) {
+    click(control("Select Kestrune"));
+    click(control("Remove"));
+    EXPECT_EQ(isOn(), std::nullopt);
     EXPECT_EQ(permission(), sim::Permission::rowDeleted);
     session.accessibility().setPermission(sim::Permission::switchedOff);
-    EXPECT_FALSE(picture().settingsPane->rows[0].selected) << "a new row is not the one that was chosen";
+    EXPECT_FALSE(isRowSelected()) << "a new row is not the one that was chosen";
 }
 
-TEST_F(SettingsPane, ClosesAndForgetsTheSelection) {
-    click(PaneRowTarget{0});
-    click(PaneCloseTarget{});
-    EXPECT_FALSE(picture().settingsPane);
+TEST_F(SettingsPaneOnTheDesk, ClosesAndForgetsTheSelection) {
+    click(control("Select Kestrune"));
+    click(DeskTarget::closeButton(window(PaneTitle).number));
+    EXPECT_THAT(titles(), ElementsAre());
     session.accessibility().showPane();
-    EXPECT_FALSE(picture().settingsPane->rows[0].selected);
+    EXPECT_FALSE(isRowSelected());
 }
 
-TEST_F(SettingsPane, TakesNoKeys) {
+TEST_F(SettingsPaneOnTheDesk, ShowsThatItsCloseButtonIsUsed) {
+    const DeskTarget close = DeskTarget::closeButton(window(PaneTitle).number);
+    parts.hover(close);
+    EXPECT_TRUE(window(PaneTitle).isCloseButtonHovered);
+    parts.press(close);
+    parts.hover(close);
+    EXPECT_TRUE(window(PaneTitle).isCloseButtonPressed);
+    parts.release(std::nullopt);
+    EXPECT_THAT(titles(), ElementsAre(PaneTitle));
+}
+
+TEST_F(SettingsPaneOnTheDesk, DoesNothingMoreOnceItIsClosed) {
+    const DeskTarget close = DeskTarget::closeButton(window(PaneTitle).number);
+    const DeskTarget toggle = control("Kestrune");
+    session.accessibility().closePane();
+    makeRegular();
+    click(close);
+    click(toggle);
+    EXPECT_EQ(permission(), sim::Permission::granted);
+}
+
+TEST_F(SettingsPaneOnTheDesk, TakesNoKeys) {
     EXPECT_FALSE(parts.takesKeys());
     parts.press(NavigationKey::escape);
-    EXPECT_TRUE(picture().settingsPane);
+    EXPECT_THAT(titles(), ElementsAre(PaneTitle));
 }
 
 } // namespace

@@ -18,10 +18,8 @@ using ScreenPartsToolTip = PartsFixture;
 TEST_F(ScreenPartsMenu, OpensWithThePressAndStaysOpenAfterAClick) {
     parts.press(Icon);
     EXPECT_TRUE(parts.isMenuOpen());
-    EXPECT_EQ(picture().pressed, DeskTarget(Icon));
     parts.release(Icon);
     EXPECT_TRUE(parts.isMenuOpen());
-    EXPECT_FALSE(picture().pressed);
     EXPECT_EQ(picture().menu->display, 0U);
     EXPECT_EQ(picture().menu->anchor, MenuAnchor(StatusItemAnchor{0}));
     EXPECT_FALSE(highlightedTitle());
@@ -54,12 +52,11 @@ TEST_F(ScreenPartsMenu, TellsThatTheChosenRowWasMarkedAlready) {
 
 TEST_F(ScreenPartsMenu, ClosesWithAPressElsewhereThatDoesNothingMore) {
     session.accessibility().askUser();
-    const std::optional<DeskTarget> places[] = {std::nullopt, DialogButtonTarget{DialogButton::deny}};
+    const std::optional<DeskTarget> places[] = {std::nullopt, control("Deny")};
     for (const std::optional<DeskTarget>& elsewhere : places) {
         click(Icon);
         parts.press(elsewhere);
         EXPECT_FALSE(parts.isMenuOpen());
-        EXPECT_FALSE(picture().pressed);
         parts.release(elsewhere);
         EXPECT_TRUE(session.accessibility().isDialogShown());
     }
@@ -90,7 +87,8 @@ TEST_F(ScreenPartsMenu, ClosesAfterADragThatEndsElsewhere) {
 
 TEST_F(ScreenPartsMenu, StaysOpenOverWhatCannotBeChosen) {
     click(Icon);
-    const DeskTarget useless[] = {row("Pin Dock to:"), separator(), MenuPanelTarget{}, MenuRowTarget{99}};
+    const DeskTarget useless[] = {row("Pin Dock to:"), separator(), DeskTarget::menuPanel(),
+                                  DeskTarget::menuRow(99)};
     for (const DeskTarget& target : useless) {
         parts.hover(target);
         EXPECT_FALSE(highlightedTitle());
@@ -131,19 +129,12 @@ TEST_F(ScreenPartsMenu, ShowsMarksAndKeys) {
     EXPECT_EQ(menu.rows[7].keyEquivalent, "⌘Q");
 }
 
-TEST_F(ScreenPartsMenu, ShowsThePressInThePicture) {
-    click(Icon);
-    parts.press(row("Disable"));
-    EXPECT_EQ(picture().pressed, DeskTarget(row("Disable")));
-}
-
 TEST_F(ScreenPartsMenu, GoesWithTheDisplayThatItHangsFrom) {
     click(IconOnTwo);
-    const MenuRowTarget two = row("Two");
+    const DeskTarget two = row("Two");
     parts.press(two);
     parts.displaysChanged();
     EXPECT_FALSE(parts.isMenuOpen());
-    EXPECT_FALSE(picture().pressed);
     parts.release(two);
     EXPECT_EQ(storedChoice(), "");
 }
@@ -251,7 +242,7 @@ TEST_F(ScreenPartsMainMenu, IsInTheBarOnlyWhileTheApplicationIsRegularAndActive)
 
 TEST_F(ScreenPartsMainMenu, OpensUnderItsTitle) {
     makeRegular();
-    click(MainMenuTitleTarget{1, 0});
+    click(DeskTarget::mainMenuTitle(1, 0));
     const MenuPicture menu = *picture().menu;
     EXPECT_EQ(menu.display, 1U);
     EXPECT_EQ(menu.anchor, MenuAnchor(MainMenuTitleAnchor{0}));
@@ -262,14 +253,14 @@ TEST_F(ScreenPartsMainMenu, OpensUnderItsTitle) {
 
 TEST_F(ScreenPartsMainMenu, ShowsShiftInAKeyEquivalent) {
     makeRegular();
-    click(MainMenuTitleTarget{0, 1});
+    click(DeskTarget::mainMenuTitle(0, 1));
     EXPECT_EQ(picture().menu->rows[0].keyEquivalent, "⌘Z");
     EXPECT_EQ(picture().menu->rows[1].keyEquivalent, "⇧⌘Z");
 }
 
 TEST_F(ScreenPartsMainMenu, IsWalkedThroughByTheArrowKeys) {
     makeRegular();
-    click(MainMenuTitleTarget{0, 0});
+    click(DeskTarget::mainMenuTitle(0, 0));
     parts.press(NavigationKey::right);
     EXPECT_EQ(picture().menu->anchor, MenuAnchor(MainMenuTitleAnchor{1}));
     EXPECT_FALSE(highlightedTitle()) << "nobody takes what the Edit menu offers";
@@ -282,7 +273,7 @@ TEST_F(ScreenPartsMainMenu, IsWalkedThroughByTheArrowKeys) {
 
 TEST_F(ScreenPartsMainMenu, CanGoWhileOneOfItsMenusIsOpen) {
     makeRegular();
-    click(MainMenuTitleTarget{0, 0});
+    click(DeskTarget::mainMenuTitle(0, 0));
     session.application().isActive = false;
     parts.press(NavigationKey::right);
     parts.press(NavigationKey::escape);
@@ -291,19 +282,19 @@ TEST_F(ScreenPartsMainMenu, CanGoWhileOneOfItsMenusIsOpen) {
 
 TEST_F(ScreenPartsMainMenu, SwitchesMenusUnderAPointerInTheSameBar) {
     makeRegular();
-    click(MainMenuTitleTarget{0, 0});
-    parts.hover(MainMenuTitleTarget{0, 1});
+    click(DeskTarget::mainMenuTitle(0, 0));
+    parts.hover(DeskTarget::mainMenuTitle(0, 1));
     EXPECT_EQ(picture().menu->anchor, MenuAnchor(MainMenuTitleAnchor{1}));
     parts.hover(Icon);
     EXPECT_EQ(picture().menu->anchor, MenuAnchor(StatusItemAnchor{0}));
-    parts.hover(MainMenuTitleTarget{1, 0});
+    parts.hover(DeskTarget::mainMenuTitle(1, 0));
     EXPECT_EQ(picture().menu->anchor, MenuAnchor(StatusItemAnchor{0})) << "that is another display's bar";
     EXPECT_EQ(picture().menu->display, 0U);
 }
 
 TEST_F(ScreenPartsMainMenu, OpensNothingUnderAPointerAlone) {
     makeRegular();
-    parts.hover(MainMenuTitleTarget{0, 0});
+    parts.hover(DeskTarget::mainMenuTitle(0, 0));
     parts.hover(Icon);
     EXPECT_FALSE(parts.isMenuOpen());
 }
@@ -354,7 +345,7 @@ TEST_F(ScreenPartsToolTip, IsGoneWithThePressAndWhileTheMenuIsOpen) {
 }
 
 TEST_F(ScreenPartsToolTip, BelongsToNothingElse) {
-    parts.hover(MainMenuTitleTarget{0, 0});
+    parts.hover(DeskTarget::mainMenuTitle(0, 0));
     session.advance(Rest);
     EXPECT_FALSE(picture().toolTip);
 }

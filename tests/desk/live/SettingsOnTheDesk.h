@@ -44,31 +44,25 @@ protected:
 
     // The frontmost one of that title.
     WindowPicture window(const std::string& title = SettingsTitle) {
-        for (const WindowPicture& candidate : picture().windows) {
-            if (candidate.title == title) {
-                return candidate;
-            }
-        }
-        ADD_FAILURE() << "no window " << title;
-        return {};
+        const DeskPicture shown = picture();
+        const WindowPicture* const found = windowTitled(shown, title);
+        EXPECT_NE(found, nullptr) << title;
+        return found != nullptr ? *found : WindowPicture();
     }
 
-    WindowControlTarget control(std::string_view title, const std::string& windowTitle = SettingsTitle) {
-        const WindowPicture shown = window(windowTitle);
-        for (std::size_t element = 0; element < shown.scene.elements.size(); ++element) {
-            if (titleOfControl(shown.scene.elements[element]) == title) {
-                return {shown.number, element};
-            }
-        }
-        ADD_FAILURE() << "no control " << title;
-        return {};
+    bool isOpen(const std::string& title) { return windowTitled(picture(), title) != nullptr; }
+
+    DeskTarget control(std::string_view title, const std::string& windowTitle = SettingsTitle) {
+        DeskPicture alone;
+        alone.windows = {window(windowTitle)};
+        const auto target = controlTitled(alone, title);
+        EXPECT_TRUE(target) << title;
+        return target.value_or(DeskTarget());
     }
 
-    WindowControlTarget toggle() { return control("Launch at login"); }
+    DeskTarget toggle() { return control("Launch at login"); }
 
-    bool isSwitchOn() {
-        return std::get<ui::ToggleElement>(window().scene.elements.at(toggle().element)).isOn;
-    }
+    bool isSwitchOn() { return std::get<ui::ToggleElement>(window().scene.elements.at(toggle().index)).isOn; }
 
     AppServiceStatus loginItem() { return desk.session().loginItem().status(); }
 

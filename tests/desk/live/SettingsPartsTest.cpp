@@ -18,6 +18,8 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
+constexpr const char* MailTitle = "New Message";
+
 TEST_F(SettingsOnTheDesk, OpenFromTheStatusMenuWithTheMouse) {
     open();
     const WindowPicture shown = window();
@@ -43,7 +45,7 @@ TEST_F(SettingsOnTheDesk, OpenFromTheStatusMenuWithTheKeyboard) {
 TEST_F(SettingsOnTheDesk, ComeForwardFromTheMainMenuByMouseAndKey) {
     open();
     ASSERT_FALSE(picture().mainMenuTitles.empty());
-    hand.click(MainMenuTitleTarget{0, 0});
+    hand.click(DeskTarget::mainMenuTitle(0, 0));
     hand.clickRow("Settings…");
     EXPECT_THAT(windowTitlesOn(desk), ElementsAre(SettingsTitle));
     EXPECT_EQ(desk.news().text, "“Settings…” brings “Kestrune Settings” to the front");
@@ -54,17 +56,11 @@ TEST_F(SettingsOnTheDesk, ComeForwardFromTheMainMenuByMouseAndKey) {
 
 TEST_F(SettingsOnTheDesk, ShowVersionAndCopyrightOfTheBundle) {
     open();
-    std::vector<std::string> texts;
-    for (const ui::Element& element : window().scene.elements) {
-        if (const auto* const text = std::get_if<ui::TextElement>(&element)) {
-            texts.push_back(text->text.string());
-        }
-    }
     const sim::BundleContents& bundle = desk.session().bundle();
     const std::string version =
         *bundle.infoString("CFBundleShortVersionString") + " (" + *bundle.infoString("CFBundleVersion") + ")";
-    EXPECT_THAT(texts, ElementsAre("Launch at login", "Kestrune " + version,
-                                   *bundle.infoString("NSHumanReadableCopyright")));
+    EXPECT_THAT(textsIn(window()), ElementsAre("Launch at login", "Kestrune " + version,
+                                               *bundle.infoString("NSHumanReadableCopyright")));
 }
 
 TEST_F(SettingsOnTheDesk, FlipTheSwitchWithAClickAndSlideItsKnob) {
@@ -73,7 +69,7 @@ TEST_F(SettingsOnTheDesk, FlipTheSwitchWithAClickAndSlideItsKnob) {
     hand.click(toggle());
     EXPECT_EQ(loginItem(), AppServiceStatus::enabled);
     EXPECT_EQ(desk.news().text, "Kestrune will open when the user logs in");
-    EXPECT_EQ(window().movingSwitch, (MovingSwitch{toggle().element, 0}));
+    EXPECT_EQ(window().movingSwitch, (MovingSwitch{toggle().index, 0}));
     desk.advance(60ms);
     const double position = window().movingSwitch.value().position;
     EXPECT_GT(position, 0.5);
@@ -97,7 +93,7 @@ TEST_F(SettingsOnTheDesk, DragTheKnobToTheOtherSide) {
     drag(5, 40);
     desk.hover(std::nullopt);
     EXPECT_GT(window().movingSwitch.value().position, 0.3);
-    EXPECT_EQ(window().pressedElement, toggle().element) << "a knob is held wherever the hand goes";
+    EXPECT_EQ(window().pressedElement, toggle().index) << "a knob is held wherever the hand goes";
     EXPECT_EQ(loginItem(), AppServiceStatus::notRegistered);
     drag(7, 0);
     desk.releaseButton(std::nullopt);
@@ -145,23 +141,23 @@ TEST_F(SettingsOnTheDesk, GoThroughTheControlsWithTabAndPressThemWithSpace) {
     EXPECT_TRUE(window().movingSwitch);
     desk.navigate(NavigationKey::backTab);
     desk.navigate(NavigationKey::space);
-    EXPECT_TRUE(picture().mail);
+    EXPECT_TRUE(isOpen(MailTitle));
 }
 
 TEST_F(SettingsOnTheDesk, GoIntoTheDockAndComeBackFromItsTile) {
     open();
     const std::size_t number = window().number;
-    hand.pointAt(WindowMinimizeTarget{number});
+    hand.pointAt(DeskTarget::minimizeButton(number));
     EXPECT_TRUE(window().isMinimizeButtonHovered);
-    desk.pressButton(WindowMinimizeTarget{number});
+    desk.pressButton(DeskTarget::minimizeButton(number));
     EXPECT_TRUE(window().isMinimizeButtonPressed);
-    desk.releaseButton(WindowMinimizeTarget{number});
+    desk.releaseButton(DeskTarget::minimizeButton(number));
     EXPECT_TRUE(picture().windows.empty());
     ASSERT_EQ(picture().miniaturized.size(), 1U);
     EXPECT_EQ(picture().miniaturized[0].title, SettingsTitle);
     EXPECT_FALSE(picture().mainMenuTitles.empty()) << "the application stays in front";
     EXPECT_EQ(desk.news().text, "Kestrune's window “Kestrune Settings” is in the Dock");
-    hand.click(DockTileTarget{number});
+    hand.click(DeskTarget::dockTile(number));
     EXPECT_FALSE(hand.missing()) << *hand.missing();
     EXPECT_TRUE(window().isKey);
     EXPECT_TRUE(picture().miniaturized.empty());
@@ -170,18 +166,18 @@ TEST_F(SettingsOnTheDesk, GoIntoTheDockAndComeBackFromItsTile) {
 
 TEST_F(SettingsOnTheDesk, ComeBackFromTheDockThroughTheMenu) {
     open();
-    hand.click(WindowMinimizeTarget{window().number});
+    hand.click(DeskTarget::minimizeButton(window().number));
     open();
     EXPECT_TRUE(window().isKey);
     EXPECT_TRUE(picture().miniaturized.empty());
-    hand.click(WindowMinimizeTarget{window().number});
+    hand.click(DeskTarget::minimizeButton(window().number));
     desk.quitOrLaunch();
     EXPECT_TRUE(picture().miniaturized.empty());
 }
 
 TEST_F(SettingsOnTheDesk, CloseAndGiveTheMainMenuAway) {
     open();
-    hand.click(WindowCloseTarget{window().number});
+    hand.click(DeskTarget::closeButton(window().number));
     EXPECT_TRUE(picture().windows.empty());
     EXPECT_TRUE(picture().mainMenuTitles.empty());
     EXPECT_EQ(desk.news().text, "Kestrune's window “Kestrune Settings” is closed");
@@ -190,41 +186,43 @@ TEST_F(SettingsOnTheDesk, CloseAndGiveTheMainMenuAway) {
 TEST_F(SettingsOnTheDesk, ShowTheMailThatTheBugReportOpens) {
     open();
     hand.clickControl("Report a Bug…");
-    const MailPicture mail = picture().mail.value();
-    EXPECT_THAT(mail.recipient, HasSubstr("@"));
-    EXPECT_EQ(mail.subject, "Kestrune bug report");
+    const WindowPicture mail = window(MailTitle);
     const sim::BundleContents& bundle = desk.session().bundle();
-    EXPECT_EQ(mail.body, "Describe what went wrong:\n\n\n---\nApp version: " +
-                             *bundle.infoString("CFBundleShortVersionString") + " (" +
-                             *bundle.infoString("CFBundleVersion") + ")\nmacOS: 14.5.0\nLocale: en_US");
+    EXPECT_THAT(textsIn(mail),
+                ElementsAre("To:", HasSubstr("@"), "Subject:", "Kestrune bug report",
+                            "Describe what went wrong:\n\n\n---\nApp version: " +
+                                *bundle.infoString("CFBundleShortVersionString") + " (" +
+                                *bundle.infoString("CFBundleVersion") + ")\nmacOS: 14.5.0\nLocale: en_US"));
+    EXPECT_EQ(mail.look, WindowLook::paper);
     EXPECT_EQ(desk.news().text, "Mail shows the mail that Kestrune composed; nothing is sent");
     // The mail program is in front, and Kestrune's window behind it.
+    EXPECT_TRUE(mail.isKey);
     EXPECT_FALSE(window().isKey);
-    EXPECT_EQ(window().depth, WindowDepth::behindSystemWindows);
+    EXPECT_THAT(windowTitlesOn(desk), ElementsAre(MailTitle, SettingsTitle));
 }
 
 TEST_F(SettingsOnTheDesk, CloseTheMailByMouseAndKey) {
     open();
     hand.clickControl("Report a Bug…");
-    hand.click(MailTarget{});
-    EXPECT_TRUE(picture().mail);
-    hand.click(MailCloseTarget{});
-    EXPECT_FALSE(picture().mail);
+    hand.click(DeskTarget::ofWindow(window(MailTitle).number));
+    EXPECT_TRUE(isOpen(MailTitle));
+    hand.closeWindow(MailTitle);
+    EXPECT_FALSE(isOpen(MailTitle));
     EXPECT_TRUE(window().isKey);
     desk.pressEquivalent("w", false);
     hand.clickControl("Report a Bug…");
-    ASSERT_TRUE(picture().mail);
+    ASSERT_TRUE(isOpen(MailTitle));
     desk.pressEquivalent("w", false);
-    EXPECT_FALSE(picture().mail);
+    EXPECT_FALSE(isOpen(MailTitle));
 }
 
 TEST_F(SettingsOnTheDesk, LeaveTheMailOpenBehindTheWindowThatIsClicked) {
     open();
     hand.clickControl("Report a Bug…");
-    hand.click(WindowTitleTarget{window().number});
+    hand.click(DeskTarget::titleBar(window().number));
     EXPECT_TRUE(window().isKey);
-    EXPECT_EQ(window().depth, WindowDepth::beforePane);
-    EXPECT_TRUE(picture().mail);
+    EXPECT_THAT(windowTitlesOn(desk), ElementsAre(SettingsTitle, MailTitle));
+    EXPECT_FALSE(window(MailTitle).isKey);
 }
 
 } // namespace

@@ -39,12 +39,9 @@ protected:
         return picture.windows.empty() ? WindowPicture{} : picture.windows.front();
     }
     WindowPicture settings() {
-        for (const WindowPicture& window : pictureOf(desk).windows) {
-            if (window.title == "Kestrune Settings") {
-                return window;
-            }
-        }
-        return {};
+        const DeskPicture picture = pictureOf(desk);
+        const WindowPicture* const window = windowTitled(picture, "Kestrune Settings");
+        return window != nullptr ? *window : WindowPicture{};
     }
 
     sim::Updates& updates() { return desk.session().updates(); }
@@ -60,7 +57,7 @@ TEST_F(UpdatesOnTheDesk, ShowTheCheckAndLetItBeCancelled) {
     const std::vector<ui::Element> elements = front().scene.elements;
     for (std::size_t element = 0; element < elements.size(); ++element) {
         if (titleOfControl(elements[element]) == "Cancel") {
-            const WindowControlTarget cancel{front().number, element};
+            const DeskTarget cancel = DeskTarget::control(front().number, element);
             desk.pressButton(cancel);
             desk.releaseButton(cancel);
             break;
@@ -92,15 +89,15 @@ TEST_F(UpdatesOnTheDesk, KeepClicksAwayFromOtherWindowsWhileAnAlertIsOpen) {
     hand.clickControl("Launch at login");
     EXPECT_EQ(desk.session().loginItem().status(), AppServiceStatus::notRegistered);
     EXPECT_FALSE(settings().movingSwitch);
-    hand.click(WindowCloseTarget{settings().number});
+    hand.click(DeskTarget::closeButton(settings().number));
     EXPECT_EQ(settings().title, "Kestrune Settings");
-    hand.click(WindowTitleTarget{settings().number});
+    hand.click(DeskTarget::titleBar(settings().number));
     EXPECT_EQ(front().number, alert);
     EXPECT_TRUE(front().isKey);
     // From another application a click brings the alert forward.
     desk.session().windows().setActive(false);
-    desk.pressButton(WindowTarget{settings().number});
-    desk.releaseButton(WindowTarget{settings().number});
+    desk.pressButton(DeskTarget::ofWindow(settings().number));
+    desk.releaseButton(DeskTarget::ofWindow(settings().number));
     EXPECT_TRUE(front().isKey);
     EXPECT_EQ(front().number, alert);
     hand.clickControl("OK");
@@ -117,7 +114,7 @@ TEST_F(UpdatesOnTheDesk, ShowANewVersionUntilEscapeIsPressed) {
     // No modal alert: the other window can be used.
     hand.clickControl("Launch at login");
     EXPECT_EQ(desk.session().loginItem().status(), AppServiceStatus::enabled);
-    hand.click(WindowTitleTarget{front().number});
+    hand.click(DeskTarget::titleBar(front().number));
     desk.navigate(NavigationKey::escape);
     EXPECT_FALSE(updates().isShowingUpdate());
     desk.advance(1s);
@@ -127,7 +124,9 @@ TEST_F(UpdatesOnTheDesk, ShowANewVersionUntilEscapeIsPressed) {
 TEST_F(UpdatesOnTheDesk, FloatTheirWindowInFrontOfTheDialog) {
     desk.changeUpdateFeed();
     check();
-    EXPECT_EQ(front().depth, WindowDepth::beforeDialog);
+    desk.session().accessibility().askUser();
+    EXPECT_THAT(windowTitlesOn(desk),
+                ElementsAre("Software Update", "Accessibility Access (Events)", "Kestrune Settings"));
     hand.clickControl("Skip This Version");
     EXPECT_FALSE(updates().isShowingUpdate());
 }
@@ -146,7 +145,7 @@ TEST_F(UpdatesOnTheDesk, SayThatTheFeedCannotBeReached) {
 }
 
 TEST_F(UpdatesOnTheDesk, ComeByThemselvesWhenAScheduledCheckFindsANewVersion) {
-    hand.click(WindowCloseTarget{settings().number});
+    hand.click(DeskTarget::closeButton(settings().number));
     desk.letScheduledCheckCome();
     EXPECT_EQ(desk.news().text, "The updater checks the feed by itself and finds nothing to show");
     desk.advance(UntilTheCheckIsOver);

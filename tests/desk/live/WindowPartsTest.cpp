@@ -4,16 +4,21 @@
 #include "desk/paint/toolkit/PangoMeasurer.h"
 #include "desk/replay/ApplicationHost.h"
 #include "sim/seam/WindowState.h"
+#include "tests/desk/live/WindowTitles.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kestrune::desk {
 namespace {
+
+using testing::ElementsAre;
 
 // The wizard of a first launch, on the first of two displays.
 class WindowPartsOnTheWizard : public testing::Test {
@@ -32,23 +37,19 @@ protected:
 
     DeskPicture picture() {
         DeskPicture result;
-        result.displays.resize(session.displays().connected().size());
-        parts.addTo(result, "icon.png");
+        parts.addTo(result);
         return result;
     }
 
-    WindowPicture wizard() { return picture().windows.at(0); }
+    WindowPicture wizard() { return parts.applicationWindow().value(); }
 
-    WindowControlTarget control(std::string_view title) {
-        const WindowPicture window = wizard();
-        for (std::size_t element = 0; element < window.scene.elements.size(); ++element) {
-            if (titleOfControl(window.scene.elements[element]) == title) {
-                return {window.number, element};
-            }
-        }
-        ADD_FAILURE() << "no control " << title;
-        return {};
+    DeskTarget control(std::string_view title) {
+        const auto target = controlTitled(picture(), title);
+        EXPECT_TRUE(target) << title;
+        return target.value_or(DeskTarget());
     }
+
+    std::vector<std::string> titles() { return titlesIn(picture()); }
 
     std::optional<std::string> focusedTitle() {
         const WindowPicture window = wizard();
@@ -81,7 +82,6 @@ TEST_F(WindowPartsOnTheWizard, ShowTheWindowAsItIs) {
     EXPECT_FALSE(window.isMiniaturizable);
     EXPECT_FALSE(window.isResizable);
     EXPECT_TRUE(window.isKey);
-    EXPECT_EQ(window.depth, WindowDepth::beforePane);
     EXPECT_EQ(window.frame.width(), 460);
     EXPECT_EQ(window.frame.height(), window.scene.size.height + 28);
     // Global coordinates count from the top; the window stands above the middle.
@@ -92,9 +92,9 @@ TEST_F(WindowPartsOnTheWizard, ShowTheWindowAsItIs) {
 }
 
 TEST_F(WindowPartsOnTheWizard, PressAButtonWhenItIsReleasedOverIt) {
-    const WindowControlTarget request = control("Request permission");
+    const DeskTarget request = control("Request permission");
     parts.press(request);
-    EXPECT_EQ(wizard().pressedElement, request.element);
+    EXPECT_EQ(wizard().pressedElement, request.index);
     EXPECT_FALSE(session.accessibility().isDialogShown());
     const PartsOutcome outcome = parts.release(request);
     EXPECT_EQ(outcome.pressedControl, "Request permission");
@@ -103,12 +103,12 @@ TEST_F(WindowPartsOnTheWizard, PressAButtonWhenItIsReleasedOverIt) {
 }
 
 TEST_F(WindowPartsOnTheWizard, DropThePressThatIsDrawnOffAndTakeItUpAgain) {
-    const WindowControlTarget request = control("Request permission");
+    const DeskTarget request = control("Request permission");
     parts.press(request);
-    parts.hover(WindowTarget{request.window});
+    parts.hover(DeskTarget::ofWindow(request.window));
     EXPECT_FALSE(wizard().pressedElement);
     parts.hover(request);
-    EXPECT_EQ(wizard().pressedElement, request.element);
+    EXPECT_EQ(wizard().pressedElement, request.index);
     parts.hover(std::nullopt);
     EXPECT_FALSE(parts.release(std::nullopt).pressedControl);
     EXPECT_FALSE(session.accessibility().isDialogShown());
@@ -118,7 +118,7 @@ TEST_F(WindowPartsOnTheWizard, DropThePressThatIsDrawnOffAndTakeItUpAgain) {
 }
 
 TEST_F(WindowPartsOnTheWizard, DoNotPressWhatHasTakenTheButtonsPlace) {
-    const WindowControlTarget request = control("Request permission");
+    const DeskTarget request = control("Request permission");
     parts.press(request);
     grant();
     EXPECT_EQ(control("Finish"), request);
@@ -129,7 +129,7 @@ TEST_F(WindowPartsOnTheWizard, DoNotPressWhatHasTakenTheButtonsPlace) {
 }
 
 TEST_F(WindowPartsOnTheWizard, CloseTheWindowWithItsButton) {
-    const WindowCloseTarget close{wizard().number};
+    const DeskTarget close = DeskTarget::closeButton(wizard().number);
     parts.press(close);
     EXPECT_TRUE(wizard().isCloseButtonPressed);
     parts.hover(std::nullopt);
@@ -141,13 +141,13 @@ TEST_F(WindowPartsOnTheWizard, CloseTheWindowWithItsButton) {
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
     // Nothing is left to be pressed.
     click(close);
-    click(WindowTitleTarget{close.window});
+    click(DeskTarget::titleBar(close.window));
     EXPECT_TRUE(picture().windows.empty());
 }
 
 TEST_F(WindowPartsOnTheWizard, ShowWhenThePointerIsOverTheCloseButton) {
-    const WindowCloseTarget close{wizard().number};
-    const WindowControlTarget request = control("Request permission");
+    const DeskTarget close = DeskTarget::closeButton(wizard().number);
+    const DeskTarget request = control("Request permission");
     EXPECT_FALSE(wizard().isCloseButtonHovered);
     parts.hover(close);
     EXPECT_TRUE(wizard().isCloseButtonHovered);
@@ -163,7 +163,7 @@ TEST_F(WindowPartsOnTheWizard, ShowWhenThePointerIsOverTheCloseButton) {
 
 TEST_F(WindowPartsOnTheWizard, CloseAWindowInTheBackgroundWithoutBringingItForward) {
     session.windows().setActive(false);
-    const WindowCloseTarget close{wizard().number};
+    const DeskTarget close = DeskTarget::closeButton(wizard().number);
     parts.press(close);
     EXPECT_FALSE(session.application().isActive);
     parts.release(close);
@@ -173,7 +173,7 @@ TEST_F(WindowPartsOnTheWizard, CloseAWindowInTheBackgroundWithoutBringingItForwa
 TEST_F(WindowPartsOnTheWizard, DragTheWindowByItsTitleBar) {
     const Rect before = wizard().frame;
     session.movePointerTo({before.minX() + 200, before.minY() + 10});
-    parts.press(WindowTitleTarget{wizard().number});
+    parts.press(DeskTarget::titleBar(wizard().number));
     session.movePointerTo({before.minX() + 260, before.minY() + 50});
     parts.followPointer();
     EXPECT_EQ(wizard().frame, Rect(before.minX() + 60, before.minY() + 40, before.width(), before.height()));
@@ -181,28 +181,33 @@ TEST_F(WindowPartsOnTheWizard, DragTheWindowByItsTitleBar) {
     session.movePointerTo({before.minX() + 260, 3});
     parts.followPointer();
     EXPECT_EQ(wizard().frame.minY(), 24);
-    parts.release(WindowTitleTarget{wizard().number});
+    parts.release(DeskTarget::titleBar(wizard().number));
     session.movePointerTo({500, 500});
     parts.followPointer();
     EXPECT_EQ(wizard().frame.minY(), 24);
 }
 
 TEST_F(WindowPartsOnTheWizard, BringTheWindowForwardWithAClickAndPutItBehindWithOneElsewhere) {
-    click(PaneTarget{});
-    EXPECT_FALSE(wizard().isKey);
-    EXPECT_EQ(wizard().depth, WindowDepth::behindSystemWindows);
-    click(WindowTarget{wizard().number});
+    session.accessibility().showPane();
+    EXPECT_THAT(titles(), ElementsAre("Accessibility", "Welcome to Kestrune"));
+    click(DeskTarget::ofWindow(wizard().number));
     EXPECT_TRUE(wizard().isKey);
-    EXPECT_EQ(wizard().depth, WindowDepth::beforePane);
+    EXPECT_FALSE(picture().windows.at(1).isKey);
+    EXPECT_THAT(titles(), ElementsAre("Welcome to Kestrune", "Accessibility"));
+    click(DeskTarget::ofWindow(picture().windows.at(1).number));
+    EXPECT_FALSE(wizard().isKey);
+    EXPECT_TRUE(picture().windows.at(0).isKey);
+    EXPECT_THAT(titles(), ElementsAre("Accessibility", "Welcome to Kestrune"));
+    click(DeskTarget::titleBar(wizard().number));
     parts.press(std::nullopt);
     EXPECT_FALSE(wizard().isKey);
-    click(WindowTitleTarget{wizard().number});
+    click(DeskTarget::titleBar(wizard().number));
     EXPECT_TRUE(wizard().isKey);
 }
 
 TEST_F(WindowPartsOnTheWizard, GoFromControlToControlWithTab) {
     click(control("Request permission"));
-    click(DialogButtonTarget{DialogButton::deny});
+    click(control("Deny"));
     ASSERT_TRUE(wizard().isKey);
     EXPECT_FALSE(focusedTitle());
     parts.press(NavigationKey::tab);
@@ -252,7 +257,7 @@ TEST_F(WindowPartsOnTheWizard, LeaveTheKeysToTheDialogThatIsInFront) {
 }
 
 TEST_F(WindowPartsOnTheWizard, LetGoWhenTheDisplaysChange) {
-    const WindowControlTarget request = control("Request permission");
+    const DeskTarget request = control("Request permission");
     parts.press(request);
     parts.displaysChanged();
     EXPECT_FALSE(wizard().pressedElement);
@@ -261,7 +266,7 @@ TEST_F(WindowPartsOnTheWizard, LetGoWhenTheDisplaysChange) {
 
 TEST_F(WindowPartsOnTheWizard, KeepTheNumberOfAWindow) {
     const std::size_t number = wizard().number;
-    click(WindowCloseTarget{number});
+    click(DeskTarget::closeButton(number));
     session.menus().open(sim::StatusItemIndex{0});
     session.menus().choose(0); // "Complete setup…"
     session.advance(sim::Duration::zero());
@@ -270,7 +275,7 @@ TEST_F(WindowPartsOnTheWizard, KeepTheNumberOfAWindow) {
 }
 
 TEST_F(WindowPartsOnTheWizard, KnowNoWindowAfterTheProcessHasEnded) {
-    const WindowControlTarget request = control("Request permission");
+    const DeskTarget request = control("Request permission");
     parts.press(request);
     ASSERT_TRUE(host.quit());
     EXPECT_TRUE(picture().windows.empty());
@@ -285,13 +290,16 @@ TEST(WindowParts, KeepTheIntroductionInFrontOfTheDialog) {
     Window window({100, 100, 300, 200}, WindowStyleMask::titled, BackingStoreType::buffered, false);
     window.setLevel(WindowLevel::floating);
     window.makeKeyAndOrderFront();
-    WindowParts parts(session);
+    session.accessibility().askUser();
+    SystemWindows system(session);
+    WindowParts parts(session, system);
     DeskPicture picture;
     parts.addTo(picture);
-    ASSERT_EQ(picture.windows.size(), 1U);
-    EXPECT_EQ(picture.windows[0].depth, WindowDepth::beforeDialog);
+    ASSERT_EQ(picture.windows.size(), 2U);
+    EXPECT_EQ(picture.windows[0].titleBarHeight, 28);
     EXPECT_FALSE(picture.windows[0].isClosable);
     EXPECT_FALSE(picture.windows[0].isKey);
+    EXPECT_EQ(picture.windows[1].title, "Accessibility Access (Events)");
     // A view without controls, or no view, has nothing to go to.
     session.windows().setActive(true);
     parts.press(NavigationKey::tab);

@@ -1,4 +1,6 @@
 #include "desk/paint/desk/DeskHitTest.h"
+#include "desk/paint/mac/ApplicationIcon.h"
+#include "desk/paint/mac/SymbolPainter.h"
 #include "desk/paint/mac/WindowLayout.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/WindowPictures.h"
@@ -76,18 +78,18 @@ TEST(ApplicationWindow, WithoutTitleBarIsAllContent) {
     picture.windows[0].frame.size.height = 200;
     const WindowLayout layout = layoutOf(picture);
     EXPECT_EQ(layout.content, layout.frame);
-    EXPECT_EQ(targetAt(picture, centerOf(layout.closeButton)), DeskTarget{WindowTarget{7}});
+    EXPECT_EQ(targetAt(picture, centerOf(layout.closeButton)), DeskTarget::ofWindow(7));
     DeskHitTest hitTest;
-    EXPECT_FALSE(hitTest.areaOf(picture, WindowTitleTarget{7}));
-    EXPECT_FALSE(hitTest.areaOf(picture, WindowCloseTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, DeskTarget::titleBar(7)));
+    EXPECT_FALSE(hitTest.areaOf(picture, DeskTarget::closeButton(7)));
 }
 
 TEST(ApplicationWindow, TellsItsPartsApart) {
     const DeskPicture picture = withWindow();
     DeskHitTest hitTest;
-    const std::vector<DeskTarget> parts{WindowCloseTarget{7},           WindowTitleTarget{7},
-                                        WindowControlTarget{7, Link},   WindowControlTarget{7, Main},
-                                        WindowControlTarget{7, Switch}, WindowControlTarget{7, Push}};
+    const std::vector<DeskTarget> parts{DeskTarget::closeButton(7),     DeskTarget::titleBar(7),
+                                        DeskTarget::control(7, Link),   DeskTarget::control(7, Main),
+                                        DeskTarget::control(7, Switch), DeskTarget::control(7, Push)};
     for (std::size_t index = 0; index < parts.size(); ++index) {
         const auto area = hitTest.areaOf(picture, parts[index]);
         ASSERT_TRUE(area) << index;
@@ -95,7 +97,7 @@ TEST(ApplicationWindow, TellsItsPartsApart) {
         EXPECT_TRUE(encloses(layoutOf(picture).frame, *area)) << index;
     }
     const Point inSentence{layoutOf(picture).content.minX() + 30, layoutOf(picture).content.minY() + 26};
-    EXPECT_EQ(hitTest.targetAt(picture, inSentence), DeskTarget{WindowTarget{7}});
+    EXPECT_EQ(hitTest.targetAt(picture, inSentence), DeskTarget::ofWindow(7));
     const Rect frame = layoutOf(picture).frame;
     EXPECT_FALSE(hitTest.targetAt(picture, {frame.minX() - 2, centerOf(frame).y}));
     EXPECT_FALSE(hitTest.targetAt(picture, {frame.maxX() + 1, centerOf(frame).y}));
@@ -105,10 +107,10 @@ TEST(ApplicationWindow, IsATileInTheDockOnceItIsMinimized) {
     DeskPicture picture = withWindow();
     DeskHitTest hitTest;
     picture.windows[0].isMiniaturizable = true;
-    const auto button = hitTest.areaOf(picture, WindowMinimizeTarget{7});
+    const auto button = hitTest.areaOf(picture, DeskTarget::minimizeButton(7));
     ASSERT_TRUE(button);
-    EXPECT_EQ(targetAt(picture, centerOf(*button)), DeskTarget{WindowMinimizeTarget{7}});
-    EXPECT_FALSE(hitTest.areaOf(picture, DockTileTarget{7}));
+    EXPECT_EQ(targetAt(picture, centerOf(*button)), DeskTarget::minimizeButton(7));
+    EXPECT_FALSE(hitTest.areaOf(picture, DeskTarget::dockTile(7)));
 
     picture.windows.clear();
     picture.dockDisplay = 0;
@@ -117,71 +119,33 @@ TEST(ApplicationWindow, IsATileInTheDockOnceItIsMinimized) {
     picture.miniaturized[1].number = 8;
     std::vector<Rect> tiles;
     for (const std::size_t number : {7U, 8U}) {
-        const auto tile = hitTest.areaOf(picture, DockTileTarget{number});
+        const auto tile = hitTest.areaOf(picture, DeskTarget::dockTile(number));
         ASSERT_TRUE(tile);
-        EXPECT_EQ(targetAt(picture, centerOf(*tile)), DeskTarget{DockTileTarget{number}});
+        EXPECT_EQ(targetAt(picture, centerOf(*tile)), DeskTarget::dockTile(number));
         tiles.push_back(*tile);
     }
     EXPECT_GT(tiles[1].minX(), tiles[0].maxX());
     const auto changed = differenceOf(CloseUp(picture, {756, 900}), without);
     ASSERT_TRUE(changed);
     EXPECT_TRUE(encloses(*changed, tiles[1]));
-    EXPECT_FALSE(hitTest.areaOf(picture, DockTileTarget{9}));
+    EXPECT_FALSE(hitTest.areaOf(picture, DeskTarget::dockTile(9)));
     picture.dockDisplay.reset();
-    EXPECT_FALSE(hitTest.areaOf(picture, DockTileTarget{7}));
+    EXPECT_FALSE(hitTest.areaOf(picture, DeskTarget::dockTile(7)));
 }
 
 TEST(ApplicationWindow, HasNoPlaceForPartsThatItDoesNotHave) {
     DeskPicture picture = withWindow();
     DeskHitTest hitTest;
     for (const DeskTarget& target :
-         {DeskTarget{WindowControlTarget{7, Sentence}}, DeskTarget{WindowControlTarget{7, 99}},
-          DeskTarget{WindowControlTarget{8, Main}}, DeskTarget{WindowTarget{7}},
-          DeskTarget{WindowTitleTarget{8}}, DeskTarget{WindowCloseTarget{8}}}) {
-        EXPECT_FALSE(hitTest.areaOf(picture, target)) << target.index();
+         {DeskTarget::control(7, Sentence), DeskTarget::control(7, 99), DeskTarget::control(8, Main),
+          DeskTarget::ofWindow(7), DeskTarget::titleBar(8), DeskTarget::closeButton(8)}) {
+        EXPECT_FALSE(hitTest.areaOf(picture, target)) << static_cast<int>(target.kind);
     }
     picture.windows[0].isClosable = false;
-    EXPECT_FALSE(hitTest.areaOf(picture, WindowCloseTarget{7}));
-    EXPECT_FALSE(hitTest.areaOf(picture, WindowMinimizeTarget{7}));
-    EXPECT_FALSE(hitTest.areaOf(picture, WindowMinimizeTarget{8}));
-    EXPECT_EQ(targetAt(picture, centerOf(layoutOf(picture).closeButton)), DeskTarget{WindowTitleTarget{7}});
-}
-
-TEST(ApplicationWindow, LiesAsFarInFrontAsItsDepthSays) {
-    DeskHitTest hitTest;
-    // The window lies over all of what the other picture has on the same display.
-    const auto isCovered = [&](DeskPicture picture, const DeskTarget& other, WindowDepth depth) {
-        picture.windows = {windowWithControls()};
-        picture.windows[0].frame = {450, 250, 612, 600};
-        picture.windows[0].depth = depth;
-        const Rect area = *hitTest.areaOf(picture, other);
-        return hitTest.targetAt(picture, centerOf(area)) != other;
-    };
-    const DeskTarget inPane = PaneSwitchTarget{1};
-    EXPECT_FALSE(isCovered(withPane(), inPane, WindowDepth::behindSystemWindows));
-    EXPECT_TRUE(isCovered(withPane(), inPane, WindowDepth::beforePane));
-    EXPECT_TRUE(isCovered(withPane(), inPane, WindowDepth::beforeDialog));
-    DeskPicture dialog = withDialog();
-    dialog.permissionDialog->display = 0;
-    const DeskTarget inDialog = DialogButtonTarget{DialogButton::deny};
-    EXPECT_FALSE(isCovered(dialog, inDialog, WindowDepth::behindSystemWindows));
-    EXPECT_FALSE(isCovered(dialog, inDialog, WindowDepth::beforePane));
-    EXPECT_TRUE(isCovered(dialog, inDialog, WindowDepth::beforeDialog));
-}
-
-TEST(ApplicationWindow, IsPaintedInTheOrderInWhichItIsHit) {
-    DeskPicture picture = withWindow();
-    picture.settingsPane = withPane().settingsPane;
-    picture.windows[0].frame = {450, 250, 612, 600};
-    picture.windows[0].scene = {};
-    DeskHitTest hitTest;
-    const Rect toggle = *hitTest.areaOf(picture, PaneSwitchTarget{0});
-    const Point onTrack{toggle.minX() + 7, centerOf(toggle).y};
-    const auto isBlue = [](Pixel pixel) { return pixel.blue > pixel.red + 100; };
-    picture.windows[0].depth = WindowDepth::behindSystemWindows;
-    EXPECT_TRUE(isBlue(CloseUp{picture}.at(onTrack)));
-    picture.windows[0].depth = WindowDepth::beforePane;
-    EXPECT_TRUE(isNear(CloseUp{picture}.at(onTrack), 0xEC, 0xEC, 0xEC, 2));
+    EXPECT_FALSE(hitTest.areaOf(picture, DeskTarget::closeButton(7)));
+    EXPECT_FALSE(hitTest.areaOf(picture, DeskTarget::minimizeButton(7)));
+    EXPECT_FALSE(hitTest.areaOf(picture, DeskTarget::minimizeButton(8)));
+    EXPECT_EQ(targetAt(picture, centerOf(layoutOf(picture).closeButton)), DeskTarget::titleBar(7));
 }
 
 TEST(ApplicationWindow, HasTheFirstOfSeveralInFront) {
@@ -193,7 +157,7 @@ TEST(ApplicationWindow, HasTheFirstOfSeveralInFront) {
     picture.windows.push_back(second);
     const Point shared = centerOf(layoutOf(picture, 1).closeButton);
     ASSERT_TRUE(layoutOf(picture, 0).frame.contains(shared));
-    EXPECT_EQ(targetAt(picture, shared), DeskTarget{WindowTarget{7}});
+    EXPECT_EQ(targetAt(picture, shared), DeskTarget::ofWindow(7));
     const Pixel front = CloseUp{picture}.at(shared);
     picture.windows.pop_back();
     EXPECT_EQ(CloseUp{picture}.at(shared), front);
@@ -272,6 +236,37 @@ TEST(ApplicationWindow, ShowsItsTitleInTheMiddleAndPalerInTheBackground) {
     EXPECT_GT(darkest({bar.minX() + 62, bar.minY() + 6, 8, 16}), 220);
 }
 
+TEST(ApplicationWindow, HasAHigherBarAndItsTitleAfterTheButtonsWithAToolbar) {
+    DeskPicture picture = withWindow();
+    picture.windows[0].look = WindowLook::toolbar;
+    picture.windows[0].titleBarHeight = 52;
+    const WindowLayout layout = layoutOf(picture);
+    EXPECT_EQ(layout.closeButton, (Rect{620, 420, 12, 12}));
+    EXPECT_EQ(layout.content.minY(), 452);
+    const CloseUp painted{picture};
+    EXPECT_LT(painted.darkest({692, 415, 60, 22}), 110);
+    EXPECT_EQ(painted.at({850, 410}), painted.at({850, 460})) << "nothing parts the bar from the content";
+    picture.windows[0].look = WindowLook::paper;
+    EXPECT_TRUE(isNear(CloseUp{picture}.at({850, 460}), 255, 255, 255, 1));
+    picture.dark = true;
+    EXPECT_LT(CloseUp{picture}.at({850, 460}).red, 60);
+}
+
+TEST(ApplicationWindow, ShowsTheIconOfAnApplicationOrAGeneralOne) {
+    const IconFile icon{rgb(0x00FF00)};
+    DeskPicture picture = withWindow();
+    const auto show = [&](const std::string& path) {
+        const ui::StyledSymbol symbol{iconSymbol(path), ui::Font::system(64)};
+        picture.windows[0].scene.elements = {ui::SymbolElement{{20, 20, 64, 64}, symbol}};
+        return CloseUp{picture};
+    };
+    const CloseUp general = show("");
+    EXPECT_FALSE(differenceOf(show("/no/such/icon.png"), general));
+    EXPECT_TRUE(isNear(show(icon.path()).at({652, 480}), 0, 255, 0, 4));
+    EXPECT_EQ(symbolSize({iconSymbol(""), ui::Font::system(64)}), (Size{64, 64}));
+    EXPECT_FALSE(pathOfIcon("plus"));
+}
+
 TEST(ApplicationWindow, IsPaintedAnewOnlyWhenItHasChanged) {
     DeskPainter painter;
     DeskPicture picture = withWindow();
@@ -285,7 +280,7 @@ TEST(ApplicationWindow, IsPaintedAnewOnlyWhenItHasChanged) {
     const auto changed = differenceOf(pressed, moved);
     ASSERT_TRUE(changed);
     DeskHitTest hitTest;
-    const Rect area = *hitTest.areaOf(picture, WindowControlTarget{7, Main});
+    const Rect area = *hitTest.areaOf(picture, DeskTarget::control(7, Main));
     EXPECT_TRUE(encloses(DeskLayout::of(picture, TestWindow).place(0)->toWindow(area), *changed, 1));
     picture.windows.clear();
     const PaintedPicture closed{painter, picture, TestWindow};

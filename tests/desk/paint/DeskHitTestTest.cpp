@@ -1,12 +1,10 @@
 #include "desk/paint/desk/DeskHitTest.h"
 
-#include "desk/paint/mac/AlertLayout.h"
 #include "desk/paint/mac/MenuLayout.h"
-#include "desk/paint/mac/SettingsPaneLayout.h"
 #include "desk/paint/mac/ToolTipPainter.h"
 #include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/CloseUp.h"
-#include "tests/desk/paint/SystemPictures.h"
+#include "tests/desk/paint/WindowPictures.h"
 
 #include <gtest/gtest.h>
 
@@ -20,8 +18,6 @@ protected:
     }
 
     MenuLayout menu(const DeskPicture& picture) { return *menuLayout(measure_, picture); }
-    AlertLayout dialog(const DeskPicture& picture) { return *alertLayout(measure_, picture); }
-    SettingsPaneLayout pane(const DeskPicture& picture) { return *settingsPaneLayout(picture); }
 
     DeskHitTest hitTest_;
     TextMeasure measure_;
@@ -35,9 +31,8 @@ TEST_F(HitTest, FindsStatusItemsAndTitlesOnEachDisplay) {
         const MenuBarLayout bar = menuBarOf(picture, display);
         for (const std::size_t index : {0U, 1U}) {
             EXPECT_EQ(at(picture, centerOf(bar.statusItems[index].slot)),
-                      DeskTarget(StatusItemTarget{display, index}));
-            EXPECT_EQ(at(picture, centerOf(bar.titles[index])),
-                      DeskTarget(MainMenuTitleTarget{display, index}));
+                      DeskTarget::statusItem(display, index));
+            EXPECT_EQ(at(picture, centerOf(bar.titles[index])), DeskTarget::mainMenuTitle(display, index));
         }
         EXPECT_FALSE(at(picture, {bar.titles[1].maxX() + 20, bar.area.minY() + 5}));
         EXPECT_FALSE(at(picture, {bar.clock.x - 5, bar.clock.y}));
@@ -57,77 +52,46 @@ TEST_F(HitTest, FindsEveryRowOfTheMenuAndItsMargins) {
     const DeskPicture picture = withMenu();
     const MenuLayout layout = menu(picture);
     for (std::size_t row = 0; row < layout.rows.size(); ++row) {
-        EXPECT_EQ(at(picture, centerOf(layout.rows[row])), DeskTarget(MenuRowTarget{row}));
+        EXPECT_EQ(at(picture, centerOf(layout.rows[row])), DeskTarget::menuRow(row));
     }
-    EXPECT_EQ(at(picture, {layout.panel.minX() + 20, layout.panel.minY() + 1}),
-              DeskTarget(MenuPanelTarget{}));
-    EXPECT_EQ(at(picture, {layout.panel.minX() + 20, layout.panel.maxY() - 1}),
-              DeskTarget(MenuPanelTarget{}));
+    EXPECT_EQ(at(picture, {layout.panel.minX() + 20, layout.panel.minY() + 1}), DeskTarget::menuPanel());
+    EXPECT_EQ(at(picture, {layout.panel.minX() + 20, layout.panel.maxY() - 1}), DeskTarget::menuPanel());
     EXPECT_FALSE(at(picture, {layout.panel.minX() - 2, layout.panel.minY() + 40}));
     EXPECT_FALSE(at(picture, {layout.panel.minX() + 20, layout.panel.maxY() + 2}));
 }
 
-TEST_F(HitTest, FindsTheButtonsOfTheDialog) {
-    const DeskPicture picture = withDialog();
-    const AlertLayout layout = dialog(picture);
-    EXPECT_EQ(at(picture, centerOf(layout.deny)), DeskTarget(DialogButtonTarget{DialogButton::deny}));
-    EXPECT_EQ(at(picture, centerOf(layout.openSystemSettings)),
-              DeskTarget(DialogButtonTarget{DialogButton::openSystemSettings}));
-    for (const Rect& part : {layout.message, layout.icon, layout.titleBar, layout.information}) {
-        EXPECT_EQ(at(picture, centerOf(part)), DeskTarget(DialogTarget{}));
-    }
-    EXPECT_FALSE(at(picture, {layout.frame.minX() + 20, layout.frame.maxY() + 1}));
-}
-
-TEST_F(HitTest, FindsThePartsOfThePane) {
-    DeskPicture picture = withPane();
-    const SettingsPaneLayout layout = pane(picture);
-    for (const std::size_t row : {0U, 1U}) {
-        EXPECT_EQ(at(picture, centerOf(layout.rows[row].toggle)), DeskTarget(PaneSwitchTarget{row}));
-        EXPECT_EQ(at(picture, centerOf(layout.rows[row].area)), DeskTarget(PaneRowTarget{row}));
-    }
-    EXPECT_EQ(at(picture, centerOf(layout.closeButton)), DeskTarget(PaneCloseTarget{}));
-    EXPECT_EQ(at(picture, centerOf(layout.addButton)), DeskTarget(PaneTarget{}));
-    EXPECT_EQ(at(picture, centerOf(layout.sentence)), DeskTarget(PaneTarget{}));
-    EXPECT_EQ(at(picture, centerOf(layout.removeButton)), DeskTarget(PaneTarget{}));
-    picture.settingsPane->rows[0].selected = true;
-    EXPECT_EQ(at(picture, centerOf(layout.removeButton)), DeskTarget(PaneRemoveTarget{}));
-    EXPECT_FALSE(at(picture, {layout.frame.minX() - 1, layout.frame.minY() + 60}));
-}
-
-TEST_F(HitTest, PrefersTheMenuToTheDialogToThePaneToTheMenuBar) {
-    DeskPicture picture = withPane();
+TEST_F(HitTest, PrefersTheMenuToTheMenuBarToTheFirstWindowToTheSecond) {
+    DeskPicture picture = withWindow();
+    picture.windows.push_back(windowWithControls());
+    picture.windows[1].number = 8;
     picture.menu = withMenu().menu;
     picture.menu->display = 0;
     picture.mainMenuTitles = {"Kestrune"};
     picture.menu->anchor = MainMenuTitleAnchor{0};
     picture.menu->rows.assign(30, {.title = std::string(120, 'm')});
-    picture.permissionDialog = withDialog().permissionDialog;
-    picture.permissionDialog->display = 0;
 
     const MenuLayout menuPlace = menu(picture);
-    const AlertLayout dialogPlace = dialog(picture);
-    const Point shared = centerOf(dialogPlace.deny);
+    const Point shared{700, 500};
     ASSERT_TRUE(menuPlace.panel.contains(shared));
-    ASSERT_TRUE(pane(picture).frame.contains(shared));
-    EXPECT_TRUE(std::holds_alternative<MenuRowTarget>(*at(picture, shared)));
+    EXPECT_EQ(at(picture, shared)->kind, DeskTarget::Kind::menuRow);
     picture.menu.reset();
-    EXPECT_EQ(at(picture, shared), DeskTarget(DialogButtonTarget{DialogButton::deny}));
-    picture.permissionDialog.reset();
-    EXPECT_TRUE(std::holds_alternative<PaneRowTarget>(*at(picture, shared)) ||
-                std::holds_alternative<PaneSwitchTarget>(*at(picture, shared)) ||
-                std::holds_alternative<PaneTarget>(*at(picture, shared)));
-    picture.settingsPane.reset();
+    EXPECT_EQ(at(picture, shared)->window, 7U);
+    picture.windows.erase(picture.windows.begin());
+    EXPECT_EQ(at(picture, shared)->window, 8U);
+    picture.windows[0].frame.origin.y = 0;
+    EXPECT_FALSE(at(picture, {800, 10})) << "the menu bar is there";
+    picture.windows.clear();
     EXPECT_FALSE(at(picture, shared));
 }
 
 TEST_F(HitTest, LetsToolTipsThrough) {
-    DeskPicture picture = withPane();
-    picture.settingsPane->rows.assign(9, {.name = "Application", .iconPath = std::nullopt});
+    DeskPicture picture = withWindow();
     picture.toolTip = ToolTipPicture{0, 0, "Kestrune"};
     const std::optional<Rect> tip = toolTipArea(measure_, picture);
     ASSERT_TRUE(tip);
+    picture.windows[0].frame.origin = {tip->minX() - 10, tip->minY() - 40};
     const std::optional<DeskTarget> covered = at(picture, centerOf(*tip));
+    ASSERT_TRUE(covered);
     picture.toolTip.reset();
     EXPECT_EQ(at(picture, centerOf(*tip)), covered);
 }
@@ -141,10 +105,10 @@ protected:
     // Whether the part is found where it is said to be.
     void expectFound(const DeskPicture& picture, const DeskTarget& target) {
         const std::optional<Rect> area = areaOf(picture, target);
-        ASSERT_TRUE(area) << target.index();
+        ASSERT_TRUE(area) << static_cast<int>(target.kind);
         EXPECT_GT(area->width(), 4);
         EXPECT_GT(area->height(), 4);
-        EXPECT_EQ(at(picture, centerOf(*area)), target) << target.index();
+        EXPECT_EQ(at(picture, centerOf(*area)), target) << static_cast<int>(target.kind);
     }
 };
 
@@ -154,8 +118,8 @@ TEST_F(AreaOf, IsWhereTheStatusItemsAndTitlesAreFound) {
     picture.mainMenuTitles = {"Kestrune", "Edit"};
     for (const std::size_t display : {0U, 1U}) {
         for (const std::size_t index : {0U, 1U}) {
-            expectFound(picture, StatusItemTarget{display, index});
-            expectFound(picture, MainMenuTitleTarget{display, index});
+            expectFound(picture, DeskTarget::statusItem(display, index));
+            expectFound(picture, DeskTarget::mainMenuTitle(display, index));
         }
     }
 }
@@ -163,46 +127,24 @@ TEST_F(AreaOf, IsWhereTheStatusItemsAndTitlesAreFound) {
 TEST_F(AreaOf, IsWhereEveryRowOfTheMenuIsFound) {
     const DeskPicture picture = withMenu();
     for (std::size_t row = 0; row < picture.menu->rows.size(); ++row) {
-        expectFound(picture, MenuRowTarget{row});
+        expectFound(picture, DeskTarget::menuRow(row));
     }
-}
-
-TEST_F(AreaOf, IsWhereTheControlsOfDialogAndPaneAreFound) {
-    expectFound(withDialog(), DialogButtonTarget{DialogButton::deny});
-    expectFound(withDialog(), DialogButtonTarget{DialogButton::openSystemSettings});
-    DeskPicture picture = withPane();
-    picture.settingsPane->rows[1].selected = true;
-    for (const std::size_t row : {0U, 1U}) {
-        expectFound(picture, PaneSwitchTarget{row});
-        expectFound(picture, PaneRowTarget{row});
-    }
-    expectFound(picture, PaneCloseTarget{});
-    expectFound(picture, PaneRemoveTarget{});
 }
 
 TEST_F(AreaOf, IsAbsentForWhatThePictureDoesNotHave) {
-    const DeskTarget elsewhere[] = {StatusItemTarget{0, 1},    StatusItemTarget{9, 0},
-                                    MainMenuTitleTarget{0, 0}, MainMenuTitleTarget{9, 0},
-                                    MenuRowTarget{0},          DialogButtonTarget{DialogButton::deny},
-                                    PaneSwitchTarget{0},       PaneRowTarget{0},
-                                    PaneCloseTarget{},         PaneRemoveTarget{}};
+    const DeskTarget elsewhere[] = {DeskTarget::statusItem(0, 1),    DeskTarget::statusItem(9, 0),
+                                    DeskTarget::mainMenuTitle(0, 0), DeskTarget::mainMenuTitle(9, 0),
+                                    DeskTarget::menuRow(0),          DeskTarget::closeButton(0),
+                                    DeskTarget::control(0, 0),       DeskTarget::dockTile(0)};
     for (const DeskTarget& target : elsewhere) {
-        EXPECT_FALSE(areaOf(withStatusItem(), target)) << target.index();
+        EXPECT_FALSE(areaOf(withStatusItem(), target)) << static_cast<int>(target.kind);
     }
-    EXPECT_FALSE(areaOf(withMenu(), MenuRowTarget{6}));
-    EXPECT_FALSE(areaOf(withPane(), PaneSwitchTarget{2}));
-    EXPECT_FALSE(areaOf(withPane(), PaneRowTarget{2}));
+    EXPECT_FALSE(areaOf(withMenu(), DeskTarget::menuRow(6)));
 }
 
 TEST_F(AreaOf, IsAbsentForWhatLiesAroundOtherParts) {
-    EXPECT_FALSE(areaOf(withMenu(), MenuPanelTarget{}));
-    EXPECT_FALSE(areaOf(withDialog(), DialogTarget{}));
-    EXPECT_FALSE(areaOf(withPane(), PaneTarget{}));
-}
-
-// Without a selected row the button is there and cannot be pressed; nobody should be led to it.
-TEST_F(AreaOf, IsAbsentForAButtonThatCannotBePressed) {
-    EXPECT_FALSE(areaOf(withPane(), PaneRemoveTarget{}));
+    EXPECT_FALSE(areaOf(withMenu(), DeskTarget::menuPanel()));
+    EXPECT_FALSE(areaOf(withWindow(), DeskTarget::ofWindow(7)));
 }
 
 // A bar or a menu that is cut off leaves its last parts without a place.
@@ -211,28 +153,29 @@ TEST_F(AreaOf, IsAbsentForPartsWithoutRoom) {
     picture.menu->rows.assign(80, {.title = "Row"});
     const MenuLayout layout = menu(picture);
     ASSERT_TRUE(layout.rows.back().isNull());
-    EXPECT_FALSE(areaOf(picture, MenuRowTarget{79}));
+    EXPECT_FALSE(areaOf(picture, DeskTarget::menuRow(79)));
 
     DeskPicture crowded = withStatusItem();
     crowded.statusItems.assign(60, crowded.statusItems.front());
     ASSERT_TRUE(menuBarOf(crowded, 0).statusItems.front().slot.isNull());
-    EXPECT_FALSE(areaOf(crowded, StatusItemTarget{0, 0}));
+    EXPECT_FALSE(areaOf(crowded, DeskTarget::statusItem(0, 0)));
 }
 
 TEST_F(HitTest, FindsNoTitlesOfTheFinder) {
     const DeskPicture picture = withStatusItem();
     EXPECT_FALSE(at(picture, centerOf(menuBarOf(picture, 0).titles[1])));
-    EXPECT_FALSE(hitTest_.areaOf(picture, MainMenuTitleTarget{0, 1}));
+    EXPECT_FALSE(hitTest_.areaOf(picture, DeskTarget::mainMenuTitle(0, 1)));
 }
 
 TEST_F(HitTest, FindsNothingOfAPartBeyondItsDisplay) {
-    DeskPicture picture = withPane();
-    picture.displays[0].bounds.size.width = 400;
-    picture.displays[1].bounds.origin.x = 400;
-    const Rect frame = pane(picture).frame;
-    ASSERT_GT(frame.maxX(), 410);
-    EXPECT_TRUE(at(picture, {395, frame.maxY() - 5}));
-    EXPECT_FALSE(at(picture, {405, frame.maxY() - 5}));
+    DeskPicture picture = withMenu();
+    picture.menu->display = 7;
+    for (const Point place : {Point{300, 40}, Point{2000, -60}}) {
+        EXPECT_FALSE(at(picture, place));
+    }
+    picture.displays.resize(1);
+    picture.menu->display = 1;
+    EXPECT_FALSE(at(picture, {3000, -60}));
 }
 
 TEST_F(HitTest, AgreesWithWhatIsPaintedAtEveryResolution) {
@@ -243,21 +186,20 @@ TEST_F(HitTest, AgreesWithWhatIsPaintedAtEveryResolution) {
     for (const double scale : {1.0, 1.5, 2.0}) {
         const std::optional<Rect> row = differenceOf(CloseUp{picture, scale}, CloseUp{plain, scale});
         ASSERT_TRUE(row);
-        EXPECT_EQ(at(picture, {row->minX() + 8, row->minY() + 1}), DeskTarget(MenuRowTarget{4})) << scale;
-        EXPECT_EQ(at(picture, {row->maxX() - 8, row->maxY() - 1}), DeskTarget(MenuRowTarget{4})) << scale;
+        EXPECT_EQ(at(picture, {row->minX() + 8, row->minY() + 1}), DeskTarget::menuRow(4)) << scale;
+        EXPECT_EQ(at(picture, {row->maxX() - 8, row->maxY() - 1}), DeskTarget::menuRow(4)) << scale;
     }
 }
 
 TEST_F(HitTest, KnowsWhatIsOpen) {
     DeskPicture picture = withStatusItem();
     EXPECT_FALSE(hitTest_.openParts(picture));
-    picture = withPane();
-    EXPECT_EQ(hitTest_.openParts(picture), pane(picture).frame);
-    picture.permissionDialog = withDialog().permissionDialog;
+    picture = withWindow();
+    EXPECT_EQ(hitTest_.openParts(picture), picture.windows[0].frame);
+    picture.windows.push_back(windowWithControls());
+    picture.windows[1].frame.origin = {1700, 100};
     const Rect both = *hitTest_.openParts(picture);
-    EXPECT_TRUE(encloses(both, pane(picture).frame));
-    EXPECT_TRUE(encloses(both, dialog(picture).frame));
-    EXPECT_EQ(both, unionOf(pane(picture).frame, dialog(picture).frame));
+    EXPECT_EQ(both, unionOf(picture.windows[0].frame, picture.windows[1].frame));
     picture.toolTip = ToolTipPicture{0, 0, "Kestrune"};
     EXPECT_EQ(hitTest_.openParts(picture), toolTipArea(measure_, picture));
     picture.menu = withMenu().menu;

@@ -9,7 +9,7 @@
 #include "desk/paint/toolkit/RectMath.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/PaintedPicture.h"
-#include "tests/desk/paint/SystemPictures.h"
+#include "tests/desk/paint/WindowPictures.h"
 
 #include <gtest/gtest.h>
 
@@ -233,9 +233,7 @@ TEST(DeskPainter, KeepsWhatStandsBehindAMenuWhileTheHighlightMoves) {
         [](DeskPicture& changed) { changed.menu->rows.pop_back(); },
         [](DeskPicture& changed) { changed.menu.reset(); },
         [](DeskPicture& changed) { changed.clock = "Wed 11:05"; },
-        [](DeskPicture& changed) { changed.permissionDialog = withDialog().permissionDialog; },
-        [](DeskPicture& changed) { changed.settingsPane = withPane().settingsPane; },
-        [](DeskPicture& changed) { changed.pressed = PaneCloseTarget{}; },
+        [](DeskPicture& changed) { changed.windows = withWindow().windows; },
         [](DeskPicture& changed) {
             changed.toolTip = ToolTipPicture{0, 0, "A tool tip"};
         },
@@ -298,14 +296,13 @@ TEST(DeskPainter, PaintsTheSameWithWhatItRememberedAsAnew) {
         [](DeskPicture& picture) { picture.menu->rows.pop_back(); },
         [](DeskPicture& picture) { picture.menu->anchor = MainMenuTitleAnchor{1}; },
         [](DeskPicture& picture) { picture.menu->display = 0; },
-        [](DeskPicture& picture) { picture.settingsPane = withPane().settingsPane; },
-        [](DeskPicture& picture) { picture.settingsPane->rows[1].isOn = true; },
-        [](DeskPicture& picture) { picture.settingsPane->display = 1; },
-        [](DeskPicture& picture) { picture.pressed = PaneSwitchTarget{0}; },
-        [](DeskPicture& picture) { picture.settingsPane.reset(); },
-        [](DeskPicture& picture) { picture.permissionDialog = withDialog().permissionDialog; },
-        [](DeskPicture& picture) { picture.pressed = DialogButtonTarget{DialogButton::deny}; },
-        [](DeskPicture& picture) { picture.permissionDialog.reset(); },
+        [](DeskPicture& picture) { picture.windows = withWindow().windows; },
+        [](DeskPicture& picture) { picture.windows[0].pressedElement = Push; },
+        [](DeskPicture& picture) { picture.windows[0].isKey = false; },
+        [](DeskPicture& picture) { picture.windows[0].look = WindowLook::toolbar; },
+        [](DeskPicture& picture) { picture.windows[0].look = WindowLook::paper; },
+        [](DeskPicture& picture) { picture.windows[0].frame.origin.x += 1500; },
+        [](DeskPicture& picture) { picture.windows.clear(); },
         [](DeskPicture& picture) { picture.menu.reset(); },
         [](DeskPicture& picture) {
             picture.toolTip = ToolTipPicture{0, 0, "A tool tip"};

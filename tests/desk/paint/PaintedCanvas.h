@@ -26,7 +26,8 @@ public:
         setColor(context, rgb(dark ? 0x000000 : 0xFFFFFF));
         cairo_paint(context);
         TextPainter text{context};
-        paint(Canvas{context, text, paletteFor(dark)});
+        ImageStore images;
+        paint(Canvas{context, text, images, paletteFor(dark)});
     }
 
     Pixel at(Point place) const {

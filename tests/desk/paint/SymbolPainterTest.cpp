@@ -12,7 +12,8 @@ namespace kestrune::desk {
 namespace {
 
 const std::array SymbolNames{std::string("dock.rectangle"), std::string("2.circle.fill"),
-                             std::string("checkmark.circle.fill"), std::string("circle.dashed")};
+                             std::string("checkmark.circle.fill"), std::string("circle.dashed"),
+                             std::string("plus")};
 
 ui::StyledSymbol symbol(const std::string& name, double size, ui::FontWeight weight = ui::FontWeight::regular,
                         ui::ImageScale scale = ui::ImageScale::medium) {

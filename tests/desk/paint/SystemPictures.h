@@ -59,21 +59,6 @@ inline DeskPicture withMenu() {
     return picture;
 }
 
-inline DeskPicture withDialog() {
-    DeskPicture picture = withStatusItem();
-    picture.permissionDialog = PermissionDialogPicture{1, "Kestrune", std::nullopt, 28};
-    return picture;
-}
-
-inline DeskPicture withPane() {
-    DeskPicture picture = withStatusItem();
-    picture.settingsPane =
-        SettingsPanePicture{0,
-                            {{.name = "Kestrune", .iconPath = std::nullopt, .isOn = true},
-                             {.name = "Terminal", .iconPath = std::nullopt, .isOn = false}}};
-    return picture;
-}
-
 inline MenuBarLayout menuBarOf(const DeskPicture& picture, std::size_t display) {
     TextMeasure measure;
     return menuBarLayout(measure, picture.displays[display].bounds, picture);

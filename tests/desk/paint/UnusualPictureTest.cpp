@@ -2,7 +2,7 @@
 #include "desk/paint/desk/DeskLayout.h"
 #include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/PaintedPicture.h"
-#include "tests/desk/paint/SystemPictures.h"
+#include "tests/desk/paint/WindowPictures.h"
 
 #include <gtest/gtest.h>
 
@@ -109,8 +109,8 @@ TEST(UnusualPicture, InAWindowOfAnySizePaints) {
 DeskPicture crowdedPicture() {
     DeskPicture picture = withMenu();
     picture.toolTip = ToolTipPicture{0, 0, "A tool tip"};
-    picture.permissionDialog = withDialog().permissionDialog;
-    picture.settingsPane = withPane().settingsPane;
+    picture.windows = {windowWithControls(), windowWithControls()};
+    picture.windows[1].look = WindowLook::paper;
     picture.mainMenuTitles = {"Kestrune", "File"};
     return picture;
 }
@@ -150,14 +150,13 @@ TEST(UnusualPicture, WithPartsOfTheSystemThatDoNotExistPaints) {
     DeskPicture picture = crowdedPicture();
     picture.menu->anchor = StatusItemAnchor{99};
     picture.toolTip->item = 99;
-    picture.permissionDialog->display = 99;
-    picture.settingsPane->display = 99;
-    picture.pressed = PaneSwitchTarget{99};
+    picture.windows[0].pressedElement = 99;
+    picture.windows[0].movingSwitch = MovingSwitch{99, 0.5};
     EXPECT_EQ(statusAfterPainting(picture), CAIRO_STATUS_SUCCESS);
     picture.menu->anchor = StatusItemAnchor{0};
     picture.menu->rows.clear();
     picture.mainMenuTitles = {"", "\xFF"};
-    picture.permissionDialog->applicationName = "\xC3\x28";
+    picture.windows[0].title = "\xC3\x28";
     picture.statusItems[0].imageSize = {NotANumber, Infinity};
     EXPECT_EQ(statusAfterPainting(picture), CAIRO_STATUS_SUCCESS);
 }

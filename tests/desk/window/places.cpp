@@ -46,6 +46,19 @@ void printTarget(LiveDesk& desk, const std::string& name, const DeskTarget& targ
     }
 }
 
+void printControl(LiveDesk& desk, const std::string& name, const std::string& title) {
+    if (const auto target = controlTitled(pictureOf(desk), title)) {
+        printTarget(desk, name, *target);
+    }
+}
+
+void printCloseButton(LiveDesk& desk, const std::string& name, const std::string& title) {
+    const DeskPicture picture = pictureOf(desk);
+    if (const WindowPicture* const window = windowTitled(picture, title)) {
+        printTarget(desk, name, DeskTarget::closeButton(window->number));
+    }
+}
+
 // The rows of the menu that opens on the display with the pointer, and where their marks are.
 void printMenu(LiveDesk& desk, const std::string& kind) {
     desk.openStatusMenu();
@@ -68,19 +81,21 @@ void printParts(LiveDesk& desk) {
     const DeskLayout layout = DeskLayout::of(pictureOf(desk), UsualWindow);
     for (std::size_t display = 0; display < desk.session().displays().connected().size(); ++display) {
         print("display " + std::to_string(display + 1), layout.place(display)->screen);
-        printTarget(desk, "icon " + std::to_string(display + 1), StatusItemTarget{display, 0});
+        printTarget(desk, "icon " + std::to_string(display + 1), DeskTarget::statusItem(display, 0));
     }
     printMenu(desk, "first menu");
     printMenu(desk, "menu");
     desk.askForPermission();
-    printTarget(desk, "open system settings", DialogButtonTarget{DialogButton::openSystemSettings});
-    printTarget(desk, "deny", DialogButtonTarget{DialogButton::deny});
-    printTarget(desk, "switch", PaneSwitchTarget{0});
-    printTarget(desk, "row", PaneRowTarget{0});
-    printTarget(desk, "close", PaneCloseTarget{});
-    desk.pressButton(PaneRowTarget{0});
-    desk.releaseButton(PaneRowTarget{0});
-    printTarget(desk, "remove", PaneRemoveTarget{});
+    printControl(desk, "open system settings", "Open System Settings");
+    printControl(desk, "deny", "Deny");
+    printControl(desk, "switch", "Kestrune");
+    printControl(desk, "row", "Select Kestrune");
+    printCloseButton(desk, "close", "Accessibility");
+    if (const auto row = controlTitled(pictureOf(desk), "Select Kestrune")) {
+        desk.pressButton(row);
+        desk.releaseButton(row);
+    }
+    printControl(desk, "remove", "Remove");
 }
 
 // The frontmost window, if there is one: its title bar, its buttons there and its controls by their titles.
@@ -90,12 +105,12 @@ void printWindow(LiveDesk& desk, const std::string& kind) {
         return;
     }
     const WindowPicture& window = picture.windows.front();
-    printTarget(desk, kind + " title", WindowTitleTarget{window.number});
-    printTarget(desk, kind + " close", WindowCloseTarget{window.number});
-    printTarget(desk, kind + " minimize", WindowMinimizeTarget{window.number});
+    printTarget(desk, kind + " title", DeskTarget::titleBar(window.number));
+    printTarget(desk, kind + " close", DeskTarget::closeButton(window.number));
+    printTarget(desk, kind + " minimize", DeskTarget::minimizeButton(window.number));
     for (std::size_t element = 0; element < window.scene.elements.size(); ++element) {
         if (const auto title = titleOfControl(window.scene.elements[element])) {
-            printTarget(desk, kind + ": " + *title, WindowControlTarget{window.number, element});
+            printTarget(desk, kind + ": " + *title, DeskTarget::control(window.number, element));
         }
     }
 }
@@ -111,9 +126,9 @@ void printTile(LiveDesk& desk) {
         desk.pressButton(target);
         desk.releaseButton(target);
     };
-    click(WindowMinimizeTarget{number});
-    printTarget(desk, "tile", DockTileTarget{number});
-    click(DockTileTarget{number});
+    click(DeskTarget::minimizeButton(number));
+    printTarget(desk, "tile", DeskTarget::dockTile(number));
+    click(DeskTarget::dockTile(number));
 }
 
 void printWizard(LiveDesk& desk) {
@@ -138,7 +153,7 @@ void printSettings(LiveDesk& desk) {
     desk.navigate(NavigationKey::enter);
     desk.navigate(NavigationKey::tab);
     desk.navigate(NavigationKey::space);
-    printTarget(desk, "mail close", MailCloseTarget{});
+    printCloseButton(desk, "mail close", "New Message");
 }
 
 int refuse(const InputError& error) {

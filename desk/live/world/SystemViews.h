@@ -1,0 +1,43 @@
+// What stands in the windows that are none of the application's.
+#pragma once
+
+#include "desk/live/world/MailLink.h"
+#include "ui/View.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace kestrune::desk {
+
+// An application as the system shows it. Its icon is a PNG file; without one a general icon is shown.
+struct ListedApplication {
+    std::string name;
+    std::string iconPath;
+};
+
+// The system's question whether an application may control the computer.
+ui::View permissionDialog(const ListedApplication& application, std::function<void()> openSettings,
+                          std::function<void()> deny);
+
+struct PaneRow {
+    ListedApplication application;
+    bool isOn = false;
+    bool isSelected = false;
+    std::function<void()> flip;
+    std::function<void()> select;
+};
+
+// A pane of System Settings: applications, and what each of them may do.
+struct SettingsPane {
+    std::string sentence;
+    std::vector<PaneRow> rows;
+    std::function<void()> deselect;
+    std::function<void()> remove; // of the selected row; without one there is nothing to press
+};
+ui::View settingsPane(const SettingsPane& pane);
+
+// A mail that is not sent yet.
+ui::View mailView(const MailLink& mail);
+
+} // namespace kestrune::desk
