@@ -42,15 +42,17 @@ ctest --test-dir $(DIR) $(1) --no-tests=error --max-width 90 --output-on-failure
 status=$$?; tools/count-tests $(DIR)/tests.xml && exit $$status
 endef
 
-.PHONY: help run app test check bench simulate first-run soak mutants fuzz coverage clean
+.PHONY: help run pictures app test check bench simulate first-run soak mutants fuzz coverage clean
 .NOTPARALLEL:
 .DEFAULT_GOAL := help
 
 help:
 	@echo "make run                 build Kestrune and start it, on Linux on a simulated Mac"
+	@echo "make pictures            draw the pictures of README.md and the documents again"
 	@echo "make app                 Kestrune.app for both processors, with Sparkle inside and signed"
 	@echo "make test                build everything and run every test"
-	@echo "make check               format, include rules, unbuilt files, strings, contract tests, clang-tidy"
+	@echo "make check               format, include rules, unbuilt files, strings, pictures, contract tests,"
+	@echo "                         clang-tidy"
 	@echo "make bench               the event path against its floor, the simulation, the wizard, a launch"
 	@echo "make simulate            SEEDS=$(SEEDS) random sessions from SEED=$(SEED) on, against the invariants"
 	@echo "make first-run           the wizard's story, simulated, on GNUstep and as Macs get it, step by step"
@@ -74,10 +76,13 @@ run:
 else
 run:
 	$(call build,run,kestrune-desk)
-	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then $(DIR)/desk/kestrune-desk; \
-	else $(DIR)/desk/kestrune-desk --tour out/tour && \
-	    echo "No display server: the tour's pictures and its report are in out/tour"; fi
+	@$(DIR)/desk/kestrune-desk
 endif
+
+# Those that the documents show.
+pictures:
+	$(call build,run,kestrune-desk)
+	@tools/draw-documents $(DIR)/desk/kestrune-desk
 
 # SPARKLE is the path of a Sparkle.framework or "none".
 export IDENTITY ?= -
@@ -125,11 +130,11 @@ test:
 endif
 endif
 
-# What both implementations define is seen where they are built.
+# What both implementations define is seen where they are built, and so is what the desk draws.
 .PHONY: implementations
 implementations: override PRESET = gcc
 implementations:
-	$(call build,check app,kestrune_contract kestrune_sim kestrune_mac)
+	$(call build,check app,kestrune_contract kestrune_sim kestrune_mac kestrune-desk)
 
 # clang-tidy understands the flags of clang++ only, and needs nothing but to know of every file.
 check: private override PRESET = check

@@ -1,14 +1,13 @@
 // The simulated Mac on the screen, and its windowless commands.
 
-#include "desk/command/OptionsReader.h"
+#include "desk/command/Command.h"
 #include "desk/headless/LaunchCommand.h"
 #include "desk/headless/ReplayCommand.h"
-#include "desk/live/gallery/SettingsPictures.h"
-#include "desk/live/gallery/Tour.h"
-#include "desk/live/gallery/WizardPictures.h"
+#include "desk/live/gallery/Gallery.h"
 #include "desk/window/DeskWindow.h"
 
 #include <cstdio>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,37 +32,40 @@ int print(std::string_view text) {
     return 0;
 }
 
-int run(const Options& options) {
-    if (options.help) {
-        return print(helpText());
-    }
-    if (options.generate) {
-        const auto error = runGenerate(options);
-        return error ? refuse(*error) : 0;
-    }
-    if (options.replay || options.launch) {
-        const auto result = options.replay ? runReplay(options) : runLaunch(options);
-        const auto* text = std::get_if<std::string>(&result);
-        return text != nullptr ? print(*text) : refuse(std::get<InputError>(result));
-    }
-    if (options.tour || options.wizard || options.settings) {
-        const auto error = options.tour     ? runTour(*options.tour, options)
-                           : options.wizard ? writeWizardPictures(*options.wizard, options)
-                                            : writeSettingsPictures(*options.settings, options);
-        return error ? refuse(*error) : 0;
-    }
-    return runDeskWindow(options);
+int finish(const std::optional<InputError>& error) { return error ? refuse(*error) : 0; }
+
+int finish(const std::variant<std::string, InputError>& result) {
+    const auto* text = std::get_if<std::string>(&result);
+    return text != nullptr ? print(*text) : refuse(std::get<InputError>(result));
 }
 
+// Each gives the exit status.
+struct Runner {
+    const Options& options;
+
+    int operator()(const OpenWindow& window) const { return runDeskWindow(options, window.outcome); }
+    int operator()(const DrawGallery& draw) const {
+        return finish(drawGallery(draw.folder, draw.scenes, options));
+    }
+    int operator()(const PlayRecording& play) const { return finish(runReplay(play, options)); }
+    int operator()(const MakeRecording& make) const { return finish(runGenerate(make)); }
+    int operator()(const Launch&) const { return finish(runLaunch(options)); }
+    int operator()(const PrintHelp& help) const { return print(help.text); }
+};
+
 int runCommandLine(std::span<const std::string_view> words) {
-    const auto options = readOptions(words);
-    const auto* error = std::get_if<InputError>(&options);
-    return error != nullptr ? refuse(*error) : run(std::get<Options>(options));
+    const auto read = readCommand(words);
+    if (const auto* error = std::get_if<InputError>(&read)) {
+        return refuse(*error);
+    }
+    const auto& command = std::get<Command>(read);
+    return std::visit(Runner{command.options}, command.mode);
 }
 
 } // namespace
 } // namespace kestrune::desk
 
+// NOLINTNEXTLINE(bugprone-exception-escape): a mode always has a value.
 int main(int argumentCount, char** arguments) {
     const std::vector<std::string_view> words(arguments + 1, arguments + argumentCount);
     return kestrune::desk::runCommandLine(words);

@@ -1,7 +1,7 @@
 // The windowless commands.
 #pragma once
 
-#include "desk/command/Options.h"
+#include "desk/command/Command.h"
 #include "desk/recording/InputError.h"
 
 #include <optional>
@@ -10,11 +10,11 @@
 
 namespace kestrune::desk {
 
-// Plays the recording that the options name, writes what they ask for, and returns the report's text. Nothing
+// Plays a recording, writes what is asked for, and returns the report's text. Nothing
 // is reported unless everything was read and written.
-std::variant<std::string, InputError> runReplay(const Options& options);
+std::variant<std::string, InputError> runReplay(const PlayRecording& play, const Options& options);
 
 // Writes a made-up recording; the error says why it could not be written.
-std::optional<InputError> runGenerate(const Options& options);
+std::optional<InputError> runGenerate(const MakeRecording& make);
 
 } // namespace kestrune::desk

@@ -19,10 +19,11 @@ std::string visibleCharacter(char character) {
     return {character};
 }
 
-// File names keep their letters in any language; only what would break the line is escaped.
-std::string visibleFileName(std::string_view name) {
+} // namespace
+
+std::string onOneLine(std::string_view text) {
     std::string visible;
-    for (const char character : name) {
+    for (const char character : text) {
         const auto byte = static_cast<unsigned char>(character);
         if (byte < 0x20 || byte == 0x7F)
             visible += hexEscape(byte);
@@ -32,14 +33,12 @@ std::string visibleFileName(std::string_view name) {
     return visible;
 }
 
-} // namespace
-
 InputError inputError(FileLine where, std::string_view what) {
-    return {visibleFileName(where.file) + ":" + std::to_string(where.line) + ": " + std::string(what)};
+    return {onOneLine(where.file) + ":" + std::to_string(where.line) + ": " + std::string(what)};
 }
 
 InputError inputError(std::string_view file, std::string_view what) {
-    return {visibleFileName(file) + ": " + std::string(what)};
+    return {onOneLine(file) + ": " + std::string(what)};
 }
 
 std::string inQuotes(std::string_view text) {

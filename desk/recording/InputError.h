@@ -27,6 +27,9 @@ InputError inputError(FileLine where, std::string_view what);
 // `what` follows "file: ", for errors that concern the whole file.
 InputError inputError(std::string_view file, std::string_view what);
 
+// The text with its letters in any language; only what would break the line is escaped, as \xNN.
+std::string onOneLine(std::string_view text);
+
 // The text in double quotes, at most 40 characters of it; three dots follow the closing quote when it was
 // longer. Everything but printable ASCII appears as \xNN, so that no input can break the line or drive a
 // terminal.

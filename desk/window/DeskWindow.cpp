@@ -1,12 +1,13 @@
 #include "desk/window/DeskWindow.h"
 
-#include "desk/live/gallery/Tour.h"
+#include "desk/live/gallery/Gallery.h"
 #include "desk/live/hand/DeskKeys.h"
 #include "desk/live/hand/Hand.h"
 #include "desk/live/world/LivePicture.h"
 #include "desk/live/world/OpenDesk.h"
 #include "desk/paint/desk/DeskHitTest.h"
 #include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/sheets/Sheet.h"
 #include "desk/window/WindowCanvas.h"
 
 #include <chrono>
@@ -21,7 +22,7 @@ namespace kestrune::desk {
 namespace {
 
 constexpr int BadInput = 2;
-constexpr const char* TourFolder = "out/tour";
+constexpr const char* GalleryFolder = "out/gallery";
 constexpr const char* UsualScreenshot = "kestrune-desk.png";
 
 // Between two looks at the events, in milliseconds. SDL_WaitEventTimeout would sleep until there is one, but
@@ -85,8 +86,8 @@ std::optional<NavigationKey> navigationKey(SDL_Keysym pressed) {
 
 class DeskWindow {
 public:
-    DeskWindow(WindowCanvas canvas, LiveDesk& desk, const Options& options)
-        : canvas_(std::move(canvas)), desk_(desk), options_(options), hand_(desk), isDark_(options.dark) {}
+    DeskWindow(WindowCanvas canvas, LiveDesk& desk, bool dark, const Outcome& outcome)
+        : canvas_(std::move(canvas)), desk_(desk), outcome_(outcome), hand_(desk), isDark_(dark) {}
 
     void run() {
         while (!isClosed_) {
@@ -101,8 +102,8 @@ public:
         }
     }
 
-    std::optional<PaintError> writePicture(const std::string& path) {
-        return writePng(path, picture(), canvas_.size(), canvas_.scale());
+    std::optional<PaintError> writeTo(const std::string& path) {
+        return writePicture(path, pictureOfDesk(picture(), canvas_.size()), canvas_.scale());
     }
 
 private:
@@ -113,7 +114,7 @@ private:
             result.shown = Rect{zoomedTo_->x, zoomedTo_->y, 0, 0};
         }
         if (hidesKeys_) {
-            result.keys = {{"H", "show the keys"}};
+            result.keys = legendOfHiddenKeys();
         }
         return result;
     }
@@ -191,12 +192,11 @@ private:
     std::optional<DeskTarget> targetAt(Point place) { return targetAt(place, picture(), layout()); }
 
     void press(const SDL_KeyboardEvent& event) {
-        const SDL_Keycode key = event.keysym.sym;
         const auto navigation = navigationKey(event.keysym);
         if (navigation && desk_.navigate(*navigation)) {
             return;
         }
-        const char character = deskKey(key);
+        const char character = deskKey(event.keysym.sym);
         if (event.repeat != 0 && character != '+' && character != '-') {
             return;
         }
@@ -207,28 +207,27 @@ private:
             }
             return;
         }
-        pressPlain(key, character);
+        if (const auto command = pressDeskKey(desk_, character)) {
+            perform(*command);
+        }
     }
 
-    void pressPlain(SDL_Keycode key, char character) {
-        switch (key) {
-        case SDLK_q:
-            isClosed_ = true;
-            break;
-        case SDLK_d:
-            isDark_ = !isDark_;
-            break;
-        case SDLK_h:
-            hidesKeys_ = !hidesKeys_;
-            break;
-        case SDLK_z:
+    void perform(WindowCommand command) {
+        switch (command) {
+        case WindowCommand::zoom:
             zoom();
             break;
-        case SDLK_s:
+        case WindowCommand::changeAppearance:
+            isDark_ = !isDark_;
+            break;
+        case WindowCommand::savePicture:
             saveScreenshot();
             break;
-        default:
-            pressDeskKey(desk_, character);
+        case WindowCommand::hideKeys:
+            hidesKeys_ = !hidesKeys_;
+            break;
+        case WindowCommand::quit:
+            isClosed_ = true;
             break;
         }
     }
@@ -252,15 +251,15 @@ private:
     }
 
     void saveScreenshot() {
-        const std::string path = options_.screenshot.value_or(UsualScreenshot);
-        const auto error = writePicture(path);
+        const std::string path = outcome_.screenshot.value_or(UsualScreenshot);
+        const auto error = writeTo(path);
         desk_.announce(error ? News{"The picture was not saved: " + error->message, Occurrence::warning}
                              : News{"The picture was saved as " + path, Occurrence::neutral});
     }
 
     WindowCanvas canvas_;
     LiveDesk& desk_;
-    const Options& options_;
+    const Outcome& outcome_;
     const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     Hand hand_;
     DeskHitTest hitTest_;
@@ -292,15 +291,15 @@ private:
     bool isThere_;
 };
 
-int playTourInstead(const Options& options) {
-    std::printf("No display server gives a window: the tour's pictures go to %s\n", TourFolder);
-    const auto error = runTour(TourFolder, options);
+int drawGalleryInstead(const Options& options) {
+    std::printf("No display server gives a window: pictures of all scenes go to %s\n", GalleryFolder);
+    const auto error = drawGallery(GalleryFolder, {}, options);
     return error ? refuse(error->message) : 0;
 }
 
-int finish(DeskWindow& window, LiveDesk& desk, const Options& options) {
-    if (options.screenshot) {
-        if (const auto error = window.writePicture(*options.screenshot)) {
+int finish(DeskWindow& window, LiveDesk& desk, const Outcome& outcome) {
+    if (outcome.screenshot) {
+        if (const auto error = window.writeTo(*outcome.screenshot)) {
             return refuse(error->message);
         }
     }
@@ -308,14 +307,14 @@ int finish(DeskWindow& window, LiveDesk& desk, const Options& options) {
         return refuse(*error);
     }
     const Report report = desk.report();
-    const std::string text = options.reportAsJSON ? reportAsJSON(report) : reportAsText(report);
+    const std::string text = outcome.asJSON ? reportAsJSON(report) : reportAsText(report);
     std::fwrite(text.data(), 1, text.size(), stdout);
     return 0;
 }
 
 } // namespace
 
-int runDeskWindow(const Options& options) {
+int runDeskWindow(const Options& options, const Outcome& outcome) {
     auto opened = openDesk(options);
     if (const auto* error = std::get_if<InputError>(&opened)) {
         return refuse(error->message);
@@ -324,12 +323,12 @@ int runDeskWindow(const Options& options) {
     const Video video;
     std::optional<WindowCanvas> canvas = video.isUsable() ? WindowCanvas::open(UsualWindow) : std::nullopt;
     if (!canvas) {
-        desk.reset(); // There is one session at a time, and the tour has its own.
-        return playTourInstead(options);
+        desk.reset(); // There is one session at a time, and each scene has its own.
+        return drawGalleryInstead(options);
     }
-    DeskWindow window(*std::move(canvas), *desk, options);
+    DeskWindow window(*std::move(canvas), *desk, options.dark, outcome);
     window.run();
-    return finish(window, *desk, options);
+    return finish(window, *desk, outcome);
 }
 
 } // namespace kestrune::desk

@@ -78,9 +78,12 @@ class Pictures(unittest.TestCase):
     def test_have_the_names_of_those_that_the_desk_paints(self):
         for window, states in STATES.items():
             folder = self.folder / window
-            subprocess.run([DESK, f"--{window}", folder], check=True, timeout=SECONDS)
-            for state in states:
-                for appearance in APPEARANCES:
+            scenes = [f"{window}/{state}" for state in states]
+            for appearance in APPEARANCES:
+                option = ["--dark"] if appearance == "dark" else []
+                command = [DESK, "--gallery", self.folder, *scenes, *option]
+                subprocess.run(command, check=True, timeout=SECONDS)
+                for state in states:
                     self.assertIn(f"{state}-{appearance}.png", relative_names(folder))
 
     def test_need_a_folder(self):

@@ -9,8 +9,8 @@ from trees import REPOSITORY, TreeTest
 
 # Each package with what else it provides, as dpkg tells it. These have the same name in every release.
 COMMON = dict.fromkeys(
-    """ca-certificates clang clang-format clang-tidy cmake curl fonts-inter g++ gcovr git
-    gnustep-base-runtime imagemagick libbenchmark-dev libcairo2-dev libclang-rt-dev libgmock-dev
+    """ca-certificates clang clang-format clang-tidy cmake curl fonts-inter g++ gcovr git gnustep-base-runtime
+    imagemagick libbenchmark-dev libcairo2-dev libclang-rt-dev libcli11-dev libgmock-dev
     libgnustep-gui-dev libgtest-dev libpango1.0-dev libplist-dev librapidcheck-dev librsvg2-bin libssl-dev
     libyaml-cpp-dev llvm ninja-build nodejs npm python3 python3-clang python3-yaml shellcheck valgrind
     x11-utils xauth xdotool xvfb xz-utils""".split(),

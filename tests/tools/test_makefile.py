@@ -195,8 +195,10 @@ class FolderWithASpace(MakefileTest):
     def test_holds_the_results_of_the_tests(self):
         self.assertIn(f"{self.folder}/build/gcc/tests.xml", self.make("test"))
 
-    def test_holds_the_tour_that_is_shown_without_a_display(self):
-        self.assertEqual(self.make("run")[-1], "desk --tour out/tour")
+    def test_holds_the_desk_and_what_it_draws_for_the_documents(self):
+        self.assertEqual(self.make("run")[-1], "desk ")
+        self.program("a folder/tools/draw-documents", 'echo "draw-documents $*" >> "$LOG"')
+        self.assertEqual(self.make("pictures")[-1], "draw-documents build/gcc/desk/kestrune-desk")
 
     def test_is_checked(self):
         """Of which files there are, the build is asked again."""

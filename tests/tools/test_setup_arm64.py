@@ -32,7 +32,7 @@ echo "$name" > "$3/usr/bin/$name"
 """
 )
 NAMES = """g++ libsdl2-dev libcairo2-dev libpango1.0-dev libgtest-dev libgmock-dev libbenchmark-dev
-    librapidcheck-dev libplist-dev libssl-dev libyaml-cpp-dev libgnustep-gui-dev gnustep-back
+    librapidcheck-dev libplist-dev libssl-dev libyaml-cpp-dev libcli11-dev libgnustep-gui-dev gnustep-back
     gnustep-base-runtime libc++-19-dev libc++abi-19-dev""".split()
 NO_EMULATOR = "no emulator of arm64 is to be had in any of: qemu-user-static qemu-user"
 

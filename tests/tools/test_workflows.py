@@ -154,9 +154,8 @@ class LinuxSteps(JobTest, MakefileTest):
             "tests.xml build/mutants/",
         ),
         "tools/pictures out/pictures": (
-            "desk --tour out/pictures/tour",
-            "desk --wizard out/pictures/wizard",
-            "desk --settings out/pictures/settings",
+            "desk --gallery out/pictures",
+            "desk --gallery out/pictures --dark",
         ),
     }
 

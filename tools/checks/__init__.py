@@ -5,6 +5,7 @@ from . import (
     documents,
     format,
     includes,
+    pictures,
     resources,
     sleeping,
     strings,
@@ -27,6 +28,7 @@ ALL = {
     "resources": resources,
     "contract": contract,
     "workflows": workflows,
+    "pictures": pictures,
     "format": format,
     "tidy": tidy,
 }

@@ -70,6 +70,13 @@ void TourHand::push(DisplayID number, EventType type) {
     }
 }
 
+void TourHand::press(const DeskTarget& target) {
+    pointAt(target);
+    if (!missing_) {
+        desk_.pressButton(target);
+    }
+}
+
 void TourHand::miss(const std::string& name) {
     if (!missing_) {
         missing_ = name;

@@ -1,5 +1,5 @@
-// The hand that plays the tour: it moves in small steps, pushes against edges and uses what is on the screen.
-// It leaves alone what is not there, and tells of it.
+// The hand that plays the scenes: it moves in small steps, pushes against edges and uses what is on the
+// screen. It leaves alone what is not there, and tells of it.
 #pragma once
 
 #include "desk/live/world/LiveDesk.h"
@@ -31,8 +31,12 @@ public:
     // Pushes for longer than the Dock waits.
     void push(DisplayID number, EventType type = EventType::mouseMoved);
 
-    // Moves over a part of the screen; the second also clicks there.
+    // Tells of something that was not there.
+    void miss(const std::string& name);
+
+    // Moves over a part of the screen; the second also holds the button down there, the third clicks.
     void pointAt(const DeskTarget& target);
+    void press(const DeskTarget& target);
     void click(const DeskTarget& target);
 
     // Opens the application's menu on a display.
@@ -55,7 +59,6 @@ public:
 private:
     std::optional<DeskTarget> rowWith(std::string_view title);
     std::optional<DeskTarget> controlWith(std::string_view title);
-    void miss(const std::string& name);
     bool reach(const std::optional<DeskTarget>& target, const std::string& name);
     void hold(const std::optional<DeskTarget>& target, const std::string& name);
     void use(const std::optional<DeskTarget>& target, const std::string& name);

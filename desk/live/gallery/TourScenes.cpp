@@ -1,7 +1,9 @@
-#include "desk/live/gallery/TourScenes.h"
+// The scenes of the tour: a user's first launch, and what comes after it.
 
+#include "desk/live/gallery/Chapter.h"
 #include "desk/live/world/PinnedDisplay.h"
-#include "desk/paint/toolkit/RectMath.h"
+
+#include <chrono>
 
 namespace kestrune::desk {
 
@@ -16,85 +18,63 @@ constexpr sim::Duration LongRest = std::chrono::seconds(2);
 constexpr sim::Duration UntilTheWatcherLooks = std::chrono::seconds(1);
 constexpr sim::Duration UntilTheUpdaterHasChecked = std::chrono::seconds(1);
 
-} // namespace
+// The story is about the display that was pinned in the beginning and another one.
+class TourScenes {
+public:
+    explicit TourScenes(Stage& stage)
+        : desk_(stage.desk()), hand_(stage.hand()), first_(stage.first()), other_(stage.other()) {}
 
-TourScenes::TourScenes(LiveDesk& desk)
-    : desk_(desk), hand_(desk), first_(pinnedDisplay(desk.session())->displayID) {
-    if (!hand_.bottomEdge(first_)) {
-        return;
-    }
-    for (const sim::Display& display : desk.session().displays().connected()) {
-        if (!other_ && display.displayID != first_ && hand_.bottomEdge(display.displayID)) {
-            other_ = display.displayID;
-        }
-    }
-}
+    std::string firstLaunch();
+    std::string letDockLeave();
+    std::string openMenuBeforeSetup();
+    std::string askForPermission();
+    std::string grantPermission();
+    std::string finishWizard();
+    std::string bringDockHome();
+    std::string hold();
+    std::string holdDrag();
+    std::string restToSeeTheToolTip();
+    std::string openMenuAfterSetup();
+    std::string chooseOther();
+    std::string pushWhereChosen();
+    std::string switchOff();
+    std::string switchOn();
+    std::string plugIn();
+    std::string deepen();
+    std::string unplugPinned();
+    std::string plugInAgain();
+    std::string revoke();
+    std::string grantAgain();
+    std::string timeOut();
+    std::string openSettings();
+    std::string launchAtLogin();
+    std::string findNothingNew();
+    std::string findNewVersion();
+    std::string reportBug();
+    std::string leaveOneDisplay();
+    std::string quit();
+    std::string launchAgain();
 
-const std::vector<TourScenes::Scene>& TourScenes::all() {
-    static const std::vector<Scene> scenes = {
-        {"first-launch", &TourScenes::firstLaunch, Frame::display},
-        {"the-dock-leaves", &TourScenes::letDockLeave},
-        {"menu-before-setup", &TourScenes::openMenuBeforeSetup, Frame::whatIsOpen},
-        {"permission-asked-for", &TourScenes::askForPermission, Frame::whatIsOpen},
-        {"permission-granted", &TourScenes::grantPermission, Frame::whatIsOpen},
-        {"wizard-finished", &TourScenes::finishWizard, Frame::whatIsOpen},
-        {"the-dock-comes-home", &TourScenes::bringDockHome},
-        {"held", &TourScenes::hold},
-        {"held-while-dragging", &TourScenes::holdDrag, Frame::pointer},
-        {"tool-tip", &TourScenes::restToSeeTheToolTip, Frame::whatIsOpen},
-        {"menu-after-setup", &TourScenes::openMenuAfterSetup, Frame::whatIsOpen},
-        {"choosing-a-display", &TourScenes::chooseOther, Frame::whatIsOpen},
-        {"another-choice", &TourScenes::pushWhereChosen},
-        {"switched-off", &TourScenes::switchOff, Frame::whatIsOpen},
-        {"switched-on", &TourScenes::switchOn},
-        {"one-more-display", &TourScenes::plugIn},
-        {"deeper-band", &TourScenes::deepen},
-        {"pinned-display-unplugged", &TourScenes::unplugPinned},
-        {"plugged-in-again", &TourScenes::plugInAgain, Frame::whatIsOpen},
-        {"permission-revoked", &TourScenes::revoke},
-        {"permission-back", &TourScenes::grantAgain},
-        {"tap-timeout", &TourScenes::timeOut},
-        {"settings", &TourScenes::openSettings, Frame::display},
-        {"launch-at-login", &TourScenes::launchAtLogin, Frame::whatIsOpen},
-        {"nothing-new", &TourScenes::findNothingNew, Frame::whatIsOpen},
-        {"new-version", &TourScenes::findNewVersion, Frame::whatIsOpen},
-        {"bug-report", &TourScenes::reportBug, Frame::whatIsOpen},
-        {"one-display-left", &TourScenes::leaveOneDisplay},
-        {"quit", &TourScenes::quit},
-        {"launched-again", &TourScenes::launchAgain, Frame::whatIsOpen},
-    };
-    return scenes;
-}
+private:
+    // The last ones go.
+    void unplugAllBut(std::size_t count);
 
-std::optional<Rect> TourScenes::framed(const Scene& scene, const DeskPicture& picture) {
-    constexpr double Surroundings = 48;
-    const Rect pointer{picture.pointer.x, picture.pointer.y, 0, 0};
-    switch (scene.frame) {
-    case Frame::everything:
-        break;
-    case Frame::display:
-        for (const DisplayPicture& display : picture.displays) {
-            if (display.bounds.contains(picture.pointer)) {
-                return enlargedBy(display.bounds, Surroundings);
-            }
-        }
-        break;
-    case Frame::whatIsOpen: {
-        const auto open = DeskHitTest().openParts(picture);
-        return enlargedBy(open ? unionOf(*open, pointer) : pointer, Surroundings);
-    }
-    case Frame::pointer:
-        return enlargedBy(pointer, Surroundings);
-    }
-    return std::nullopt;
-}
+    const std::string& nameOf(DisplayID number);
+    std::string pinnedName();
 
-std::variant<std::string, InputError> TourScenes::perform(const Scene& scene) {
-    std::string story = (this->*scene.play)();
-    if (const auto& missing = hand_.missing()) {
-        return InputError{"--tour: the scene " + inQuotes(scene.name) + " expected " + *missing};
+    LiveDesk& desk_;
+    TourHand& hand_;
+    DisplayID first_;
+    std::optional<DisplayID> other_;
+};
+
+template <std::string (TourScenes::*Play)()>
+std::string played(Stage& stage) {
+    if (!stage.other()) {
+        stage.hand().miss("another display than the pinned one, both with a free bottom edge");
+        return "";
     }
-    return story;
+    return (TourScenes(stage).*Play)();
 }
 
 std::string TourScenes::firstLaunch() {
@@ -311,5 +291,45 @@ const std::string& TourScenes::nameOf(DisplayID number) {
 }
 
 std::string TourScenes::pinnedName() { return pinnedDisplay(desk_.session())->localizedName; }
+
+} // namespace
+
+Chapter tourChapter() {
+    // Nothing is granted and nothing is stored.
+    const auto prepare = [](LiveDeskSetup& setup) { setup.permission = sim::Permission::notListed; };
+    const std::vector<Scene> scenes = {
+        {"first-launch", played<&TourScenes::firstLaunch>, Frame::display},
+        {"the-dock-leaves", played<&TourScenes::letDockLeave>},
+        {"menu-before-setup", played<&TourScenes::openMenuBeforeSetup>, Frame::whatIsOpen},
+        {"permission-asked-for", played<&TourScenes::askForPermission>, Frame::whatIsOpen},
+        {"permission-granted", played<&TourScenes::grantPermission>, Frame::whatIsOpen},
+        {"wizard-finished", played<&TourScenes::finishWizard>, Frame::whatIsOpen},
+        {"the-dock-comes-home", played<&TourScenes::bringDockHome>},
+        {"held", played<&TourScenes::hold>},
+        {"held-while-dragging", played<&TourScenes::holdDrag>, Frame::pointer},
+        {"tool-tip", played<&TourScenes::restToSeeTheToolTip>, Frame::whatIsOpen},
+        {"menu-after-setup", played<&TourScenes::openMenuAfterSetup>, Frame::whatIsOpen},
+        {"choosing-a-display", played<&TourScenes::chooseOther>, Frame::whatIsOpen},
+        {"another-choice", played<&TourScenes::pushWhereChosen>},
+        {"switched-off", played<&TourScenes::switchOff>, Frame::whatIsOpen},
+        {"switched-on", played<&TourScenes::switchOn>},
+        {"one-more-display", played<&TourScenes::plugIn>},
+        {"deeper-band", played<&TourScenes::deepen>},
+        {"pinned-display-unplugged", played<&TourScenes::unplugPinned>},
+        {"plugged-in-again", played<&TourScenes::plugInAgain>, Frame::whatIsOpen},
+        {"permission-revoked", played<&TourScenes::revoke>},
+        {"permission-back", played<&TourScenes::grantAgain>},
+        {"tap-timeout", played<&TourScenes::timeOut>},
+        {"settings", played<&TourScenes::openSettings>, Frame::display},
+        {"launch-at-login", played<&TourScenes::launchAtLogin>, Frame::whatIsOpen},
+        {"nothing-new", played<&TourScenes::findNothingNew>, Frame::whatIsOpen},
+        {"new-version", played<&TourScenes::findNewVersion>, Frame::whatIsOpen},
+        {"bug-report", played<&TourScenes::reportBug>, Frame::whatIsOpen},
+        {"one-display-left", played<&TourScenes::leaveOneDisplay>},
+        {"quit", played<&TourScenes::quit>},
+        {"launched-again", played<&TourScenes::launchAgain>, Frame::whatIsOpen},
+    };
+    return {"tour", "The whole life of Kestrune, scene by scene", 5, 0.4, {{prepare, scenes}}};
+}
 
 } // namespace kestrune::desk

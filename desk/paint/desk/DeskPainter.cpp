@@ -39,7 +39,7 @@ void paintBandsAndCaptions(const Canvas& canvas, const DeskLayout& layout, const
         if (display.bandTop) {
             paintBand(canvas, place, *display.bandTop, picture.guard == GuardState::on);
         }
-        if (const auto caption = captionPlace(canvas.text, place, display)) {
+        if (const auto caption = captionPlace(canvas.text, place, display, layout.stage())) {
             paintCaption(canvas, *caption, display);
         }
     });

@@ -135,13 +135,18 @@ void paintScreenCorners(cairo_t* context, const Palette& palette, const DisplayP
 }
 
 std::optional<CaptionPlace> captionPlace(TextPainter& text, const DisplayPlace& place,
-                                         const DisplayPicture& display) {
+                                         const DisplayPicture& display, const Rect& stage) {
     const double height = std::min(HighestCaption, place.captionRoom * CaptionPart);
-    const double available = place.housing.width();
-    if (height < LowestCaption || available < 4 * height) {
+    const double left = std::max(place.housing.minX(), stage.minX());
+    const double available = std::min(place.housing.maxX(), stage.maxX()) - left;
+    const double top = place.housing.maxY() + (place.captionRoom - height) / 2 + 2;
+    if (height < LowestCaption || available < 4 * height || top + height > stage.maxY()) {
         return std::nullopt;
     }
     const double nameWidth = text.width(display.name, nameStyle(height));
+    if (available < place.housing.width() && available < nameWidth) {
+        return std::nullopt;
+    }
     double sizeRoom = SizeGap + text.width(sizeText(display.bounds), sizeStyle(height));
     const double wordWidth =
         text.width(BadgeText, badgeStyle(height)) + height * (BadgeTextStart + BadgePadding);
@@ -155,8 +160,7 @@ std::optional<CaptionPlace> captionPlace(TextPainter& text, const DisplayPlace& 
     }
     const double shownNameWidth = std::min(nameWidth, available - sizeRoom - badgeRoom);
     const double width = shownNameWidth + sizeRoom + badgeRoom;
-    const double top = place.housing.maxY() + (place.captionRoom - height) / 2 + 2;
-    double x = place.housing.minX() + (available - width) / 2;
+    double x = left + (available - width) / 2;
     CaptionPlace result{.name = {x, top, shownNameWidth, height}, .size = {}, .badge = {}};
     x = result.name.maxX();
     if (sizeRoom > 0) {

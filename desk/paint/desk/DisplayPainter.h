@@ -40,15 +40,16 @@ private:
 // What of the housing lies in front of the corners of what was painted on the display.
 void paintScreenCorners(cairo_t* context, const Palette& palette, const DisplayPlace& place);
 
-// Where the display's name and size stand below its housing, and the badge of a pinned display after them, in
-// window coordinates. A display that is drawn too small has none of them.
+// Where the display's name and size stand below what the stage shows of its housing, and the badge of a
+// pinned display after them, in window coordinates. A display that is drawn too small has none of them, nor
+// one of which too little is shown.
 struct CaptionPlace {
     Rect name;
     std::optional<Rect> size;
     std::optional<Rect> badge;
 };
 std::optional<CaptionPlace> captionPlace(TextPainter& text, const DisplayPlace& place,
-                                         const DisplayPicture& display);
+                                         const DisplayPicture& display, const Rect& stage);
 
 void paintCaption(const Canvas& canvas, const CaptionPlace& place, const DisplayPicture& display);
 

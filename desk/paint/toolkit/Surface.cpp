@@ -1,7 +1,5 @@
 #include "desk/paint/toolkit/Surface.h"
 
-#include "desk/paint/desk/DeskPainter.h"
-
 #include <cmath>
 #include <utility>
 
@@ -58,17 +56,6 @@ std::optional<PaintError> Surface::writePng(const std::string& path) const {
         return PaintError{path + ": " + cairo_status_to_string(status)};
     }
     return std::nullopt;
-}
-
-std::optional<PaintError> writePng(const std::string& path, const DeskPicture& picture, Size window,
-                                   double scale) {
-    const std::optional<Surface> surface = Surface::create(window, scale);
-    if (!surface) {
-        return PaintError{path + ": the picture's size is out of range"};
-    }
-    DeskPainter painter;
-    painter.paint(surface->context(), picture, window);
-    return surface->writePng(path);
 }
 
 } // namespace kestrune::desk

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/toolkit/CairoObjects.h"
 
 #include <cstddef>
@@ -45,9 +44,5 @@ private:
     SurfaceHandle surface_;
     ContextHandle context_;
 };
-
-// Paints one picture into a PNG file. Absent when the file was written.
-std::optional<PaintError> writePng(const std::string& path, const DeskPicture& picture, Size window,
-                                   double scale);
 
 } // namespace kestrune::desk

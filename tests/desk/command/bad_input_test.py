@@ -57,7 +57,8 @@ OPTIONS = [
     (["--replay", "GOOD", "--permission", "missing"], "--permission"),
     (["--replay", "GOOD", "--launch"], "--launch"),
     (["--launch", "--defaults", "BROKEN"], "BROKEN:1"),
-    (["--replay", "GOOD", "--tour", "somewhere"], "--tour"),
+    (["--replay", "GOOD", "--gallery", "somewhere"], "--gallery"),
+    (["--gallery", "BROKEN/gallery", "tour/held"], "BROKEN/gallery"),
     (["--replay", "GOOD", "--pin", "1", "--pin", "2"], "--pin"),
     (["--seed", "1"], "--seed"),
     (["--replay", "GOOD", "--defaults", "BROKEN"], "--defaults"),
@@ -84,6 +85,16 @@ class BadInput(unittest.TestCase):
         self.assertLess(len(message), 400)
         self.assertIn(str(place), message)
         self.assertTrue(message.isprintable() or message[:-1].isprintable(), message)
+
+    def test_a_scene_that_there_is_none_of(self):
+        command = [DESK, "--gallery", str(self.folder / "gallery"), "tour/hold"]
+        result = subprocess.run(command, capture_output=True, check=False, timeout=60, text=True)
+        self.assertEqual((result.returncode, result.stdout), (2, ""))
+        self.assertEqual(result.stderr.count("\n"), 1)
+        self.assertIn('--gallery: no scene is called "tour/hold"; there are tour, ', result.stderr)
+        for name in ("tour/held", "wizard/waiting-focused", "settings/long"):
+            self.assertIn(f" {name}", result.stderr)
+        self.assertFalse((self.folder / "gallery").exists())
 
     def test_recordings(self):
         for name, content, place in RECORDINGS:

@@ -19,9 +19,9 @@ protected:
     PermissionDialog() { session.accessibility().askUser(); }
 };
 
-class SettingsPane : public PartsFixture {
+class SettingsPaneOnTheDesk : public PartsFixture {
 protected:
-    SettingsPane() { session.accessibility().showPane(); }
+    SettingsPaneOnTheDesk() { session.accessibility().showPane(); }
 
     sim::Permission permission() { return session.accessibility().permission(); }
     std::optional<bool> isOn() { return isSwitchOn(picture(), "Kestrune"); }
@@ -122,7 +122,7 @@ TEST_F(PermissionDialog, IsNotShownWithoutADisplay) {
     EXPECT_THAT(titles(), ElementsAre(DialogTitle));
 }
 
-TEST_F(SettingsPane, ShowsBesideTheDialogWhereThereIsAnotherDisplay) {
+TEST_F(SettingsPaneOnTheDesk, ShowsBesideTheDialogWhereThereIsAnotherDisplay) {
     EXPECT_EQ(centerOf(window(PaneTitle).frame).x, 1500);
     parts.displaysChanged();
     session.changeDisplays({sim::makeDisplay(1, "One", {0, 0, 1000, 800})});
@@ -131,13 +131,13 @@ TEST_F(SettingsPane, ShowsBesideTheDialogWhereThereIsAnotherDisplay) {
     EXPECT_EQ(window(PaneTitle).titleBarHeight, 52);
 }
 
-TEST_F(SettingsPane, KeepsItsTitleBarBelowTheMenuBarOfASmallDisplay) {
+TEST_F(SettingsPaneOnTheDesk, KeepsItsTitleBarBelowTheMenuBarOfASmallDisplay) {
     parts.displaysChanged();
     session.changeDisplays({sim::makeDisplay(1, "One", {0, 0, 300, 200})});
     EXPECT_EQ(window(PaneTitle).frame.minY(), 24);
 }
 
-TEST_F(SettingsPane, ListsTheApplicationWithItsSwitch) {
+TEST_F(SettingsPaneOnTheDesk, ListsTheApplicationWithItsSwitch) {
     EXPECT_THAT(textsIn(window(PaneTitle)),
                 ElementsAre("Allow the applications below to control your computer.", "Kestrune"));
     EXPECT_EQ(iconsIn(window(PaneTitle)), std::vector<std::string>{"icon.png"});
@@ -150,7 +150,7 @@ TEST_F(SettingsPane, ListsTheApplicationWithItsSwitch) {
                 ElementsAre("Allow the applications below to control your computer.", "No Items"));
 }
 
-TEST_F(SettingsPane, FlipsTheSwitchWithAClickAndSlidesItsKnob) {
+TEST_F(SettingsPaneOnTheDesk, FlipsTheSwitchWithAClickAndSlidesItsKnob) {
     EXPECT_FALSE(click(control("Kestrune")).pressedControl);
     EXPECT_EQ(permission(), sim::Permission::switchedOff);
     EXPECT_EQ(window(PaneTitle).movingSwitch, (MovingSwitch{control("Kestrune").index, 1}));
@@ -163,7 +163,7 @@ TEST_F(SettingsPane, FlipsTheSwitchWithAClickAndSlidesItsKnob) {
     EXPECT_FALSE(isRowSelected());
 }
 
-TEST_F(SettingsPane, SelectsARowUntilAClickBesideIt) {
+TEST_F(SettingsPaneOnTheDesk, SelectsARowUntilAClickBesideIt) {
     EXPECT_FALSE(isRowSelected()) << "there is nothing to remove";
     click(control("Select Kestrune"));
     EXPECT_TRUE(isRowSelected());
@@ -171,7 +171,7 @@ TEST_F(SettingsPane, SelectsARowUntilAClickBesideIt) {
     EXPECT_FALSE(isRowSelected());
 }
 
-TEST_F(SettingsPane, RemovesTheRow) {
+TEST_F(SettingsPaneOnTheDesk, RemovesTheRow) {
     click(control("Select Kestrune"));
     click(control("Remove"));
     EXPECT_EQ(isOn(), std::nullopt);
@@ -180,7 +180,7 @@ TEST_F(SettingsPane, RemovesTheRow) {
     EXPECT_FALSE(isRowSelected()) << "a new row is not the one that was chosen";
 }
 
-TEST_F(SettingsPane, ClosesAndForgetsTheSelection) {
+TEST_F(SettingsPaneOnTheDesk, ClosesAndForgetsTheSelection) {
     click(control("Select Kestrune"));
     click(DeskTarget::closeButton(window(PaneTitle).number));
     EXPECT_THAT(titles(), ElementsAre());
@@ -188,7 +188,7 @@ TEST_F(SettingsPane, ClosesAndForgetsTheSelection) {
     EXPECT_FALSE(isRowSelected());
 }
 
-TEST_F(SettingsPane, ShowsThatItsCloseButtonIsUsed) {
+TEST_F(SettingsPaneOnTheDesk, ShowsThatItsCloseButtonIsUsed) {
     const DeskTarget close = DeskTarget::closeButton(window(PaneTitle).number);
     parts.hover(close);
     EXPECT_TRUE(window(PaneTitle).isCloseButtonHovered);
@@ -199,7 +199,7 @@ TEST_F(SettingsPane, ShowsThatItsCloseButtonIsUsed) {
     EXPECT_THAT(titles(), ElementsAre(PaneTitle));
 }
 
-TEST_F(SettingsPane, DoesNothingMoreOnceItIsClosed) {
+TEST_F(SettingsPaneOnTheDesk, DoesNothingMoreOnceItIsClosed) {
     const DeskTarget close = DeskTarget::closeButton(window(PaneTitle).number);
     const DeskTarget toggle = control("Kestrune");
     session.accessibility().closePane();
@@ -209,7 +209,7 @@ TEST_F(SettingsPane, DoesNothingMoreOnceItIsClosed) {
     EXPECT_EQ(permission(), sim::Permission::granted);
 }
 
-TEST_F(SettingsPane, TakesNoKeys) {
+TEST_F(SettingsPaneOnTheDesk, TakesNoKeys) {
     EXPECT_FALSE(parts.takesKeys());
     parts.press(NavigationKey::escape);
     EXPECT_THAT(titles(), ElementsAre(PaneTitle));

@@ -7,9 +7,8 @@
 //
 // A picture that differs is written to tests/desk/live/differing/ of the build directory.
 
-#include "desk/live/gallery/SettingsPictures.h"
-#include "desk/live/gallery/WizardPictures.h"
-#include "desk/paint/sheets/ContactSheet.h"
+#include "desk/live/gallery/Chapter.h"
+#include "desk/paint/sheets/Sheet.h"
 #include "sim/session/FixedAdvanceMeasurer.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/live/PictureDifference.h"
@@ -39,42 +38,51 @@ path referenceOf(const std::string& name) { return path(KESTRUNE_REFERENCES) / n
 
 bool areReferencesRewritten() { return std::getenv("KESTRUNE_REWRITE_REFERENCES") != nullptr; }
 
-using AlbumMaker = std::variant<WindowAlbum, InputError> (*)(const LiveDeskSetup&);
-
 // As if every letter had the same width, which is so wherever the page is made.
 const ui::Measurer* evenLetters() {
     static const sim::FixedAdvanceMeasurer measurer;
     return &measurer;
 }
 
-AlbumPage pageOf(AlbumMaker makeAlbum, const std::string& name, bool dark, const ui::Measurer* measurer) {
+bool hasScene(const Story& story, const std::string& name) {
+    return std::any_of(story.scenes.begin(), story.scenes.end(),
+                       [&](const Scene& scene) { return scene.name == name; });
+}
+
+// The window of a scene.
+WindowPicture pageOf(const Chapter& chapter, const std::string& name, const ui::Measurer* measurer) {
+    const auto story = std::find_if(chapter.stories.begin(), chapter.stories.end(),
+                                    [&](const Story& candidate) { return hasScene(candidate, name); });
+    if (story == chapter.stories.end()) {
+        ADD_FAILURE() << "no scene " << name;
+        return {};
+    }
     auto setup = std::get<LiveDeskSetup>(setupOf({}));
     setup.measurer = measurer;
-    const auto made = makeAlbum(setup);
-    if (const auto* const error = std::get_if<InputError>(&made)) {
-        ADD_FAILURE() << error->message;
-        return {};
+    story->prepare(setup);
+    Stage stage(setup);
+    for (const Scene& scene : story->scenes) {
+        const auto performed = stage.perform(scene);
+        if (const auto* const missing = std::get_if<std::string>(&performed)) {
+            ADD_FAILURE() << scene.name << " expected " << *missing;
+            return {};
+        }
+        if (scene.name == name) {
+            return std::get<DeskPicture>(performed).windows.front();
+        }
     }
-    const auto& pages = std::get<WindowAlbum>(made).pages;
-    const auto page = std::find_if(pages.begin(), pages.end(), [&](const AlbumPage& candidate) {
-        return candidate.name == name && candidate.dark == dark;
-    });
-    if (page == pages.end()) {
-        ADD_FAILURE() << "no page " << name;
-        return {};
-    }
-    return *page;
+    return {};
 }
 
 // With one pixel for each point.
-void writePicture(const WindowPicture& window, bool dark, const path& file) {
+void writeWindow(const WindowPicture& window, bool dark, const path& file) {
     std::filesystem::create_directories(file.parent_path());
-    const auto error = writeWindowPicture(file, window, dark, 1);
+    const auto error = writePicture(file, pictureOfWindow(window, dark), 1);
     ASSERT_FALSE(error) << error->message;
 }
 
-void writePage(const AlbumPage& page, const path& file) {
-    writePicture(withoutLetters(page.window), page.dark, file);
+void writePage(const WindowPicture& page, bool dark, const path& file) {
+    writeWindow(withoutLetters(page), dark, file);
 }
 
 // How far the letters of one window are out of the boxes of the other, which has the same layout.
@@ -82,39 +90,37 @@ PictureDifference lettersBeside(const WindowPicture& letters, const WindowPictur
     const TemporaryFolder folder;
     const path covered = folder.path() / "covered.png";
     const path without = folder.path() / "without.png";
-    writePicture(withCoveredLetters(letters), false, covered);
-    writePicture(withOpaqueBoxes(boxes), false, without);
+    writeWindow(withCoveredLetters(letters), false, covered);
+    writeWindow(withOpaqueBoxes(boxes), false, without);
     const auto difference = differenceOfPictures(covered, without);
     EXPECT_TRUE(difference);
     return difference.value_or(PictureDifference{});
 }
 
 struct ReferencePage {
-    AlbumMaker makeAlbum;
-    std::string album; // begins the file's name
+    Chapter (*chapter)();
     std::string page;
+
+    // As a file's name has it.
+    std::string name() const { return chapter().name + "-" + page; }
 };
 
-void PrintTo(const ReferencePage& reference, std::ostream* stream) {
-    *stream << reference.album << ": " << reference.page;
-}
+void PrintTo(const ReferencePage& reference, std::ostream* stream) { *stream << reference.name(); }
 
 class ReferencePictures : public testing::TestWithParam<ReferencePage> {
 protected:
-    static std::string nameOf(bool dark) {
-        return GetParam().album + "-" + GetParam().page + (dark ? "-dark.png" : "-light.png");
-    }
-    static AlbumPage page(bool dark, const ui::Measurer* measurer = evenLetters()) {
-        return pageOf(GetParam().makeAlbum, GetParam().page, dark, measurer);
+    static std::string nameOf(bool dark) { return GetParam().name() + (dark ? "-dark.png" : "-light.png"); }
+    static WindowPicture page(const ui::Measurer* measurer = evenLetters()) {
+        return pageOf(GetParam().chapter(), GetParam().page, measurer);
     }
 
     static void compare(bool dark) {
         if (areReferencesRewritten()) {
-            writePage(page(dark), referenceOf(nameOf(dark)));
+            writePage(page(), dark, referenceOf(nameOf(dark)));
             GTEST_SKIP() << "The reference was written anew; nothing was compared.";
         }
         const path fresh = path(KESTRUNE_DIFFERING) / nameOf(dark);
-        writePage(page(dark), fresh);
+        writePage(page(), dark, fresh);
         const auto difference = differenceOfPictures(fresh, referenceOf(nameOf(dark)));
         ASSERT_TRUE(difference) << "The reference cannot be read or has another size. Now: " << fresh;
         EXPECT_LE(difference->mean, MeanTolerance);
@@ -140,45 +146,43 @@ TEST_P(ReferencePictures, DifferBetweenLightAndDarkAllOver) {
 
 // They are laid out again, for the widths that letters have here.
 TEST_P(ReferencePictures, HaveRoomForTheLettersOfTheFontThatIsThere) {
-    const WindowPicture window = page(false, nullptr).window;
+    const WindowPicture window = page(nullptr);
     EXPECT_LE(lettersBeside(window, window).maximum, MaximumTolerance);
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, ReferencePictures,
-                         testing::Values(ReferencePage{wizardAlbum, "wizard", "intro"},
-                                         ReferencePage{wizardAlbum, "wizard", "permission"},
-                                         ReferencePage{wizardAlbum, "wizard", "waiting"},
-                                         ReferencePage{wizardAlbum, "wizard", "granted"},
-                                         ReferencePage{settingsAlbum, "settings", "in-front"},
-                                         ReferencePage{settingsAlbum, "settings", "on"},
-                                         ReferencePage{settingsAlbum, "settings", "switch-dragged"},
-                                         ReferencePage{settingsAlbum, "settings", "button-focused"}),
-                         [](const auto& instance) {
-                             std::string name = instance.param.album + "_" + instance.param.page;
-                             std::replace(name.begin(), name.end(), '-', '_');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Pages, ReferencePictures,
+    testing::Values(ReferencePage{wizardChapter, "intro"}, ReferencePage{wizardChapter, "permission"},
+                    ReferencePage{wizardChapter, "waiting"}, ReferencePage{wizardChapter, "granted"},
+                    ReferencePage{settingsChapter, "in-front"}, ReferencePage{settingsChapter, "on"},
+                    ReferencePage{settingsChapter, "switch-dragged"},
+                    ReferencePage{settingsChapter, "button-focused"}),
+    [](const auto& instance) {
+        std::string name = instance.param.name();
+        std::replace(name.begin(), name.end(), '-', '_');
+        return name;
+    });
 
 // Whether the tolerances notice what a person would, too.
 class PageDifference : public testing::Test {
 protected:
     // A page in light colours, changed.
     template <typename Change>
-    PictureDifference differenceAfter(AlbumPage page, Change&& change) {
+    PictureDifference differenceAfter(WindowPicture page, Change&& change) {
         const path before = folder_.path() / "before.png";
         const path after = folder_.path() / "after.png";
-        writePage(page, before);
-        change(page.window);
-        writePage(page, after);
+        writePage(page, false, before);
+        change(page);
+        writePage(page, false, after);
         const auto difference = differenceOfPictures(before, after);
         EXPECT_TRUE(difference);
         return difference.value_or(PictureDifference{});
     }
 
-    static AlbumPage wizardPage(const ui::Measurer* measurer = evenLetters()) {
-        return pageOf(wizardAlbum, "permission", false, measurer);
+    static WindowPicture wizardPage(const ui::Measurer* measurer = evenLetters()) {
+        return pageOf(wizardChapter(), "permission", measurer);
     }
-    static AlbumPage settingsPage() { return pageOf(settingsAlbum, "in-front", false, evenLetters()); }
+    static WindowPicture settingsPage() { return pageOf(settingsChapter(), "in-front", evenLetters()); }
 
     template <typename Change>
     PictureDifference differenceInWizardAfter(Change&& change) {
@@ -268,7 +272,7 @@ TEST_F(PageDifference, IsTooLargeWithoutTheFillOfTheForm) {
 }
 
 TEST_F(PageDifference, IsTooLargeWhenLettersAreLargerOrElsewhereThanTheirBox) {
-    const WindowPicture window = wizardPage(nullptr).window;
+    const WindowPicture window = wizardPage(nullptr);
     WindowPicture larger = window;
     for (ui::Element& element : larger.scene.elements) {
         if (auto* const text = std::get_if<ui::TextElement>(&element)) {
@@ -286,8 +290,8 @@ TEST_F(PageDifference, IsUnknownWithoutAFileAndBetweenSizes) {
     window.frame = {0, 0, 20, 20};
     const path small = folder.path() / "small.png";
     const path large = folder.path() / "large.png";
-    ASSERT_FALSE(writeWindowPicture(small, window, false, 1));
-    ASSERT_FALSE(writeWindowPicture(large, window, false, 2));
+    ASSERT_FALSE(writePicture(small, pictureOfWindow(window, false), 1));
+    ASSERT_FALSE(writePicture(large, pictureOfWindow(window, false), 2));
     EXPECT_TRUE(differenceOfPictures(small, small));
     EXPECT_FALSE(differenceOfPictures(small, large));
 }

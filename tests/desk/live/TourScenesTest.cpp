@@ -1,7 +1,6 @@
 // What each scene of the tour leaves on the desk.
 
-#include "desk/live/gallery/TourScenes.h"
-
+#include "desk/live/gallery/Gallery.h"
 #include "desk/live/world/LivePicture.h"
 #include "sim/seam/WindowState.h"
 #include "tests/desk/live/WindowTitles.h"
@@ -34,15 +33,26 @@ LiveDeskSetup otherDisplays() {
     return setup;
 }
 
-class ScenesOfTheTour : public testing::Test {
+LiveDeskSetup usualDisplays() {
+    auto setup = std::get<LiveDeskSetup>(setupOf({}));
+    setup.permission = sim::Permission::notListed;
+    return setup;
+}
+
+const std::vector<Scene>& scenesOfTheTour() { return chapters().front().stories.front().scenes; }
+
+class ScenesOn : public testing::Test {
 protected:
+    explicit ScenesOn(const LiveDeskSetup& setup) : stage(setup) {}
+
     // All of them up to that one, with it.
     void playUntil(std::string_view name) {
-        for (const TourScenes::Scene& scene : TourScenes::all()) {
-            const auto outcome = scenes.perform(scene);
-            const auto* const story = std::get_if<std::string>(&outcome);
-            ASSERT_NE(story, nullptr) << std::get<InputError>(outcome).message;
-            stories.push_back(*story);
+        for (const Scene& scene : scenesOfTheTour()) {
+            before = desk.report();
+            const auto outcome = stage.perform(scene);
+            const auto* const shown = std::get_if<DeskPicture>(&outcome);
+            ASSERT_NE(shown, nullptr) << std::get<std::string>(outcome);
+            stories.push_back(shown->story);
             if (scene.name == name) {
                 return;
             }
@@ -62,14 +72,68 @@ protected:
 
     ActivationPolicy policy() { return desk.session().application().policy; }
 
-    LiveDesk desk{otherDisplays()};
-    TourScenes scenes{desk};
+    // What of the report is the last scene's.
+    std::string figures() {
+        const Report now = desk.report();
+        return std::to_string(now.events - before.events) + " events, " +
+               std::to_string(now.changed - before.changed) + " held, " +
+               std::to_string(now.dockMoves - before.dockMoves) + " Dock moves, " +
+               std::to_string(now.violations - before.violations) + " against the rule";
+    }
+
+    Stage stage;
+    LiveDesk& desk = stage.desk();
+    Report before;
     std::vector<std::string> stories;
 };
 
+class ScenesOfTheTour : public ScenesOn {
+protected:
+    ScenesOfTheTour() : ScenesOn(otherDisplays()) {}
+};
+
+class ScenesOnTheUsualDisplays : public ScenesOn {
+protected:
+    ScenesOnTheUsualDisplays() : ScenesOn(usualDisplays()) {}
+};
+
+TEST_F(ScenesOnTheUsualDisplays, LetTheDockLeave) {
+    playUntil("the-dock-leaves");
+    EXPECT_THAT(stories.back(), HasSubstr("the pointer pulls the Dock over."));
+    EXPECT_EQ(desk.news().text, "The Dock moved to Display 2");
+    EXPECT_EQ(figures(), "150 events, 0 held, 1 Dock moves, 0 against the rule");
+}
+
+TEST_F(ScenesOnTheUsualDisplays, GuardAsSoonAsTheyMay) {
+    playUntil("permission-granted");
+    EXPECT_THAT(stories.back(), HasSubstr("within a second the guard runs by itself."));
+    EXPECT_EQ(desk.news().text, "Guard on: only Built-in Display may have the Dock");
+}
+
+TEST_F(ScenesOnTheUsualDisplays, HoldThePointer) {
+    playUntil("held");
+    EXPECT_EQ(desk.news().text, "Held at 977 on Display 2");
+    EXPECT_EQ(figures(), "150 events, 68 held, 0 Dock moves, 0 against the rule");
+}
+
+TEST_F(ScenesOnTheUsualDisplays, LetTheDockGoWhereItIsChosenTo) {
+    playUntil("another-choice");
+    EXPECT_EQ(desk.news().text, "The Dock moved to Display 2");
+}
+
+TEST_F(ScenesOnTheUsualDisplays, UnplugThePinnedOne) {
+    playUntil("pinned-display-unplugged");
+    EXPECT_EQ(desk.news().text, "Display 2 was unplugged; the pin and the Dock moved to Built-in Display");
+}
+
+TEST_F(ScenesOnTheUsualDisplays, KeepToTheRuleToTheEnd) {
+    playUntil("launched-again");
+    EXPECT_EQ(desk.report().dockMoves, 3U);
+    EXPECT_EQ(desk.report().violations, 0U);
+}
+
 TEST_F(ScenesOfTheTour, ArePlayedOnOtherDisplaysToo) {
-    ASSERT_TRUE(scenes.canBePlayed());
-    playUntil(TourScenes::all().back().name);
+    playUntil(scenesOfTheTour().back().name);
     EXPECT_THAT(stories, Contains(HasSubstr("brings the Dock home to Display 3.")));
     EXPECT_THAT(stories, Contains(HasSubstr("the bottom edge of Built-in Display")));
     EXPECT_EQ(desk.report().dockMoves, 3U);
@@ -206,13 +270,11 @@ TEST(SceneOfTheTour, FramesWhatItTalksAbout) {
     const DeskPicture picture = pictureOf(desk);
     ASSERT_EQ(picture.windows.size(), 1U);
     const Rect wizard = picture.windows[0].frame;
-    const auto framed = [&](TourScenes::Frame frame) {
-        return TourScenes::framed({"a scene", nullptr, frame}, picture);
-    };
-    EXPECT_FALSE(framed(TourScenes::Frame::everything));
-    const Rect display = framed(TourScenes::Frame::display).value();
-    const Rect open = framed(TourScenes::Frame::whatIsOpen).value();
-    const Rect pointer = framed(TourScenes::Frame::pointer).value();
+    EXPECT_FALSE(framed(Frame::everything, picture));
+    EXPECT_FALSE(framed(Frame::window, picture));
+    const Rect display = framed(Frame::display, picture).value();
+    const Rect open = framed(Frame::whatIsOpen, picture).value();
+    const Rect pointer = framed(Frame::pointer, picture).value();
     EXPECT_EQ(display, (Rect{-48, -48, 1096, 696})) << "the one with the pointer";
     EXPECT_LT(open.minX(), wizard.minX());
     EXPECT_GT(open.maxY(), wizard.maxY());
@@ -225,17 +287,21 @@ TEST(SceneOfTheTour, FramesWhatItTalksAbout) {
 TEST(SceneOfTheTour, TellsWhatItDidNotFind) {
     LiveDeskSetup setup = otherDisplays();
     setup.bundle.localizedStrings["Check for Updates…"] = "Look for Updates…";
-    LiveDesk desk(setup);
-    TourScenes scenes(desk);
-    std::vector<std::string> errors;
-    for (const TourScenes::Scene& scene : TourScenes::all()) {
-        const auto outcome = scenes.perform(scene);
-        if (const auto* const error = std::get_if<InputError>(&outcome); error && errors.empty()) {
-            errors.push_back(error->message);
+    Stage stage(setup);
+    std::vector<std::string> missing;
+    for (const Scene& scene : scenesOfTheTour()) {
+        const auto outcome = stage.perform(scene);
+        if (const auto* const expected = std::get_if<std::string>(&outcome); expected && missing.empty()) {
+            missing = {scene.name, *expected};
         }
     }
-    EXPECT_THAT(errors, ElementsAre("--tour: the scene \"nothing-new\" expected the button or switch "
-                                    "“Check for Updates…”"));
+    EXPECT_THAT(missing, ElementsAre("nothing-new", "the button or switch “Check for Updates…”"));
+}
+
+TEST(SceneOfTheTour, TellsThatThereIsNoWindowToShow) {
+    Stage stage(std::get<LiveDeskSetup>(setupOf({})));
+    const auto outcome = stage.perform({"nothing", [](Stage&) { return "Nothing"; }, Frame::window});
+    EXPECT_EQ(std::get<std::string>(outcome), "a window");
 }
 
 } // namespace

@@ -30,19 +30,6 @@ int bandPixels(const DeskPicture& picture, std::size_t display) {
     return painted.count({bounds.minX() + 556, bounds.maxY() - 5, 400, 5}, isBandColored);
 }
 
-std::optional<CaptionPlace> captionOf(const DeskPicture& picture, std::size_t display) {
-    const std::optional<Surface> surface = Surface::create({10, 10}, 1);
-    TextPainter text{surface->context()};
-    return captionPlace(text, *deskLayoutOf(picture).place(display), picture.displays[display]);
-}
-
-bool isPinColored(Pixel pixel) {
-    const Color accent = paletteFor(false).accent;
-    return isNear(pixel, static_cast<int>(std::lround(accent.red * 255)),
-                  static_cast<int>(std::lround(accent.green * 255)),
-                  static_cast<int>(std::lround(accent.blue * 255)), 2);
-}
-
 TEST(DeskPainter, ColorsTheBandOnGuardedDisplaysOnly) {
     const DeskPicture picture = twoDisplays();
     EXPECT_EQ(bandPixels(picture, 1), 400 * 5);
@@ -73,45 +60,6 @@ TEST(DeskPainter, ShowsTheBandAsDeepAsItIs) {
     const double top = place.screen.minY() + place.screen.height() / 2;
     EXPECT_TRUE(isBandColored(deep.at({place.screen.minX() + 100, top + 2})));
     EXPECT_FALSE(isBandColored(deep.at({place.screen.minX() + 100, top - 3})));
-}
-
-TEST(DeskPainter, PutsTheBadgeBelowThePinnedDisplayOnly) {
-    DeskPicture picture = twoDisplays();
-    for (const std::size_t pinned : {0U, 1U}) {
-        picture.displays[0].pinned = pinned == 0;
-        picture.displays[1].pinned = pinned == 1;
-        const PaintedPicture painted{picture};
-        const auto caption = captionOf(picture, pinned);
-        ASSERT_TRUE(caption && caption->badge);
-        EXPECT_TRUE(isPinColored(painted.at({centerOf(*caption->badge).x, caption->badge->minY() + 3})));
-        const auto other = captionOf(picture, 1 - pinned);
-        ASSERT_TRUE(other);
-        EXPECT_FALSE(other->badge);
-        const Rect housing = deskLayoutOf(picture).place(1 - pinned)->housing;
-        EXPECT_EQ(painted.count({housing.minX(), housing.maxY(), housing.width(), 30}, isPinColored), 0);
-    }
-}
-
-TEST(DeskPainter, KeepsTheCaptionBelowTheHousingWhateverTheNameAndSize) {
-    DeskPicture picture = twoDisplays();
-    picture.displays[0].name =
-        "A display with a name that is much longer than anybody would ever want to read";
-    int captions = 0;
-    for (const double width : {1512.0, 900.0, 600.0, 400.0, 240.0, 30.0}) {
-        picture.displays[0].bounds = {1512 - width, 0, width, 982};
-        const auto caption = captionOf(picture, 0);
-        const Rect housing = deskLayoutOf(picture).place(0)->housing;
-        for (const auto& part : caption
-                                    ? std::vector{std::optional(caption->name), caption->size, caption->badge}
-                                    : std::vector<std::optional<Rect>>()) {
-            EXPECT_TRUE(!part || part->minX() >= housing.minX() - 1e-6) << width;
-            EXPECT_TRUE(!part || part->maxX() <= housing.maxX() + 1e-6) << width;
-            EXPECT_TRUE(!part || part->minY() >= housing.maxY()) << width;
-        }
-        captions += caption ? 1 : 0;
-    }
-    EXPECT_GE(captions, 3);
-    EXPECT_LE(captions, 5) << "a very narrow display has none";
 }
 
 TEST(DeskPainter, PutsTheTipOfABlackArrowExactlyAtThePointer) {

@@ -1,5 +1,6 @@
 #include "desk/paint/toolkit/Surface.h"
 
+#include "desk/paint/sheets/Sheet.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/PaintedPicture.h"
@@ -40,10 +41,10 @@ TEST(Surface, CoversEveryPixel) {
     EXPECT_EQ(alpha(painted.width() - 2, painted.height() - 2), 255U);
 }
 
-TEST(WritePng, WritesThePaintedPixels) {
+TEST(WrittenPicture, HasThePaintedPixels) {
     const TemporaryFolder folder;
     const std::string path = folder.path() / "picture.png";
-    ASSERT_FALSE(writePng(path, twoDisplays(), TestWindow, 1));
+    ASSERT_FALSE(writePicture(path, pictureOfDesk(twoDisplays(), TestWindow), 1));
     const SurfaceHandle read{cairo_image_surface_create_from_png(path.c_str())};
     ASSERT_EQ(cairo_surface_status(read.get()), CAIRO_STATUS_SUCCESS);
     const PaintedPicture painted{twoDisplays()};
@@ -61,19 +62,19 @@ TEST(WritePng, WritesThePaintedPixels) {
     }
 }
 
-TEST(WritePng, SaysWhyAFileCannotBeWritten) {
+TEST(WrittenPicture, TellsWhyItsFileCannotBeWritten) {
     const TemporaryFolder folder;
     const std::string path = folder.path() / "no-such-folder/picture.png";
-    const std::optional<PaintError> error = writePng(path, twoDisplays(), TestWindow, 1);
+    const std::optional<PaintError> error = writePicture(path, pictureOfDesk(twoDisplays(), TestWindow), 1);
     ASSERT_TRUE(error);
     EXPECT_NE(error->message.find(path), std::string::npos);
     EXPECT_GT(error->message.size(), path.size() + 5);
 }
 
-TEST(WritePng, RefusesAnImpossibleSize) {
+TEST(WrittenPicture, HasNoImpossibleSize) {
     const TemporaryFolder folder;
     const std::string path = folder.path() / "impossible.png";
-    EXPECT_TRUE(writePng(path, twoDisplays(), {0, 0}, 1));
+    EXPECT_TRUE(writePicture(path, pictureOfDesk(twoDisplays(), {0, 0}), 1));
     EXPECT_FALSE(std::filesystem::exists(path));
 }
 

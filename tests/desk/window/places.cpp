@@ -3,7 +3,7 @@
 //
 // The arguments are those of the desk; a file with preferences is read and left as it is.
 
-#include "desk/command/OptionsReader.h"
+#include "desk/command/Command.h"
 #include "desk/live/world/LiveDesk.h"
 #include "desk/live/world/LivePicture.h"
 #include "desk/live/world/WindowParts.h"
@@ -162,11 +162,11 @@ int refuse(const InputError& error) {
 }
 
 int run(const std::vector<std::string_view>& words) {
-    const auto options = readOptions(words);
-    if (const auto* error = std::get_if<InputError>(&options)) {
+    const auto command = readCommand(words);
+    if (const auto* error = std::get_if<InputError>(&command)) {
         return refuse(*error);
     }
-    auto setup = setupOf(std::get<Options>(options));
+    auto setup = setupOf(std::get<Command>(command).options);
     if (const auto* error = std::get_if<InputError>(&setup)) {
         return refuse(*error);
     }

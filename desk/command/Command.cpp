@@ -1,0 +1,271 @@
+#include "desk/command/Command.h"
+
+#include "desk/recording/DisplayList.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <initializer_list>
+#include <limits>
+#include <memory>
+#include <system_error>
+
+namespace kestrune::desk {
+
+namespace {
+
+constexpr int LargestRecordedSide = 65'535;
+constexpr std::uint64_t MostRows = 10'000'000;
+constexpr std::uint64_t Largest = std::numeric_limits<std::uint64_t>::max();
+constexpr const char* Footer =
+    "A recording is a text file with the columns record timestamp,client timestamp,button,state,x,y.\n"
+    "Exit status: 0, or 2 with one line on standard error when the input or an option is not usable.";
+
+CLI::Validator path() {
+    return {[](const std::string& text) { return text.empty() ? "expected a path, found nothing" : ""; }, ""};
+}
+
+template <typename Number>
+std::optional<Number> parsed(std::string_view text) {
+    Number number{};
+    const char* const end = text.data() + text.size();
+    const std::from_chars_result result = std::from_chars(text.data(), end, number);
+    return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
+}
+
+// The parser's own numbers may be octal, and a large one is whatever is largest.
+CLI::Validator wholeNumber(std::uint64_t least, std::uint64_t most) {
+    return {[=](std::string& text) {
+                const auto number = parsed<std::uint64_t>(text);
+                if (!number || *number < least || *number > most) {
+                    return "expected a whole number from " + std::to_string(least) + " to " +
+                           std::to_string(most) + ", found " + inQuotes(text);
+                }
+                text = std::to_string(*number);
+                return std::string();
+            },
+            ""};
+}
+
+CLI::Validator finiteNumber() {
+    return {[](const std::string& text) {
+                const auto number = parsed<double>(text);
+                return number && std::isfinite(*number)
+                           ? std::string()
+                           : "expected a finite number of points, found " + inQuotes(text);
+            },
+            ""};
+}
+
+CLI::Validator oneOf(std::initializer_list<const char*> words) {
+    return CLI::IsMember(std::vector<std::string>(words.begin(), words.end())).description("");
+}
+
+// What an option takes, without the names of those that it does not go with.
+class Help : public CLI::Formatter {
+public:
+    std::string make_option_opts(const CLI::Option* option) const override {
+        return option->get_type_size() == 0 ? "" : " " + option->get_type_name();
+    }
+};
+
+class CommandLine {
+public:
+    CommandLine() {
+        const auto help = std::make_shared<Help>();
+        help->column_width(22);
+        app_.formatter(help);
+        app_.set_help_flag("--help", "prints this");
+        app_.footer(Footer);
+        addModes();
+        addDesk();
+        addOutcome();
+        addGeneration();
+        checkCompany();
+    }
+
+    Command read(std::span<const std::string_view> arguments) {
+        try {
+            // The parser takes the arguments from the end.
+            app_.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        } catch (const CLI::CallForHelp&) {
+            return {PrintHelp{app_.help()}, {}};
+        }
+        readDesk();
+        return {mode(), options_};
+    }
+
+private:
+    CLI::Option* add(const char* name, const char* kind, auto& value, const char* what) {
+        return app_.add_option(name, value, what)->type_name(kind)->group(group_);
+    }
+
+    void addFlag(const char* name, bool& value, const char* what) {
+        app_.add_flag(name, value, what)->group(group_);
+    }
+
+    void addModes() {
+        group_ = "Instead of the desk in a window";
+        add("--gallery", "DIR [SCENE...]", galleryWords_,
+            "draws scenes into the folder DIR, all when none is named: a PNG\n"
+            "for each, and a sheet with all those that belong together")
+            ->check(path());
+        add("--replay", "FILE", play_.recording, "plays a pointer recording")->check(path());
+        add("--generate", "FILE", make_.path, "writes a made-up recording")->check(path());
+        addFlag("--launch", isLaunch_, "launches Kestrune and prints every call to the platform, in order");
+    }
+
+    void addDesk() {
+        group_ = "The desk";
+        add("--displays", "LIST", displays_,
+            "at most 16 displays as WxH+X+Y or WxH-X-Y, separated by commas,\n"
+            "in points, y downwards, decimals allowed; the first is the\n"
+            "primary, at +0+0. Usual: 1512x982+0+0,1920x1080+1512-98");
+        add("--pin", "N", pin_, "the display that keeps the Dock, counted from 1. Usual: 1")
+            ->transform(wholeNumber(0, Largest));
+        add("--guard", "on|off", guard_, "whether Kestrune guards the Dock. Usual: on")
+            ->check(oneOf({"on", "off"}));
+        add("--margin", "M", options_.margin,
+            "depth of the guarded band in points; 4 when absent or not\ngreater than 0")
+            ->check(finiteNumber());
+        add("--permission", "P", permission_,
+            "granted or missing: whether Kestrune has the Accessibility\n"
+            "permission when it is launched. Usual: granted")
+            ->check(oneOf({"granted", "missing"}));
+        add("--defaults", "FILE", options_.defaults, "keeps the preferences in a property list")
+            ->check(path());
+        addFlag("--dark", options_.dark, "paints dark");
+    }
+
+    void addOutcome() {
+        group_ = "With --replay, or when the window is closed";
+        add("--report", "json", report_, "ends with one object instead of a few lines of text")
+            ->check(oneOf({"json"}));
+        add("--screenshot", "FILE", outcome_.screenshot, "writes a PNG of the desk as it is in the end")
+            ->check(path());
+        add("--emit", "FILE", play_.emit,
+            "writes index,type,x,y,deliveredX,deliveredY for each event that\n"
+            "was delivered; with --replay only")
+            ->check(path());
+    }
+
+    void addGeneration() {
+        group_ = "With --generate";
+        add("--seed", "N", make_.seed, "the same seed gives the same recording. Usual: 1")
+            ->transform(wholeNumber(0, Largest));
+        add("--rows", "N", make_.rows, "how many rows. Usual: 10000")->transform(wholeNumber(1, MostRows));
+        add("--size", "WxH", size_, "the recorded display, in pixels. Usual: 1512x982");
+    }
+
+    // Which options mean nothing to each other.
+    void checkCompany() {
+        exclude("--gallery", {"--replay", "--generate", "--launch", "--pin", "--guard", "--margin",
+                              "--permission", "--defaults", "--report", "--screenshot"});
+        exclude("--replay", {"--generate", "--launch", "--permission", "--defaults"});
+        exclude("--generate", {"--launch", "--displays", "--pin", "--guard", "--margin", "--permission",
+                               "--defaults", "--dark", "--report", "--screenshot"});
+        exclude("--launch", {"--dark", "--report", "--screenshot"});
+        app_.get_option("--emit")->needs(app_.get_option("--replay"));
+        for (const char* const option : {"--seed", "--rows", "--size"}) {
+            app_.get_option(option)->needs(app_.get_option("--generate"));
+        }
+    }
+
+    void exclude(const char* mode, std::initializer_list<const char*> others) {
+        for (const char* const other : others) {
+            app_.get_option(other)->excludes(app_.get_option(mode));
+        }
+    }
+
+    void readDisplays() {
+        auto displays = parseDisplayList(displays_);
+        if (const auto* error = std::get_if<InputError>(&displays)) {
+            throw CLI::ValidationError(error->message);
+        }
+        options_.displays = std::get<std::vector<Rect>>(std::move(displays));
+    }
+
+    // What the parser cannot tell by itself.
+    void readDesk() {
+        if (isGiven("--displays")) {
+            readDisplays();
+        }
+        if (pin_ && (*pin_ < 1 || *pin_ > options_.displays.size())) {
+            const std::string last = std::to_string(options_.displays.size());
+            throw CLI::ValidationError("--pin", "expected a display number from 1 to " + last + ", found " +
+                                                    std::to_string(*pin_));
+        }
+        if (pin_) {
+            options_.pinned = *pin_ - 1;
+        }
+        if (isGiven("--guard")) {
+            options_.guardOn = guard_ == "on";
+        }
+        options_.isPermissionGranted = permission_ != "missing";
+    }
+
+    void readSize() {
+        const std::string_view size = size_;
+        const std::size_t separator = std::min(size.find('x'), size.size());
+        const auto width = parsed<int>(size.substr(0, separator));
+        const auto height = parsed<int>(size.substr(std::min(separator + 1, size.size())));
+        const auto fits = [](std::optional<int> side) {
+            return side && *side >= 1 && *side <= LargestRecordedSide;
+        };
+        if (!fits(width) || !fits(height)) {
+            throw CLI::ValidationError("--size", "expected WxH with whole numbers from 1 to 65535, found " +
+                                                     inQuotes(size));
+        }
+        make_.width = *width;
+        make_.height = *height;
+    }
+
+    Mode mode() {
+        outcome_.asJSON = isGiven("--report");
+        if (isGiven("--gallery")) {
+            return DrawGallery{galleryWords_.front(), {galleryWords_.begin() + 1, galleryWords_.end()}};
+        }
+        if (isGiven("--replay")) {
+            play_.outcome = outcome_;
+            return play_;
+        }
+        if (isGiven("--generate")) {
+            if (isGiven("--size")) {
+                readSize();
+            }
+            return make_;
+        }
+        return isLaunch_ ? Mode(Launch{}) : OpenWindow{outcome_};
+    }
+
+    bool isGiven(const char* option) const { return app_.count(option) > 0; }
+
+    CLI::App app_{"A simulated Mac with several displays, and Kestrune on it, in a window", "kestrune-desk"};
+    std::string group_; // of the options that are added
+
+    Options options_;
+    std::string displays_;
+    std::optional<std::size_t> pin_; // counted from 1
+    std::string guard_;
+    std::string permission_;
+    std::string report_;
+    std::string size_;
+    bool isLaunch_ = false;
+    std::vector<std::string> galleryWords_; // the folder, then scenes
+    Outcome outcome_;
+    PlayRecording play_;
+    MakeRecording make_;
+};
+
+} // namespace
+
+std::variant<Command, InputError> readCommand(std::span<const std::string_view> arguments) {
+    try {
+        return CommandLine().read(arguments);
+    } catch (const CLI::ParseError& error) {
+        return InputError{onOneLine(error.what())};
+    }
+}
+
+} // namespace kestrune::desk

@@ -1,0 +1,59 @@
+// Pictures of the desk and of single windows, and many of them next to each other.
+#pragma once
+
+#include "base/Geometry.h"
+#include "desk/paint/desk/DeskPicture.h"
+#include "desk/paint/mac/SystemPicture.h"
+#include "desk/paint/toolkit/Surface.h"
+#include "desk/paint/toolkit/TextPainter.h"
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kestrune::desk {
+
+// Something that is painted in logical pixels, from the top left.
+struct Picture {
+    Size size;
+    std::function<void(cairo_t*)> paint;
+};
+
+// The desk fills a window of that size.
+Picture pictureOfDesk(DeskPicture desk, Size window);
+
+// The window alone, wherever it is on its display.
+Picture pictureOfWindow(WindowPicture window, bool dark);
+
+// What stands below a picture on a sheet; longer ones than the picture is wide are cut.
+inline constexpr TextStyle CaptionStyle{.size = 13, .weight = FontWeight::medium};
+
+struct SheetCell {
+    std::string caption;
+    Picture picture;
+};
+
+struct Sheet {
+    std::string title;
+    std::size_t columns = 1;
+    double scale = 1; // of each picture on the sheet
+    bool dark = false;
+    std::vector<SheetCell> cells; // row by row
+};
+
+// Where the cells' pictures go on the sheet; the captions are below them.
+struct SheetLayout {
+    Size size;
+    std::vector<Rect> pictures;
+    std::vector<Rect> captions;
+};
+SheetLayout layOut(const Sheet& sheet);
+
+Picture pictureOfSheet(Sheet sheet);
+
+// A PNG with `scale` device pixels for each logical pixel. Absent when it was written.
+std::optional<PaintError> writePicture(const std::string& path, const Picture& picture, double scale);
+
+} // namespace kestrune::desk
