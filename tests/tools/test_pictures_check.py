@@ -1,5 +1,6 @@
 """A picture of a document that is not what the desk draws is found."""
 
+import subprocess
 import unittest
 
 from trees import TreeTest
@@ -21,6 +22,7 @@ DOCUMENT = """# A document
 
 ![Held](images/tour/held-light.png) and ![dark](images/settings-dark.png)
 """
+CONTENTS = 'echo "$scene, $look"'
 FILES = {
     "docs/PAGE.md": DOCUMENT,
     "docs/images/tour/held-light.png": "tour/held, light\n",
@@ -29,10 +31,9 @@ FILES = {
 
 
 class Pictures(TreeTest):
-    def check(self, files, system=pictures.SYSTEM):
-        self.write({"build/gcc/desk/kestrune-desk": DESK, **files})
-        desk = self.root / "build/gcc/desk/kestrune-desk"
-        desk.chmod(0o755)
+    def check(self, files, system=pictures.SYSTEM, desk=DESK):
+        self.write({"build/gcc/desk/kestrune-desk": desk, **files})
+        (self.root / "build/gcc/desk/kestrune-desk").chmod(0o755)
         return pictures.run(Tree(self.root, [self.root / "build/check", self.root / "build/gcc"]), system)
 
     def assert_found(self, files, *expected, system=pictures.SYSTEM):
@@ -46,6 +47,24 @@ class Pictures(TreeTest):
         other = {"docs/images/settings-dark.png": "as it was once\n"}
         message = "docs/images/settings-dark.png:1: is not what the desk draws; run: make pictures"
         self.assert_found(FILES | other, message)
+
+    def test_may_be_rounded_differently(self):
+        picture = "docs/images/tour/held-light.png"
+        files = {"README.md": f"![Held]({picture})\n", picture: ""}
+        for drawn, is_found in (
+            ("4x4 xc:#808080", False),
+            ("4x4 xc:#818080", False),
+            ("4x4 xc:#888080", True),
+            ("5x4 xc:#808080", True),
+        ):
+            with self.subTest(drawn):
+                self.write(files)
+                subprocess.run(
+                    ["convert", "-size", "4x4", "xc:#808080", str(self.root / picture)], check=True
+                )
+                desk = DESK.replace(f"{CONTENTS} >", f"convert -size {drawn}")
+                findings = self.check({}, desk=desk).findings
+                self.assertEqual(len(findings), is_found, findings)
 
     def test_are_found_when_they_are_not_there(self):
         files = {"README.md": "![Menu](docs/images/tour/menu-light.png)\n"}

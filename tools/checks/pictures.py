@@ -16,6 +16,10 @@ DESK = "desk/kestrune-desk"
 # Another release of a system has other releases of the font and of what draws it.
 SYSTEM = "Debian 12"
 AGAIN = "run: make pictures"
+# The most that a colour may be another one without being seen.
+ROUNDING = "1%"
+# In a PNG file, as a number of bytes.
+SIZE_ENDS = 24
 # The desk's font and no other: what somebody has installed, or prefers, changes no picture.
 FONTS = """<?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
@@ -97,4 +101,11 @@ def _compared(tree, desk, shown):
 
 
 def _is_same(picture, drawn):
-    return picture.exists() and picture.read_bytes() == drawn.read_bytes()
+    if not picture.exists():
+        return False
+    old, new = picture.read_bytes(), drawn.read_bytes()
+    if old == new or old[:SIZE_ENDS] != new[:SIZE_ENDS]:
+        return old == new
+    # The processors that a Debian runs on may round differently.
+    command = ["compare", "-metric", "AE", "-fuzz", ROUNDING, picture, drawn, "null:"]
+    return subprocess.run(command, capture_output=True, check=False).returncode == 0
