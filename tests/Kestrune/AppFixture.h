@@ -53,7 +53,30 @@ protected:
 
     const sim::PropertyList* stored(std::string_view key) { return session.defaults().find(key); }
 
-    Calls outlineOfCalls() { return outline(session.journal().take()); }
+    // Steps of the application's procedures, which are run once more for it.
+    Calls rebuilding() {
+        return callsOf([this] { app->menuBarController()->rebuildMenu(); });
+    }
+
+    Calls refreshing() {
+        return callsOf([this] { guard->refreshScreens(); });
+    }
+
+    Calls startingTheGuard() {
+        guard->stop();
+        return callsOf([this] { guard->start(); });
+    }
+
+    Calls stoppingTheGuard() {
+        guard->start();
+        return callsOf([this] { guard->stop(); });
+    }
+
+    // Once the watcher has ended, the menu's callback applies the start rule and does nothing else.
+    Calls startRule() {
+        guard->stop();
+        return callsOf([this] { app->accessibilityGranted(); });
+    }
 
     sim::Session session;
     std::shared_ptr<KestruneApp> app;

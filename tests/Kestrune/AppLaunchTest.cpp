@@ -1,51 +1,25 @@
 #include "Kestrune/AccessibilityList.h"
+#include "Kestrune/MainMenu.h"
+#include "Kestrune/UpdaterManager.h"
 #include "tests/Kestrune/AppFixture.h"
 
 namespace kestrune {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
-const Calls EntryPoint = {"-[NSBundle bundleIdentifier]",
-                          "os_log_create(org.kestrune.Kestrune, app)",
-                          "NSApplication.sharedApplication",
-                          "NSUserDefaults.standardUserDefaults",
-                          "-[KestruneApp init]",
-                          "-[NSApplication setDelegate:] KestruneApp",
-                          "-[NSApplication setActivationPolicy:] NSApplicationActivationPolicyAccessory",
-                          "-[NSApplication run]",
-                          "-[KestruneApp applicationDidFinishLaunching:]"};
-
-const Calls SettingTheMainMenu = {"NSApp", "-[NSApplication setMainMenu:] 2 items"};
-
-const Calls StartingTheUpdater = {
-    "-[UpdaterManager init]",
-    "-[SPUStandardUserDriver initWithHostBundle:delegate:] main bundle, UpdaterManager",
-    "-[SPUUpdater initWithHostBundle:applicationBundle:userDriver:delegate:] main bundle, main bundle, "
-    "UpdaterManager",
-    "-[SPUUpdater startUpdater:]",
-    "-[SPUUpdater setAutomaticallyDownloadsUpdates:] false",
-    "-[NSBundle infoDictionary][SUFeedURL]",
-    "-[NSBundle bundleIdentifier]",
-    "os_log_create(org.kestrune.Kestrune, updater)",
-    "os_log_info(updater, Sparkle initialized — feed: NOT SET)"};
-
-const Calls ConfiguringTheStatusItem = {
-    "NSStatusBar.systemStatusBar",
-    "-[NSStatusBar statusItemWithLength:] -1",
-    "-[MenuBarController init]",
-    "-[NSStatusItem button]",
-    "+[NSImage imageNamed:] MenuBarIcon",
-    "-[NSImage setTemplate:] true",
-    "-[NSImage setSize:] 20 x 20",
-    "-[NSStatusBarButton setImage:] MenuBarIcon",
-    "-[NSStatusBarButton setImageScaling:] 0",
-    "-[NSStatusBarButton setToolTip:] Kestrune — Pin the Dock to one screen"};
+const Calls EntryPoint =
+    inOrder({openingLog("app"),
+             {"NSApplication.sharedApplication", "NSUserDefaults.standardUserDefaults", "-[KestruneApp init]",
+              "-[NSApplication setDelegate:] KestruneApp",
+              "-[NSApplication setActivationPolicy:] NSApplicationActivationPolicyAccessory",
+              "-[NSApplication run]", "-[KestruneApp applicationDidFinishLaunching:]"}});
 
 const Calls SchedulingAndObserving = {"Task on the main actor", "NSNotificationCenter.defaultCenter",
                                       "NSOperationQueue.mainQueue",
@@ -55,71 +29,59 @@ const Calls SchedulingAndObserving = {"Task on the main actor", "NSNotificationC
 using AppLaunch = AppFixture;
 using AppLaunchWithoutPermission = AppWithoutPermission;
 
-TEST_F(AppLaunch, WithThePermissionGoesInOrder) {
+TEST_F(AppLaunch, GoesInOrder) {
     launch();
-    const Calls rebuilding = rebuildOutline({.trusted = true, .items = 10});
-    EXPECT_THAT(outlineOfCalls(), ElementsAreArray(inOrder({EntryPoint,
-                                                            SettingTheMainMenu,
-                                                            StartingTheUpdater,
-                                                            ConfiguringTheStatusItem,
-                                                            rebuilding,
-                                                            {ReadingTheSwitch, Trusted, ReadingThePin},
-                                                            StartingTheTap,
-                                                            rebuilding,
-                                                            {Trusted},
-                                                            SchedulingAndObserving})));
+    const Calls launching = session.journal().take();
+    const Calls buildingTheMenu = rebuilding();
+    const Calls makingTheMainMenu = callsOf([this] { buildMainMenu(app, Selector("menuOpenSettings")); });
+    session.processObjects().clear();
+    const Calls startingTheUpdater = callsOf(UpdaterManager::shared);
+    std::shared_ptr<MenuBarController> another;
+    const Calls makingTheMenuBar =
+        callsOf([&] { another = MenuBarController::make(app->preferences(), guard, {}); });
+    EXPECT_EQ(asText(launching), asText(inOrder({EntryPoint,
+                                                 makingTheMainMenu,
+                                                 {"NSApp", "-[NSApplication setMainMenu:] 2 items"},
+                                                 startingTheUpdater,
+                                                 makingTheMenuBar,
+                                                 startRule(),
+                                                 buildingTheMenu,
+                                                 {Trusted},
+                                                 SchedulingAndObserving})));
+}
+
+TEST_F(AppLaunch, StartsTheGuardAndWatchesForNothing) {
+    launch();
     EXPECT_TRUE(guard->isRunning());
     EXPECT_FALSE(app->isWatchingAccessibility());
     EXPECT_EQ(session.timers().count(), 0U);
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
 }
 
-TEST_F(AppLaunchWithoutPermission, GoesInOrder) {
+TEST_F(AppLaunchWithoutPermission, ProbesAndThenWatchesInOrder) {
     launch();
-    const Calls rebuilding = rebuildOutline({.trusted = false, .items = 10});
-    EXPECT_THAT(outlineOfCalls(), ElementsAreArray(inOrder(
-                                      {EntryPoint,
-                                       SettingTheMainMenu,
-                                       StartingTheUpdater,
-                                       ConfiguringTheStatusItem,
-                                       rebuilding,
-                                       {ReadingTheSwitch, NotTrusted},
-                                       rebuilding,
-                                       {NotTrusted,
-                                        "CGEventTapCreate(kCGSessionEventTap, kCGHeadInsertEventTap, "
-                                        "kCGEventTapOptionDefault, 0x00000020)",
-                                        "+[NSTimer scheduledTimerWithTimeInterval:repeats:block:] 1, true"},
-                                       SchedulingAndObserving})));
+    const Calls launching = session.journal().take();
+    const Calls probing = callsOf(registerForAccessibilityList);
+    const Calls watching = {"+[NSTimer scheduledTimerWithTimeInterval:repeats:block:] 1, true"};
+    EXPECT_THAT(asText(launching), HasSubstr(asText(inOrder({probing, watching}))));
+}
+
+TEST_F(AppLaunchWithoutPermission, WatchesForItWithoutAWord) {
+    launch();
     EXPECT_FALSE(guard->isRunning());
     EXPECT_TRUE(app->isWatchingAccessibility());
     EXPECT_EQ(session.timers().count(), 1U);
+    EXPECT_EQ(session.taps().count(), 0U);
     EXPECT_TRUE(session.accessibility().isListed());
+    EXPECT_FALSE(session.accessibility().isDialogShown());
     EXPECT_THAT(messagesButTheUpdaters(session), IsEmpty());
-}
-
-TEST_F(AppLaunch, OfAGuardThatIsSwitchedOffGoesInOrder) {
-    store("isEnabled", sim::PropertyList{false});
-    launch();
-    const std::string readingTheValue = "-[NSUserDefaults boolForKey:] isEnabled";
-    const Calls rebuilding = {Trusted,         "-[NSUserDefaults boolForKey:] hasCompletedOnboarding",
-                              ReadingThePin,   ReadingTheSwitch,
-                              readingTheValue, "-[NSStatusItem setMenu:] 10 items"};
-    EXPECT_THAT(outlineOfCalls(), ElementsAreArray(inOrder({EntryPoint,
-                                                            SettingTheMainMenu,
-                                                            StartingTheUpdater,
-                                                            ConfiguringTheStatusItem,
-                                                            rebuilding,
-                                                            {ReadingTheSwitch, readingTheValue},
-                                                            rebuilding,
-                                                            {Trusted},
-                                                            SchedulingAndObserving})));
 }
 
 TEST_F(AppLaunch, StartsNothingBeforeItHasFinishedLaunching) {
     const auto delegate = KestruneApp::make();
-    EXPECT_THAT(session.journal().take(),
-                ElementsAre("NSUserDefaults.standardUserDefaults", "-[KestruneApp init]"));
     EXPECT_EQ(delegate->menuBarController(), nullptr);
+    EXPECT_THAT(session.statusItems().shown(), IsEmpty());
+    EXPECT_THAT(session.logRecords(), IsEmpty());
     EXPECT_FALSE(delegate->dockGuard()->isRunning());
     EXPECT_THAT(delegate->dockGuard()->screensCache(), IsEmpty());
     EXPECT_FALSE(delegate->dockGuard()->pinnedScreen());
@@ -145,13 +107,11 @@ TEST_F(AppLaunch, LeavesAGuardOffThatTheUserSwitchedOff) {
     EXPECT_EQ(openedMenu(session)[4], "Enable");
 }
 
-TEST_F(AppLaunch, MarksAUserWithThePermissionAsOnboardedAfterTheLaunch) {
+TEST_F(AppLaunch, MarksAUserWithThePermissionAsOnboardedAfterTheLaunchInOrder) {
     launch();
     EXPECT_EQ(stored("hasCompletedOnboarding"), nullptr);
-    session.journal().take();
-    session.advance(sim::Duration::zero());
     EXPECT_THAT(
-        session.journal().take(),
+        callsOf([this] { session.advance(sim::Duration::zero()); }),
         ElementsAre(Trusted, "-[NSUserDefaults setBool:forKey:] hasCompletedOnboarding = true",
                     "NSBundle.mainBundle", "-[NSBundle bundleIdentifier]",
                     "os_log_create(org.kestrune.Kestrune, app)",
@@ -164,30 +124,24 @@ TEST_F(AppLaunch, MarksAUserWithThePermissionAsOnboardedAfterTheLaunch) {
 TEST_F(AppLaunch, NeverReadsWhetherTheWizardWasFinishedBeforeItDecides) {
     store("hasCompletedOnboarding", sim::PropertyList{false});
     launch();
-    session.journal().take();
-    session.advance(sim::Duration::zero());
-    EXPECT_EQ(session.journal().lines()[1],
-              "-[NSUserDefaults setBool:forKey:] hasCompletedOnboarding = true");
+    EXPECT_THAT(callsOf([this] { session.advance(sim::Duration::zero()); }),
+                Not(Contains("-[NSUserDefaults boolForKey:] hasCompletedOnboarding")));
+    EXPECT_TRUE(stored("hasCompletedOnboarding")->asBool());
 }
 
 TEST_F(AppLaunchWithoutPermission, LeadsToTheWizardWithoutAWord) {
     store("hasCompletedOnboarding", sim::PropertyList{true});
-    launch();
-    session.journal().take();
-    session.advance(sim::Duration::zero());
-    EXPECT_EQ(session.journal().take().front(), NotTrusted);
+    launchAndSettle();
     ASSERT_NE(app->welcomeWindowController(), nullptr);
     EXPECT_EQ(session.windows().shown().size(), 1U);
     EXPECT_THAT(messagesButTheUpdaters(session), IsEmpty());
 }
 
-TEST_F(AppLaunchWithoutPermission, ThrowsTheProbesTapAwayWhenThereIsOne) {
+TEST_F(AppLaunchWithoutPermission, ThrowsTheProbesTapAwayInOrderWhenThereIsOne) {
     // As when the permission arrives between the look at it and the probe.
     launch();
-    session.journal().take();
     grant();
-    registerForAccessibilityList();
-    EXPECT_THAT(session.journal().take(),
+    EXPECT_THAT(callsOf(registerForAccessibilityList),
                 ElementsAre("CGEventTapCreate(kCGSessionEventTap, kCGHeadInsertEventTap, "
                             "kCGEventTapOptionDefault, 0x00000020)",
                             "CGEventTapEnable(tap, false)", "CFRelease(tap)"));
@@ -244,24 +198,28 @@ TEST_F(AppLaunchWithoutPermission, OpensTheWizardWhenItIsOpenedAgain) {
 
 TEST_F(AppLaunch, StopsTheGuardAtTheEnd) {
     launchAndSettle();
+    const sim::PropertyListDictionary entries = session.defaults().entries();
     app->applicationWillTerminate();
-    EXPECT_THAT(session.journal().take(), ElementsAreArray(StoppingTheTap));
     EXPECT_FALSE(guard->isRunning());
+    EXPECT_EQ(session.taps().count(), 0U);
     app->applicationWillTerminate();
-    EXPECT_THAT(session.journal().take(), IsEmpty());
+    EXPECT_FALSE(guard->isRunning());
+    EXPECT_EQ(session.defaults().entries(), entries);
+}
+
+TEST_F(AppLaunch, EndsWithTheMenusQuitInOrder) {
+    launchAndSettle();
+    const Calls stopping = stoppingTheGuard();
+    guard->start();
+    EXPECT_THAT(callsOf([this] { app->menuBarController()->quit(); }),
+                ElementsAreArray(inOrder(
+                    {{"NSApp", "-[NSApplication terminate:]", "-[KestruneApp applicationWillTerminate:]"},
+                     stopping})));
 }
 
 TEST_F(AppLaunch, EndsWithTheMenusQuit) {
     launchAndSettle();
-    app->menuBarController()->rebuildMenu();
-    session.journal().take();
     EXPECT_TRUE(chooseRow(session, "Quit"));
-    Calls steps = outlineOfCalls();
-    steps.erase(steps.begin(), std::find(steps.begin(), steps.end(), "-[MenuBarController quit]"));
-    EXPECT_THAT(
-        steps, ElementsAreArray(inOrder({{"-[MenuBarController quit]", "NSApp", "-[NSApplication terminate:]",
-                                          "-[KestruneApp applicationWillTerminate:]"},
-                                         StoppingTheTap})));
     EXPECT_FALSE(guard->isRunning());
     EXPECT_FALSE(session.application().exists);
 }

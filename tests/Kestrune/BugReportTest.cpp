@@ -1,5 +1,6 @@
 #include "Kestrune/BugReport.h"
 
+#include "Kestrune/AppVersion.h"
 #include "tests/Kestrune/SettingsFixture.h"
 
 #include <string>
@@ -104,8 +105,16 @@ TEST_F(TranslatedBugReport, TranslatesItsSubjectAndItsFirstLine) {
 }
 
 TEST_F(BugReport, IsMadeInOrder) {
-    makeBugReportURL();
-    EXPECT_THAT(calls(), ElementsAreArray(makingTheBugReport()));
+    EXPECT_THAT(callsOf(makeBugReportURL),
+                ElementsAreArray(inOrder(
+                    {{"-[NSURLComponents init]", "-[NSURLComponents setScheme:] mailto",
+                      "-[NSURLComponents setPath:] " + std::string(SupportAddress)},
+                     localizing("Kestrune bug report"),
+                     localizing("Describe what went wrong:"),
+                     callsOf(appVersionString),
+                     {"NSProcessInfo.processInfo", "-[NSProcessInfo operatingSystemVersion]",
+                      "NSLocale.currentLocale", "-[NSLocale localeIdentifier]",
+                      "-[NSURLComponents setQueryItems:] subject, body", "-[NSURLComponents URL]"}})));
 }
 
 TEST_F(BugReport, EndsWithoutALineFeed) {

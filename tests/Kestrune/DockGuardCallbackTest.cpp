@@ -4,6 +4,7 @@
 namespace kestrune {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -41,7 +42,7 @@ TEST_F(DockGuardCallback, EnablesTheTapAgainAfterATimeoutAndReturnsTheGivenEvent
 TEST_F(DockGuardCallback, EnablesTheTapAgainAfterUserInput) {
     refreshAndStart();
     EXPECT_EQ(callBack(EventType::tapDisabledByUserInput, event, &guard), &event);
-    EXPECT_THAT(session.journal().take(), ElementsAre("CGEventTapEnable(tap, true)"));
+    EXPECT_THAT(session.journal().take(), Contains("CGEventTapEnable(tap, true)"));
 }
 
 TEST_F(DockGuardCallback, LeavesALateNoticeAloneAfterTheStop) {

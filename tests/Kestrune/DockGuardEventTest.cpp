@@ -9,6 +9,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 // The first display is pinned.
 class DockGuardEvent : public GuardFixture {
@@ -81,7 +82,7 @@ TEST_F(DockGuardEvent, PassesWithOneDisplayWhateverIsPinned) {
     arrange({secondDisplay()});
     session.defaults().set("isEnabled", std::nullopt);
     expectUnchanged({2000, 1079});
-    EXPECT_THAT(session.journal().take(), ElementsAre("-[NSUserDefaults objectForKey:] isEnabled"));
+    EXPECT_THAT(session.journal().take(), Not(hasCallAbout("CGEvent")));
 }
 
 TEST_F(DockGuardEvent, PassesWithoutDisplays) {

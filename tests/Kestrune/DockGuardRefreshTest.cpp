@@ -3,23 +3,11 @@
 namespace kestrune {
 namespace {
 
-using ::testing::Contains;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using ::testing::Not;
-using ::testing::StartsWith;
 
 constexpr std::string_view PinKey = "pinnedScreenUUID";
-
-const std::vector<std::string> ReadOfThePin = {"-[NSUserDefaults stringForKey:] pinnedScreenUUID"};
-const std::vector<std::string> LookAtTheMainScreen = {
-    "NSScreen.mainScreen",
-    "-[NSScreen deviceDescription][NSScreenNumber]",
-    "CGDisplayCreateUUIDFromDisplayID(1)",
-    "CFUUIDCreateString(kCFAllocatorDefault)",
-    "CFRelease(string)",
-    "CFRelease(uuid)",
-};
 
 class DockGuardRefresh : public GuardFixture {
 protected:
@@ -40,30 +28,27 @@ TEST_F(DockGuardRefresh, ResolvesTheStoredChoiceAndWritesNothing) {
     guard.refreshScreens();
     EXPECT_EQ(pinned(), sim::uuidOfDisplay(2));
     EXPECT_EQ(guard.screensCache().size(), 2U);
-    EXPECT_THAT(session.journal().take(),
-                ElementsAreArray(inOrder({enumerationOf({1, 2}), ReadOfThePin, enumerationOf({1, 2})})));
+    EXPECT_THAT(session.journal().take(), Not(hasCallAbout("-[NSUserDefaults setObject")));
 }
 
 TEST_F(DockGuardRefresh, FallsBackToTheMainDisplayAndNeverPersistsAChoiceThatWasNotMade) {
     guard.refreshScreens();
     EXPECT_EQ(pinned(), sim::uuidOfDisplay(1));
     EXPECT_EQ(storedPin(), std::nullopt);
-    EXPECT_THAT(session.journal().take(),
-                ElementsAreArray(inOrder(
-                    {enumerationOf({1, 2}), ReadOfThePin, LookAtTheMainScreen, enumerationOf({1, 2})})));
 }
 
-TEST_F(DockGuardRefresh, OverwritesAStaleChoiceWithTheMainDisplay) {
+TEST_F(DockGuardRefresh, OverwritesAStaleChoiceWithTheMainDisplayInOrder) {
     choose("GONE");
-    guard.refreshScreens();
+    const Calls refreshing = callsOf([this] { guard.refreshScreens(); });
     EXPECT_EQ(storedPin(), sim::uuidOfDisplay(1));
-    EXPECT_THAT(session.journal().take(),
+    const Calls enumerating = callsOf(allScreens);
+    EXPECT_THAT(refreshing,
                 ElementsAreArray(inOrder(
-                    {enumerationOf({1, 2}),
-                     ReadOfThePin,
-                     enumerationOf({1, 2}),
-                     LookAtTheMainScreen,
-                     enumerationOf({1, 2}),
+                    {enumerating,
+                     {"-[NSUserDefaults stringForKey:] pinnedScreenUUID"},
+                     enumerating,
+                     callsOf(mainScreenUUID),
+                     enumerating,
                      {"-[NSUserDefaults setObject:forKey:] pinnedScreenUUID = " + sim::uuidOfDisplay(1)}})));
 }
 
@@ -81,13 +66,6 @@ TEST_F(DockGuardRefresh, TakesTheFirstDisplayWhenTheMainOneCannotBeResolved) {
     guard.refreshScreens();
     EXPECT_EQ(pinned(), sim::uuidOfDisplay(1));
     EXPECT_EQ(storedPin(), sim::uuidOfDisplay(1));
-    EXPECT_THAT(session.journal().take(),
-                ElementsAreArray(inOrder(
-                    {enumerationOf({1, 2}),
-                     ReadOfThePin,
-                     enumerationOf({1, 2}),
-                     {"NSScreen.mainScreen",
-                      "-[NSUserDefaults setObject:forKey:] pinnedScreenUUID = " + sim::uuidOfDisplay(1)}})));
 }
 
 TEST_F(DockGuardRefresh, TakesTheFirstDisplayWhenTheMainOneHasNoNumber) {
@@ -108,14 +86,6 @@ TEST_F(DockGuardRefresh, TakesTheFirstDisplayWhenTheMainOneIsMissingFromAFreshLi
     guard.refreshScreens();
     EXPECT_EQ(pinned(), sim::uuidOfDisplay(2));
     EXPECT_EQ(storedPin(), sim::uuidOfDisplay(2));
-    EXPECT_THAT(session.journal().take(),
-                ElementsAreArray(inOrder(
-                    {enumerationOf({2, 3}),
-                     ReadOfThePin,
-                     enumerationOf({2, 3}),
-                     LookAtTheMainScreen,
-                     enumerationOf({2, 3}),
-                     {"-[NSUserDefaults setObject:forKey:] pinnedScreenUUID = " + sim::uuidOfDisplay(2)}})));
 }
 
 TEST_F(DockGuardRefresh, RemovesTheChoiceWithoutAnyDisplay) {
@@ -125,19 +95,13 @@ TEST_F(DockGuardRefresh, RemovesTheChoiceWithoutAnyDisplay) {
     EXPECT_EQ(guard.pinnedScreen(), std::nullopt);
     EXPECT_THAT(guard.screensCache(), IsEmpty());
     EXPECT_EQ(session.defaults().find(PinKey), nullptr);
-    EXPECT_THAT(session.journal().take(),
-                ElementsAreArray(inOrder({enumerationOf({}),
-                                          ReadOfThePin,
-                                          enumerationOf({}),
-                                          {"NSScreen.mainScreen",
-                                           "-[NSUserDefaults setObject:forKey:] pinnedScreenUUID = nil"}})));
 }
 
 TEST_F(DockGuardRefresh, WritesNothingWithoutAnyDisplayWhenNoChoiceWasMade) {
     session.changeDisplays({});
     guard.refreshScreens();
     EXPECT_EQ(guard.pinnedScreen(), std::nullopt);
-    EXPECT_THAT(session.journal().take(), Not(Contains(StartsWith("-[NSUserDefaults setObject"))));
+    EXPECT_THAT(session.journal().take(), Not(hasCallAbout("-[NSUserDefaults setObject")));
 }
 
 TEST_F(DockGuardRefresh, KeepsTheFallbackWhenTheChosenDisplayReturns) {
@@ -167,7 +131,7 @@ TEST_F(DockGuardRefresh, DoesNotRewriteTheSameChoice) {
     session.displays().scriptReads({onlySecond, onlySecond, {primaryDisplay()}});
     guard.refreshScreens();
     EXPECT_EQ(pinned(), sim::uuidOfDisplay(2));
-    EXPECT_THAT(session.journal().take(), Not(Contains(StartsWith("-[NSUserDefaults setObject"))));
+    EXPECT_THAT(session.journal().take(), Not(hasCallAbout("-[NSUserDefaults setObject")));
 }
 
 TEST_F(DockGuardRefresh, WithoutPreferencesResolvesTheFallbackAndWritesNothing) {
@@ -176,9 +140,7 @@ TEST_F(DockGuardRefresh, WithoutPreferencesResolvesTheFallbackAndWritesNothing) 
     guard.refreshScreens();
     EXPECT_EQ(pinned(), sim::uuidOfDisplay(1));
     EXPECT_EQ(storedPin(), "GONE");
-    EXPECT_THAT(
-        session.journal().take(),
-        ElementsAreArray(inOrder({enumerationOf({1, 2}), LookAtTheMainScreen, enumerationOf({1, 2})})));
+    EXPECT_THAT(session.journal().take(), Not(hasCallAbout("-[NSUserDefaults ")));
 }
 
 TEST_F(DockGuardRefresh, ReadsANumberAsItsTextAndReplacesIt) {

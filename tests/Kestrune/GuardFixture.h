@@ -3,9 +3,8 @@
 
 #include "Kestrune/DockGuardController.h"
 #include "Kestrune/Preferences.h"
-#include "sim/session/Session.h"
+#include "tests/Kestrune/Calls.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -63,34 +62,5 @@ protected:
     std::shared_ptr<Preferences> preferences;
     DockGuardController guard;
 };
-
-// The calls that enumerate the displays `screens`, each with a number and a UUID, one after the other.
-inline std::vector<std::string> enumerationOf(const std::vector<DisplayID>& displayIDs) {
-    std::vector<std::string> calls = {"NSScreen.screens"};
-    for (const DisplayID displayID : displayIDs) {
-        const std::vector<std::string> callsOfOne = {
-            "-[NSScreen deviceDescription][NSScreenNumber]",
-            "CGDisplayCreateUUIDFromDisplayID(" + std::to_string(displayID) + ")",
-            "CFUUIDCreateString(kCFAllocatorDefault)",
-            "CFRelease(string)",
-            "CFRelease(uuid)",
-            "-[NSScreen localizedName]",
-            "-[NSScreen frame]",
-            "NSScreen.screens",
-            "-[NSScreen frame]",
-        };
-        calls.insert(calls.end(), callsOfOne.begin(), callsOfOne.end());
-    }
-    return calls;
-}
-
-// The lists one after the other.
-inline std::vector<std::string> inOrder(const std::vector<std::vector<std::string>>& lists) {
-    std::vector<std::string> calls;
-    for (const std::vector<std::string>& list : lists) {
-        calls.insert(calls.end(), list.begin(), list.end());
-    }
-    return calls;
-}
 
 } // namespace kestrune

@@ -6,37 +6,30 @@ namespace {
 
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::SizeIs;
 
 const std::string ToolTip = "Kestrune — Pin the Dock to one screen";
-
-const Calls Obtaining = {"NSStatusBar.systemStatusBar", "-[NSStatusBar statusItemWithLength:] -1",
-                         "-[MenuBarController init]", "-[NSStatusItem button]"};
 
 class MenuBarIcon : public MenuFixture {
 protected:
     explicit MenuBarIcon(sim::SessionOptions options = {}) : MenuFixture(std::move(options)) {}
 
-    // The calls of the construction until it builds the menu.
-    Calls configurationCalls() {
-        make();
-        Calls calls = session.journal().take();
-        calls.erase(std::find(calls.begin(), calls.end(), "-[NSMenu init]"), calls.end());
-        return calls;
-    }
-
     std::shared_ptr<StatusItem::State> item() { return session.statusItems().shown().at(0); }
 };
 
 TEST_F(MenuBarIcon, IsObtainedAndConfiguredInOrder) {
-    EXPECT_THAT(configurationCalls(),
-                ElementsAreArray(
-                    inOrder({Obtaining,
-                             {"+[NSImage imageNamed:] MenuBarIcon", "-[NSImage setTemplate:] true",
+    const Calls making = callsOf([this] { make(); });
+    const Calls rebuilding = callsOf([this] { controller->rebuildMenu(); });
+    EXPECT_THAT(making, ElementsAreArray(inOrder(
+                            {{"NSStatusBar.systemStatusBar", "-[NSStatusBar statusItemWithLength:] -1",
+                              "-[MenuBarController init]", "-[NSStatusItem button]",
+                              "+[NSImage imageNamed:] MenuBarIcon", "-[NSImage setTemplate:] true",
                               "-[NSImage setSize:] 20 x 20", "-[NSStatusBarButton setImage:] MenuBarIcon",
                               "-[NSStatusBarButton setImageScaling:] 0"},
                              localizing(ToolTip),
-                             {"-[NSStatusBarButton setToolTip:] " + ToolTip}})));
+                             {"-[NSStatusBarButton setToolTip:] " + ToolTip},
+                             rebuilding})));
 }
 
 TEST_F(MenuBarIcon, HasItsImageItsToolTipAndAMenuFromTheStart) {
@@ -63,7 +56,7 @@ TEST_F(MenuBarIcon, LeavesTheBarWithTheController) {
 
 TEST_F(MenuBarIcon, StaysEmptyWithoutAButton) {
     session.statusItems().withholdButtons(true);
-    EXPECT_THAT(configurationCalls(), ElementsAreArray(Obtaining));
+    EXPECT_THAT(callsOf([this] { make(); }), Not(hasCallAbout("+[NSImage")));
     EXPECT_FALSE(item()->button);
     EXPECT_TRUE(item()->menu);
 }
@@ -80,14 +73,9 @@ protected:
 };
 
 TEST_F(MenuBarIconWithoutImage, IsConfiguredAllTheSame) {
-    EXPECT_THAT(
-        configurationCalls(),
-        ElementsAreArray(inOrder({Obtaining,
-                                  {"+[NSImage imageNamed:] MenuBarIcon", "-[NSStatusBarButton setImage:] nil",
-                                   "-[NSStatusBarButton setImageScaling:] 0"},
-                                  localizing(ToolTip),
-                                  {"-[NSStatusBarButton setToolTip:] " + ToolTip}})));
+    make();
     EXPECT_FALSE(item()->button->image);
+    EXPECT_EQ(item()->button->scaling, ImageScaling::proportionallyDown);
     EXPECT_EQ(item()->button->toolTip, ToolTip);
 }
 

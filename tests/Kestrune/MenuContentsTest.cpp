@@ -12,15 +12,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 
-Calls lookingAtMain(DisplayID number) {
-    return {"NSScreen.mainScreen",
-            "-[NSScreen deviceDescription][NSScreenNumber]",
-            "CGDisplayCreateUUIDFromDisplayID(" + std::to_string(number) + ")",
-            "CFUUIDCreateString(kCFAllocatorDefault)",
-            "CFRelease(string)",
-            "CFRelease(uuid)"};
-}
-
 class MenuContents : public MenuFixture {
 protected:
     explicit MenuContents(sim::SessionOptions options = withDisplays({primaryDisplay(), secondDisplay()}))
@@ -35,12 +26,10 @@ protected:
     }
 };
 
-TEST_F(MenuContents, AreBuiltInOrderAfterSetup) {
+TEST_F(MenuContents, AreBuiltInOrder) {
     completeSetup();
     store("pinnedScreenUUID", sim::PropertyList{sim::uuidOfDisplay(2)});
     make();
-    session.journal().take();
-    controller->rebuildMenu();
     const Calls screens =
         inOrder({makingOwnItem("  Primary  (1920×1080)  (Main)", "selectScreen:", ""),
                  {"-[NSMenuItem setRepresentedObject:] " + sim::uuidOfDisplay(1), "-[NSMenuItem setState:] 0",
@@ -48,17 +37,17 @@ TEST_F(MenuContents, AreBuiltInOrderAfterSetup) {
                  makingOwnItem("  Second  (1280×800)", "selectScreen:", ""),
                  {"-[NSMenuItem setRepresentedObject:] " + sim::uuidOfDisplay(2), "-[NSMenuItem setState:] 1",
                   "-[NSMenuItem setEnabled:] true", AddingItem}});
-    Calls journal = session.journal().take();
+    const Calls rebuilding = callsOf([this] { controller->rebuildMenu(); });
     // The title of the main display's item is localized on the way.
     EXPECT_THAT(
-        journal,
+        rebuilding,
         ElementsAreArray(inOrder(
             {{"-[NSMenu init]", "-[NSMenu setAutoenablesItems:] false", Trusted,
               "-[NSUserDefaults boolForKey:] hasCompletedOnboarding"},
              localizing("Pin Dock to:"),
              {makingItem("Pin Dock to:", "nil", ""), "-[NSMenuItem setEnabled:] false", AddingItem},
-             enumerationOf({1, 2}),
-             lookingAtMain(1),
+             callsOf(allScreens),
+             callsOf(mainScreenUUID),
              {ReadingThePin},
              localizing("Main"),
              screens,
@@ -101,59 +90,25 @@ TEST_F(MenuContents, OpenSettingsAfterSetup) {
     EXPECT_EQ(welcomeOpenings, 0);
 }
 
-// From the setup rule's reads on, with the two displays and none stored.
-Calls callsBeforeSetup(const Calls& setupRule) {
-    const auto greyed = [](DisplayID number, const std::string& title, int state) {
-        return inOrder({makingOwnItem(title, "selectScreen:", ""),
-                        {"-[NSMenuItem setRepresentedObject:] " + sim::uuidOfDisplay(number),
-                         "-[NSMenuItem setState:] " + std::to_string(state),
-                         "-[NSMenuItem setEnabled:] false", AddingItem}});
-    };
-    return inOrder(
-        {{"-[NSMenu init]", "-[NSMenu setAutoenablesItems:] false"},
-         setupRule,
-         localizing("Complete setup…"),
-         makingOwnItem("Complete setup…", "showWelcome", ""),
-         {AddingItem},
-         AddingSeparator,
-         localizing("Pin Dock to:"),
-         {makingItem("Pin Dock to:", "nil", ""), "-[NSMenuItem setEnabled:] false", AddingItem},
-         enumerationOf({1, 2}),
-         lookingAtMain(1),
-         {ReadingThePin},
-         localizing("Main"),
-         greyed(1, "  Primary  (1920×1080)  (Main)", 1),
-         greyed(2, "  Second  (1280×800)", 0),
-         AddingSeparator,
-         {ReadingTheSwitch},
-         localizing("Disable"),
-         makingOwnItem("Disable", "showWelcome", ""),
-         {"-[NSMenuItem setEnabled:] true", AddingItem},
-         AddingSeparator,
-         localizing("Settings…"),
-         makingOwnItem("Settings…", "showWelcome", ","),
-         {AddingItem},
-         localizing("Quit"),
-         makingOwnItem("Quit", "quit", "q"),
-         {AddingItem, "-[NSMenu setDelegate:] MenuBarController", "-[NSStatusItem setMenu:] 10 items"}});
-}
-
-TEST_F(MenuContents, AreBuiltInOrderBeforeTheWizardIsFinished) {
-    make();
-    session.journal().take();
-    controller->rebuildMenu();
-    EXPECT_THAT(session.journal().take(),
-                ElementsAreArray(
-                    callsBeforeSetup({Trusted, "-[NSUserDefaults boolForKey:] hasCompletedOnboarding"})));
-}
-
-TEST_F(MenuContents, AreBuiltInOrderWithoutThePermission) {
+TEST_F(MenuContents, LeadToTheWizardWithoutThePermission) {
     completeSetup();
     session.accessibility().setPermission(sim::Permission::switchedOff);
+    EXPECT_THAT(freshMenu(),
+                ElementsAre("Complete setup…", "---", "Pin Dock to: (disabled)",
+                            "✓  Primary  (1920×1080)  (Main) (disabled)", "  Second  (1280×800) (disabled)",
+                            "---", "Disable", "---", "Settings… [,]", "Quit [q]"));
+    EXPECT_TRUE(chooseRow(session, "Settings…"));
+    EXPECT_TRUE(chooseRow(session, "Disable"));
+    EXPECT_EQ(welcomeOpenings, 2);
+    EXPECT_EQ(settingsOpenings, 0);
+    EXPECT_EQ(stored("isEnabled"), nullptr);
+}
+
+TEST_F(MenuContents, BeforeSetupStandForTheirDisplays) {
     make();
-    session.journal().take();
-    controller->rebuildMenu();
-    EXPECT_THAT(session.journal().take(), ElementsAreArray(callsBeforeSetup({NotTrusted})));
+    const auto items = session.statusItems().shown()[0]->menu->state()->items;
+    EXPECT_EQ(items.at(3).representedObject(), RepresentedObject(sim::uuidOfDisplay(1)));
+    EXPECT_EQ(items.at(4).representedObject(), RepresentedObject(sim::uuidOfDisplay(2)));
 }
 
 TEST_F(MenuContents, AreThoseBeforeSetupAgainWhenThePermissionIsRevoked) {

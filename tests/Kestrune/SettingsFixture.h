@@ -44,32 +44,4 @@ private:
     }
 };
 
-inline const Calls ReadingTheLoginItem = {"SMAppService.mainAppService", "-[SMAppService status]"};
-
-inline const Calls ReadingTheVersion = {"NSBundle.mainBundle",
-                                        "-[NSBundle infoDictionary][CFBundleShortVersionString]",
-                                        "-[NSBundle infoDictionary][CFBundleVersion]"};
-
-inline Calls makingTheBugReport() {
-    return inOrder({{"-[NSURLComponents init]", "-[NSURLComponents setScheme:] mailto",
-                     "-[NSURLComponents setPath:] " + std::string(SupportAddress)},
-                    localizing("Kestrune bug report"),
-                    localizing("Describe what went wrong:"),
-                    ReadingTheVersion,
-                    {"NSProcessInfo.processInfo", "-[NSProcessInfo operatingSystemVersion]",
-                     "NSLocale.currentLocale", "-[NSLocale localeIdentifier]",
-                     "-[NSURLComponents setQueryItems:] subject, body", "-[NSURLComponents URL]"}});
-}
-
-inline Calls openingLog(const std::string& category) {
-    return {"NSBundle.mainBundle", "-[NSBundle bundleIdentifier]",
-            "os_log_create(org.kestrune.Kestrune, " + category + ")"};
-}
-
-inline const Calls ActivatingTheApplication = {"NSApp", "-[NSApplication activateIgnoringOtherApps:] true"};
-
-inline Calls settingThePolicy(const std::string& name) {
-    return {"NSApp", "-[NSApplication setActivationPolicy:] NSApplicationActivationPolicy" + name};
-}
-
 } // namespace kestrune

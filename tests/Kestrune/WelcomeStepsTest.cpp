@@ -1,8 +1,6 @@
 // What the user does at the wizard, and what it shows.
 #include "tests/Kestrune/WelcomeFixture.h"
 
-#include <algorithm>
-
 namespace kestrune {
 namespace {
 
@@ -24,7 +22,7 @@ TEST_F(WelcomeSteps, GoesFromTheIntroductionToThePermission) {
     const double top = onlyWindow(session)->frame.maxY();
     EXPECT_TRUE(press("Get started"));
     EXPECT_EQ(controller->model()->currentStep, Step::accessibility);
-    EXPECT_THAT(calls(), ElementsAre("-[NSWindow setLevel:] NSNormalWindowLevel", "the view changed"));
+    EXPECT_EQ(onlyWindow(session)->level, WindowLevel::normal);
     EXPECT_THAT(buttons(), ElementsAre("Finish"));
     EXPECT_EQ(onlyWindow(session)->frame.maxY(), top);
 }
@@ -65,9 +63,6 @@ TEST_F(WelcomeStepsWithoutPermission, RemembersTheRequestBeforeItAsksTheSystem) 
     press("Request permission");
     EXPECT_FALSE(hadAsked);
     EXPECT_TRUE(session.accessibility().isDialogShown());
-    EXPECT_THAT(calls(),
-                ElementsAre("AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: true}) -> false",
-                            "the view changed"));
 }
 
 TEST_F(WelcomeStepsWithoutPermission, AsksTheSystemEachTime) {
@@ -75,10 +70,9 @@ TEST_F(WelcomeStepsWithoutPermission, AsksTheSystemEachTime) {
     controller->model()->requestPermissions();
     controller->model()->requestPermissions();
     EXPECT_TRUE(controller->model()->hasRequestedPermission);
-    const Calls made = calls();
-    EXPECT_EQ(std::count(made.begin(), made.end(),
-                         "AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: true}) -> false"),
-              2);
+    EXPECT_THAT(
+        calls(),
+        Contains("AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: true}) -> false").Times(2));
 }
 
 TEST_F(WelcomeStepsWithoutPermission, DoesNotTakeTheAnswerOfTheRequest) {
