@@ -17,15 +17,19 @@ namespace {
 constexpr std::string_view AlertClass = "_NSAlertPanel";
 
 constexpr double Margin = 20;
-constexpr double ContentWidth = 380;
+constexpr double ContentWidth = 420;
 
-// A sentence, an explanation, and buttons at the bottom right.
+// The application's icon, beside it a sentence, an explanation, and buttons at the bottom right.
 ui::View page(std::string_view heading, std::string_view text, std::vector<ui::View> buttons) {
+    constexpr double IconSide = 64;
     buttons.insert(buttons.begin(), ui::Spacer());
-    return ui::VStack({ui::HorizontalAlignment::leading, 10},
-                      ui::VerbatimText(heading).font(ui::Font::preferred(ui::TextStyle::headline)),
-                      ui::VerbatimText(text).font(ui::Font::preferred(ui::TextStyle::callout)),
-                      ui::HStack({.spacing = 12}, std::move(buttons)).padding({.top = 6}))
+    const ui::View texts =
+        ui::VStack({ui::HorizontalAlignment::leading, 10},
+                   ui::VerbatimText(heading).font(ui::Font::preferred(ui::TextStyle::headline)),
+                   ui::VerbatimText(text).font(ui::Font::preferred(ui::TextStyle::callout)),
+                   ui::HStack({.spacing = 12}, std::move(buttons)).padding({.top = 6}));
+    return ui::HStack({ui::VerticalAlignment::top, 16},
+                      ui::SystemImage("NSApplicationIcon").font(ui::Font::system(IconSide)), texts)
         .frame({.width = ContentWidth})
         .padding(Margin);
 }

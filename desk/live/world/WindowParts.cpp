@@ -1,5 +1,7 @@
 #include "desk/live/world/WindowParts.h"
 
+#include "desk/live/world/OtherApplication.h"
+#include "desk/paint/mac/ApplicationIcon.h"
 #include "desk/paint/mac/ControlPainter.h"
 #include "desk/paint/mac/Measures.h"
 #include "sim/seam/WindowState.h"
@@ -19,6 +21,21 @@ std::optional<std::string> titleOfControl(const ui::Element& element) {
     }
     return std::nullopt;
 }
+
+namespace {
+
+// Whose own icon an application's window shows, the desk knows.
+ui::Scene withIcon(ui::Scene scene, const std::string& iconPath) {
+    for (ui::Element& element : scene.elements) {
+        auto* const symbol = std::get_if<ui::SymbolElement>(&element);
+        if (symbol != nullptr && symbol->symbol.name == OwnIconSymbol) {
+            symbol->symbol.name = iconSymbol(iconPath);
+        }
+    }
+    return scene;
+}
+
+} // namespace
 
 const WindowPicture* windowTitled(const DeskPicture& picture, std::string_view title) {
     const auto found = std::find_if(picture.windows.begin(), picture.windows.end(),
@@ -326,7 +343,7 @@ WindowPicture WindowParts::pictureOf(const WindowState& window) {
     picture.isMiniaturizable = window->has(WindowStyleMask::miniaturizable);
     picture.isResizable = window->has(WindowStyleMask::resizable);
     picture.isKey = isKey(window);
-    picture.scene = sim::Windows::sceneOf(*window);
+    picture.scene = withIcon(sim::Windows::sceneOf(*window), kestruneAsListed(session_).iconPath);
     if (isStillThere(focused_, window)) {
         picture.focusedElement = focused_->element;
     }

@@ -41,6 +41,9 @@ void paintApplicationIcon(const Canvas& canvas, const std::optional<std::string>
 std::string iconSymbol(const std::string& path) { return std::string(SymbolPrefix) + path; }
 
 std::optional<std::string> pathOfIcon(const std::string& symbol) {
+    if (symbol == OwnIconSymbol) {
+        return "";
+    }
     return symbol.starts_with(SymbolPrefix) ? std::optional(symbol.substr(SymbolPrefix.size()))
                                             : std::nullopt;
 }

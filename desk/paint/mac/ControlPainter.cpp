@@ -88,15 +88,15 @@ void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state) {
     fillCircle(canvas.context, knob, knobRadius, rgb(0xFFFFFF));
 }
 
-void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowButtons& buttons) {
+void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowPicture& shown) {
     const double radius = WindowButtonSide / 2;
     const Point center = centerOf(close);
     const bool isInUse =
-        (buttons.isClosable && (buttons.isClosePressed || buttons.isCloseHovered)) ||
-        (buttons.isMiniaturizable && (buttons.isMinimizePressed || buttons.isMinimizeHovered));
+        (shown.isClosable && (shown.isCloseButtonPressed || shown.isCloseButtonHovered)) ||
+        (shown.isMiniaturizable && (shown.isMinimizeButtonPressed || shown.isMinimizeButtonHovered));
     const auto paintButton = [&](double steps, bool isEnabled, bool isPressed, const Color& color) {
         const Point middle{center.x + steps * WindowButtonDistance, center.y};
-        if (!isEnabled || !(buttons.isActive || isInUse)) {
+        if (!isEnabled || !(shown.isKey || isInUse)) {
             fillCircle(canvas.context, middle, radius, canvas.palette.system.windowButton);
             return;
         }
@@ -105,18 +105,18 @@ void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowBut
                                {middle.x - radius, middle.y - radius, WindowButtonSide, WindowButtonSide},
                                radius, 0.5, rgb(0x000000, 0.16));
     };
-    paintButton(0, buttons.isClosable, buttons.isClosePressed, rgb(0xFF5F57));
-    paintButton(1, buttons.isMiniaturizable, buttons.isMinimizePressed, rgb(0xFEBC2E));
-    paintButton(2, buttons.isZoomable, false, rgb(0x28C840));
+    paintButton(0, shown.isClosable, shown.isCloseButtonPressed, rgb(0xFF5F57));
+    paintButton(1, shown.isMiniaturizable, shown.isMinimizeButtonPressed, rgb(0xFEBC2E));
+    paintButton(2, shown.isResizable, false, rgb(0x28C840));
     constexpr double Arm = 2.4;
     const Color sign = rgb(0x000000, 0.6);
-    if (isInUse && buttons.isClosable) {
+    if (isInUse && shown.isClosable) {
         strokeLine(canvas.context, {center.x - Arm, center.y - Arm}, {center.x + Arm, center.y + Arm}, 1.2,
                    sign);
         strokeLine(canvas.context, {center.x - Arm, center.y + Arm}, {center.x + Arm, center.y - Arm}, 1.2,
                    sign);
     }
-    if (isInUse && buttons.isMiniaturizable) {
+    if (isInUse && shown.isMiniaturizable) {
         const double middle = center.x + WindowButtonDistance;
         strokeLine(canvas.context, {middle - 3, center.y}, {middle + 3, center.y}, 1.2, sign);
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "desk/paint/mac/SystemPicture.h"
 #include "desk/paint/toolkit/Canvas.h"
 #include "ui/Style.h"
 
@@ -37,19 +38,9 @@ void paintSwitch(const Canvas& canvas, const Rect& area, SwitchState state);
 // How far the knob goes from off to on.
 double switchTravel(const Rect& area);
 
-// Close, minimise and zoom at the leading end of a title bar.
-struct WindowButtons {
-    bool isClosable = true;
-    bool isMiniaturizable = false;
-    bool isZoomable = false;
-    bool isActive = true; // without it the buttons are grey while the pointer is elsewhere
-    bool isClosePressed = false;
-    bool isCloseHovered = false;
-    bool isMinimizePressed = false;
-    bool isMinimizeHovered = false;
-};
-// `close` is the area of the first.
-void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowButtons& buttons);
+// Close, minimise and zoom at the leading end of a title bar; `close` is the area of the first. They are grey
+// while the window is not the key window and the pointer elsewhere.
+void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowPicture& shown);
 
 // Around a control that the keyboard works on.
 void paintFocusRing(const Canvas& canvas, const Rect& control, double cornerRadius);

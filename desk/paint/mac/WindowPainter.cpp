@@ -16,20 +16,6 @@ bool hasButtons(const WindowPicture& shown) {
     return shown.isClosable || shown.isMiniaturizable || shown.isResizable;
 }
 
-void paintButtons(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
-    if (hasButtons(shown)) {
-        paintWindowButtons(canvas, layout.closeButton,
-                           {.isClosable = shown.isClosable,
-                            .isMiniaturizable = shown.isMiniaturizable,
-                            .isZoomable = shown.isResizable,
-                            .isActive = shown.isKey,
-                            .isClosePressed = shown.isCloseButtonPressed,
-                            .isCloseHovered = shown.isCloseButtonHovered,
-                            .isMinimizePressed = shown.isMinimizeButtonPressed,
-                            .isMinimizeHovered = shown.isMinimizeButtonHovered});
-    }
-}
-
 void paintBar(const Canvas& canvas, const Rect& bar, const WindowPicture& shown) {
     if (shown.isKey) {
         fillRoundedRectangle(canvas.context, bar, 0, canvas.palette.application.titleBar);
@@ -78,7 +64,9 @@ void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowP
         if (shown.look == WindowLook::standard) {
             paintBar(canvas, layout.titleBar, shown);
         }
-        paintButtons(canvas, layout, shown);
+        if (hasButtons(shown)) {
+            paintWindowButtons(canvas, layout.closeButton, shown);
+        }
         paintTitle(canvas, layout.titleBar, shown);
     }
     paintScene(canvas, shown.scene, layout.content.origin,

@@ -23,12 +23,43 @@ int letterSpacing(double size) {
     return -static_cast<int>(std::lround(tightening * size * PANGO_SCALE));
 }
 
+PangoWeight pangoWeight(ui::FontWeight weight) {
+    switch (weight) {
+    case ui::FontWeight::ultraLight: // The lightest of all here, and one step up in Pango's words.
+        return PANGO_WEIGHT_THIN;
+    case ui::FontWeight::thin:
+        return PANGO_WEIGHT_ULTRALIGHT;
+    case ui::FontWeight::light:
+        return PANGO_WEIGHT_LIGHT;
+    case ui::FontWeight::regular:
+        return PANGO_WEIGHT_NORMAL;
+    case ui::FontWeight::medium:
+        return PANGO_WEIGHT_MEDIUM;
+    case ui::FontWeight::semibold:
+        return PANGO_WEIGHT_SEMIBOLD;
+    case ui::FontWeight::bold:
+        return PANGO_WEIGHT_BOLD;
+    case ui::FontWeight::heavy:
+        return PANGO_WEIGHT_ULTRABOLD;
+    case ui::FontWeight::black:
+        return PANGO_WEIGHT_HEAVY;
+    }
+    return PANGO_WEIGHT_NORMAL;
+}
+
 double fromPango(int units) { return static_cast<double>(units) / PANGO_SCALE; }
 
 int toPango(double units) {
     constexpr double Unlimited = 100000;
     return std::isfinite(units) && units < Unlimited ? std::max(0, static_cast<int>(units * PANGO_SCALE))
                                                      : -1;
+}
+
+Size textSize(PangoLayout* layout) {
+    int width = 0;
+    int height = 0;
+    pango_layout_get_size(layout, &width, &height);
+    return {fromPango(width), fromPango(height)};
 }
 
 void fillTextLayout(cairo_t* context, PangoLayout* layout) {

@@ -8,30 +8,6 @@
 namespace kestrune::desk {
 namespace {
 
-PangoWeight pangoWeight(ui::FontWeight weight) {
-    switch (weight) {
-    case ui::FontWeight::ultraLight: // The lightest of all here, and one step up in Pango's words.
-        return PANGO_WEIGHT_THIN;
-    case ui::FontWeight::thin:
-        return PANGO_WEIGHT_ULTRALIGHT;
-    case ui::FontWeight::light:
-        return PANGO_WEIGHT_LIGHT;
-    case ui::FontWeight::regular:
-        return PANGO_WEIGHT_NORMAL;
-    case ui::FontWeight::medium:
-        return PANGO_WEIGHT_MEDIUM;
-    case ui::FontWeight::semibold:
-        return PANGO_WEIGHT_SEMIBOLD;
-    case ui::FontWeight::bold:
-        return PANGO_WEIGHT_BOLD;
-    case ui::FontWeight::heavy:
-        return PANGO_WEIGHT_ULTRABOLD;
-    case ui::FontWeight::black:
-        return PANGO_WEIGHT_HEAVY;
-    }
-    return PANGO_WEIGHT_NORMAL;
-}
-
 PangoAlignment pangoAlignment(ui::TextAlignment alignment) {
     switch (alignment) {
     case ui::TextAlignment::leading:
@@ -87,13 +63,6 @@ void StyledTextLayout::set(const ui::StyledText& text, std::optional<double> wid
     if (width && size().width > *width) {
         pango_layout_set_width(layout_.get(), toPango(*width + fromPango(letterSpacing(text.font.size))));
     }
-}
-
-Size StyledTextLayout::size() const {
-    int width = 0;
-    int height = 0;
-    pango_layout_get_size(layout_.get(), &width, &height);
-    return {fromPango(width), fromPango(height)};
 }
 
 void StyledTextLayout::fill(Point topLeft) const {

@@ -3,6 +3,7 @@
 
 #include "base/Geometry.h"
 #include "desk/paint/toolkit/CairoObjects.h"
+#include "desk/paint/toolkit/PangoText.h"
 #include "ui/Scene.h"
 
 #include <optional>
@@ -19,7 +20,7 @@ public:
     void set(const ui::StyledText& text, std::optional<double> width);
 
     // In user units.
-    Size size() const;
+    Size size() const { return textSize(layout_.get()); }
 
     // In the context's colour.
     void fill(Point topLeft) const;

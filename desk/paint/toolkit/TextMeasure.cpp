@@ -9,9 +9,4 @@ TextMeasure::TextMeasure()
 
 double TextMeasure::width(std::string_view text, const TextStyle& style) { return text_.width(text, style); }
 
-double TextMeasure::wrappedHeight(std::string_view text, double width, int maximumLines,
-                                  const TextStyle& style) {
-    return text_.wrappedHeight(text, width, maximumLines, style);
-}
-
 } // namespace kestrune::desk

@@ -14,7 +14,6 @@ public:
     TextMeasure();
 
     double width(std::string_view text, const TextStyle& style);
-    double wrappedHeight(std::string_view text, double width, int maximumLines, const TextStyle& style);
 
 private:
     SurfaceHandle surface_;

@@ -1,6 +1,5 @@
 #include "desk/paint/toolkit/TextPainter.h"
 
-#include "desk/paint/toolkit/PangoText.h"
 #include "desk/paint/toolkit/Shapes.h"
 
 namespace kestrune::desk {
@@ -8,20 +7,6 @@ namespace {
 
 // Height of Inter's capital letters as a part of the font size.
 constexpr double CapitalHeight = 0.727;
-
-PangoWeight pangoWeight(FontWeight weight) {
-    switch (weight) {
-    case FontWeight::regular:
-        return PANGO_WEIGHT_NORMAL;
-    case FontWeight::medium:
-        return PANGO_WEIGHT_MEDIUM;
-    case FontWeight::semibold:
-        return PANGO_WEIGHT_SEMIBOLD;
-    case FontWeight::bold:
-        return PANGO_WEIGHT_BOLD;
-    }
-    return PANGO_WEIGHT_NORMAL;
-}
 
 FontDescriptionHandle fontDescription(const TextStyle& style) {
     FontDescriptionHandle font{pango_font_description_new()};
@@ -37,12 +22,12 @@ TextPainter::TextPainter(cairo_t* context) : context_(context), layout_(makeText
 
 double TextPainter::width(std::string_view text, const TextStyle& style) {
     prepare(text, style);
-    return preparedWidth();
+    return preparedSize().width;
 }
 
 double TextPainter::paint(std::string_view text, Point anchor, const TextStyle& style) {
     prepare(text, style);
-    const double width = preparedWidth();
+    const double width = preparedSize().width;
     double left = anchor.x;
     if (style.alignment == TextAlignment::center) {
         left -= width / 2;
@@ -63,21 +48,7 @@ void TextPainter::paintParagraph(std::string_view text, const Rect& area, const 
     pango_layout_set_wrap(layout_.get(), PANGO_WRAP_WORD_CHAR);
     pango_layout_set_alignment(layout_.get(), PANGO_ALIGN_CENTER);
     setColor(context_, style.color);
-    cairo_move_to(context_, area.minX(), area.minY() + (area.height() - preparedHeight()) / 2);
-    fillPrepared();
-}
-
-double TextPainter::wrappedHeight(std::string_view text, double width, int maximumLines,
-                                  const TextStyle& style) {
-    prepareWrapped(text, width, maximumLines, style);
-    return preparedHeight();
-}
-
-void TextPainter::paintWrapped(std::string_view text, Point topLeft, double width, int maximumLines,
-                               const TextStyle& style) {
-    prepareWrapped(text, width, maximumLines, style);
-    setColor(context_, style.color);
-    cairo_move_to(context_, topLeft.x, topLeft.y);
+    cairo_move_to(context_, area.minX(), area.minY() + (area.height() - preparedSize().height) / 2);
     fillPrepared();
 }
 
@@ -109,26 +80,6 @@ void TextPainter::prepare(std::string_view text, const TextStyle& style) {
     pango_layout_set_text(layout_.get(), valid.get(), -1);
 }
 
-void TextPainter::prepareWrapped(std::string_view text, double width, int maximumLines,
-                                 const TextStyle& style) {
-    prepare(text, style);
-    pango_layout_set_width(layout_.get(), toPango(width));
-    pango_layout_set_height(layout_.get(), -maximumLines); // Pango takes a negative height as lines.
-    pango_layout_set_wrap(layout_.get(), PANGO_WRAP_WORD_CHAR);
-}
-
 void TextPainter::fillPrepared() { fillTextLayout(context_, layout_.get()); }
-
-double TextPainter::preparedWidth() const {
-    int width = 0;
-    pango_layout_get_size(layout_.get(), &width, nullptr);
-    return fromPango(width);
-}
-
-double TextPainter::preparedHeight() const {
-    int height = 0;
-    pango_layout_get_size(layout_.get(), nullptr, &height);
-    return fromPango(height);
-}
 
 } // namespace kestrune::desk

@@ -4,6 +4,9 @@
 #include "base/Geometry.h"
 #include "desk/paint/mac/Palette.h"
 #include "desk/paint/toolkit/CairoObjects.h"
+#include "desk/paint/toolkit/PangoText.h"
+#include "ui/Font.h"
+#include "ui/Style.h"
 
 #include <limits>
 #include <string>
@@ -11,9 +14,8 @@
 
 namespace kestrune::desk {
 
-enum class FontWeight { regular, medium, semibold, bold };
-
-enum class TextAlignment { leading, center, trailing };
+using ui::FontWeight;
+using ui::TextAlignment;
 
 struct TextStyle {
     double size = 13; // in user units
@@ -40,20 +42,13 @@ public:
     // Paints text that wraps, centred in the area both ways; what does not fit ends in an ellipsis.
     void paintParagraph(std::string_view text, const Rect& area, const TextStyle& style);
 
-    // Text that wraps at `width` and ends in an ellipsis after `maximumLines`.
-    double wrappedHeight(std::string_view text, double width, int maximumLines, const TextStyle& style);
-    void paintWrapped(std::string_view text, Point topLeft, double width, int maximumLines,
-                      const TextStyle& style);
-
     // The family of the font file that text is really set in.
     std::string resolvedFamily();
 
 private:
     void prepare(std::string_view text, const TextStyle& style);
-    void prepareWrapped(std::string_view text, double width, int maximumLines, const TextStyle& style);
     void fillPrepared();
-    double preparedWidth() const;
-    double preparedHeight() const;
+    Size preparedSize() const { return textSize(layout_.get()); }
 
     cairo_t* context_;
     TextLayoutHandle layout_;

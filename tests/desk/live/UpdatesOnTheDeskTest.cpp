@@ -127,6 +127,7 @@ TEST_F(UpdatesOnTheDesk, FloatTheirWindowInFrontOfTheDialog) {
     desk.session().accessibility().askUser();
     EXPECT_THAT(windowTitlesOn(desk),
                 ElementsAre("Software Update", "Accessibility Access (Events)", "Kestrune Settings"));
+    EXPECT_EQ(iconsIn(front()), std::vector{desk.session().bundle().images.at("AppIcon")});
     hand.clickControl("Skip This Version");
     EXPECT_FALSE(updates().isShowingUpdate());
 }
