@@ -34,7 +34,7 @@ TEST_F(AppLaunch, GoesInOrder) {
     const Calls launching = session.journal().take();
     const Calls buildingTheMenu = rebuilding();
     const Calls makingTheMainMenu = callsOf([this] { buildMainMenu(app, Selector("menuOpenSettings")); });
-    session.processObjects().clear();
+    session.process().objects().clear();
     const Calls startingTheUpdater = callsOf(UpdaterManager::shared);
     std::shared_ptr<MenuBarController> another;
     const Calls makingTheMenuBar =

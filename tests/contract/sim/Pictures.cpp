@@ -15,7 +15,8 @@ SeenColor World::colorAt(Point place, std::size_t window) const {
     const ui::Scene& scene = sim::Windows::sceneOf(*sim::Session::current().windows().shown().at(window));
     const desk::Surface surface = *desk::Surface::create(scene.size, 1);
     desk::TextPainter text{surface.context()};
-    const desk::Canvas canvas{surface.context(), text, desk::paletteFor(false)};
+    desk::ImageStore images;
+    const desk::Canvas canvas{surface.context(), text, images, desk::paletteFor(false)};
     desk::setColor(canvas.context, canvas.palette.application.window);
     cairo_paint(canvas.context);
     desk::paintScene(canvas, scene, {0, 0}, {});
