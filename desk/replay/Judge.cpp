@@ -1,6 +1,7 @@
 #include "desk/replay/Judge.h"
 
-#include <algorithm>
+#include "desk/replay/GuardRule.h"
+
 #include <cmath>
 #include <optional>
 
@@ -13,10 +14,7 @@ constexpr double Tolerance = 1e-6;
 
 std::optional<std::size_t> displayUnder(Point point, const std::vector<Rect>& displays) {
     for (std::size_t index = 0; index < displays.size(); ++index) {
-        const Rect& bounds = displays[index];
-        const bool inColumn = bounds.origin.x <= point.x && point.x < bounds.origin.x + bounds.size.width;
-        const bool inRow = bounds.origin.y <= point.y && point.y < bounds.origin.y + bounds.size.height;
-        if (inColumn && inRow) {
+        if (isOn(displays[index], point)) {
             return index;
         }
     }
@@ -32,15 +30,12 @@ bool violatesTheRule(const JudgedDesk& desk, const sim::Delivery& delivery) {
     if (!mayHold) {
         return !unchanged;
     }
-    const Rect& bounds = desk.displays[*under];
-    const double bottom = bounds.origin.y + bounds.size.height;
-    const double lowestFree = bottom - 1 - desk.margin;
-    if (delivery.sent.y <= lowestFree - Tolerance) {
+    const JudgedBand band(desk.displays[*under], desk.margin);
+    if (delivery.sent.y <= band.lowestFree - Tolerance) {
         return !unchanged;
     }
-    const double held = std::max(lowestFree, bounds.origin.y + 1);
-    const bool isHeld = std::abs(delivery.delivered.y - held) <= Tolerance;
-    const bool onTheEdge = delivery.sent.y <= lowestFree + Tolerance;
+    const bool isHeld = std::abs(delivery.delivered.y - band.held) <= Tolerance;
+    const bool onTheEdge = delivery.sent.y <= band.lowestFree + Tolerance;
     return delivery.delivered.x != delivery.sent.x || !(isHeld || (onTheEdge && unchanged));
 }
 

@@ -1,5 +1,6 @@
 #include "desk/replay/SimulatedDesk.h"
 
+#include "desk/replay/GuardRule.h"
 #include "desk/replay/StoredChoices.h"
 
 #include <string>
@@ -17,8 +18,7 @@ sim::SessionOptions sessionOptions(const DeskSetup& setup) {
 }
 
 JudgedDesk judgedDesk(const DeskSetup& setup) {
-    const double margin = setup.margin.value_or(UsualBlockMargin);
-    return {setup.displays, setup.pinned, setup.guardOn, margin > 0 ? margin : UsualBlockMargin};
+    return {setup.displays, setup.pinned, setup.guardOn, bandDepth(setup.margin.value_or(0))};
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "desk/replay/StoredChoices.h"
 
+#include "desk/replay/GuardRule.h"
+
 namespace kestrune::desk {
 
 bool StoredChoices::isEnabled() const {
@@ -14,8 +16,7 @@ std::optional<std::string> StoredChoices::pinnedScreenUUID() const {
 
 double StoredChoices::blockMargin() const {
     const sim::PropertyList* stored = defaults_.find(entries::BlockMargin);
-    const double points = stored != nullptr ? stored->asDouble() : 0;
-    return points > 0 ? points : UsualBlockMargin;
+    return bandDepth(stored != nullptr ? stored->asDouble() : 0);
 }
 
 void StoredChoices::setBlockMargin(double points) {

@@ -19,9 +19,6 @@ constexpr std::string_view HasCompletedOnboarding = "hasCompletedOnboarding";
 
 } // namespace entries
 
-// The depth of the band, in points, where none is stored that is greater than 0.
-constexpr double UsualBlockMargin = 4;
-
 // What is stored reads as the platform reads it, an entry that is not there as the application has it.
 class StoredChoices {
 public:
@@ -33,6 +30,7 @@ public:
     // Of the chosen display, which need not be connected.
     std::optional<std::string> pinnedScreenUUID() const;
 
+    // The depth of the band, in points.
     double blockMargin() const;
     void setBlockMargin(double points);
 

@@ -81,15 +81,14 @@ void Session::changeDisplays(std::vector<Display> displays) {
     system_.displays.set(std::move(displays));
     system_.dock.displaysChanged();
     placePointer(pointer_);
+    const auto announce = [this] {
+        system_.observers.post(ApplicationDidChangeScreenParametersNotification);
+    };
     if (system_.mainThread.isFree()) {
-        announceScreenParameters();
+        announce();
     } else {
-        system_.mainThread.enqueue([this] { announceScreenParameters(); });
+        system_.mainThread.enqueue(announce);
     }
-}
-
-void Session::announceScreenParameters() {
-    system_.observers.post(ApplicationDidChangeScreenParametersNotification);
 }
 
 bool Session::reopenApplication() {

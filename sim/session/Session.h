@@ -124,7 +124,6 @@ private:
     Delivery deliver(EventType type, Point location, double deltaY);
     void waitForTaps(EventType type);
     void hold(Duration duration);
-    void announceScreenParameters();
     void runPendingNotices();
 
     bool cursorFollowsEvents_;

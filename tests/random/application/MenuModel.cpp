@@ -11,8 +11,8 @@ const MenuLine Separator{.title = "", .isSeparator = true};
 
 std::string sizeText(const KnownDisplay& display) {
     char text[64];
-    std::snprintf(text, sizeof text, "%.0f\xC3\x97%.0f", std::floor(display.width),
-                  std::floor(display.height));
+    std::snprintf(text, sizeof text, "%.0f\xC3\x97%.0f", std::floor(display.bounds.size.width),
+                  std::floor(display.bounds.size.height));
     return text;
 }
 

@@ -8,10 +8,9 @@ namespace {
 
 bool isRecordOf(const ManagedScreen& screen, const KnownDisplay& display) {
     return screen.uuid == display.identifier && screen.displayID == display.number &&
-           screen.localizedName == display.name &&
-           identical(screen.cgFrame.origin, {display.left, display.top}) &&
+           screen.localizedName == display.name && identical(screen.cgFrame.origin, display.bounds.origin) &&
            identical({screen.cgFrame.size.width, screen.cgFrame.size.height},
-                     {display.width, display.height});
+                     {display.bounds.size.width, display.bounds.size.height});
 }
 
 } // namespace

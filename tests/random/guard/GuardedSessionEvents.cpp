@@ -9,7 +9,7 @@ namespace kestrune::simulate {
 namespace {
 
 bool isOnLastPoint(const KnownDisplay* display, Point point) {
-    return display != nullptr && point.y >= display->bottom() - 1;
+    return display != nullptr && point.y >= display->bounds.origin.y + display->bounds.size.height - 1;
 }
 
 // Whether the hardware can put the pointer there. Without displays it stays wherever it was, and so it does

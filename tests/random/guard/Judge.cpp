@@ -14,14 +14,13 @@ bool identical(double one, double other) {
     return std::bit_cast<std::uint64_t>(one) == std::bit_cast<std::uint64_t>(other);
 }
 
-Rect edgesOf(const KnownDisplay& display) {
-    return {display.left, display.top, display.width, display.height};
-}
-
 bool isHeldBelowTopEdge(const GuardState& state, const sim::Delivery& delivery) {
     const KnownDisplay* display = state.displayUnder(delivery.sent);
-    return display != nullptr && delivery.delivered.y == display->top + 1 &&
-           display->bottom() - 1 - state.bandDepth() <= display->top + 1;
+    if (display == nullptr) {
+        return false;
+    }
+    const double highest = display->bounds.origin.y + 1;
+    return delivery.delivered.y == highest && state.bandOf(*display).held == highest;
 }
 
 bool overlapsAnother(const sim::Display& target, const GuardState& state,
@@ -32,7 +31,7 @@ bool overlapsAnother(const sim::Display& target, const GuardState& state,
         });
     const auto overlapping =
         std::count_if(state.displays.begin(), state.displays.end(),
-                      [&](const KnownDisplay& known) { return overlap(edgesOf(known), target.bounds); });
+                      [&](const KnownDisplay& known) { return overlap(known.bounds, target.bounds); });
     return overlapsConnected || overlapping > 1;
 }
 
@@ -77,7 +76,7 @@ bool guardKeepsDockFrom(const sim::Display& target, const GuardState& state,
     }
     const auto known =
         std::find_if(state.displays.begin(), state.displays.end(),
-                     [&](const KnownDisplay& candidate) { return edgesOf(candidate) == target.bounds; });
+                     [&](const KnownDisplay& candidate) { return candidate.bounds == target.bounds; });
     if (known == state.displays.end() || known->identifier == state.pinned->identifier) {
         return false;
     }
@@ -85,7 +84,7 @@ bool guardKeepsDockFrom(const sim::Display& target, const GuardState& state,
         return false;
     }
     const double pullingFrom = target.bounds.maxY() - 1;
-    return pullingFrom - state.bandDepth() < pullingFrom && target.bounds.minY() + 1 < pullingFrom;
+    return state.bandOf(*known).held < pullingFrom;
 }
 
 } // namespace kestrune::simulate

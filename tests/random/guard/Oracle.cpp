@@ -53,17 +53,11 @@ std::vector<KnownDisplay> enumerateDisplays(sim::Displays& system) {
             continue;
         }
         const Rect& frame = reading.appKitFrame;
-        KnownDisplay display{identifierOf(system, *number),
-                             *number,
-                             reading.display.localizedName,
-                             frame.origin.x,
-                             frame.origin.y,
-                             frame.size.width,
-                             frame.size.height};
+        KnownDisplay display{identifierOf(system, *number), *number, reading.display.localizedName, frame};
         const std::vector<sim::Display> primaryFirst = system.read();
         if (!primaryFirst.empty()) {
             const double primaryHeight = std::fabs(primaryFirst[0].bounds.size.height);
-            display.top = primaryHeight - frame.origin.y - display.height;
+            display.bounds.origin.y = primaryHeight - frame.origin.y - frame.size.height;
         }
         known.push_back(std::move(display));
     }
@@ -88,12 +82,6 @@ std::optional<KnownDisplay> findByEnumerating(sim::Displays& system, const std::
 }
 
 } // namespace
-
-bool KnownDisplay::holds(Point point) const {
-    const bool inColumn = left <= point.x && point.x < left + width;
-    const bool inRow = top <= point.y && point.y < top + height;
-    return inColumn && inRow;
-}
 
 Resolution resolve(sim::Displays& system, const std::optional<std::string>& storedChoice) {
     Resolution resolution;
@@ -124,11 +112,10 @@ Resolution expectedResolution(sim::Displays system, const std::optional<std::str
     return resolve(system, storedChoice);
 }
 
-double GuardState::bandDepth() const { return storedMargin > 0 ? storedMargin : 4; }
-
 const KnownDisplay* GuardState::displayUnder(Point point) const {
-    const auto first = std::find_if(displays.begin(), displays.end(),
-                                    [point](const KnownDisplay& display) { return display.holds(point); });
+    const auto first = std::find_if(displays.begin(), displays.end(), [point](const KnownDisplay& display) {
+        return desk::isOn(display.bounds, point);
+    });
     return first != displays.end() ? &*first : nullptr;
 }
 
@@ -145,9 +132,8 @@ Point expectedLocation(const GuardState& state, Point sent) {
     if (display == nullptr) {
         return sent;
     }
-    const double bandTop = display->bottom() - 1 - state.bandDepth();
-    const double highest = display->top + 1;
-    return sent.y > bandTop ? Point{sent.x, std::max(highest, bandTop)} : sent;
+    const desk::JudgedBand band = state.bandOf(*display);
+    return sent.y > band.lowestFree ? Point{sent.x, band.held} : sent;
 }
 
 } // namespace kestrune::simulate

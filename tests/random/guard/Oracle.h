@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "desk/replay/GuardRule.h"
 #include "sim/session/Displays.h"
 
 #include <cstdint>
@@ -12,20 +13,12 @@
 
 namespace kestrune::simulate {
 
-// A display as the application must know it; its edges are in global display coordinates, in points.
+// A display as the application must know it.
 struct KnownDisplay {
     std::string identifier;
     std::uint32_t number;
     std::string name;
-    double left;
-    double top;
-    double width;
-    double height;
-
-    double bottom() const { return top + height; }
-
-    // Minimum edges are inside, maximum edges are not.
-    bool holds(Point point) const;
+    Rect bounds; // global display coordinates
 };
 
 // What a refresh must come to.
@@ -60,8 +53,9 @@ struct GuardState {
     // What doubleForKey: answers for the margin.
     double storedMargin = 0;
 
-    // The depth of the band, in points.
-    double bandDepth() const;
+    desk::JudgedBand bandOf(const KnownDisplay& display) const {
+        return {display.bounds, desk::bandDepth(storedMargin)};
+    }
 
     // The display that decides about a point, null when none does.
     const KnownDisplay* displayUnder(Point point) const;
