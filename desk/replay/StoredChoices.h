@@ -1,7 +1,7 @@
 // The user's choices as the application stores them, for whoever looks at them, or makes them, beside it.
 #pragma once
 
-#include "sim/session/DefaultsDomain.h"
+#include "sim/services/DefaultsDomain.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "platform/AccessibilityTrust.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Accessibility.h"
-#include "sim/session/Current.h"
+#include "sim/services/Accessibility.h"
+#include "sim/services/Current.h"
 
 namespace kestrune {
 

@@ -1,8 +1,8 @@
 #include "platform/AppService.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/LoginItem.h"
+#include "sim/services/Current.h"
+#include "sim/services/LoginItem.h"
 
 namespace kestrune {
 

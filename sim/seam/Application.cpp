@@ -2,11 +2,11 @@
 
 #include "sim/seam/MenuState.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/session/ApplicationState.h"
-#include "sim/session/Current.h"
-#include "sim/session/MainThread.h"
-#include "sim/session/Process.h"
-#include "sim/session/Windows.h"
+#include "sim/services/ApplicationState.h"
+#include "sim/services/Current.h"
+#include "sim/services/MainThread.h"
+#include "sim/services/Process.h"
+#include "sim/services/Windows.h"
 
 namespace kestrune {
 

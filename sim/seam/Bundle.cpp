@@ -1,8 +1,8 @@
 #include "platform/Bundle.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/BundleContents.h"
-#include "sim/session/Current.h"
+#include "sim/services/BundleContents.h"
+#include "sim/services/Current.h"
 
 namespace kestrune {
 

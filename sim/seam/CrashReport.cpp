@@ -1,8 +1,8 @@
 #include "platform/CrashReport.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/Process.h"
+#include "sim/services/Current.h"
+#include "sim/services/Process.h"
 
 namespace kestrune {
 

@@ -2,7 +2,7 @@
 
 #include "sim/seam/LiveObject.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
+#include "sim/services/Current.h"
 #include "sim/session/Displays.h"
 
 #include <utility>

@@ -2,10 +2,10 @@
 
 #include "sim/seam/RecordCall.h"
 #include "sim/seam/RunLoopState.h"
-#include "sim/session/Accessibility.h"
-#include "sim/session/Current.h"
-#include "sim/session/Journal.h"
-#include "sim/session/TapChain.h"
+#include "sim/services/Accessibility.h"
+#include "sim/services/Current.h"
+#include "sim/services/Journal.h"
+#include "sim/services/TapChain.h"
 
 #include <array>
 #include <cstdio>

@@ -2,9 +2,9 @@
 
 #include "sim/seam/RecordCall.h"
 #include "sim/seam/WindowState.h"
-#include "sim/session/BundleContents.h"
-#include "sim/session/Current.h"
-#include "sim/session/MainThread.h"
+#include "sim/services/BundleContents.h"
+#include "sim/services/Current.h"
+#include "sim/services/MainThread.h"
 
 #include <string>
 #include <string_view>

@@ -2,9 +2,9 @@
 
 #include "sim/seam/RecordCall.h"
 #include "sim/seam/StatusItemState.h"
-#include "sim/session/BundleContents.h"
-#include "sim/session/Current.h"
-#include "sim/session/StatusItems.h"
+#include "sim/services/BundleContents.h"
+#include "sim/services/Current.h"
+#include "sim/services/StatusItems.h"
 
 #include <utility>
 

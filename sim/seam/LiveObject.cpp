@@ -1,7 +1,7 @@
 #include "sim/seam/LiveObject.h"
 
-#include "sim/session/Current.h"
-#include "sim/session/LiveObjects.h"
+#include "sim/services/Current.h"
+#include "sim/services/LiveObjects.h"
 
 namespace kestrune::sim {
 

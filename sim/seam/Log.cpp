@@ -1,8 +1,8 @@
 #include "platform/Log.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/LogRecords.h"
+#include "sim/services/Current.h"
+#include "sim/services/LogRecords.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "platform/MainActor.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/MainThread.h"
+#include "sim/services/Current.h"
+#include "sim/services/MainThread.h"
 
 #include <utility>
 

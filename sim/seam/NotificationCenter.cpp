@@ -2,8 +2,8 @@
 
 #include "sim/seam/NotificationState.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/Observers.h"
+#include "sim/services/Current.h"
+#include "sim/services/Observers.h"
 
 #include <utility>
 

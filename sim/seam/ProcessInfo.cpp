@@ -1,8 +1,8 @@
 #include "platform/ProcessInfo.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/Surroundings.h"
+#include "sim/services/Current.h"
+#include "sim/services/Surroundings.h"
 
 namespace kestrune {
 

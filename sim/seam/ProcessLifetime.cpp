@@ -1,7 +1,7 @@
 #include "platform/ProcessLifetime.h"
 
-#include "sim/session/Current.h"
-#include "sim/session/Process.h"
+#include "sim/services/Current.h"
+#include "sim/services/Process.h"
 
 namespace kestrune {
 

@@ -1,8 +1,8 @@
 // What every function of the seam does first.
 #pragma once
 
-#include "sim/session/Current.h"
-#include "sim/session/Journal.h"
+#include "sim/services/Current.h"
+#include "sim/services/Journal.h"
 
 namespace kestrune::sim {
 

@@ -2,8 +2,8 @@
 
 #include "sim/seam/RecordCall.h"
 #include "sim/seam/RunLoopState.h"
-#include "sim/session/Current.h"
-#include "sim/session/RunLoopSources.h"
+#include "sim/services/Current.h"
+#include "sim/services/RunLoopSources.h"
 
 #include <string_view>
 #include <utility>

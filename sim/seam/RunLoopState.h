@@ -3,7 +3,7 @@
 
 #include "platform/RunLoop.h"
 #include "sim/seam/LiveObject.h"
-#include "sim/session/Tap.h"
+#include "sim/services/Tap.h"
 
 #include <memory>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "platform/Screen.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
+#include "sim/services/Current.h"
 #include "sim/session/Displays.h"
 
 #include <utility>

@@ -3,8 +3,8 @@
 #include "sim/seam/MenuState.h"
 #include "sim/seam/RecordCall.h"
 #include "sim/seam/StatusItemState.h"
-#include "sim/session/Current.h"
-#include "sim/session/StatusItems.h"
+#include "sim/services/Current.h"
+#include "sim/services/StatusItems.h"
 
 namespace kestrune {
 

@@ -2,8 +2,8 @@
 
 #include "sim/seam/RecordCall.h"
 #include "sim/seam/TimerState.h"
-#include "sim/session/Current.h"
-#include "sim/session/Timers.h"
+#include "sim/services/Current.h"
+#include "sim/services/Timers.h"
 
 #include <chrono>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "sim/seam/RecordCall.h"
 #include "sim/seam/URLState.h"
-#include "sim/session/Current.h"
-#include "sim/session/Links.h"
+#include "sim/services/Current.h"
+#include "sim/services/Links.h"
 
 #include <utility>
 

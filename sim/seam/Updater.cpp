@@ -2,9 +2,9 @@
 
 #include "sim/seam/LiveObject.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/DefaultsDomain.h"
-#include "sim/session/Updates.h"
+#include "sim/services/Current.h"
+#include "sim/services/DefaultsDomain.h"
+#include "sim/services/Updates.h"
 
 namespace kestrune {
 

@@ -1,8 +1,8 @@
 #include "platform/UserDefaults.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/DefaultsDomain.h"
+#include "sim/services/Current.h"
+#include "sim/services/DefaultsDomain.h"
 
 #include <utility>
 

@@ -3,8 +3,8 @@
 #include "sim/seam/HostedView.h"
 #include "sim/seam/RecordCall.h"
 #include "sim/seam/WindowState.h"
-#include "sim/session/Current.h"
-#include "sim/session/Windows.h"
+#include "sim/services/Current.h"
+#include "sim/services/Windows.h"
 
 namespace kestrune {
 

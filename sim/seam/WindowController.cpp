@@ -2,8 +2,8 @@
 
 #include "sim/seam/ObjectCounterpart.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/session/Current.h"
-#include "sim/session/Windows.h"
+#include "sim/services/Current.h"
+#include "sim/services/Windows.h"
 
 namespace kestrune {
 

@@ -1,12 +1,12 @@
 // A simulated Mac session as whoever drives it has it: the hardware, the user, time and faults.
 //
-// What the application meets is sim/session/System.h.
+// What the application meets is sim/services/System.h.
 #pragma once
 
 #include "platform/Event.h"
-#include "sim/session/Current.h"
+#include "sim/services/Current.h"
+#include "sim/services/System.h"
 #include "sim/session/SessionOptions.h"
-#include "sim/session/System.h"
 
 #include <cstdint>
 #include <functional>

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "sim/formats/PropertyList.h"
-#include "sim/session/Accessibility.h"
-#include "sim/session/BundleContents.h"
+#include "sim/services/Accessibility.h"
+#include "sim/services/BundleContents.h"
+#include "sim/services/Surroundings.h"
+#include "sim/services/Updates.h"
 #include "sim/session/Display.h"
 #include "sim/session/Dock.h"
-#include "sim/session/Surroundings.h"
-#include "sim/session/Updates.h"
 #include "ui/layout/Layout.h"
 
 #include <vector>

@@ -1,4 +1,4 @@
-#include "sim/session/Accessibility.h"
+#include "sim/services/Accessibility.h"
 
 #include <gtest/gtest.h>
 

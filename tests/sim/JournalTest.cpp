@@ -1,4 +1,4 @@
-#include "sim/session/Journal.h"
+#include "sim/services/Journal.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "sim/session/Updates.h"
+#include "sim/services/Updates.h"
 
 #include "platform/Application.h"
 #include "platform/Bundle.h"

@@ -2,7 +2,7 @@
 // framework shows, and what the application makes of it.
 #pragma once
 
-#include "sim/session/Updates.h"
+#include "sim/services/Updates.h"
 #include "tests/random/application/WindowsModel.h"
 
 #include <cstdint>

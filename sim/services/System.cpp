@@ -1,4 +1,4 @@
-#include "sim/session/System.h"
+#include "sim/services/System.h"
 
 #include "base/Fatal.h"
 

@@ -1,4 +1,4 @@
-#include "sim/session/Accessibility.h"
+#include "sim/services/Accessibility.h"
 
 namespace kestrune::sim {
 

@@ -1,13 +1,13 @@
-#include "sim/session/Windows.h"
+#include "sim/services/Windows.h"
 
 #include "base/Fatal.h"
 #include "platform/NotificationCenter.h"
 #include "sim/seam/HostedView.h"
 #include "sim/seam/WindowState.h"
-#include "sim/session/ApplicationState.h"
+#include "sim/services/ApplicationState.h"
+#include "sim/services/Journal.h"
+#include "sim/services/Observers.h"
 #include "sim/session/Displays.h"
-#include "sim/session/Journal.h"
-#include "sim/session/Observers.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "sim/session/BundleContents.h"
+#include "sim/services/BundleContents.h"
 
 namespace kestrune::sim {
 

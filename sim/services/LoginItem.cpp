@@ -1,4 +1,4 @@
-#include "sim/session/LoginItem.h"
+#include "sim/services/LoginItem.h"
 
 namespace kestrune::sim {
 

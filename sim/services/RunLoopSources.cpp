@@ -1,4 +1,4 @@
-#include "sim/session/RunLoopSources.h"
+#include "sim/services/RunLoopSources.h"
 
 #include <algorithm>
 #include <utility>

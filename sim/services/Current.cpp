@@ -1,4 +1,4 @@
-#include "sim/session/Current.h"
+#include "sim/services/Current.h"
 
 #include "base/Fatal.h"
 

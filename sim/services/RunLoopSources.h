@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/RunLoop.h"
-#include "sim/session/Tap.h"
+#include "sim/services/Tap.h"
 
 #include <memory>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "sim/session/StatusItems.h"
+#include "sim/services/StatusItems.h"
 
 #include "sim/seam/StatusItemState.h"
 

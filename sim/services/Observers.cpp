@@ -1,4 +1,4 @@
-#include "sim/session/Observers.h"
+#include "sim/services/Observers.h"
 
 #include "sim/seam/NotificationState.h"
 

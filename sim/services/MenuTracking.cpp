@@ -1,12 +1,12 @@
-#include "sim/session/MenuTracking.h"
+#include "sim/services/MenuTracking.h"
 
 #include "sim/seam/MenuState.h"
 #include "sim/seam/StatusItemState.h"
-#include "sim/session/ApplicationState.h"
-#include "sim/session/BundleContents.h"
-#include "sim/session/Journal.h"
-#include "sim/session/StatusItems.h"
-#include "sim/session/Timers.h"
+#include "sim/services/ApplicationState.h"
+#include "sim/services/BundleContents.h"
+#include "sim/services/Journal.h"
+#include "sim/services/StatusItems.h"
+#include "sim/services/Timers.h"
 
 #include <algorithm>
 #include <utility>

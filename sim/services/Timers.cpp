@@ -1,4 +1,4 @@
-#include "sim/session/Timers.h"
+#include "sim/services/Timers.h"
 
 #include "sim/seam/TimerState.h"
 

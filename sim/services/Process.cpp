@@ -1,4 +1,4 @@
-#include "sim/session/Process.h"
+#include "sim/services/Process.h"
 
 namespace kestrune::sim {
 

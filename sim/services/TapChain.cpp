@@ -1,4 +1,4 @@
-#include "sim/session/TapChain.h"
+#include "sim/services/TapChain.h"
 
 #include <algorithm>
 #include <utility>

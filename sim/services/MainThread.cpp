@@ -1,6 +1,6 @@
-#include "sim/session/MainThread.h"
+#include "sim/services/MainThread.h"
 
-#include "sim/session/Timers.h"
+#include "sim/services/Timers.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 // How many objects of the platform's the application retains.
 #pragma once
 
-#include "sim/session/Journal.h"
+#include "sim/services/Journal.h"
 
 #include <cstdint>
 #include <memory>

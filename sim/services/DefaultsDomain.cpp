@@ -1,4 +1,4 @@
-#include "sim/session/DefaultsDomain.h"
+#include "sim/services/DefaultsDomain.h"
 
 #include <utility>
 

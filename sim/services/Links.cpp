@@ -1,6 +1,6 @@
-#include "sim/session/Links.h"
+#include "sim/services/Links.h"
 
-#include "sim/session/Accessibility.h"
+#include "sim/services/Accessibility.h"
 
 namespace kestrune::sim {
 

@@ -1,11 +1,11 @@
-#include "sim/session/Updates.h"
+#include "sim/services/Updates.h"
 
 #include "sim/seam/HostedView.h"
 #include "sim/seam/WindowState.h"
-#include "sim/session/BundleContents.h"
-#include "sim/session/Journal.h"
-#include "sim/session/MainThread.h"
-#include "sim/session/Windows.h"
+#include "sim/services/BundleContents.h"
+#include "sim/services/Journal.h"
+#include "sim/services/MainThread.h"
+#include "sim/services/Windows.h"
 
 #include <utility>
 #include <vector>
