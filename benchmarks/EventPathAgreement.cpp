@@ -2,7 +2,7 @@
 
 #include "benchmarks/EventPathCase.h"
 #include "benchmarks/ResultHash.h"
-#include "desk/recording/SplitMix64.h"
+#include "replay/recording/SplitMix64.h"
 
 #include <cstdio>
 #include <string>
@@ -12,7 +12,7 @@ namespace kestrune::benchmarks {
 namespace {
 
 // Half of the locations are in the last points above a bottom edge; some are on no display.
-Point someLocation(desk::SplitMix64& random, const EventPathCase& eventPath) {
+Point someLocation(replay::SplitMix64& random, const EventPathCase& eventPath) {
     const Rect extent = eventPath.extent();
     const double height = eventPath.displayHeight();
     const double x = extent.minX() - 10 + random.unit() * (extent.width() + 20);
@@ -25,7 +25,7 @@ Point someLocation(desk::SplitMix64& random, const EventPathCase& eventPath) {
 
 bool agree(const EventPathRow& row, std::size_t events, ResultHash& hash) {
     EventPathCase eventPath(row);
-    desk::SplitMix64 random(row.displayCount);
+    replay::SplitMix64 random(row.displayCount);
     for (std::size_t index = 0; index < events; ++index) {
         const Point location = someLocation(random, eventPath);
         const Point expected = eventPath.handled(Handler::floor, location);

@@ -1,7 +1,7 @@
 #include "benchmarks/EventPathCase.h"
 
 #include "base/Geometry.h"
-#include "desk/replay/StoredChoices.h"
+#include "replay/StoredChoices.h"
 #include "sim/session/Display.h"
 
 #include <optional>
@@ -31,9 +31,9 @@ sim::SessionOptions optionsOf(const EventPathRow& row) {
     options.displays = column(row.displayCount);
     options.recordJournal = false;
     const std::size_t pinned = row.place == Place::pinned ? row.displayCount - 1 : 0;
-    desk::store({.isEnabled = row.isEnabledStored ? std::optional(true) : std::nullopt,
-                 .pinnedScreenUUID = sim::uuidOfDisplay(numberOf(pinned))},
-                options.defaults);
+    replay::store({.isEnabled = row.isEnabledStored ? std::optional(true) : std::nullopt,
+                   .pinnedScreenUUID = sim::uuidOfDisplay(numberOf(pinned))},
+                  options.defaults);
     return options;
 }
 

@@ -2,8 +2,8 @@
 
 #include "Kestrune/Preferences.h"
 #include "base/Fatal.h"
-#include "desk/replay/StoredChoices.h"
 #include "platform/UserDefaults.h"
+#include "replay/StoredChoices.h"
 #include "sim/session/Display.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ sim::SessionOptions optionsFor(std::size_t displayCount) {
     for (const Rect& bounds : arrangementOf(displayCount)) {
         options.displays.push_back(sim::makeDisplay(++number, "Display", bounds));
     }
-    desk::store({.isEnabled = true, .pinnedScreenUUID = options.displays.front().uuid}, options.defaults);
+    replay::store({.isEnabled = true, .pinnedScreenUUID = options.displays.front().uuid}, options.defaults);
     return options;
 }
 

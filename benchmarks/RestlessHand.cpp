@@ -1,7 +1,7 @@
 #include "benchmarks/RestlessHand.h"
 
 #include "base/Fatal.h"
-#include "desk/recording/StrokeModel.h"
+#include "replay/recording/StrokeModel.h"
 
 #include <cmath>
 #include <utility>
@@ -37,7 +37,7 @@ Point RestlessHand::nextMovement(Point pointer) {
     ++strokeStep_;
     const double before = progress_;
     progress_ =
-        desk::minimumJerkProgress(static_cast<double>(strokeStep_) / static_cast<double>(strokeLength_));
+        replay::minimumJerkProgress(static_cast<double>(strokeStep_) / static_cast<double>(strokeLength_));
     return {distance_.x * (progress_ - before), distance_.y * (progress_ - before)};
 }
 
@@ -51,7 +51,7 @@ void RestlessHand::beginStroke(Point pointer) {
                  display.minY() + down * display.height() - pointer.y};
     // A square root is rounded alike everywhere, a hypotenuse is not.
     const double length = std::sqrt(distance_.x * distance_.x + distance_.y * distance_.y);
-    strokeLength_ = desk::strokeDuration(desk::MousePointing, length, TargetWidth).count();
+    strokeLength_ = replay::strokeDuration(replay::MousePointing, length, TargetWidth).count();
     strokeStep_ = 0;
     progress_ = 0;
     pushesLeft_ = pushes ? random_.between(ShortestPush, LongestPush) : 0;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/recording/SplitMix64.h"
+#include "replay/recording/SplitMix64.h"
 
 #include <cstdint>
 #include <vector>
@@ -24,7 +24,7 @@ private:
     void beginStroke(Point pointer);
 
     std::vector<Rect> displays_;
-    desk::SplitMix64 random_;
+    replay::SplitMix64 random_;
     Point distance_;
     std::int64_t strokeLength_ = 0;
     std::int64_t strokeStep_ = 0;

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int BadInput = 2;
 
-int refuse(const InputError& error) {
+int refuse(const replay::InputError& error) {
     std::fprintf(stderr, "kestrune-desk: %s\n", error.message.c_str());
     return BadInput;
 }
@@ -32,11 +32,11 @@ int print(std::string_view text) {
     return 0;
 }
 
-int finish(const std::optional<InputError>& error) { return error ? refuse(*error) : 0; }
+int finish(const std::optional<replay::InputError>& error) { return error ? refuse(*error) : 0; }
 
-int finish(const std::variant<std::string, InputError>& result) {
+int finish(const std::variant<std::string, replay::InputError>& result) {
     const auto* text = std::get_if<std::string>(&result);
-    return text != nullptr ? print(*text) : refuse(std::get<InputError>(result));
+    return text != nullptr ? print(*text) : refuse(std::get<replay::InputError>(result));
 }
 
 // Each gives the exit status.
@@ -55,7 +55,7 @@ struct Runner {
 
 int runCommandLine(std::span<const std::string_view> words) {
     const auto read = readCommand(words);
-    if (const auto* error = std::get_if<InputError>(&read)) {
+    if (const auto* error = std::get_if<replay::InputError>(&read)) {
         return refuse(*error);
     }
     const auto& command = std::get<Command>(read);

@@ -1,6 +1,6 @@
 #include "desk/command/Command.h"
 
-#include "desk/recording/DisplayList.h"
+#include "replay/recording/DisplayList.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -40,7 +40,7 @@ CLI::Validator wholeNumber(std::uint64_t least, std::uint64_t most) {
                 const auto number = parsed<std::uint64_t>(text);
                 if (!number || *number < least || *number > most) {
                     return "expected a whole number from " + std::to_string(least) + " to " +
-                           std::to_string(most) + ", found " + inQuotes(text);
+                           std::to_string(most) + ", found " + replay::inQuotes(text);
                 }
                 text = std::to_string(*number);
                 return std::string();
@@ -53,7 +53,7 @@ CLI::Validator finiteNumber() {
                 const auto number = parsed<double>(text);
                 return number && std::isfinite(*number)
                            ? std::string()
-                           : "expected a finite number of points, found " + inQuotes(text);
+                           : "expected a finite number of points, found " + replay::inQuotes(text);
             },
             ""};
 }
@@ -179,8 +179,8 @@ private:
     }
 
     void readDisplays() {
-        auto displays = parseDisplayList(displays_);
-        if (const auto* error = std::get_if<InputError>(&displays)) {
+        auto displays = replay::parseDisplayList(displays_);
+        if (const auto* error = std::get_if<replay::InputError>(&displays)) {
             throw CLI::ValidationError(error->message);
         }
         options_.displays = std::get<std::vector<Rect>>(std::move(displays));
@@ -215,7 +215,7 @@ private:
         };
         if (!fits(width) || !fits(height)) {
             throw CLI::ValidationError("--size", "expected WxH with whole numbers from 1 to 65535, found " +
-                                                     inQuotes(size));
+                                                     replay::inQuotes(size));
         }
         make_.width = *width;
         make_.height = *height;
@@ -260,11 +260,11 @@ private:
 
 } // namespace
 
-std::variant<Command, InputError> readCommand(std::span<const std::string_view> arguments) {
+std::variant<Command, replay::InputError> readCommand(std::span<const std::string_view> arguments) {
     try {
         return CommandLine().read(arguments);
     } catch (const CLI::ParseError& error) {
-        return InputError{onOneLine(error.what())};
+        return replay::InputError{replay::onOneLine(error.what())};
     }
 }
 

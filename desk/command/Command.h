@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desk/command/Options.h"
-#include "desk/recording/InputError.h"
+#include "replay/recording/InputError.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -59,6 +59,6 @@ struct Command {
 };
 
 // `arguments` are those after the program's name. The error names the option and what was expected.
-std::variant<Command, InputError> readCommand(std::span<const std::string_view> arguments);
+std::variant<Command, replay::InputError> readCommand(std::span<const std::string_view> arguments);
 
 } // namespace kestrune::desk

@@ -1,7 +1,7 @@
 #include "desk/headless/LaunchCommand.h"
 
 #include "desk/live/world/LiveDeskSetup.h"
-#include "desk/replay/ApplicationHost.h"
+#include "replay/ApplicationHost.h"
 #include "sim/session/JournalOutline.h"
 
 #include <cstddef>
@@ -35,15 +35,15 @@ std::string foldedText(const std::vector<std::string>& journal) {
 
 } // namespace
 
-std::variant<std::string, InputError> runLaunch(const Options& options) {
+std::variant<std::string, replay::InputError> runLaunch(const Options& options) {
     const auto setup = setupOf(options);
-    if (const auto* error = std::get_if<InputError>(&setup)) {
+    if (const auto* error = std::get_if<replay::InputError>(&setup)) {
         return *error;
     }
     sim::SessionOptions sessionOptions = sessionOptionsOf(std::get<LiveDeskSetup>(setup));
     sessionOptions.recordJournal = true;
     sim::Session session(sessionOptions);
-    const ApplicationHost host(session);
+    const replay::ApplicationHost host(session);
     return foldedText(session.journal().take());
 }
 

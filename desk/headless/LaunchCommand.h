@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desk/command/Options.h"
-#include "desk/recording/InputError.h"
+#include "replay/recording/InputError.h"
 
 #include <string>
 #include <variant>
@@ -11,6 +11,6 @@ namespace kestrune::desk {
 
 // Every call from the start of the process to the end of what the launch left to be done, a line each in
 // order; calls that only build menu items or read the displays are counted.
-std::variant<std::string, InputError> runLaunch(const Options& options);
+std::variant<std::string, replay::InputError> runLaunch(const Options& options);
 
 } // namespace kestrune::desk

@@ -2,11 +2,11 @@
 
 #include "desk/live/world/LivePicture.h"
 #include "desk/paint/sheets/Sheet.h"
-#include "desk/recording/MotionGenerator.h"
-#include "desk/recording/RecordingReader.h"
-#include "desk/recording/RecordingWriter.h"
-#include "desk/replay/Emission.h"
-#include "desk/replay/Replay.h"
+#include "replay/Emission.h"
+#include "replay/Replay.h"
+#include "replay/recording/MotionGenerator.h"
+#include "replay/recording/RecordingReader.h"
+#include "replay/recording/RecordingWriter.h"
 
 #include <filesystem>
 #include <utility>
@@ -17,37 +17,39 @@ namespace {
 
 constexpr double PixelsPerPoint = 2;
 
-using MaybeError = std::optional<InputError>;
+using MaybeError = std::optional<replay::InputError>;
 
-Report deliver(const Recording& recording, SimulatedDesk& desk, std::optional<Emission>& emission) {
-    return replay(recording, desk, [&](std::uint64_t index, const sim::Delivery& delivery) {
+replay::Report deliver(const replay::Recording& recording, replay::SimulatedDesk& desk,
+                       std::optional<replay::Emission>& emission) {
+    return replay::play(recording, desk, [&](std::uint64_t index, const sim::Delivery& delivery) {
         if (emission) {
             emission->write(index, delivery);
         }
     });
 }
 
-MaybeError writeScreenshot(const std::string& path, bool dark, SimulatedDesk& desk, const Report& report) {
+MaybeError writeScreenshot(const std::string& path, bool dark, replay::SimulatedDesk& desk,
+                           const replay::Report& report) {
     DeskPicture picture = pictureAfterReplay(desk, report);
     picture.dark = dark;
     const auto error = writePicture(path, pictureOfDesk(std::move(picture), UsualWindow), PixelsPerPoint);
-    return error ? MaybeError(InputError{error->message}) : std::nullopt;
+    return error ? MaybeError(replay::InputError{error->message}) : std::nullopt;
 }
 
 } // namespace
 
-std::variant<std::string, InputError> runReplay(const PlayRecording& play, const Options& options) {
-    const auto recording = readRecording(std::filesystem::path(play.recording));
-    if (const auto* error = std::get_if<InputError>(&recording)) {
+std::variant<std::string, replay::InputError> runReplay(const PlayRecording& play, const Options& options) {
+    const auto recording = replay::readRecording(std::filesystem::path(play.recording));
+    if (const auto* error = std::get_if<replay::InputError>(&recording)) {
         return *error;
     }
-    SimulatedDesk desk(
+    replay::SimulatedDesk desk(
         {options.displays, options.pinned.value_or(0), options.guardOn.value_or(true), options.margin});
-    std::optional<Emission> emission;
+    std::optional<replay::Emission> emission;
     if (play.emit) {
         emission.emplace(*play.emit);
     }
-    const Report report = deliver(std::get<Recording>(recording), desk, emission);
+    const replay::Report report = deliver(std::get<replay::Recording>(recording), desk, emission);
     if (const auto& path = play.outcome.screenshot) {
         if (MaybeError error = writeScreenshot(*path, options.dark, desk, report)) {
             return *error;
@@ -56,12 +58,12 @@ std::variant<std::string, InputError> runReplay(const PlayRecording& play, const
     if (MaybeError error = emission ? emission->finish() : std::nullopt) {
         return *error;
     }
-    return play.outcome.asJSON ? reportAsJSON(report) : reportAsText(report);
+    return play.outcome.asJSON ? replay::reportAsJSON(report) : replay::reportAsText(report);
 }
 
-std::optional<InputError> runGenerate(const MakeRecording& make) {
-    const MotionGeneratorOptions generator{make.seed, make.width, make.height, make.rows};
-    return writeRecording(std::filesystem::path(make.path), generateRows(generator));
+std::optional<replay::InputError> runGenerate(const MakeRecording& make) {
+    const replay::MotionGeneratorOptions generator{make.seed, make.width, make.height, make.rows};
+    return replay::writeRecording(std::filesystem::path(make.path), replay::generateRows(generator));
 }
 
 } // namespace kestrune::desk

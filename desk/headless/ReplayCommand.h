@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desk/command/Command.h"
-#include "desk/recording/InputError.h"
+#include "replay/recording/InputError.h"
 
 #include <optional>
 #include <string>
@@ -12,9 +12,9 @@ namespace kestrune::desk {
 
 // Plays a recording, writes what is asked for, and returns the report's text. Nothing
 // is reported unless everything was read and written.
-std::variant<std::string, InputError> runReplay(const PlayRecording& play, const Options& options);
+std::variant<std::string, replay::InputError> runReplay(const PlayRecording& play, const Options& options);
 
 // Writes a made-up recording; the error says why it could not be written.
-std::optional<InputError> runGenerate(const MakeRecording& make);
+std::optional<replay::InputError> runGenerate(const MakeRecording& make);
 
 } // namespace kestrune::desk

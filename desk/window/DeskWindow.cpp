@@ -306,8 +306,8 @@ int finish(DeskWindow& window, LiveDesk& desk, const Outcome& outcome) {
     if (const auto& error = desk.savingError()) {
         return refuse(*error);
     }
-    const Report report = desk.report();
-    const std::string text = outcome.asJSON ? reportAsJSON(report) : reportAsText(report);
+    const replay::Report report = desk.report();
+    const std::string text = outcome.asJSON ? replay::reportAsJSON(report) : replay::reportAsText(report);
     std::fwrite(text.data(), 1, text.size(), stdout);
     return 0;
 }
@@ -316,7 +316,7 @@ int finish(DeskWindow& window, LiveDesk& desk, const Outcome& outcome) {
 
 int runDeskWindow(const Options& options, const Outcome& outcome) {
     auto opened = openDesk(options);
-    if (const auto* error = std::get_if<InputError>(&opened)) {
+    if (const auto* error = std::get_if<replay::InputError>(&opened)) {
         return refuse(error->message);
     }
     auto desk = std::get<std::unique_ptr<LiveDesk>>(std::move(opened));

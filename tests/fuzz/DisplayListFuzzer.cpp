@@ -1,6 +1,6 @@
 // Display lists: what is accepted is an arrangement that can be, and reads back equal when it is written out;
 // what is refused is refused at a display.
-#include "desk/recording/DisplayList.h"
+#include "replay/recording/DisplayList.h"
 #include "tests/fuzz/Fuzzer.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@
 namespace kestrune {
 namespace {
 
-using desk::InputError;
+using replay::InputError;
 
 constexpr double Largest = 1'000'000;
 
@@ -57,14 +57,14 @@ void checkArrangement(const std::vector<Rect>& displays) {
 }
 
 void check(const std::string& text) {
-    const auto result = desk::parseDisplayList(text);
+    const auto result = replay::parseDisplayList(text);
     if (const auto* error = std::get_if<InputError>(&result)) {
         requireOneLine(error->message, "--displays: display ");
         return;
     }
     const auto& displays = std::get<std::vector<Rect>>(result);
     checkArrangement(displays);
-    const auto again = desk::parseDisplayList(written(displays));
+    const auto again = replay::parseDisplayList(written(displays));
     require(std::holds_alternative<std::vector<Rect>>(again), "what was written is read again");
     require(std::get<std::vector<Rect>>(again) == displays, "what was written reads back equal");
 }

@@ -1,8 +1,8 @@
 // Recordings: what is accepted keeps the rules that a player relies on, and its rows read back equal when
 // they are written; what is refused is refused at a line of the input.
-#include "desk/recording/RecordingReader.h"
-#include "desk/recording/RecordingWriter.h"
-#include "desk/recording/RowReader.h"
+#include "replay/recording/RecordingReader.h"
+#include "replay/recording/RecordingWriter.h"
+#include "replay/recording/RowReader.h"
 #include "tests/fuzz/Fuzzer.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 namespace kestrune {
 namespace {
 
-using namespace desk;
+using namespace replay;
 
 constexpr std::string_view Place = "fuzz.csv:";
 

@@ -26,10 +26,15 @@ JUDGES = {
         "properties_tests": (),
         **SESSIONS,
     },
-    "desk": {
-        "desk_recording_tests": (),
-        "command_tests": (),
+    "replay": {
+        "recording_tests": (),
         "replay_tests": (),
+        "command_tests": (),
+        "kestrune_live_tests": (),
+        **SESSIONS,
+    },
+    "desk": {
+        "command_tests": (),
         "kestrune_paint_tests": (),
         "headless_tests": (),
         "kestrune_live_tests": (),
@@ -64,9 +69,9 @@ GROUPS = (
     Group("simulation", ("sim",), 97),
     Group("binding", ("mac",), 92),
 )
-# The desk is judged when somebody asks for it: nothing ships of it, and nobody has said how good its tests
-# have to be.
-DESK = Group("desk", ("desk",), 0)
+# Replay and desk are judged when somebody asks for it: nothing ships of them, and nobody has said how good
+# their tests have to be.
+DESK = Group("desk", ("desk", "replay"), 0)
 
 
 def group_of(folder):

@@ -1,6 +1,6 @@
 // What the guard makes of a stream of pointer events: the same on every implementation of the seam.
 #include "Kestrune/Preferences.h"
-#include "desk/recording/DisplayList.h"
+#include "replay/recording/DisplayList.h"
 #include "tests/contract/World.h"
 #include "tests/scenarios/LaunchedApplication.h"
 #include "tests/scenarios/ShippedBundle.h"
@@ -92,7 +92,7 @@ std::vector<EventRow> events() {
 
 std::vector<contract::ConnectedDisplay> displays() {
     const auto frames =
-        desk::parseDisplayList(setting("KESTRUNE_DISPLAYS", "1512x982+0+0,1920x1080+1512-98"));
+        replay::parseDisplayList(setting("KESTRUNE_DISPLAYS", "1512x982+0+0,1920x1080+1512-98"));
     std::vector<contract::ConnectedDisplay> connected;
     for (const Rect& frame : std::get<std::vector<Rect>>(frames)) {
         const auto number = static_cast<DisplayID>(connected.size() + 1);

@@ -28,15 +28,16 @@ class Includes(TreeTest):
         self.assertEqual(result.examined, "2 files")
 
     def test_keep_folders_apart(self):
-        folders = ("base", "ui", "platform", "Kestrune", "mac", "sim", "desk")
+        folders = ("base", "ui", "platform", "Kestrune", "mac", "sim", "replay", "desk")
         headers = {f"{folder}/X.h": "" for folder in folders}
         forbidden = {
-            "base": ["ui", "platform", "Kestrune", "mac", "sim", "desk"],
-            "ui": ["platform", "Kestrune", "mac", "sim", "desk"],
-            "platform": ["Kestrune", "mac", "sim", "desk"],
-            "Kestrune": ["mac", "sim", "desk"],
-            "mac": ["Kestrune", "sim", "desk"],
-            "sim": ["Kestrune", "mac", "desk"],
+            "base": ["ui", "platform", "Kestrune", "mac", "sim", "replay", "desk"],
+            "ui": ["platform", "Kestrune", "mac", "sim", "replay", "desk"],
+            "platform": ["Kestrune", "mac", "sim", "replay", "desk"],
+            "Kestrune": ["mac", "sim", "replay", "desk"],
+            "mac": ["Kestrune", "sim", "replay", "desk"],
+            "sim": ["Kestrune", "mac", "replay", "desk"],
+            "replay": ["mac", "desk"],
             "desk": ["mac"],
         }
         for folder, others in forbidden.items():
@@ -82,7 +83,7 @@ class Includes(TreeTest):
                     (self.root / folder / "A.cpp").unlink()
 
     def test_keep_system_headers_out(self):
-        for folder in ("base", "ui", "platform", "Kestrune", "sim"):
+        for folder in ("base", "ui", "platform", "Kestrune", "sim", "replay"):
             for header in ("unistd.h", "CoreGraphics/CoreGraphics.h", "SDL.h", "cairo.h", "pango/pango.h"):
                 with self.subTest(folder=folder, header=header):
                     self.assert_found(
@@ -103,7 +104,7 @@ class Includes(TreeTest):
 
 class Facilities(TreeTest):
     def test_real_clocks_stay_out_of_the_application_and_the_simulation(self):
-        for folder in ("base", "ui", "platform", "Kestrune", "sim"):
+        for folder in ("base", "ui", "platform", "Kestrune", "sim", "replay"):
             for code in (
                 "std::chrono::steady_clock::now()",
                 "std::chrono::system_clock::now()",
@@ -119,12 +120,15 @@ class Facilities(TreeTest):
                     (self.root / folder / "A.cpp").unlink()
 
     def test_real_randomness_stays_out_of_the_simulation(self):
-        self.assert_found(
-            includes,
-            {"sim/A.cpp": "std::random_device device;\nint a = rand();\nint b = operand(1);\n"},
-            "sim/A.cpp:1: draws real randomness",
-            "sim/A.cpp:2: draws real randomness",
-        )
+        for folder in ("sim", "replay"):
+            with self.subTest(folder=folder):
+                self.assert_found(
+                    includes,
+                    {f"{folder}/A.cpp": "std::random_device device;\nint a = rand();\nint b = operand(1);\n"},
+                    f"{folder}/A.cpp:1: draws real randomness",
+                    f"{folder}/A.cpp:2: draws real randomness",
+                )
+                (self.root / folder / "A.cpp").unlink()
 
     def test_conditional_compilation_stays_behind_the_seam(self):
         self.assert_found(

@@ -127,10 +127,11 @@ class BadInput(MutantsTest):
         self.assert_refused("the count has to be 1 at least", "--count", "0", "ui")
         self.assert_refused("argument --seed: invalid int value: 'x'", "--seed", "x", "ui")
         self.assert_refused(
-            "no tests are known that judge docs; use Kestrune, base, desk, mac, platform, sim, ui", "docs"
+            "no tests are known that judge docs; use Kestrune, base, desk, mac, platform, replay, sim, ui",
+            "docs",
         )
         self.assert_refused(
-            "no tests are known that judge .; use Kestrune, base, desk, mac, platform, sim, ui", ""
+            "no tests are known that judge .; use Kestrune, base, desk, mac, platform, replay, sim, ui", ""
         )
         self.assert_refused("there is no folder Kestrune")
 

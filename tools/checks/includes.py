@@ -12,7 +12,8 @@ ALLOWED = {
     "Kestrune": {"base", "ui", "platform", "Kestrune"},
     "mac": {"base", "ui", "platform", "mac"},
     "sim": {"base", "ui", "platform", "sim"},
-    "desk": {"base", "ui", "platform", "Kestrune", "sim", "desk"},
+    "replay": {"base", "ui", "platform", "Kestrune", "sim", "replay"},
+    "desk": {"base", "ui", "platform", "Kestrune", "sim", "replay", "desk"},
 }
 FOLDERS = set(ALLOWED) | {"tests", "benchmarks"}
 
@@ -27,15 +28,15 @@ NOT_PORTABLE = set(
 )
 
 # Time and order come from outside: from the seam in the application, from the session in the simulation.
-WITHOUT_THREADS = {"ui", "platform", "Kestrune", "sim"}
+WITHOUT_THREADS = {"ui", "platform", "Kestrune", "sim", "replay"}
 THREADS = set(
     "atomic barrier condition_variable future latch mutex semaphore shared_mutex stop_token thread".split()
 )
-WITHOUT_CLOCKS = {"base", "ui", "platform", "Kestrune", "sim"}
+WITHOUT_CLOCKS = {"base", "ui", "platform", "Kestrune", "sim", "replay"}
 CLOCKS = {"ctime"}
 
 # Only the standard library stands behind these folders.
-WITHOUT_SYSTEM_HEADERS = {"base", "ui", "platform", "Kestrune", "sim"}
+WITHOUT_SYSTEM_HEADERS = {"base", "ui", "platform", "Kestrune", "sim", "replay"}
 STANDARD_HEADERS = set(
     "algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono "
     "cinttypes climits clocale cmath codecvt compare complex concepts condition_variable coroutine csetjmp "
@@ -60,7 +61,11 @@ CONDITIONAL = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b")
 # Folder sets, the pattern they stay away from, and what to say about it.
 RULES = [
     (WITHOUT_CLOCKS, REAL_CLOCK, "reads a real clock; take the time from the seam or from the session"),
-    (PORTABLE | {"sim"}, REAL_RANDOMNESS, "draws real randomness; take a seeded generator from the caller"),
+    (
+        PORTABLE | {"sim", "replay"},
+        REAL_RANDOMNESS,
+        "draws real randomness; take a seeded generator from the caller",
+    ),
     (
         {"ui", "platform", "Kestrune"},
         CONDITIONAL,

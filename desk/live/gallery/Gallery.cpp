@@ -16,7 +16,7 @@ namespace {
 constexpr double SceneScale = 2;
 constexpr double SheetScale = 1;
 
-using MaybeError = std::optional<InputError>;
+using MaybeError = std::optional<replay::InputError>;
 
 class Gallery {
 public:
@@ -54,7 +54,7 @@ private:
             const std::string name = chapter.nameOf(*scene);
             auto performed = stage.perform(*scene);
             if (const auto* missing = std::get_if<std::string>(&performed)) {
-                return InputError{"the scene " + name + " expected " + *missing};
+                return replay::InputError{"the scene " + name + " expected " + *missing};
             }
             auto& shown = std::get<DeskPicture>(performed);
             std::string caption = shown.story;
@@ -83,11 +83,11 @@ private:
         std::error_code failure;
         std::filesystem::create_directories(path.parent_path(), failure);
         if (failure) {
-            return inputError(path.parent_path().string(),
-                              "expected a folder that can be written: " + failure.message());
+            return replay::inputError(path.parent_path().string(),
+                                      "expected a folder that can be written: " + failure.message());
         }
         const auto error = writePicture(path.string(), picture, scale);
-        return error ? MaybeError(InputError{error->message}) : std::nullopt;
+        return error ? MaybeError(replay::InputError{error->message}) : std::nullopt;
     }
 
     const std::string& folder_;
@@ -112,7 +112,8 @@ MaybeError checkNames(const std::vector<std::string>& wanted) {
     }
     for (const std::string& name : wanted) {
         if (std::find(names.begin(), names.end(), name) == names.end()) {
-            return InputError{"--gallery: no scene is called " + inQuotes(name) + "; there are " + list};
+            return replay::InputError{"--gallery: no scene is called " + replay::inQuotes(name) +
+                                      "; there are " + list};
         }
     }
     return std::nullopt;
@@ -125,15 +126,15 @@ const std::vector<Chapter>& chapters() {
     return all;
 }
 
-std::optional<InputError> drawGallery(const std::string& folder, const std::vector<std::string>& scenes,
-                                      const Options& options) {
+std::optional<replay::InputError>
+drawGallery(const std::string& folder, const std::vector<std::string>& scenes, const Options& options) {
     if (auto error = checkNames(scenes)) {
         return error;
     }
     Options bare;
     bare.displays = options.displays;
     auto setup = setupOf(bare);
-    if (auto* error = std::get_if<InputError>(&setup)) {
+    if (auto* error = std::get_if<replay::InputError>(&setup)) {
         return std::move(*error);
     }
     const Gallery gallery(folder, scenes, std::get<LiveDeskSetup>(std::move(setup)), options.dark);

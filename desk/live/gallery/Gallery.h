@@ -3,7 +3,7 @@
 
 #include "desk/command/Options.h"
 #include "desk/live/gallery/Chapter.h"
-#include "desk/recording/InputError.h"
+#include "replay/recording/InputError.h"
 
 #include <optional>
 #include <string>
@@ -18,7 +18,7 @@ const std::vector<Chapter>& chapters();
 // logical one. The name of a chapter is that of the sheet with all its scenes. The preferences that are
 // stored are not touched. The error says which scenes there are when one is named that is not, what a scene
 // did not find, or what could not be written.
-std::optional<InputError> drawGallery(const std::string& folder, const std::vector<std::string>& scenes,
-                                      const Options& options);
+std::optional<replay::InputError> drawGallery(const std::string& folder,
+                                              const std::vector<std::string>& scenes, const Options& options);
 
 } // namespace kestrune::desk

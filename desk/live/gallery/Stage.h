@@ -5,7 +5,7 @@
 #include "desk/live/world/LiveDesk.h"
 #include "desk/live/world/LiveDeskSetup.h"
 #include "desk/paint/desk/DeskPicture.h"
-#include "desk/recording/InputError.h"
+#include "replay/recording/InputError.h"
 
 #include <functional>
 #include <optional>

@@ -2,7 +2,7 @@
 
 #include "Kestrune/Preferences.h"
 #include "desk/live/gallery/Chapter.h"
-#include "desk/recording/Utf8.h"
+#include "replay/recording/Utf8.h"
 
 #include <algorithm>
 #include <chrono>
@@ -34,7 +34,7 @@ std::string lengthened(const std::string& text) {
     }
     result.resize(wanted);
     // Half a character is not left over.
-    while (firstInvalidUtf8(result)) {
+    while (replay::firstInvalidUtf8(result)) {
         result.pop_back();
     }
     return result;

@@ -58,7 +58,7 @@ void LiveDesk::movePointerTowards(Point target, EventType type) {
     }
     const sim::Duration sentAt = now();
     const auto dockBefore = session_.dock().display();
-    JudgedDesk judged = judgedDesk();
+    replay::JudgedDesk judged = judgedDesk();
     const sim::Delivery delivery = session_.movePointerTo(target, type);
 
     // The system passes an event on as it is when the tap does not answer in time.
@@ -291,8 +291,8 @@ void LiveDesk::setMargin(double wanted) {
 }
 
 // Made from what is stored and connected, not from what the guard remembers.
-JudgedDesk LiveDesk::judgedDesk() {
-    JudgedDesk judged;
+replay::JudgedDesk LiveDesk::judgedDesk() {
+    replay::JudgedDesk judged;
     const sim::Display* pinned = pinnedDisplay(session_);
     for (const sim::Display& display : session_.displays().connected()) {
         if (&display == pinned) {
@@ -332,8 +332,8 @@ News LiveDesk::news() const {
     return news_;
 }
 
-Report LiveDesk::report() {
-    Report report = report_;
+replay::Report LiveDesk::report() {
+    replay::Report report = report_;
     report.dockMoves = session_.dock().moves();
     report.dockDisplay = session_.dock().display().value_or(lastDockDisplay_) - 1;
     return report;

@@ -6,10 +6,10 @@
 #include "desk/live/world/News.h"
 #include "desk/live/world/Plugs.h"
 #include "desk/live/world/ScreenParts.h"
-#include "desk/replay/ApplicationHost.h"
-#include "desk/replay/Judge.h"
-#include "desk/replay/Report.h"
-#include "desk/replay/StoredChoices.h"
+#include "replay/ApplicationHost.h"
+#include "replay/Judge.h"
+#include "replay/Report.h"
+#include "replay/StoredChoices.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
@@ -102,7 +102,7 @@ public:
     const std::optional<std::string>& savingError() const { return savingError_; }
 
     // Displays count by their numbers. When none is connected, the Dock is where it was last.
-    Report report();
+    replay::Report report();
 
     struct HeldPointer {
         Point location; // global display coordinates
@@ -118,7 +118,7 @@ public:
     const std::optional<DockMove>& dockMove() const { return dockMove_; }
 
     sim::Session& session() { return session_; }
-    const ApplicationHost& host() const { return host_; }
+    const replay::ApplicationHost& host() const { return host_; }
     ScreenParts& parts() { return parts_; }
 
     // The display under the pointer, as an index; the first where there is none.
@@ -130,22 +130,22 @@ private:
     // Does something and tells what has changed by it.
     void tell(const std::function<PartsOutcome()>& action);
     Standing standing();
-    StoredChoices choices() { return StoredChoices(session_.defaults()); }
+    replay::StoredChoices choices() { return replay::StoredChoices(session_.defaults()); }
     void noteDelivery(const sim::Delivery& delivery, bool answered);
     void noteDockMove(DisplayID from);
     void changeDisplays(std::vector<sim::Display> displays);
     void setMargin(double wanted);
-    JudgedDesk judgedDesk();
+    replay::JudgedDesk judgedDesk();
     Whereabouts whereabouts();
     std::string nameOf(std::optional<DisplayID> number);
 
     sim::Session session_;
-    ApplicationHost host_{session_};
+    replay::ApplicationHost host_{session_};
     ScreenParts parts_{session_};
     bool doLoginItemsWait_ = false;
     sim::UpdateFeed feed_ = sim::UpdateFeed::nothingNew;
     Plugs plugs_{session_};
-    Report report_;
+    replay::Report report_;
     News news_;
     std::optional<std::string> savingError_;
     std::optional<HeldPointer> heldPointer_;

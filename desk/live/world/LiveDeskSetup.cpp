@@ -1,8 +1,8 @@
 #include "desk/live/world/LiveDeskSetup.h"
 
 #include "desk/paint/toolkit/PangoMeasurer.h"
-#include "desk/replay/SimulatedDesk.h"
-#include "desk/replay/StoredChoices.h"
+#include "replay/SimulatedDesk.h"
+#include "replay/StoredChoices.h"
 #include "sim/formats/DefaultsFile.h"
 #include "sim/formats/ResourceFolder.h"
 
@@ -19,7 +19,7 @@ const ui::Measurer& pangoMeasurer() {
 
 } // namespace
 
-std::variant<LiveDeskSetup, InputError> setupOf(const Options& options) {
+std::variant<LiveDeskSetup, replay::InputError> setupOf(const Options& options) {
     LiveDeskSetup setup;
     setup.displays = options.displays;
     setup.pinned = options.pinned;
@@ -29,7 +29,7 @@ std::variant<LiveDeskSetup, InputError> setupOf(const Options& options) {
     setup.permission = options.isPermissionGranted ? sim::Permission::granted : sim::Permission::notListed;
     auto bundle = sim::loadResourceFolder(KESTRUNE_RESOURCES);
     if (auto* error = std::get_if<std::string>(&bundle)) {
-        return InputError{std::move(*error)};
+        return replay::InputError{std::move(*error)};
     }
     setup.bundle = std::get<sim::BundleContents>(std::move(bundle));
     // Which address a build has is decided when it is packaged; here it only has to be there.
@@ -38,7 +38,7 @@ std::variant<LiveDeskSetup, InputError> setupOf(const Options& options) {
     if (options.defaults) {
         auto loaded = sim::loadDefaultsFile(*options.defaults);
         if (auto* error = std::get_if<std::string>(&loaded)) {
-            return InputError{std::move(*error)};
+            return replay::InputError{std::move(*error)};
         }
         setup.defaults = std::get<sim::PropertyListDictionary>(std::move(loaded));
     }
@@ -47,14 +47,14 @@ std::variant<LiveDeskSetup, InputError> setupOf(const Options& options) {
 
 sim::SessionOptions sessionOptionsOf(const LiveDeskSetup& setup) {
     sim::SessionOptions options;
-    options.displays = connectDisplays(setup.displays);
+    options.displays = replay::connectDisplays(setup.displays);
     options.recordJournal = false;
     options.permission = setup.permission;
     options.bundle = setup.bundle;
     options.measurer = setup.measurer != nullptr ? setup.measurer : &pangoMeasurer();
     options.defaults = setup.defaults;
     const auto pinned = setup.pinned ? options.displays.at(*setup.pinned).uuid : std::nullopt;
-    store({setup.guardOn, pinned, setup.margin}, options.defaults);
+    replay::store({setup.guardOn, pinned, setup.margin}, options.defaults);
     return options;
 }
 

@@ -3,7 +3,7 @@
 
 #include "base/Geometry.h"
 #include "desk/command/Options.h"
-#include "desk/recording/InputError.h"
+#include "replay/recording/InputError.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
@@ -38,7 +38,7 @@ struct LiveDeskSetup {
 
 // As the command line asks for it, with the application's own resources and the preferences of the options'
 // file, which the choices among the options replace. The error says why a file could not be read.
-std::variant<LiveDeskSetup, InputError> setupOf(const Options& options);
+std::variant<LiveDeskSetup, replay::InputError> setupOf(const Options& options);
 
 // The session that the setup describes. It records no journal.
 sim::SessionOptions sessionOptionsOf(const LiveDeskSetup& setup);

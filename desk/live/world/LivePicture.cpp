@@ -4,7 +4,7 @@
 #include "desk/live/hand/DeskKeys.h"
 #include "desk/live/world/PinnedDisplay.h"
 #include "desk/paint/desk/StatusBarPainter.h"
-#include "desk/replay/StoredChoices.h"
+#include "replay/StoredChoices.h"
 
 #include <algorithm>
 #include <array>
@@ -28,8 +28,8 @@ std::string clockText(sim::Duration sinceStart) {
     return text.data();
 }
 
-GuardState guardState(sim::Session& session, const ApplicationHost& host) {
-    if (!host.isRunning() || !StoredChoices(session.defaults()).isEnabled()) {
+GuardState guardState(sim::Session& session, const replay::ApplicationHost& host) {
+    if (!host.isRunning() || !replay::StoredChoices(session.defaults()).isEnabled()) {
         return GuardState::off;
     }
     if (!session.accessibility().allowsActiveTaps()) {
@@ -45,7 +45,7 @@ DisplayPicture pictureOfDisplay(const sim::Display& display, sim::Session& sessi
     picture.pinned = &display == pinnedDisplay(session);
     if (!picture.pinned && session.displays().connected().size() >= 2) {
         picture.bandTop =
-            BlockedBand(display.bounds, StoredChoices(session.defaults()).blockMargin()).heldY();
+            BlockedBand(display.bounds, replay::StoredChoices(session.defaults()).blockMargin()).heldY();
     }
     picture.wallpaper = display.displayID - 1;
     return picture;
@@ -61,7 +61,7 @@ std::optional<std::size_t> indexOf(DisplayID number, sim::Session& session) {
     return std::nullopt;
 }
 
-DeskPicture pictureOfSession(sim::Session& session, const ApplicationHost& host) {
+DeskPicture pictureOfSession(sim::Session& session, const replay::ApplicationHost& host) {
     DeskPicture picture;
     for (const sim::Display& display : session.displays().connected()) {
         picture.displays.push_back(pictureOfDisplay(display, session));
@@ -75,7 +75,7 @@ DeskPicture pictureOfSession(sim::Session& session, const ApplicationHost& host)
     return picture;
 }
 
-void addCounts(DeskPicture& picture, const Report& report) {
+void addCounts(DeskPicture& picture, const replay::Report& report) {
     picture.events = report.events;
     picture.held = report.changed;
     picture.dockMoves = report.dockMoves;
@@ -121,7 +121,7 @@ DeskPicture pictureOf(LiveDesk& desk) {
     return picture;
 }
 
-DeskPicture pictureAfterReplay(SimulatedDesk& desk, const Report& report) {
+DeskPicture pictureAfterReplay(replay::SimulatedDesk& desk, const replay::Report& report) {
     DeskPicture picture = pictureOfSession(desk.session(), desk.host());
     addCounts(picture, report);
     const std::string dock = picture.dockDisplay ? picture.displays[*picture.dockDisplay].name : "no display";

@@ -3,8 +3,8 @@
 
 #include "desk/live/world/LiveDesk.h"
 #include "desk/paint/desk/DeskPicture.h"
-#include "desk/replay/Report.h"
-#include "desk/replay/SimulatedDesk.h"
+#include "replay/Report.h"
+#include "replay/SimulatedDesk.h"
 
 namespace kestrune::desk {
 
@@ -15,6 +15,6 @@ inline constexpr Size UsualWindow{1440, 900};
 DeskPicture pictureOf(LiveDesk& desk);
 
 // The desk in the end, and a sentence on what came of the recording. Without the key legend.
-DeskPicture pictureAfterReplay(SimulatedDesk& desk, const Report& report);
+DeskPicture pictureAfterReplay(replay::SimulatedDesk& desk, const replay::Report& report);
 
 } // namespace kestrune::desk

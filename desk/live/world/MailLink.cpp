@@ -1,6 +1,6 @@
 #include "desk/live/world/MailLink.h"
 
-#include "desk/recording/Utf8.h"
+#include "replay/recording/Utf8.h"
 
 #include <algorithm>
 #include <charconv>
@@ -61,7 +61,7 @@ std::optional<std::string> percentDecoded(std::string_view text) {
         result += *byte;
         index += DigitCount;
     }
-    return firstInvalidUtf8(result) ? std::nullopt : std::optional(std::move(result));
+    return replay::firstInvalidUtf8(result) ? std::nullopt : std::optional(std::move(result));
 }
 
 std::optional<MailLink> readMailLink(std::string_view link) {

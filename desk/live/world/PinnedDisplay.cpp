@@ -1,6 +1,6 @@
 #include "desk/live/world/PinnedDisplay.h"
 
-#include "desk/replay/StoredChoices.h"
+#include "replay/StoredChoices.h"
 
 #include <algorithm>
 #include <optional>
@@ -10,7 +10,7 @@ namespace kestrune::desk {
 
 const sim::Display* pinnedDisplay(sim::Session& session) {
     const auto& connected = session.displays().connected();
-    const std::optional<std::string> choice = StoredChoices(session.defaults()).pinnedScreenUUID();
+    const std::optional<std::string> choice = replay::StoredChoices(session.defaults()).pinnedScreenUUID();
     const auto chosen = std::find_if(connected.begin(), connected.end(), [&](const sim::Display& display) {
         return choice && display.uuid == choice;
     });

@@ -18,7 +18,7 @@ using Words = std::vector<std::string_view>;
 
 Command read(const Words& arguments) {
     const auto command = readCommand(arguments);
-    if (const auto* error = std::get_if<InputError>(&command)) {
+    if (const auto* error = std::get_if<replay::InputError>(&command)) {
         ADD_FAILURE() << error->message;
         return {};
     }
@@ -37,7 +37,7 @@ Wanted modeOf(const Words& arguments) {
 
 std::string refusalOf(const Words& arguments) {
     const auto command = readCommand(arguments);
-    const auto* error = std::get_if<InputError>(&command);
+    const auto* error = std::get_if<replay::InputError>(&command);
     return error != nullptr ? error->message : "accepted";
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 std::string launched(const Options& options) {
     const auto result = runLaunch(options);
-    if (const auto* error = std::get_if<InputError>(&result)) {
+    if (const auto* error = std::get_if<replay::InputError>(&result)) {
         ADD_FAILURE() << error->message;
         return "";
     }
@@ -160,8 +160,8 @@ TEST(LaunchCommand, ReadsTheDefaultsFileAndLeavesItAlone) {
     Options options;
     options.defaults = folder.file("defaults.plist", "nonsense");
     const auto refused = runLaunch(options);
-    ASSERT_TRUE(std::holds_alternative<InputError>(refused));
-    EXPECT_EQ(std::get<InputError>(refused).message.rfind(*options.defaults, 0), 0U);
+    ASSERT_TRUE(std::holds_alternative<replay::InputError>(refused));
+    EXPECT_EQ(std::get<replay::InputError>(refused).message.rfind(*options.defaults, 0), 0U);
 
     options.defaults = folder.path() / "absent.plist";
     launched(options);

@@ -11,7 +11,7 @@ namespace {
 
 LiveDeskSetup setup(const Options& options) {
     auto result = setupOf(options);
-    if (const auto* error = std::get_if<InputError>(&result)) {
+    if (const auto* error = std::get_if<replay::InputError>(&result)) {
         ADD_FAILURE() << error->message;
         return {};
     }
@@ -84,8 +84,8 @@ TEST(LiveDeskSetup, TellsWhichFileCannotBeRead) {
     Options options;
     options.defaults = folder.file("defaults.plist", "nonsense");
     const auto result = setupOf(options);
-    ASSERT_TRUE(std::holds_alternative<InputError>(result));
-    EXPECT_EQ(std::get<InputError>(result).message.rfind(*options.defaults, 0), 0U);
+    ASSERT_TRUE(std::holds_alternative<replay::InputError>(result));
+    EXPECT_EQ(std::get<replay::InputError>(result).message.rfind(*options.defaults, 0), 0U);
 }
 
 } // namespace

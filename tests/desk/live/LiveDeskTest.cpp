@@ -38,7 +38,7 @@ TEST(LiveDesk, HoldsThePointerAndTellsWhere) {
     EXPECT_EQ(desk.heldPointer()->location, (Point{2472, 977}));
     EXPECT_EQ(desk.heldPointer()->time, std::chrono::milliseconds(400));
 
-    const Report report = desk.report();
+    const replay::Report report = desk.report();
     EXPECT_EQ(report.events, 41U);
     EXPECT_EQ(report.changed, 40U);
     EXPECT_EQ(report.swallowed, 0U);
@@ -65,7 +65,7 @@ TEST(LiveDesk, TellsThatTheDockMoved) {
     EXPECT_EQ(desk.dockMove()->from, 1U);
     EXPECT_EQ(desk.dockMove()->to, 2U);
 
-    const Report report = desk.report();
+    const replay::Report report = desk.report();
     EXPECT_EQ(report.changed, 0U);
     EXPECT_EQ(report.dockMoves, 1U);
     EXPECT_EQ(report.dockDisplay, 1U);

@@ -124,8 +124,8 @@ TEST(LivePicture, ShowsTheTimeOfDay) {
 }
 
 TEST(LivePicture, TellsWhatCameOfARecording) {
-    SimulatedDesk desk({{{0, 0, 1512, 982}, {1512, -98, 1920, 1080}}, 0, true, std::nullopt});
-    Report report;
+    replay::SimulatedDesk desk({{{0, 0, 1512, 982}, {1512, -98, 1920, 1080}}, 0, true, std::nullopt});
+    replay::Report report;
     report.events = 10;
     report.changed = 3;
     DeskPicture picture = pictureAfterReplay(desk, report);

@@ -20,7 +20,7 @@ using testing::StartsWith;
 
 std::unique_ptr<LiveDesk> opened(const Options& options) {
     auto desk = openDesk(options);
-    if (const auto* error = std::get_if<InputError>(&desk)) {
+    if (const auto* error = std::get_if<replay::InputError>(&desk)) {
         ADD_FAILURE() << error->message;
         return nullptr;
     }
@@ -29,7 +29,7 @@ std::unique_ptr<LiveDesk> opened(const Options& options) {
 
 std::string refusal(const Options& options) {
     const auto desk = openDesk(options);
-    const auto* error = std::get_if<InputError>(&desk);
+    const auto* error = std::get_if<replay::InputError>(&desk);
     return error != nullptr ? error->message : "";
 }
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "desk/live/world/ScreenParts.h"
-#include "desk/replay/ApplicationHost.h"
-#include "desk/replay/StoredChoices.h"
+#include "replay/ApplicationHost.h"
+#include "replay/StoredChoices.h"
 #include "tests/desk/live/WindowTitles.h"
 
 #include <gtest/gtest.h>
@@ -85,7 +85,9 @@ protected:
         return std::nullopt;
     }
 
-    std::string storedChoice() { return StoredChoices(session.defaults()).pinnedScreenUUID().value_or(""); }
+    std::string storedChoice() {
+        return replay::StoredChoices(session.defaults()).pinnedScreenUUID().value_or("");
+    }
 
     // As one of the application's windows does when it opens.
     void makeRegular() {
@@ -94,7 +96,7 @@ protected:
     }
 
     sim::Session session{options()};
-    ApplicationHost host{session};
+    replay::ApplicationHost host{session};
     ScreenParts parts{session};
 
 private:

@@ -74,7 +74,7 @@ protected:
 
     // What of the report is the last scene's.
     std::string figures() {
-        const Report now = desk.report();
+        const replay::Report now = desk.report();
         return std::to_string(now.events - before.events) + " events, " +
                std::to_string(now.changed - before.changed) + " held, " +
                std::to_string(now.dockMoves - before.dockMoves) + " Dock moves, " +
@@ -83,7 +83,7 @@ protected:
 
     Stage stage;
     LiveDesk& desk = stage.desk();
-    Report before;
+    replay::Report before;
     std::vector<std::string> stories;
 };
 

@@ -2,7 +2,7 @@
 
 #include "desk/live/world/ScreenParts.h"
 #include "desk/paint/toolkit/PangoMeasurer.h"
-#include "desk/replay/ApplicationHost.h"
+#include "replay/ApplicationHost.h"
 #include "sim/seam/WindowState.h"
 #include "tests/desk/live/WindowTitles.h"
 
@@ -70,7 +70,7 @@ protected:
     }
 
     sim::Session session{options()};
-    ApplicationHost host{session};
+    replay::ApplicationHost host{session};
     ScreenParts parts{session};
 };
 

@@ -156,18 +156,18 @@ void printSettings(LiveDesk& desk) {
     printCloseButton(desk, "mail close", "New Message");
 }
 
-int refuse(const InputError& error) {
+int refuse(const replay::InputError& error) {
     std::fprintf(stderr, "places: %s\n", error.message.c_str());
     return BadInput;
 }
 
 int run(const std::vector<std::string_view>& words) {
     const auto command = readCommand(words);
-    if (const auto* error = std::get_if<InputError>(&command)) {
+    if (const auto* error = std::get_if<replay::InputError>(&command)) {
         return refuse(*error);
     }
     auto setup = setupOf(std::get<Command>(command).options);
-    if (const auto* error = std::get_if<InputError>(&setup)) {
+    if (const auto* error = std::get_if<replay::InputError>(&setup)) {
         return refuse(*error);
     }
     std::get<LiveDeskSetup>(setup).defaultsFile.reset();

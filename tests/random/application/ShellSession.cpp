@@ -1,7 +1,7 @@
 #include "tests/random/application/ShellSession.h"
 
-#include "desk/replay/StoredChoices.h"
 #include "platform/Application.h"
+#include "replay/StoredChoices.h"
 
 #include <chrono>
 #include <utility>
@@ -21,9 +21,9 @@ sim::SessionOptions ShellSession::options(const ShellBeginning& beginning) {
     sim::SessionOptions result;
     result.displays = beginning.displays;
     result.permission = beginning.permission;
-    put(result.defaults, desk::entries::IsEnabled, beginning.entries.isEnabled.stored);
-    put(result.defaults, desk::entries::PinnedScreenUUID, beginning.entries.choice.stored);
-    put(result.defaults, desk::entries::HasCompletedOnboarding, beginning.entries.onboarding.stored);
+    put(result.defaults, replay::entries::IsEnabled, beginning.entries.isEnabled.stored);
+    put(result.defaults, replay::entries::PinnedScreenUUID, beginning.entries.choice.stored);
+    put(result.defaults, replay::entries::HasCompletedOnboarding, beginning.entries.onboarding.stored);
     put(result.defaults, DownloadsEntry, beginning.entries.downloads);
     sim::PropertyListDictionary& info = result.bundle.infoDictionary;
     put(info, "CFBundleShortVersionString", beginning.bundle.version);
@@ -144,19 +144,19 @@ void ShellSession::setUUIDStringsFail(bool fail) {
 }
 
 void ShellSession::store(const StoredSwitch& isEnabled) {
-    session_.defaults().set(desk::entries::IsEnabled, isEnabled.stored);
+    session_.defaults().set(replay::entries::IsEnabled, isEnabled.stored);
     model_.store(isEnabled);
     check();
 }
 
 void ShellSession::store(const StoredChoice& choice) {
-    session_.defaults().set(desk::entries::PinnedScreenUUID, choice.stored);
+    session_.defaults().set(replay::entries::PinnedScreenUUID, choice.stored);
     model_.store(choice);
     check();
 }
 
 void ShellSession::storeOnboarding(const StoredFlag& completed) {
-    session_.defaults().set(desk::entries::HasCompletedOnboarding, completed.stored);
+    session_.defaults().set(replay::entries::HasCompletedOnboarding, completed.stored);
     model_.storeOnboarding(completed);
     check();
 }

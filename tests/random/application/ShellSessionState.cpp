@@ -1,5 +1,5 @@
 // The state of a session after each step, compared with what it must be.
-#include "desk/replay/StoredChoices.h"
+#include "replay/StoredChoices.h"
 #include "sim/seam/MenuState.h"
 #include "sim/seam/StatusItemState.h"
 #include "tests/random/application/ShellSession.h"
@@ -159,11 +159,11 @@ void ShellSession::checkEntries() {
     require(writesWithTap_ == model_.writesWithTap(),
             "an entry was written before the tap was made that had to be written after it, or the other way "
             "round");
-    require(holdsExactly(defaults.find(desk::entries::IsEnabled), entries.isEnabled.stored),
+    require(holdsExactly(defaults.find(replay::entries::IsEnabled), entries.isEnabled.stored),
             "the stored switch is not what the last writer had to leave");
-    require(holdsExactly(defaults.find(desk::entries::PinnedScreenUUID), entries.choice.stored),
+    require(holdsExactly(defaults.find(replay::entries::PinnedScreenUUID), entries.choice.stored),
             "the stored choice is not what the last writer had to leave");
-    require(holdsExactly(defaults.find(desk::entries::HasCompletedOnboarding), entries.onboarding.stored),
+    require(holdsExactly(defaults.find(replay::entries::HasCompletedOnboarding), entries.onboarding.stored),
             "hasCompletedOnboarding is not what the last writer had to leave");
     require(holdsExactly(defaults.find(DownloadsEntry), entries.downloads),
             "updates are downloaded of themselves, or it was never said that they are not");

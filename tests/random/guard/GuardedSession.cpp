@@ -1,7 +1,7 @@
 #include "tests/random/guard/GuardedSession.h"
 
-#include "desk/replay/StoredChoices.h"
 #include "platform/AccessibilityTrust.h"
+#include "replay/StoredChoices.h"
 #include "tests/random/guard/Judge.h"
 
 #include <utility>
@@ -38,9 +38,9 @@ sim::SessionOptions GuardedSession::options(std::vector<sim::Display> displays, 
                                             sim::Duration dockDwell, bool cursorFollowsEvents) {
     sim::SessionOptions result;
     result.displays = std::move(displays);
-    put(result.defaults, desk::entries::BlockMargin, entries.margin.stored);
-    put(result.defaults, desk::entries::IsEnabled, entries.isEnabled.stored);
-    put(result.defaults, desk::entries::PinnedScreenUUID, entries.choice.stored);
+    put(result.defaults, replay::entries::BlockMargin, entries.margin.stored);
+    put(result.defaults, replay::entries::IsEnabled, entries.isEnabled.stored);
+    put(result.defaults, replay::entries::PinnedScreenUUID, entries.choice.stored);
     result.recordJournal = false;
     result.cursorFollowsEvents = cursorFollowsEvents;
     result.dockDwell = dockDwell;
@@ -74,18 +74,18 @@ void GuardedSession::storeFromOutside(std::string_view key, const std::optional<
 void GuardedSession::store(const StoredMargin& margin) {
     entries_.margin = margin;
     expected_.storedMargin = margin.reading;
-    storeFromOutside(desk::entries::BlockMargin, margin.stored);
+    storeFromOutside(replay::entries::BlockMargin, margin.stored);
 }
 
 void GuardedSession::store(const StoredSwitch& isEnabled) {
     entries_.isEnabled = isEnabled;
     expected_.enabled = isEnabled.reading;
-    storeFromOutside(desk::entries::IsEnabled, isEnabled.stored);
+    storeFromOutside(replay::entries::IsEnabled, isEnabled.stored);
 }
 
 void GuardedSession::store(const StoredChoice& choice) {
     entries_.choice = choice;
-    storeFromOutside(desk::entries::PinnedScreenUUID, choice.stored);
+    storeFromOutside(replay::entries::PinnedScreenUUID, choice.stored);
 }
 
 void GuardedSession::setPermission(sim::Permission permission) {

@@ -1,5 +1,5 @@
 // The lasting state of a guarded session, compared with what it must be.
-#include "desk/replay/StoredChoices.h"
+#include "replay/StoredChoices.h"
 #include "tests/random/guard/GuardRecords.h"
 #include "tests/random/guard/GuardedSession.h"
 
@@ -39,10 +39,10 @@ void GuardedSession::checkLog() {
 
 void GuardedSession::checkEntries() {
     const sim::DefaultsDomain& defaults = session_.defaults();
-    require(holdsExactly(defaults.find(desk::entries::PinnedScreenUUID), entries_.choice.stored),
+    require(holdsExactly(defaults.find(replay::entries::PinnedScreenUUID), entries_.choice.stored),
             "the stored choice is not what the last writer had to leave");
-    require(holdsExactly(defaults.find(desk::entries::BlockMargin), entries_.margin.stored) &&
-                holdsExactly(defaults.find(desk::entries::IsEnabled), entries_.isEnabled.stored),
+    require(holdsExactly(defaults.find(replay::entries::BlockMargin), entries_.margin.stored) &&
+                holdsExactly(defaults.find(replay::entries::IsEnabled), entries_.isEnabled.stored),
             "an entry changed that the guard only reads");
 }
 

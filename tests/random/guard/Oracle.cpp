@@ -114,7 +114,7 @@ Resolution expectedResolution(sim::Displays system, const std::optional<std::str
 
 const KnownDisplay* GuardState::displayUnder(Point point) const {
     const auto first = std::find_if(displays.begin(), displays.end(), [point](const KnownDisplay& display) {
-        return desk::isOn(display.bounds, point);
+        return replay::isOn(display.bounds, point);
     });
     return first != displays.end() ? &*first : nullptr;
 }
@@ -132,7 +132,7 @@ Point expectedLocation(const GuardState& state, Point sent) {
     if (display == nullptr) {
         return sent;
     }
-    const desk::JudgedBand band = state.bandOf(*display);
+    const replay::JudgedBand band = state.bandOf(*display);
     return sent.y > band.lowestFree ? Point{sent.x, band.held} : sent;
 }
 

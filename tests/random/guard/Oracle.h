@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/replay/GuardRule.h"
+#include "replay/GuardRule.h"
 #include "sim/session/Displays.h"
 
 #include <cstdint>
@@ -53,8 +53,8 @@ struct GuardState {
     // What doubleForKey: answers for the margin.
     double storedMargin = 0;
 
-    desk::JudgedBand bandOf(const KnownDisplay& display) const {
-        return {display.bounds, desk::bandDepth(storedMargin)};
+    replay::JudgedBand bandOf(const KnownDisplay& display) const {
+        return {display.bounds, replay::bandDepth(storedMargin)};
     }
 
     // The display that decides about a point, null when none does.

@@ -142,7 +142,7 @@ double RandomUser::remarkableX(const Rect& bounds) {
 }
 
 double RandomUser::remarkableY(const Rect& bounds) {
-    const double bandTop = bounds.maxY() - 1 - desk::bandDepth(session_->expected().storedMargin);
+    const double bandTop = bounds.maxY() - 1 - replay::bandDepth(session_->expected().storedMargin);
     const std::array<double, 16> coordinates{
         bounds.minY(),
         bounds.minY() + 1,
