@@ -1,6 +1,6 @@
 #include "replay/Emission.h"
 
-#include "sim/formats/PropertyList.h"
+#include "replay/recording/NumberText.h"
 
 #include <utility>
 
@@ -15,7 +15,7 @@ void Emission::write(std::uint64_t index, const sim::Delivery& delivery) {
     for (const double coordinate :
          {delivery.sent.x, delivery.sent.y, delivery.delivered.x, delivery.delivered.y}) {
         line += ',';
-        line += sim::shortestText(coordinate);
+        append(coordinate, line);
     }
     line += '\n';
     file_ << line;

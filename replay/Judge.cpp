@@ -1,7 +1,5 @@
 #include "replay/Judge.h"
 
-#include "replay/GuardRule.h"
-
 #include <cmath>
 #include <optional>
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "replay/GuardRule.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
@@ -14,7 +15,7 @@ struct JudgedDesk {
     std::vector<Rect> displays; // global display coordinates, the primary first
     std::size_t pinned = 0;     // index into `displays`
     bool guardOn = true;
-    double margin = 4; // depth of the blocked band in points, greater than 0
+    double margin = UsualBlockMargin; // depth of the blocked band in points, greater than 0
 };
 
 // True when the event was delivered where a held pointer may not be, or changed where nothing may change.

@@ -1,6 +1,5 @@
 #include "replay/SimulatedDesk.h"
 
-#include "replay/GuardRule.h"
 #include "replay/StoredChoices.h"
 
 #include <string>

@@ -15,7 +15,6 @@ namespace kestrune::desk {
 
 namespace {
 
-constexpr int LargestRecordedSide = 65'535;
 constexpr std::uint64_t MostRows = 10'000'000;
 constexpr std::uint64_t Largest = std::numeric_limits<std::uint64_t>::max();
 constexpr const char* Footer =
@@ -152,9 +151,10 @@ private:
 
     void addGeneration() {
         group_ = "With --generate";
-        add("--seed", "N", make_.seed, "the same seed gives the same recording. Usual: 1")
+        add("--seed", "N", make_.motion.seed, "the same seed gives the same recording. Usual: 1")
             ->transform(wholeNumber(0, Largest));
-        add("--rows", "N", make_.rows, "how many rows. Usual: 10000")->transform(wholeNumber(1, MostRows));
+        add("--rows", "N", make_.motion.rows, "how many rows. Usual: 10000")
+            ->transform(wholeNumber(1, MostRows));
         add("--size", "WxH", size_, "the recorded display, in pixels. Usual: 1512x982");
     }
 
@@ -211,14 +211,14 @@ private:
         const auto width = parsed<int>(size.substr(0, separator));
         const auto height = parsed<int>(size.substr(std::min(separator + 1, size.size())));
         const auto fits = [](std::optional<int> side) {
-            return side && *side >= 1 && *side <= LargestRecordedSide;
+            return side && *side >= 1 && *side <= replay::MotionGeneratorOptions::LargestSide;
         };
         if (!fits(width) || !fits(height)) {
             throw CLI::ValidationError("--size", "expected WxH with whole numbers from 1 to 65535, found " +
                                                      replay::inQuotes(size));
         }
-        make_.width = *width;
-        make_.height = *height;
+        make_.motion.width = *width;
+        make_.motion.height = *height;
     }
 
     Mode mode() {

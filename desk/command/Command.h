@@ -3,9 +3,9 @@
 
 #include "desk/command/Options.h"
 #include "replay/recording/InputError.h"
+#include "replay/recording/MotionGenerator.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -38,10 +38,7 @@ struct PlayRecording {
 
 struct MakeRecording {
     std::string path;
-    std::uint64_t seed = 1;
-    std::size_t rows = 10'000;
-    int width = 1512; // of the recorded display, in pixels
-    int height = 982;
+    replay::MotionGeneratorOptions motion;
 };
 
 // Launches Kestrune without a window and prints what it asks of the platform.

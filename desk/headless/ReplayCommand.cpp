@@ -62,8 +62,7 @@ std::variant<std::string, replay::InputError> runReplay(const PlayRecording& pla
 }
 
 std::optional<replay::InputError> runGenerate(const MakeRecording& make) {
-    const replay::MotionGeneratorOptions generator{make.seed, make.width, make.height, make.rows};
-    return replay::writeRecording(std::filesystem::path(make.path), replay::generateRows(generator));
+    return replay::writeRecording(std::filesystem::path(make.path), replay::generateRows(make.motion));
 }
 
 } // namespace kestrune::desk

@@ -12,8 +12,6 @@
 namespace kestrune::replay {
 namespace {
 
-constexpr int LargestSize = 65535; // The largest coordinate is one less, because 65535 stands for "unknown".
-
 constexpr int ShortestInterval = 8; // Milliseconds between rows of a moving hand.
 constexpr int LongestInterval = 16;
 
@@ -48,9 +46,8 @@ private:
 
     SplitMix64 random_;
     Point farCorner_;
-    std::size_t mostRows_ = SIZE_MAX;
-    std::int64_t lastTime_ = INT64_MAX; // Milliseconds.
-    std::int64_t time_ = 0;
+    std::size_t mostRows_;
+    std::int64_t time_ = 0; // Milliseconds.
     Point pointer_;
     Point tremor_;
     std::vector<RecordingRow> rows_;
@@ -59,12 +56,8 @@ private:
 Hand::Hand(const MotionGeneratorOptions& options)
     : random_(options.seed),
       farCorner_{static_cast<double>(options.width - 1), static_cast<double>(options.height - 1)},
-      pointer_(farCorner_) {
-    if (const auto* rows = std::get_if<std::size_t>(&options.length))
-        mostRows_ = *rows;
-    else
-        lastTime_ = std::get<std::chrono::milliseconds>(options.length).count();
-}
+      mostRows_(options.rows),
+      pointer_(farCorner_) {}
 
 std::vector<RecordingRow> Hand::work() && {
     record("NoButton", RowState::move);
@@ -73,7 +66,7 @@ std::vector<RecordingRow> Hand::work() && {
     return std::move(rows_);
 }
 
-bool Hand::isDone() const { return rows_.size() >= mostRows_ || time_ > lastTime_; }
+bool Hand::isDone() const { return rows_.size() >= mostRows_; }
 
 void Hand::actOnce() {
     const int choice = random_.between(0, 99);
@@ -207,12 +200,10 @@ Point Hand::beyondAnyEdge() {
 }
 
 void checkOptions(const MotionGeneratorOptions& options) {
-    if (options.width < 1 || options.width > LargestSize || options.height < 1 ||
-        options.height > LargestSize)
+    const auto fits = [](int side) { return side >= 1 && side <= MotionGeneratorOptions::LargestSide; };
+    if (!fits(options.width) || !fits(options.height))
         fatal("A generated recording needs a display of 1 to 65535 pixels in width and height.");
-    const auto* rows = std::get_if<std::size_t>(&options.length);
-    const auto* duration = std::get_if<std::chrono::milliseconds>(&options.length);
-    if ((rows != nullptr && *rows == 0) || (duration != nullptr && duration->count() < 0))
+    if (options.rows == 0)
         fatal("A generated recording needs at least one row.");
 }
 
@@ -221,16 +212,6 @@ void checkOptions(const MotionGeneratorOptions& options) {
 std::vector<RecordingRow> generateRows(const MotionGeneratorOptions& options) {
     checkOptions(options);
     return Hand(options).work();
-}
-
-Recording generateRecording(const MotionGeneratorOptions& options) {
-    RecordingBuilder builder;
-    for (const RecordingRow& row : generateRows(options))
-        builder.add(row);
-    std::optional<Recording> recording = std::move(builder).finish();
-    if (!recording)
-        fatal("A generated recording starts with a motion.");
-    return *std::move(recording);
 }
 
 } // namespace kestrune::replay

@@ -9,30 +9,26 @@
 // the last digit. Sources of the facts: StrokeModel.h.
 #pragma once
 
-#include "replay/recording/Recording.h"
 #include "replay/recording/RecordingRow.h"
 
-#include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <variant>
 #include <vector>
 
 namespace kestrune::replay {
 
 struct MotionGeneratorOptions {
+    // The largest coordinate is one less, because 65535 stands for "unknown".
+    static constexpr int LargestSide = 65'535;
+
     std::uint64_t seed = 1;
-    int width = 1512; // Of the display, in pixels; from 1 to 65535.
+    int width = 1512; // Of the display, in pixels; from 1 to LargestSide.
     int height = 982;
-    // Either the number of rows, at least 1, or the time of the last row at most, not negative.
-    std::variant<std::size_t, std::chrono::milliseconds> length = std::size_t{10'000};
+    std::size_t rows = 10'000; // At least 1.
 };
 
 // The first row is a Move that rests in the bottom right pixel, so that the size of the display can be read
 // off any generated recording. Options out of range are a programming error.
 std::vector<RecordingRow> generateRows(const MotionGeneratorOptions& options);
-
-// What readRecording returns for the written rows.
-Recording generateRecording(const MotionGeneratorOptions& options);
 
 } // namespace kestrune::replay

@@ -1,19 +1,13 @@
 #include "replay/recording/RecordingWriter.h"
 
-#include <array>
+#include "replay/recording/NumberText.h"
+
 #include <cerrno>
-#include <charconv>
 #include <fstream>
 #include <system_error>
 
 namespace kestrune::replay {
 namespace {
-
-void append(std::string& line, double value) {
-    std::array<char, 32> text{}; // The shortest form of a double has at most 24 characters.
-    const auto result = std::to_chars(text.data(), text.data() + text.size(), value);
-    line.append(text.data(), result.ptr);
-}
 
 InputError writeError(const std::filesystem::path& path) {
     return inputError(path.string(), "cannot write the recording: " +
@@ -27,17 +21,17 @@ void writeRecording(std::ostream& output, const std::vector<RecordingRow>& rows)
     std::string line;
     for (const RecordingRow& row : rows) {
         line.clear();
-        append(line, row.recordTime);
+        append(row.recordTime, line);
         line += ',';
-        append(line, row.clientTime);
+        append(row.clientTime, line);
         line += ',';
         line += row.button;
         line += ',';
         line += stateName(row.state);
         line += ',';
-        append(line, row.position.x);
+        append(row.position.x, line);
         line += ',';
-        append(line, row.position.y);
+        append(row.position.y, line);
         line += '\n';
         output << line;
     }

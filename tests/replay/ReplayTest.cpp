@@ -1,6 +1,6 @@
 #include "replay/Replay.h"
 
-#include "replay/recording/MotionGenerator.h"
+#include "tests/replay/recording/MadeUpRecording.h"
 
 #include <gtest/gtest.h>
 
@@ -71,7 +71,7 @@ TEST(Replay, PassesOnWhatTheRecordingSkipped) {
 }
 
 TEST(Replay, GivesTheSameEventsEveryTime) {
-    const Recording recording = generateRecording({.seed = 11, .length = std::size_t{5000}});
+    const Recording recording = madeUpRecording({.seed = 11, .rows = 5000});
     const std::vector<sim::Delivery> first = deliveriesOf(recording, setup(true));
     const std::vector<sim::Delivery> second = deliveriesOf(recording, setup(true));
     ASSERT_EQ(first.size(), second.size());

@@ -1,6 +1,7 @@
 // What the guard makes of a stream of pointer events: the same on every implementation of the seam.
 #include "Kestrune/Preferences.h"
 #include "replay/recording/DisplayList.h"
+#include "replay/recording/NumberText.h"
 #include "tests/contract/World.h"
 #include "tests/scenarios/LaunchedApplication.h"
 #include "tests/scenarios/ShippedBundle.h"
@@ -9,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
@@ -56,17 +56,11 @@ EventRow rowIn(std::string_view line) {
     return row;
 }
 
-void append(double number, std::string& line) {
-    std::array<char, 32> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    line += ',';
-    line.append(digits.data(), end);
-}
-
 std::string textOf(const EventRow& row) {
     std::string line = row.index + ',' + std::to_string(static_cast<std::uint32_t>(row.type));
     for (const double coordinate : {row.sent.x, row.sent.y, row.delivered.x, row.delivered.y}) {
-        append(coordinate, line);
+        line += ',';
+        replay::append(coordinate, line);
     }
     return line;
 }

@@ -74,16 +74,16 @@ TEST(Command, ReadsWhatTheOtherModesTake) {
     const auto make = modeOf<MakeRecording>(
         {"--generate", "made.csv", "--seed", "18446744073709551615", "--rows", "7", "--size", "640x480"});
     EXPECT_EQ(make.path, "made.csv");
-    EXPECT_EQ(make.seed, 18446744073709551615U);
-    EXPECT_EQ(make.rows, 7U);
-    EXPECT_EQ(make.width, 640);
-    EXPECT_EQ(make.height, 480);
+    EXPECT_EQ(make.motion.seed, 18446744073709551615U);
+    EXPECT_EQ(make.motion.rows, 7U);
+    EXPECT_EQ(make.motion.width, 640);
+    EXPECT_EQ(make.motion.height, 480);
     EXPECT_EQ(modeOf<DrawGallery>({"--gallery", "pictures"}).folder, "pictures");
     EXPECT_TRUE(modeOf<DrawGallery>({"--gallery", "pictures"}).scenes.empty());
     const Words scenes = {"--gallery", "pictures", "tour/held", "wizard", "--dark"};
     EXPECT_THAT(modeOf<DrawGallery>(scenes).scenes, ElementsAre("tour/held", "wizard"));
     EXPECT_TRUE(optionsOf(scenes).dark);
-    EXPECT_EQ(modeOf<MakeRecording>({"--generate", "f", "--rows", "010"}).rows, 10U);
+    EXPECT_EQ(modeOf<MakeRecording>({"--generate", "f", "--rows", "010"}).motion.rows, 10U);
     EXPECT_EQ(optionsOf({"--defaults", "kestrune.plist"}).defaults, "kestrune.plist");
     EXPECT_EQ(optionsOf({"--guard", "on"}).guardOn, true);
     EXPECT_EQ(modeOf<OpenWindow>({"--screenshot", "end.png"}).outcome.screenshot, "end.png");

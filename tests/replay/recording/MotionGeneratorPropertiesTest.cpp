@@ -1,6 +1,7 @@
 #include "replay/recording/MotionGenerator.h"
 #include "replay/recording/RecordingReader.h"
 #include "replay/recording/RecordingWriter.h"
+#include "tests/replay/recording/MadeUpRecording.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
@@ -19,7 +20,7 @@ MotionGeneratorOptions anyGeneratorOptions(int leastSize, std::size_t rows) {
     options.seed = *rc::gen::arbitrary<std::uint64_t>();
     options.width = *rc::gen::inRange(leastSize, 6000);
     options.height = *rc::gen::inRange(leastSize, 4000);
-    options.length = rows;
+    options.rows = rows;
     return options;
 }
 
@@ -44,7 +45,7 @@ RC_GTEST_PROP(MotionGeneratorProperties, TheSameOptionsGiveTheSameRows, ()) {
 
 RC_GTEST_PROP(MotionGeneratorProperties, ReadingTheWrittenRowsGivesTheSameRecording, ()) {
     const MotionGeneratorOptions options = anyGeneratorOptions(1, 300);
-    const Recording recording = generateRecording(options);
+    const Recording recording = madeUpRecording(options);
     std::stringstream file;
     writeRecording(file, generateRows(options));
     RC_ASSERT(readRecording(file, "walk.csv") == ReadResult(recording));

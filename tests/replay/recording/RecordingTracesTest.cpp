@@ -24,7 +24,7 @@ std::vector<std::filesystem::path> recordingsIn(const std::filesystem::path& fol
 void writeMadeUpRecordings(const std::filesystem::path& folder) {
     for (const std::uint64_t seed : {1U, 2U, 3U}) {
         const auto path = folder / ("made-up-" + std::to_string(seed) + ".csv");
-        ASSERT_EQ(writeRecording(path, generateRows({seed, 1280, 800, std::size_t{20'000}})), std::nullopt);
+        ASSERT_EQ(writeRecording(path, generateRows({seed, 1280, 800, 20'000})), std::nullopt);
     }
 }
 
