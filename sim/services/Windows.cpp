@@ -244,7 +244,6 @@ void Windows::clear() {
     }
     ordered_.clear();
     all_.clear();
-    wantedKey_.reset();
     sourcePaths_.clear();
 }
 

@@ -1,4 +1,5 @@
 #include "Kestrune/KestruneApp.h"
+#include "sim/seam/MenuState.h"
 #include "sim/seam/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 #include "tests/base/UnusualNumbers.h"

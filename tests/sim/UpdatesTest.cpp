@@ -12,6 +12,8 @@
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 namespace kestrune::sim {
@@ -56,6 +58,16 @@ protected:
             result.push_back(window->title);
         }
         return result;
+    }
+
+    // What the frontmost window says first of all.
+    std::string headline() {
+        for (const ui::Element& element : Windows::sceneOf(*session_.windows().shown()[0]).elements) {
+            if (const auto* const text = std::get_if<ui::TextElement>(&element)) {
+                return text->text.string();
+            }
+        }
+        return {};
     }
 
     static SessionOptions options(UpdateFramework framework, bool hasFeed) {
@@ -163,6 +175,22 @@ TEST_F(UpdatesTestWithoutFeed, AreUnreachable) {
     updates().checkForUser();
     session_.advance(1s);
     EXPECT_TRUE(updates().isShowingAlert());
+    EXPECT_EQ(headline(), "Update Error!");
+}
+
+TEST_F(UpdatesTest, TellTheUserWhatTheCheckHasFound) {
+    const std::pair<UpdateFeed, std::string> found[] = {
+        {UpdateFeed::nothingNew, "You’re up to date!"},
+        {UpdateFeed::unreachable, "Update Error!"},
+        {UpdateFeed::newVersion, "A new version of Kestrune is available!"}};
+    start();
+    for (const auto& [feed, message] : found) {
+        updates().setFeed(feed);
+        updates().checkForUser();
+        session_.advance(1s);
+        EXPECT_EQ(headline(), message);
+        updates().dismiss();
+    }
 }
 
 TEST_F(UpdatesTest, AnnounceAndShowANewVersion) {

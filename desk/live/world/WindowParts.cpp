@@ -245,7 +245,7 @@ bool WindowParts::isStillThere(const std::optional<Control>& control, const Wind
 
 std::optional<std::string> WindowParts::act(const Control& control) {
     const WindowState window = control.window.lock();
-    const auto title = toldOf(control); // The action may end with the control.
+    auto title = toldOf(control); // The action may end with the control.
     if (const ui::ToggleElement* const toggle = switchOf(control)) {
         slide(control, toggle->isOn ? 1 : 0, !toggle->isOn);
         session_.windows().flipSwitch(window, control.element);
