@@ -1,4 +1,5 @@
 #include "Kestrune/KestruneApp.h"
+#include "sim/seam/MenuState.h"
 #include "sim/seam/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 #include "tests/base/UnusualNumbers.h"
@@ -48,11 +49,11 @@ TEST_F(MenuContents, AreBuiltInOrder) {
              {makingItem("Pin Dock to:", "nil", ""), "-[NSMenuItem setEnabled:] false", AddingItem},
              callsOf(allScreens),
              callsOf(mainScreenUUID),
-             {ReadingThePin},
+             {"-[NSUserDefaults stringForKey:] pinnedScreenUUID"},
              localizing("Main"),
              screens,
              AddingSeparator,
-             {ReadingTheSwitch},
+             callsOf([this] { preferences->isEnabled(); }),
              localizing("Disable"),
              makingOwnItem("Disable", "toggleEnabled", ""),
              {"-[NSMenuItem setEnabled:] true", AddingItem},
