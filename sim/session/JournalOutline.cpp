@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 
 namespace kestrune::sim {
 
@@ -19,13 +18,6 @@ constexpr std::array<std::string_view, 11> Details = {
 bool isDetail(std::string_view line) {
     return std::any_of(Details.begin(), Details.end(),
                        [line](std::string_view detail) { return line.starts_with(detail); });
-}
-
-std::vector<std::string> outline(const std::vector<std::string>& journal) {
-    std::vector<std::string> steps;
-    std::copy_if(journal.begin(), journal.end(), std::back_inserter(steps),
-                 [](const std::string& line) { return !isDetail(line); });
-    return steps;
 }
 
 } // namespace kestrune::sim

@@ -49,10 +49,11 @@ TEST_F(AccessibilityWatcher, StartsTheGuardAtTheFirstTickWithThePermission) {
 TEST_F(AccessibilityWatcher, EndsWithTheGrantThatTheMenuSeesInOrder) {
     grant();
     const Calls granting = callsOf([this] { app->accessibilityGranted(); });
-    EXPECT_THAT(
-        granting,
-        ElementsAreArray(inOrder(
-            {{ReadingTheSwitch, Trusted}, refreshing(), startingTheGuard(), {"-[NSTimer invalidate]"}})));
+    EXPECT_THAT(granting, ElementsAreArray(inOrder({callsOf([this] { app->preferences()->isEnabled(); }),
+                                                    {Trusted},
+                                                    refreshing(),
+                                                    startingTheGuard(),
+                                                    {"-[NSTimer invalidate]"}})));
 }
 
 TEST_F(AccessibilityWatcher, EndsWithThePermissionAlthoughTheGuardIsSwitchedOff) {

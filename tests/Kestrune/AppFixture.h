@@ -53,7 +53,7 @@ protected:
 
     const sim::PropertyList* stored(std::string_view key) { return session.defaults().find(key); }
 
-    // Steps of the application's procedures, which are run once more for it.
+    // Steps of the application's procedures, which are run once more for it and leave everything as it was.
     Calls rebuilding() {
         return callsOf([this] { app->menuBarController()->rebuildMenu(); });
     }
@@ -68,8 +68,9 @@ protected:
     }
 
     Calls stoppingTheGuard() {
+        const Calls stopping = callsOf([this] { guard->stop(); });
         guard->start();
-        return callsOf([this] { guard->stop(); });
+        return stopping;
     }
 
     // Once the watcher has ended, the menu's callback applies the start rule and does nothing else.

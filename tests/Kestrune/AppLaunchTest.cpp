@@ -8,6 +8,7 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -210,7 +211,6 @@ TEST_F(AppLaunch, StopsTheGuardAtTheEnd) {
 TEST_F(AppLaunch, EndsWithTheMenusQuitInOrder) {
     launchAndSettle();
     const Calls stopping = stoppingTheGuard();
-    guard->start();
     EXPECT_THAT(callsOf([this] { app->menuBarController()->quit(); }),
                 ElementsAreArray(inOrder(
                     {{"NSApp", "-[NSApplication terminate:]", "-[KestruneApp applicationWillTerminate:]"},

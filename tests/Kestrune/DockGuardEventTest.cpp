@@ -7,7 +7,7 @@
 namespace kestrune {
 namespace {
 
-using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
@@ -50,31 +50,22 @@ TEST_F(DockGuardEvent, PassesWhereNoDisplayIs) {
     expectUnchanged({3200, 1079});
 }
 
-TEST_F(DockGuardEvent, ReadsWhatItNeedsAndNothingMore) {
-    store("isEnabled", sim::PropertyList{true});
-    delivered({2000, 1078});
-    EXPECT_THAT(session.journal().take(),
-                ElementsAre("-[NSUserDefaults objectForKey:] isEnabled",
-                            "-[NSUserDefaults boolForKey:] isEnabled", "CGEventGetLocation(event)",
-                            "-[NSUserDefaults doubleForKey:] blockMargin",
-                            "CGEventSetLocation(event, (2000, 1075))"));
-    delivered({2000, 500});
-    EXPECT_THAT(session.journal().take(),
-                ElementsAre("-[NSUserDefaults objectForKey:] isEnabled",
-                            "-[NSUserDefaults boolForKey:] isEnabled", "CGEventGetLocation(event)",
-                            "-[NSUserDefaults doubleForKey:] blockMargin"));
-    delivered({1000, 1079});
-    EXPECT_THAT(session.journal().take(),
-                ElementsAre("-[NSUserDefaults objectForKey:] isEnabled",
-                            "-[NSUserDefaults boolForKey:] isEnabled", "CGEventGetLocation(event)"));
+TEST_F(DockGuardEvent, ReadsWhatItNeedsInOrderAndNothingMore) {
+    const auto callsFor = [this](Point location) { return callsOf([&] { delivered(location); }); };
+    const Calls readingTheSwitch = callsOf([this] { preferences->isEnabled(); });
+    const Calls locating = {"CGEventGetLocation(event)"};
+    const Calls readingTheMargin = {"-[NSUserDefaults doubleForKey:] blockMargin"};
+    EXPECT_THAT(
+        callsFor({2000, 1078}),
+        ElementsAreArray(inOrder(
+            {readingTheSwitch, locating, readingTheMargin, {"CGEventSetLocation(event, (2000, 1075))"}})));
+    EXPECT_THAT(callsFor({2000, 500}),
+                ElementsAreArray(inOrder({readingTheSwitch, locating, readingTheMargin})));
+    EXPECT_THAT(callsFor({1000, 1079}), ElementsAreArray(inOrder({readingTheSwitch, locating})));
+    EXPECT_THAT(callsFor({9000, 9000}), ElementsAreArray(inOrder({readingTheSwitch, locating})));
     store("isEnabled", sim::PropertyList{false});
-    delivered({2000, 1078});
-    EXPECT_THAT(session.journal().take(), ElementsAre("-[NSUserDefaults objectForKey:] isEnabled",
-                                                      "-[NSUserDefaults boolForKey:] isEnabled"));
-    store("isEnabled", std::nullopt);
-    delivered({9000, 9000});
-    EXPECT_THAT(session.journal().take(),
-                ElementsAre("-[NSUserDefaults objectForKey:] isEnabled", "CGEventGetLocation(event)"));
+    const Calls readingThatItIsOff = callsOf([this] { preferences->isEnabled(); });
+    EXPECT_THAT(callsFor({2000, 1078}), ElementsAreArray(readingThatItIsOff));
 }
 
 TEST_F(DockGuardEvent, PassesWithOneDisplayWhateverIsPinned) {

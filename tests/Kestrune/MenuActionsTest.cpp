@@ -38,21 +38,25 @@ protected:
 };
 
 TEST_F(MenuActions, SwitchTheGuardOffAndOnInOrder) {
-    const std::string readingTheValue = "-[NSUserDefaults boolForKey:] isEnabled";
+    const auto readingTheSwitch = [this] { return callsOf([this] { preferences->isEnabled(); }); };
     const Calls refreshing = this->refreshing();
     const Calls starting = callsOf([this] { dockGuard->start(); });
     const Calls stopping = callsOf([this] { dockGuard->stop(); });
     startGuard();
+    const Calls readingTheDefault = readingTheSwitch();
     const Calls switchingOff = callsOf([this] { switchOver(); });
-    EXPECT_THAT(switchingOff, ElementsAreArray(inOrder(
-                                  {{ReadingTheSwitch, "-[NSUserDefaults setBool:forKey:] isEnabled = false",
-                                    ReadingTheSwitch, readingTheValue},
-                                   stopping,
-                                   rebuilding()})));
+    const Calls readingWhatIsStored = readingTheSwitch();
+    EXPECT_THAT(switchingOff,
+                ElementsAreArray(inOrder({readingTheDefault,
+                                          {"-[NSUserDefaults setBool:forKey:] isEnabled = false"},
+                                          readingWhatIsStored,
+                                          stopping,
+                                          rebuilding()})));
     const Calls switchingOn = callsOf([this] { switchOver(); });
-    EXPECT_THAT(switchingOn, ElementsAreArray(inOrder({{ReadingTheSwitch, readingTheValue,
-                                                        "-[NSUserDefaults setBool:forKey:] isEnabled = true",
-                                                        ReadingTheSwitch, readingTheValue, Trusted},
+    EXPECT_THAT(switchingOn, ElementsAreArray(inOrder({readingWhatIsStored,
+                                                       {"-[NSUserDefaults setBool:forKey:] isEnabled = true"},
+                                                       readingWhatIsStored,
+                                                       {Trusted},
                                                        refreshing,
                                                        starting,
                                                        rebuilding()})));

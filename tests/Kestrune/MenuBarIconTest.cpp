@@ -4,6 +4,7 @@
 namespace kestrune {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -73,9 +74,8 @@ protected:
 };
 
 TEST_F(MenuBarIconWithoutImage, IsConfiguredAllTheSame) {
-    make();
+    EXPECT_THAT(callsOf([this] { make(); }), Contains("-[NSStatusBarButton setImageScaling:] 0"));
     EXPECT_FALSE(item()->button->image);
-    EXPECT_EQ(item()->button->scaling, ImageScaling::proportionallyDown);
     EXPECT_EQ(item()->button->toolTip, ToolTip);
 }
 

@@ -23,7 +23,7 @@ TEST_F(PreferencesTest, UseTheKeysThatUsersKnow) {
     EXPECT_EQ(Preferences::BlockMarginKey.name(), "blockMargin");
 }
 
-TEST_F(PreferencesTest, LookForAStoredObjectAndOnlyThenConvertIt) {
+TEST_F(PreferencesTest, LookForAStoredObjectAndThenConvertItInOrder) {
     EXPECT_TRUE(preferences->isEnabled());
     EXPECT_THAT(session.journal().take(), ElementsAre("-[NSUserDefaults objectForKey:] isEnabled"));
 

@@ -31,8 +31,6 @@ inline Calls makingOwnItem(const std::string& title, const std::string& action,
 inline const std::string AddingItem = "-[NSMenu addItem:]";
 inline const Calls AddingSeparator = {"+[NSMenuItem separatorItem]", AddingItem};
 
-inline const std::string ReadingThePin = "-[NSUserDefaults stringForKey:] pinnedScreenUUID";
-inline const std::string ReadingTheSwitch = "-[NSUserDefaults objectForKey:] isEnabled";
 inline const std::string Trusted = "AXIsProcessTrusted() -> true";
 inline const std::string NotTrusted = "AXIsProcessTrusted() -> false";
 

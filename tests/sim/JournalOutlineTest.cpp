@@ -25,12 +25,5 @@ TEST(JournalOutline, KeepsTheStepsOfAProcedure) {
     }
 }
 
-TEST(JournalOutline, KeepsTheOrder) {
-    EXPECT_EQ(outline({"NSApp", "NSScreen.screens -> 1", "b", "-[NSMenu init]", "a", "b"}),
-              (std::vector<std::string>{"NSApp", "b", "a", "b"}));
-    EXPECT_TRUE(outline({}).empty());
-    EXPECT_TRUE(outline({"-[NSMenu init]"}).empty());
-}
-
 } // namespace
 } // namespace kestrune::sim
