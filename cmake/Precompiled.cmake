@@ -1,6 +1,6 @@
-# Headers of libraries that are compiled once for many files, where nothing is optimised: with optimisation
-# g++ 12 warns of what is right in them. Whoever builds with ccache goes without, as it keeps nothing that is
-# compiled with them.
+# Headers of libraries that are compiled once for many files: by clang++, which makes the same objects with
+# them, and by g++ where nothing is optimised, as with optimisation g++ 12 warns of what is right in them.
+# Whoever builds with ccache goes without, as it keeps nothing that is compiled with them.
 option(KESTRUNE_PRECOMPILE "Compile the headers of libraries once for many files" OFF)
 
 set(KESTRUNE_LIBRARY_HEADERS
