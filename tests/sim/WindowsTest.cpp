@@ -257,5 +257,12 @@ TEST_F(WindowsDeathTest, DoNotMakeControllersOfAnUnknownClass) {
     EXPECT_DEATH(session.windows().refuseConstruction("Unknown"), "does not know the class");
 }
 
+TEST_F(WindowsDeathTest, ForgetTheClassesOfAProcessWithIt) {
+    session.windows().registerController("Controller", "Controller.cpp");
+    EXPECT_DEATH(session.windows().refuseConstruction("Controller"), "init\\(coder:\\) is not supported");
+    session.endApplication();
+    EXPECT_DEATH(session.windows().refuseConstruction("Controller"), "does not know the class");
+}
+
 } // namespace
 } // namespace kestrune::sim
