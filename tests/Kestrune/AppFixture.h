@@ -68,7 +68,7 @@ protected:
     }
 
     Calls stoppingTheGuard() {
-        const Calls stopping = callsOf([this] { guard->stop(); });
+        Calls stopping = callsOf([this] { guard->stop(); });
         guard->start();
         return stopping;
     }

@@ -1,8 +1,8 @@
 # Mistakes in the binding to the platform, beside its views.
-set(CONTRACT DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_standins)
-set(SELF_CHECK DRIVER selfcheck_tests_gnustep_driver kestrune_standins)
-set(APPLICATION DRIVER application_tests_gnustep_driver kestrune_kestrune kestrune_standins)
-set(VIEWS DRIVER window_tests_gnustep_driver kestrune_standins)
+set(CONTRACT DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_harness kestrune_standins)
+set(SELF_CHECK DRIVER selfcheck_tests_gnustep_driver kestrune_harness kestrune_standins)
+set(APPLICATION DRIVER application_tests_gnustep_driver kestrune_kestrune kestrune_harness kestrune_standins)
+set(VIEWS DRIVER window_tests_gnustep_driver kestrune_harness kestrune_standins)
 
 kestrune_mutant(MissingImageIsThere FILE mac/Image.cpp ${CONTRACT}
     TEST ImageContract.IsAbsentWhenTheBundleHasNoneOfThatName

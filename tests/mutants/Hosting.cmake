@@ -4,7 +4,7 @@
 # hosted.
 function(kestrune_hosting_mutant name file test from to)
     kestrune_mutant(${name} FILE mac/hosting/${file}.cpp TEST Hosted${test} FROM "${from}" TO "${to}"
-        DRIVER window_tests_gnustep_driver kestrune_standins)
+        DRIVER window_tests_gnustep_driver kestrune_harness kestrune_standins)
 endfunction()
 
 # kestrune_weight_mutant(NAME FROM TO): the number of another weight in the place of one.
@@ -168,7 +168,7 @@ kestrune_picture_mutant(ButtonIsNotDrawnAgain Buttons DrawAButtonAgainWhenWhatIt
 # kestrune_shape_mutant(NAME FILE TEST FROM TO): found by the pixels that a window shows.
 function(kestrune_shape_mutant name file test from to)
     kestrune_mutant(${name} FILE ${file}.cpp TEST ShapesContract.${test} FROM "${from}" TO "${to}"
-        DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_standins)
+        DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_harness kestrune_standins)
 endfunction()
 kestrune_shape_mutant(EveryCornerIsContinuous ui/Outline HaveCircularCorners
     "shape.cornerStyle == CornerStyle::continuous" "true")
@@ -187,7 +187,7 @@ kestrune_shape_mutant(OpacityIsInsteadOfTheColoursOwn mac/hosting/Colors LetThro
     "appKit.color.alphaComponent(opaque) * opacity" "opacity")
 
 kestrune_mutant(TheNewestNameIsTheOnlyOne FILE mac/hosting/Colors.cpp
-    DRIVER selfcheck_tests_gnustep_driver kestrune_standins
+    DRIVER selfcheck_tests_gnustep_driver kestrune_harness kestrune_standins
     TEST SystemColors.AreOlderOnesWhereTheSystemHasNoNewer
     FROM "name != names.end() ? *name : names.front()" TO "names.front()")
 
@@ -225,7 +225,7 @@ kestrune_inline_mutant(OlderSystemsHaveNoBorder kestrune_ui ui/SystemColor.h tes
 function(kestrune_accessibility_mutant name file from to)
     kestrune_mutant(${name} FILE mac/hosting/${file}.cpp FROM "${from}" TO "${to}"
         TEST HostingContract.TellsVoiceOverWhatToReadAndWhatToPassOver
-        DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_standins)
+        DRIVER contract_tests_gnustep_driver kestrune_contract kestrune_harness kestrune_standins)
 endfunction()
 kestrune_accessibility_mutant(CellIsReadOutAnyway Accessibility
     "    appKit.cell.setAccessibilityElement(cellOf(view), truth(isElement));

@@ -1,7 +1,9 @@
 """clang-tidy finds what it should, and a configuration that is not in force is noticed."""
 
+import pathlib
 import shutil
 import unittest
+from unittest import mock
 
 from trees import REPOSITORY, TreeTest
 from checks import tidy
@@ -65,6 +67,18 @@ class Tidy(TreeTest):
         files = {"tests/base/ATest.cpp": text % "widthOfA", "tests/base/BTest.cpp": text % "widthOfB"}
         result = self.run_check(tidy, files, [build])
         self.assertEqual((result.findings, result.examined), ([], "2 files"))
+
+    def test_looks_at_programs_of_a_folder_beside_each_other(self):
+        programs = ["tests/base/a.cpp", "tests/base/b.cpp"]
+        build = self.configure("clang", [*programs, "tests/base/C.cpp"])
+        looked_at, look = [], tidy._clang_tidy
+        with mock.patch.object(tidy, "_clang_tidy", lambda words: looked_at.append(words[-1]) or look(words)):
+            files = dict.fromkeys(programs, "int main() {}\n")
+            files["tests/base/C.cpp"] = "int one() { return 1; }\n"
+            result = self.run_check(tidy, files, [build])
+        self.assertEqual((result.findings, result.examined), ([], "3 files"))
+        names = [pathlib.Path(path).name for path in looked_at if "joined" in path or "base" in path]
+        self.assertEqual(sorted(names), ["joined0.cpp", "joined1.cpp"])
 
     def test_reports_a_file_that_does_not_compile(self):
         build = self.configure("clang", ["base/A.cpp"])

@@ -1,6 +1,7 @@
 """clang-tidy over every compiled file, after a look at whether its configuration works at all."""
 
 import concurrent.futures
+import itertools
 import json
 import os
 import pathlib
@@ -27,8 +28,10 @@ bool probe(const badly_named& object) { return object.isItself(1); }
 """
 PROBE_CHECKS = {"readability-identifier-naming", "misc-redundant-expression"}
 
-# Most of the time goes into the headers of the libraries, so files are looked at several at a time.
+# Most of the time goes into the headers of the libraries, so files are looked at several at a time, of which
+# one at most is where a program begins.
 JOINED_FILES = 12
+ENTRY_POINT = re.compile(r"^int (?:main|LLVMFuzzerTestOneInput)\(", re.MULTILINE)
 
 
 def run(tree):
@@ -85,9 +88,7 @@ def _joined_files(tree, files, folder):
     for path in files:
         alike.setdefault((path.split("/")[0], *_flags(tree.compiled[path])), []).append(path)
     groups = [
-        (own_folder, paths[start : start + JOINED_FILES])
-        for (own_folder, *_), paths in alike.items()
-        for start in range(0, len(paths), JOINED_FILES)
+        (own_folder, group) for (own_folder, *_), paths in alike.items() for group in _groups(tree, paths)
     ]
     for path in tree.files:
         if path.split("/")[-1] == ".clang-tidy":
@@ -102,6 +103,14 @@ def _joined_files(tree, files, folder):
         source.write_text("".join(lines), encoding="utf-8")
         joined[source] = group
     return joined
+
+
+def _groups(tree, paths):
+    programs = [path for path in paths if ENTRY_POINT.search(tree.text(path))]
+    others = [path for path in paths if path not in programs]
+    groups = [others[start : start + JOINED_FILES] for start in range(0, len(others), JOINED_FILES)]
+    each_program = [[program] for program in programs]
+    return [group + program for group, program in itertools.zip_longest(groups, each_program, fillvalue=[])]
 
 
 def _flags(entry):
