@@ -146,26 +146,36 @@ const Refused Refusals[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Refusals, PropertyListReaderRefuses, testing::ValuesIn(Refusals), nameOfRefused);
 
-std::string nestedArrays(std::size_t count) {
-    std::string xml;
+struct Nesting {
+    std::string_view begin;
+    std::string_view end;
+};
+constexpr Nesting Arrays{"<array>", "</array>"};
+constexpr Nesting Dictionaries{"<dict><key>inner</key>", "</dict>"};
+
+std::string nested(const Nesting& nesting, std::size_t count) {
+    std::string before;
+    std::string after;
     for (std::size_t index = 0; index < count; ++index) {
-        xml += "<array>";
+        before += nesting.begin;
+        after += nesting.end;
     }
-    for (std::size_t index = 0; index < count; ++index) {
-        xml += "</array>";
-    }
-    return inList(xml);
+    return inList(before + "<string>innermost</string>" + after);
 }
 
 TEST(PropertyListReader, AcceptsValuesThatAreNestedDeeply) {
-    EXPECT_TRUE(std::holds_alternative<PropertyList>(readPropertyList(nestedArrays(65))));
+    for (const Nesting& nesting : {Arrays, Dictionaries}) {
+        EXPECT_TRUE(std::holds_alternative<PropertyList>(readPropertyList(nested(nesting, 64))));
+    }
 }
 
 TEST(PropertyListReader, RefusesValuesThatAreNestedTooDeeply) {
-    for (const std::size_t count : {std::size_t{66}, std::size_t{100'000}}) {
-        const auto result = readPropertyList(nestedArrays(count));
-        ASSERT_TRUE(std::holds_alternative<PropertyListError>(result));
-        EXPECT_EQ(std::get<PropertyListError>(result).message, "the values are nested too deeply");
+    for (const Nesting& nesting : {Arrays, Dictionaries}) {
+        for (const std::size_t count : {std::size_t{65}, std::size_t{100'000}}) {
+            const auto result = readPropertyList(nested(nesting, count));
+            ASSERT_TRUE(std::holds_alternative<PropertyListError>(result));
+            EXPECT_EQ(std::get<PropertyListError>(result).message, "the values are nested too deeply");
+        }
     }
 }
 
