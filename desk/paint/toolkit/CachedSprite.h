@@ -24,12 +24,14 @@ struct SpritePlace {
 };
 SpritePlace spritePlace(cairo_t* context, const Rect& area);
 
-// Transparent memory for the grid's pixels, and a context for it whose area begins at the same user's
-// coordinates.
-SurfaceHandle makeSpriteSurface(const SpriteGrid& grid);
-ContextHandle makeSpriteContext(cairo_surface_t* sprite, const SpriteGrid& grid, Point areaOrigin);
+// A context with transparent memory for the grid's pixels, whose area begins at the same user's coordinates.
+ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin);
 
-void paintSprite(cairo_t* context, cairo_surface_t* sprite, const SpritePlace& place);
+// What is larger takes too much memory to be kept.
+inline constexpr double MostSpritePixels = 4e7;
+void paintWithin(cairo_t* context, const Rect& extent, const std::function<void(cairo_t*)>& paint);
+
+void paintSprite(cairo_t* context, cairo_t* sprite, const SpritePlace& place);
 
 // `Subject` is the value that decides what the sprite shows; two that compare equal must give the same
 // picture.
@@ -42,17 +44,21 @@ public:
     void paint(cairo_t* context, const Rect& extent, Subject subject,
                const std::function<void(cairo_t*)>& paintAnew) {
         const SpritePlace place = spritePlace(context, extent);
-        if (!surface_ || place.grid != grid_ || !(subject == subject_)) {
-            surface_ = makeSpriteSurface(place.grid);
-            paintAnew(makeSpriteContext(surface_.get(), place.grid, {extent.minX(), extent.minY()}).get());
+        if (place.grid.pixels.width * place.grid.pixels.height > MostSpritePixels) {
+            paintWithin(context, extent, paintAnew);
+            return;
+        }
+        if (!sprite_ || place.grid != grid_ || !(subject == subject_)) {
+            sprite_ = makeSprite(place.grid, {extent.minX(), extent.minY()});
+            paintAnew(sprite_.get());
             grid_ = place.grid;
             subject_ = std::move(subject);
         }
-        paintSprite(context, surface_.get(), place);
+        paintSprite(context, sprite_.get(), place);
     }
 
 private:
-    SurfaceHandle surface_;
+    ContextHandle sprite_;
     SpriteGrid grid_;
     Subject subject_;
 };
