@@ -38,7 +38,7 @@ private:
     Chrome chrome_;
     std::vector<HousingPainter> housings_; // by display
     // The subject is without what moves.
-    CachedSprite<DeskPicture> still_;
+    CachedSprite<DeskPicture> still_{CAIRO_FORMAT_RGB24};
     StackPainter stack_;
     ImageStore images_;
 };

@@ -21,22 +21,15 @@ SpritePlace spritePlace(cairo_t* context, const Rect& area) {
     return place;
 }
 
-ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin) {
-    const SurfaceHandle surface{cairo_image_surface_create(
-        CAIRO_FORMAT_ARGB32, static_cast<int>(grid.pixels.width), static_cast<int>(grid.pixels.height))};
+ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin, cairo_format_t format) {
+    const SurfaceHandle surface{cairo_image_surface_create(format, static_cast<int>(grid.pixels.width),
+                                                           static_cast<int>(grid.pixels.height))};
     cairo_surface_set_device_scale(surface.get(), grid.deviceScale, grid.deviceScale);
     ContextHandle context{cairo_create(surface.get())};
     cairo_translate(context.get(), grid.phase.x / grid.deviceScale, grid.phase.y / grid.deviceScale);
     cairo_scale(context.get(), grid.scale / grid.deviceScale, grid.scale / grid.deviceScale);
     cairo_translate(context.get(), -areaOrigin.x, -areaOrigin.y);
     return context;
-}
-
-void paintWithin(cairo_t* context, const Rect& extent, const std::function<void(cairo_t*)>& paint) {
-    const SavedState saved{context};
-    cairo_rectangle(context, extent.minX(), extent.minY(), extent.width(), extent.height());
-    cairo_clip(context);
-    paint(context);
 }
 
 void paintSprite(cairo_t* context, cairo_t* sprite, const SpritePlace& place) {

@@ -24,12 +24,12 @@ struct SpritePlace {
 };
 SpritePlace spritePlace(cairo_t* context, const Rect& area);
 
-// A context with transparent memory for the grid's pixels, whose area begins at the same user's coordinates.
-ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin);
+// A context with memory of that format for the grid's pixels, whose area begins at the same user's
+// coordinates.
+ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin, cairo_format_t format);
 
 // What is larger takes too much memory to be kept.
 inline constexpr double MostSpritePixels = 4e7;
-void paintWithin(cairo_t* context, const Rect& extent, const std::function<void(cairo_t*)>& paint);
 
 void paintSprite(cairo_t* context, cairo_t* sprite, const SpritePlace& place);
 
@@ -38,6 +38,9 @@ void paintSprite(cairo_t* context, cairo_t* sprite, const SpritePlace& place);
 template <typename Subject>
 class CachedSprite {
 public:
+    // One without transparency is faster.
+    explicit CachedSprite(cairo_format_t format = CAIRO_FORMAT_ARGB32) : format_(format) {}
+
     // `extent` encloses all that is to be seen of what `paintAnew` paints, in the same coordinates as the
     // context's. `paintAnew` is called only when the subject, or how the extent lies on the device's pixels,
     // is another than last time.
@@ -45,11 +48,14 @@ public:
                const std::function<void(cairo_t*)>& paintAnew) {
         const SpritePlace place = spritePlace(context, extent);
         if (place.grid.pixels.width * place.grid.pixels.height > MostSpritePixels) {
-            paintWithin(context, extent, paintAnew);
+            const SavedState saved{context};
+            cairo_rectangle(context, extent.minX(), extent.minY(), extent.width(), extent.height());
+            cairo_clip(context);
+            paintAnew(context);
             return;
         }
         if (!sprite_ || place.grid != grid_ || !(subject == subject_)) {
-            sprite_ = makeSprite(place.grid, {extent.minX(), extent.minY()});
+            sprite_ = makeSprite(place.grid, {extent.minX(), extent.minY()}, format_);
             paintAnew(sprite_.get());
             grid_ = place.grid;
             subject_ = std::move(subject);
@@ -58,6 +64,7 @@ public:
     }
 
 private:
+    cairo_format_t format_;
     ContextHandle sprite_;
     SpriteGrid grid_;
     Subject subject_;
