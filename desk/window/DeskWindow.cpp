@@ -5,8 +5,8 @@
 #include "desk/live/hand/Hand.h"
 #include "desk/live/world/LivePicture.h"
 #include "desk/live/world/OpenDesk.h"
-#include "desk/paint/desk/DeskHitTest.h"
 #include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/desk/DeskParts.h"
 #include "desk/paint/sheets/Sheet.h"
 #include "desk/window/WindowCanvas.h"
 

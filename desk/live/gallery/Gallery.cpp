@@ -58,23 +58,25 @@ private:
             }
             auto& shown = std::get<DeskPicture>(performed);
             std::string caption = shown.story;
-            Picture picture = pictureOfScene(*scene, std::move(shown));
             if (isWanted(name)) {
-                if (auto error = write(name, picture, SceneScale)) {
+                if (auto error = write(name, pictureOfScene(*scene, shown, pictureOfDesk), SceneScale)) {
                     return error;
                 }
             }
-            sheet.cells.push_back({std::move(caption), std::move(picture)});
+            // The words are in the caption.
+            sheet.cells.push_back(
+                {std::move(caption), pictureOfScene(*scene, std::move(shown), pictureOfStage)});
         }
         return std::nullopt;
     }
 
-    Picture pictureOfScene(const Scene& scene, DeskPicture shown) const {
+    Picture pictureOfScene(const Scene& scene, DeskPicture shown,
+                           Picture (*ofDesk)(DeskPicture desk, Size window)) const {
         if (scene.frame == Frame::window) {
             return pictureOfWindow(shown.windows.front(), isDark_);
         }
         shown.dark = isDark_;
-        return pictureOfDesk(std::move(shown), UsualWindow);
+        return ofDesk(std::move(shown), UsualWindow);
     }
 
     MaybeError write(const std::string& name, const Picture& picture, double scale) const {

@@ -46,6 +46,9 @@ std::variant<DeskPicture, std::string> Stage::perform(const Scene& scene) {
     picture.story = std::move(story);
     picture.keys.clear();
     picture.shown = framed(scene.frame, picture);
+    if (scene.frame == Frame::pointer) {
+        picture.loupe = picture.pointer;
+    }
     return picture;
 }
 
@@ -54,6 +57,7 @@ std::optional<Rect> framed(Frame frame, const DeskPicture& picture) {
     const Rect pointer{picture.pointer.x, picture.pointer.y, 0, 0};
     switch (frame) {
     case Frame::everything:
+    case Frame::pointer:
     case Frame::window:
         break;
     case Frame::display:
@@ -67,8 +71,6 @@ std::optional<Rect> framed(Frame frame, const DeskPicture& picture) {
         const auto open = DeskHitTest().openParts(picture);
         return enlargedBy(open ? unionOf(*open, pointer) : pointer, Surroundings);
     }
-    case Frame::pointer:
-        return enlargedBy(pointer, Surroundings);
     }
     return std::nullopt;
 }

@@ -16,8 +16,8 @@ namespace kestrune::desk {
 
 class Stage;
 
-// What of the desk a scene shows: all displays, the one with the pointer, what is open, what is around the
-// pointer, or only the application's front window, alone.
+// What of the desk a scene shows: all displays, the one with the pointer, what is open, all displays with a
+// loupe at the pointer, or only the application's front window, alone.
 enum class Frame { everything, display, whatIsOpen, pointer, window };
 
 struct Scene {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "desk/live/world/LiveDesk.h"
-#include "desk/paint/desk/DeskHitTest.h"
+#include "desk/paint/desk/DeskParts.h"
 
 #include <optional>
 #include <string>

@@ -305,7 +305,7 @@ Chapter tourChapter() {
         {"permission-granted", played<&TourScenes::grantPermission>, Frame::whatIsOpen},
         {"wizard-finished", played<&TourScenes::finishWizard>, Frame::whatIsOpen},
         {"the-dock-comes-home", played<&TourScenes::bringDockHome>},
-        {"held", played<&TourScenes::hold>},
+        {"held", played<&TourScenes::hold>, Frame::pointer},
         {"held-while-dragging", played<&TourScenes::holdDrag>, Frame::pointer},
         {"tool-tip", played<&TourScenes::restToSeeTheToolTip>, Frame::whatIsOpen},
         {"menu-after-setup", played<&TourScenes::openMenuAfterSetup>, Frame::whatIsOpen},
@@ -329,7 +329,7 @@ Chapter tourChapter() {
         {"quit", played<&TourScenes::quit>},
         {"launched-again", played<&TourScenes::launchAgain>, Frame::whatIsOpen},
     };
-    return {"tour", "The whole life of Kestrune, scene by scene", 5, 0.4, {{prepare, scenes}}};
+    return {"tour", "The whole life of Kestrune, scene by scene", 3, 0.5, {{prepare, scenes}}};
 }
 
 } // namespace kestrune::desk

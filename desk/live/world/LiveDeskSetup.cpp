@@ -1,6 +1,6 @@
 #include "desk/live/world/LiveDeskSetup.h"
 
-#include "desk/paint/toolkit/PangoMeasurer.h"
+#include "desk/paint/mac/ScenePainter.h"
 #include "replay/SimulatedDesk.h"
 #include "replay/StoredChoices.h"
 #include "sim/formats/DefaultsFile.h"

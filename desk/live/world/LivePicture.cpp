@@ -3,7 +3,7 @@
 #include "Kestrune/BlockedBand.h"
 #include "desk/live/hand/DeskKeys.h"
 #include "desk/live/world/PinnedDisplay.h"
-#include "desk/paint/desk/StatusBarPainter.h"
+#include "desk/paint/desk/Chrome.h"
 #include "replay/StoredChoices.h"
 
 #include <algorithm>

@@ -75,9 +75,9 @@ Point DisplayPlace::toGlobal(Point window) const {
             bounds.minY() + (window.y - screen.minY()) / scale};
 }
 
-DeskLayout::DeskLayout(Size window, std::span<const Rect> displays, bool hasStory,
-                       std::optional<Rect> shown) {
-    divideWindow(window, hasStory);
+DeskLayout::DeskLayout(Size window, std::span<const Rect> displays, bool hasStory, std::optional<Rect> shown,
+                       bool isStageAlone) {
+    divideWindow(window, hasStory, isStageAlone);
     if (shown) {
         insetStage();
     }
@@ -107,16 +107,18 @@ DeskLayout DeskLayout::of(const DeskPicture& picture, Size window) {
     for (const DisplayPicture& display : picture.displays) {
         bounds.push_back(display.bounds);
     }
-    return {window, bounds, !picture.story.empty(), picture.shown};
+    return {window, bounds, !picture.story.empty(), picture.shown, picture.stageOnly};
 }
 
-void DeskLayout::divideWindow(Size window, bool hasStory) {
-    const double storyHeight = hasStory ? StoryHeight : 0;
-    header_ = {0, 0, window.width, HeaderHeight};
-    story_ = {HorizontalMargin, HeaderHeight, std::max(1.0, window.width - 2 * HorizontalMargin),
+void DeskLayout::divideWindow(Size window, bool hasStory, bool isStageAlone) {
+    const double headerHeight = isStageAlone ? 0 : HeaderHeight;
+    const double storyHeight = hasStory && !isStageAlone ? StoryHeight : 0;
+    const double footerHeight = isStageAlone ? 0 : FooterHeight;
+    header_ = {0, 0, window.width, headerHeight};
+    story_ = {HorizontalMargin, headerHeight, std::max(1.0, window.width - 2 * HorizontalMargin),
               storyHeight};
-    footer_ = {0, window.height - FooterHeight, window.width, FooterHeight};
-    const double top = HeaderHeight + storyHeight;
+    footer_ = {0, window.height - footerHeight, window.width, footerHeight};
+    const double top = headerHeight + storyHeight;
     stage_ = {0, top, window.width, std::max(1.0, footer_.minY() - top)};
 }
 
@@ -223,11 +225,12 @@ const DisplayPlace* DeskLayout::placeContaining(Point global) const {
 }
 
 std::optional<Point> DeskLayout::pointAt(Point window) const {
-    const auto found = std::find_if(places_.begin(), places_.end(), [window](const auto& place) {
-        return place && place->screen.contains(window);
-    });
-    return found != places_.end() && stage_.contains(window) ? std::optional((*found)->toGlobal(window))
-                                                             : std::nullopt;
+    for (const auto& place : places_) {
+        if (place && place->screen.contains(window) && stage_.contains(window)) {
+            return place->toGlobal(window);
+        }
+    }
+    return std::nullopt;
 }
 
 Point DeskLayout::toGlobal(Point window) const {

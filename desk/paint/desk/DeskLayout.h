@@ -37,10 +37,10 @@ public:
     static constexpr double StoryHeight = 56;
     static constexpr double FooterHeight = 112;
 
-    // A story takes a strip of its own below the header. What is shown is in global display coordinates, and
-    // without it that is all displays.
+    // A story takes a strip of its own below the header; a stage that is alone has neither. What is shown is
+    // in global display coordinates, and without it that is all displays.
     DeskLayout(Size window, std::span<const Rect> displays, bool hasStory = false,
-               std::optional<Rect> shown = std::nullopt);
+               std::optional<Rect> shown = std::nullopt, bool isStageAlone = false);
 
     static DeskLayout of(const DeskPicture& picture, Size window);
 
@@ -77,7 +77,7 @@ public:
     Point centerFor(Point pointer) const;
 
 private:
-    void divideWindow(Size window, bool hasStory);
+    void divideWindow(Size window, bool hasStory, bool isStageAlone);
     void insetStage();
     void spreadOut(std::span<const Rect> displays);
     Rect onDesk(const Rect& bounds) const;

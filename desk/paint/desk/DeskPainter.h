@@ -2,13 +2,13 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "desk/paint/desk/Chrome.h"
 #include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/desk/DeskParts.h"
 #include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/desk/DisplayPainter.h"
-#include "desk/paint/desk/StackPainter.h"
-#include "desk/paint/toolkit/CachedLayer.h"
-#include "desk/paint/toolkit/CairoObjects.h"
-#include "desk/paint/toolkit/Canvas.h"
+#include "desk/paint/mac/Canvas.h"
+#include "desk/paint/toolkit/CachedSprite.h"
 
 #include <vector>
 
@@ -21,21 +21,24 @@ DeskPicture withoutWhatMoves(DeskPicture picture);
 // Keep one for each window: it remembers what stays the same from picture to picture.
 class DeskPainter {
 public:
-    static constexpr double LongestSide = 16384;
-
     // Fills the window. One user unit of the context is one logical pixel; `window` is the size in them. Does
-    // nothing for a window that has no area or a side longer than LongestSide.
+    // nothing for a window that has no area or a side longer than 16384.
     void paint(cairo_t* context, const DeskPicture& picture, Size window);
 
 private:
     void paintStill(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout, Size window);
-    void paintStage(const Canvas& canvas, const DeskPicture& picture, const DeskLayout& layout);
+    void paintHousings(const Canvas& canvas, const DeskPicture& picture, const DeskLayout& layout);
+    void paintStage(const Canvas& canvas, const DeskPicture& picture, const DeskLayout& layout,
+                    bool hasMarks);
 
-    void paintHousings(cairo_t* context, const DeskPicture& picture, const DeskLayout& layout);
+    // What is at a place in the window, large and without marks.
+    void paintThroughGlass(const Canvas& canvas, const DeskPicture& picture, const DeskLayout& layout,
+                           Point place);
 
+    Chrome chrome_;
     std::vector<HousingPainter> housings_; // by display
     // The subject is without what moves.
-    CachedLayer<DeskPicture> still_;
+    CachedSprite<DeskPicture> still_{CAIRO_FORMAT_RGB24};
     StackPainter stack_;
     ImageStore images_;
 };

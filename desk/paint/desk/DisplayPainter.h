@@ -1,13 +1,13 @@
-// One display: its housing with the wallpaper, and the caption with the pin.
+// One display: its housing with the wallpaper.
 #pragma once
 
 #include "desk/paint/desk/DeskLayout.h"
 #include "desk/paint/desk/DeskPicture.h"
+#include "desk/paint/mac/Canvas.h"
 #include "desk/paint/toolkit/CachedSprite.h"
-#include "desk/paint/toolkit/Canvas.h"
 
 #include <cstddef>
-#include <optional>
+#include <tuple>
 
 namespace kestrune::desk {
 
@@ -24,14 +24,8 @@ public:
     void paint(cairo_t* context, const DisplayPlace& place, std::size_t wallpaper, bool dark);
 
 private:
-    struct Subject {
-        Size size; // of the display
-        double scale = 1;
-        std::size_t wallpaper = 0;
-        bool dark = false;
-
-        friend bool operator==(const Subject&, const Subject&) = default;
-    };
+    // Size of the display, scale, wallpaper and whether it is dark.
+    using Subject = std::tuple<Size, double, std::size_t, bool>;
 
     CachedSprite<Subject> shadow_;
     CachedSprite<Subject> housing_;
@@ -39,18 +33,5 @@ private:
 
 // What of the housing lies in front of the corners of what was painted on the display.
 void paintScreenCorners(cairo_t* context, const Palette& palette, const DisplayPlace& place);
-
-// Where the display's name and size stand below what the stage shows of its housing, and the badge of a
-// pinned display after them, in window coordinates. A display that is drawn too small has none of them, nor
-// one of which too little is shown.
-struct CaptionPlace {
-    Rect name;
-    std::optional<Rect> size;
-    std::optional<Rect> badge;
-};
-std::optional<CaptionPlace> captionPlace(TextPainter& text, const DisplayPlace& place,
-                                         const DisplayPicture& display, const Rect& stage);
-
-void paintCaption(const Canvas& canvas, const CaptionPlace& place, const DisplayPicture& display);
 
 } // namespace kestrune::desk

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/toolkit/Canvas.h"
+#include "desk/paint/mac/Canvas.h"
 
 #include <optional>
 #include <string>

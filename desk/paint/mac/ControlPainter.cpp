@@ -3,49 +3,27 @@
 #include "desk/paint/mac/Measures.h"
 #include "desk/paint/toolkit/RectMath.h"
 #include "desk/paint/toolkit/Shapes.h"
-#include "desk/paint/toolkit/SoftShadow.h"
+
+#include <array>
 
 namespace kestrune::desk {
-namespace {
-
-void strokeLine(cairo_t* context, Point from, Point to, double width, const Color& color) {
-    const SavedState saved{context};
-    cairo_set_line_cap(context, CAIRO_LINE_CAP_ROUND);
-    cairo_set_line_width(context, width);
-    cairo_move_to(context, from.x, from.y);
-    cairo_line_to(context, to.x, to.y);
-    setColor(context, color);
-    cairo_stroke(context);
-}
-
-} // namespace
 
 PushButtonLook pushButtonLook(ui::ControlSize size) {
     const auto look = [](double height, double padding, double cornerRadius, double textSize) {
-        return PushButtonLook{
-            height,
-            padding,
-            cornerRadius,
-            {.size = textSize, .weight = FontWeight::medium, .alignment = TextAlignment::center}};
+        const TextStyle label{
+            .size = textSize, .weight = FontWeight::medium, .alignment = TextAlignment::center};
+        return PushButtonLook{height, padding, cornerRadius, label};
     };
-    switch (size) {
-    case ui::ControlSize::mini:
-        return look(16, 7, 4, 9);
-    case ui::ControlSize::small:
-        return look(19, 9, 4.5, 11);
-    case ui::ControlSize::large:
-        return look(28, 14, 6.5, 13);
-    case ui::ControlSize::regular:
-        break;
-    }
-    return look(22, 12, 5.5, 13);
+    const std::array looks{look(16, 7, 4, 9), look(19, 9, 4.5, 11), look(22, 12, 5.5, 13),
+                           look(28, 14, 6.5, 13)};
+    return looks.at(static_cast<std::size_t>(size));
 }
 
 void paintPushButton(const Canvas& canvas, const Rect& area, std::string_view label, PushButtonState state,
                      const PushButtonLook& look) {
     const double radius = look.cornerRadius;
     const SystemColors& colors = canvas.palette.system;
-    const Rect shadow{area.minX(), area.minY() + 0.75, area.width(), area.height()};
+    const Rect shadow = movedBy(area, {0, 0.75});
     paintSoftShadow(canvas.context, shadow, 2, rgb(0x000000, 0.16),
                     [&](cairo_t* mask) { addRoundedRectangle(mask, shadow, radius); });
     const Color face = state.isDefault ? colors.accent : colors.buttonFace;
@@ -108,25 +86,24 @@ void paintWindowButtons(const Canvas& canvas, const Rect& close, const WindowPic
     paintButton(0, shown.isClosable, shown.isCloseButtonPressed, rgb(0xFF5F57));
     paintButton(1, shown.isMiniaturizable, shown.isMinimizeButtonPressed, rgb(0xFEBC2E));
     paintButton(2, shown.isResizable, false, rgb(0x28C840));
-    constexpr double Arm = 2.4;
-    const Color sign = rgb(0x000000, 0.6);
+    const auto addLine = [&](Point middle, Point arm) {
+        cairo_move_to(canvas.context, middle.x - arm.x, middle.y - arm.y);
+        cairo_line_to(canvas.context, middle.x + arm.x, middle.y + arm.y);
+    };
     if (isInUse && shown.isClosable) {
-        strokeLine(canvas.context, {center.x - Arm, center.y - Arm}, {center.x + Arm, center.y + Arm}, 1.2,
-                   sign);
-        strokeLine(canvas.context, {center.x - Arm, center.y + Arm}, {center.x + Arm, center.y - Arm}, 1.2,
-                   sign);
+        addLine(center, {2.4, 2.4});
+        addLine(center, {2.4, -2.4});
     }
     if (isInUse && shown.isMiniaturizable) {
-        const double middle = center.x + WindowButtonDistance;
-        strokeLine(canvas.context, {middle - 3, center.y}, {middle + 3, center.y}, 1.2, sign);
+        addLine({center.x + WindowButtonDistance, center.y}, {3, 0});
     }
+    setColor(canvas.context, rgb(0x000000, 0.6));
+    strokeRound(canvas.context, 1.2);
 }
 
 void paintFocusRing(const Canvas& canvas, const Rect& control, double cornerRadius) {
     constexpr double Width = 3.5;
-    const Rect outside{control.minX() - Width, control.minY() - Width, control.width() + 2 * Width,
-                       control.height() + 2 * Width};
-    strokeRoundedRectangle(canvas.context, outside, cornerRadius + Width, Width,
+    strokeRoundedRectangle(canvas.context, enlargedBy(control, Width), cornerRadius + Width, Width,
                            canvas.palette.system.focusRing);
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "desk/paint/mac/Canvas.h"
 #include "desk/paint/mac/SystemPicture.h"
-#include "desk/paint/toolkit/Canvas.h"
 #include "ui/Style.h"
 
 #include <optional>

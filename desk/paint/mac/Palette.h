@@ -1,35 +1,10 @@
 // The colours of the desk, in light and dark appearance.
 #pragma once
 
-#include "ui/SystemColor.h"
-
-#include <cstddef>
-#include <cstdint>
+#include "desk/paint/toolkit/Color.h"
+#include "ui/Style.h"
 
 namespace kestrune::desk {
-
-// Components from 0 to 1, not premultiplied.
-struct Color {
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    double alpha = 1;
-
-    constexpr Color withAlpha(double newAlpha) const { return {red, green, blue, newAlpha}; }
-
-    friend constexpr bool operator==(const Color&, const Color&) = default;
-};
-
-// A colour written as 0xRRGGBB.
-constexpr Color rgb(std::uint32_t hexadecimal, double alpha = 1) {
-    return {static_cast<double>(hexadecimal >> 16 & 0xFF) / 255,
-            static_cast<double>(hexadecimal >> 8 & 0xFF) / 255, static_cast<double>(hexadecimal & 0xFF) / 255,
-            alpha};
-}
-constexpr Color rgb(const ui::Shade& shade) { return rgb(shade.hexadecimal, shade.alpha); }
-
-// The colour `fraction` of the way from the first to the second.
-Color mix(const Color& first, const Color& second, double fraction);
 
 // Of menus, tool tips, windows and their controls.
 struct SystemColors {
@@ -84,9 +59,6 @@ struct Palette {
 
     Color menuBar;
     Color menuBarText;
-    Color caption;
-    Color captionText;
-    Color captionDetail;
 
     Color dockPanel;
     Color dockBorder;
@@ -104,18 +76,5 @@ struct Palette {
 };
 
 const Palette& paletteFor(bool dark);
-
-struct WallpaperColors {
-    Color skyTop;
-    Color skyMiddle;
-    Color skyHorizon;
-    Color sun;
-    Color glow; // around the sun
-    Color farHill;
-    Color nearHill;
-};
-
-// Any number picks a wallpaper.
-const WallpaperColors& wallpaperColors(std::size_t wallpaper);
 
 } // namespace kestrune::desk

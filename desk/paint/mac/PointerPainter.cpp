@@ -1,8 +1,7 @@
 #include "desk/paint/mac/PointerPainter.h"
 
-#include "desk/paint/mac/Palette.h"
+#include "desk/paint/toolkit/Color.h"
 #include "desk/paint/toolkit/Shapes.h"
-#include "desk/paint/toolkit/SoftShadow.h"
 
 #include <array>
 

@@ -3,9 +3,9 @@
 #include "desk/paint/mac/ApplicationIcon.h"
 #include "desk/paint/mac/ControlPainter.h"
 #include "desk/paint/mac/SymbolPainter.h"
-#include "desk/paint/toolkit/SceneColor.h"
+#include "desk/paint/toolkit/RectMath.h"
 #include "desk/paint/toolkit/Shapes.h"
-#include "desk/paint/toolkit/StyledTextLayout.h"
+#include "ui/ControlMetrics.h"
 #include "ui/Outline.h"
 
 #include <variant>
@@ -27,21 +27,15 @@ void addOutline(cairo_t* context, const ui::Outline& outline) {
 // Paints each kind of element; the context's origin is the scene's.
 class ElementPainter {
 public:
-    explicit ElementPainter(const Canvas& canvas) : canvas_(canvas), text_(canvas.context) {}
+    ElementPainter(const Canvas& canvas, const SceneState& state) : canvas_(canvas), state_(state) {}
 
-    // Of the next element, which has that index.
-    void set(std::size_t index, const SceneState& state) {
-        isPressed_ = state.pressedElement == index;
-        isInKeyWindow_ = state.isInKeyWindow;
-        switchPosition_ = state.movingSwitch && state.movingSwitch->element == index
-                              ? std::optional(state.movingSwitch->position)
-                              : std::nullopt;
+    void paint(const ui::Element& element, std::size_t index) {
+        index_ = index;
+        std::visit(*this, element);
     }
 
     void operator()(const ui::TextElement& element) {
-        text_.set(element.text, element.frame.width());
-        setColor(canvas_.context, sceneColor(canvas_.palette, element.text.color));
-        text_.fill({element.frame.minX(), element.frame.minY()});
+        canvas_.text.paint(element.text, element.frame, colorOf(element.text.color));
     }
 
     void operator()(const ui::SymbolElement& element) {
@@ -49,13 +43,12 @@ public:
             paintApplicationIcon(canvas_, path, element.frame);
             return;
         }
-        paintSymbol(canvas_.context, element.symbol, element.frame,
-                    sceneColor(canvas_.palette, element.symbol.color));
+        paintSymbol(canvas_.context, element.symbol, element.frame, colorOf(element.symbol.color));
     }
 
     void operator()(const ui::ShapeElement& element) {
         addOutline(canvas_.context, ui::outlineOf(element));
-        const Color fill = sceneColor(canvas_.palette, element.fill);
+        const Color fill = colorOf(element.fill);
         setColor(canvas_.context, fill.withAlpha(fill.alpha * element.opacity));
         if (element.lineWidth > 0) {
             cairo_set_line_width(canvas_.context, element.lineWidth);
@@ -70,15 +63,15 @@ public:
         case ui::ButtonElement::Kind::bordered:
             paintPushButton(
                 canvas_, element.frame, element.title,
-                {.isDefault = element.shortcut == ui::KeyboardShortcut::defaultAction && isInKeyWindow_,
-                 .isPressed = isPressed_},
+                {.isDefault = element.shortcut == ui::KeyboardShortcut::defaultAction && state_.isInKeyWindow,
+                 .isPressed = isPressed()},
                 pushButtonLook(element.size));
             break;
         case ui::ButtonElement::Kind::link:
             paintLink(element);
             break;
         case ui::ButtonElement::Kind::custom:
-            paintBody(isPressed_ ? element.pressedBody : element.body);
+            paintBody(isPressed() ? element.pressedBody : element.body);
             break;
         }
     }
@@ -86,9 +79,9 @@ public:
     void operator()(const ui::ToggleElement& element) {
         paintSwitch(canvas_, element.frame,
                     {.isOn = element.isOn,
-                     .position = switchPosition_,
-                     .isPressed = isPressed_,
-                     .isInKeyWindow = isInKeyWindow_});
+                     .position = switchPosition(),
+                     .isPressed = isPressed(),
+                     .isInKeyWindow = state_.isInKeyWindow});
     }
 
 private:
@@ -104,14 +97,25 @@ private:
         cairo_push_group(canvas_.context);
         paintBody(element.body);
         cairo_pop_group_to_source(canvas_.context);
-        cairo_paint_with_alpha(canvas_.context, isPressed_ ? PressedOpacity : 1);
+        cairo_paint_with_alpha(canvas_.context, isPressed() ? PressedOpacity : 1);
+    }
+
+    bool isPressed() const { return state_.pressedElement == index_; }
+
+    std::optional<double> switchPosition() const {
+        return state_.movingSwitch && state_.movingSwitch->element == index_
+                   ? std::optional(state_.movingSwitch->position)
+                   : std::nullopt;
+    }
+
+    Color colorOf(ui::Color color) const {
+        return state_.colors ? state_.colors->at(static_cast<std::size_t>(color))
+                             : sceneColor(canvas_.palette, color);
     }
 
     const Canvas& canvas_;
-    StyledTextLayout text_;
-    bool isPressed_ = false;
-    bool isInKeyWindow_ = true;
-    std::optional<double> switchPosition_;
+    const SceneState& state_;
+    std::size_t index_ = 0; // of the element
 };
 
 // The ring follows the shape that a button is drawn on.
@@ -132,10 +136,7 @@ void paintFocus(const Canvas& canvas, const ui::Element& element) {
     if (const auto* const button = std::get_if<ui::ButtonElement>(&element)) {
         // A link has no room of its own around its letters.
         const double room = button->kind == ui::ButtonElement::Kind::link ? 2 : 0;
-        paintFocusRing(canvas,
-                       {button->frame.minX() - room, button->frame.minY(), button->frame.width() + 2 * room,
-                        button->frame.height()},
-                       cornerRadiusOf(*button));
+        paintFocusRing(canvas, insetBy(button->frame, -room, 0), cornerRadiusOf(*button));
     } else if (const auto* const toggle = std::get_if<ui::ToggleElement>(&element)) {
         paintFocusRing(canvas, toggle->frame, toggle->frame.height() / 2);
     }
@@ -143,17 +144,33 @@ void paintFocus(const Canvas& canvas, const ui::Element& element) {
 
 } // namespace
 
+Color sceneColor(const Palette& palette, ui::Color color) {
+    return rgb(ui::systemColor(color).shade(palette.isDark));
+}
+
 void paintScene(const Canvas& canvas, const ui::Scene& scene, Point origin, const SceneState& state) {
     const SavedState saved{canvas.context};
     cairo_translate(canvas.context, origin.x, origin.y);
-    ElementPainter painter{canvas};
+    ElementPainter painter{canvas, state};
     for (std::size_t index = 0; index < scene.elements.size(); ++index) {
-        painter.set(index, state);
-        std::visit(painter, scene.elements[index]);
+        painter.paint(scene.elements[index], index);
     }
     if (state.focusedElement && *state.focusedElement < scene.elements.size() && state.isInKeyWindow) {
         paintFocus(canvas, scene.elements[*state.focusedElement]);
     }
 }
+
+Size PangoMeasurer::measureText(const ui::StyledText& text, std::optional<double> width) const {
+    return text_.size(text, width);
+}
+
+Size PangoMeasurer::measureSymbol(const ui::StyledSymbol& symbol) const { return symbolSize(symbol); }
+
+Size PangoMeasurer::measurePushButton(std::string_view title, ui::ControlSize size) const {
+    const PushButtonLook look = pushButtonLook(size);
+    return {text_.width(title, look.label) + 2 * look.padding, look.height};
+}
+
+Size PangoMeasurer::measureSwitch(ui::ControlSize size) const { return ui::switchSize(size); }
 
 } // namespace kestrune::desk

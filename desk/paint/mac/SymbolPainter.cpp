@@ -26,13 +26,7 @@ constexpr double CircleRadius = CircleDiameter / 2;
 constexpr Size CircleSize{CircleDiameter, CircleDiameter};
 constexpr Size ScreenSize{1.40, 1.06};
 constexpr Size SignSize{0.74, 0.74};
-
-void strokeRound(cairo_t* context, double width) {
-    cairo_set_line_cap(context, CAIRO_LINE_CAP_ROUND);
-    cairo_set_line_join(context, CAIRO_LINE_JOIN_ROUND);
-    cairo_set_line_width(context, width);
-    cairo_stroke(context);
-}
+constexpr Size PinSize{1.3, 1};
 
 // Fills the symbol's disc and takes what `addSign` adds, as a line of `width`, out of it.
 void fillDiscWithout(cairo_t* context, double width, void (*addSign)(cairo_t*)) {
@@ -108,6 +102,21 @@ void drawPlus(cairo_t* context, double line) {
     drawMinus(context, line);
 }
 
+// A drawing pin seen from the side: head, collar and needle.
+void drawPin(cairo_t* context, double) {
+    cairo_rotate(context, 0.62);
+    cairo_scale(context, 1.0 / 14, 1.0 / 14);
+    addRoundedRectangle(context, {-3.8, -7, 7.6, 2.2}, 1.1);
+    cairo_move_to(context, -2.3, -5.4);
+    cairo_line_to(context, 2.3, -5.4);
+    cairo_line_to(context, 2.7, -1.2);
+    cairo_line_to(context, -2.7, -1.2);
+    cairo_close_path(context);
+    addRoundedRectangle(context, {-4.6, -1.6, 9.2, 2.2}, 1.1);
+    cairo_rectangle(context, -0.65, 0, 1.3, 6.6);
+    cairo_fill(context);
+}
+
 constexpr std::array Drawings{
     Drawing{"dock.rectangle", ScreenSize, drawScreenWithDock},
     Drawing{"2.circle.fill", CircleSize, drawTwoOnDisc},
@@ -115,6 +124,7 @@ constexpr std::array Drawings{
     Drawing{"circle.dashed", CircleSize, drawDashedCircle},
     Drawing{"minus", SignSize, drawMinus},
     Drawing{"plus", SignSize, drawPlus},
+    Drawing{"pin.fill", PinSize, drawPin},
 };
 
 const Drawing* drawingOf(std::string_view name) {
@@ -129,15 +139,8 @@ double lineWidth(ui::FontWeight weight) {
 }
 
 double scaleFactor(ui::ImageScale scale) {
-    switch (scale) {
-    case ui::ImageScale::small:
-        return 0.78;
-    case ui::ImageScale::medium:
-        return 1;
-    case ui::ImageScale::large:
-        return 1.28;
-    }
-    return 1;
+    constexpr std::array Factors{0.78, 1.0, 1.28};
+    return Factors.at(static_cast<std::size_t>(scale));
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/mac/Palette.h"
 #include "desk/paint/toolkit/CairoObjects.h"
+#include "desk/paint/toolkit/Color.h"
 #include "ui/Scene.h"
 
 namespace kestrune::desk {

@@ -1,5 +1,8 @@
-// The parts of a Mac's screen that an application of the menu bar lives in, as plain data: status items,
-// menus, tool tips and windows, its own and those of the system.
+// The parts of a Mac's screen that an application of the menu bar lives in, as plain data: displays, status
+// items, menus, tool tips and windows, its own and those of the system.
+//
+// All locations are in global display coordinates: points, origin at the top left of the primary display, y
+// downwards.
 #pragma once
 
 #include "base/Geometry.h"
@@ -108,6 +111,48 @@ struct WindowPicture {
     bool isTitled() const { return titleBarHeight > 0; }
 
     friend bool operator==(const WindowPicture&, const WindowPicture&) = default;
+};
+
+struct DisplayPicture {
+    std::string name;
+    Rect bounds;
+    bool pinned = false;
+    // Top of the strip above the bottom edge that the guard keeps the pointer out of; absent on a display
+    // that may have the Dock.
+    std::optional<double> bandTop;
+    // Any number. It picks the wallpaper, so it should stay with a display while others come and go.
+    std::size_t wallpaper = 0;
+
+    friend bool operator==(const DisplayPicture&, const DisplayPicture&) = default;
+};
+
+// All that is on the displays.
+struct MacPicture {
+    std::vector<DisplayPicture> displays;
+    // Index of the display that shows the Dock.
+    std::optional<std::size_t> dockDisplay;
+    Point pointer;
+
+    // Text at the trailing end of each menu bar.
+    std::string clock;
+    // In the order of the menu bar; the last is next to the clock.
+    std::vector<StatusItemPicture> statusItems;
+    // The first is the application's name. Empty while the application has no main menu or is not the active
+    // one: then the menu bars have the titles of another.
+    std::vector<std::string> mainMenuTitles;
+    // A PNG file, while the application has a place in the Dock.
+    std::optional<std::string> dockIcon;
+
+    std::optional<MenuPicture> menu;
+    std::optional<ToolTipPicture> toolTip;
+    // The application's and the system's, from front to back.
+    std::vector<WindowPicture> windows;
+    // Those that are tiles in the Dock instead, from left to right.
+    std::vector<WindowPicture> miniaturized;
+
+    bool dark = false;
+
+    friend bool operator==(const MacPicture&, const MacPicture&) = default;
 };
 
 } // namespace kestrune::desk

@@ -1,14 +1,39 @@
 #include "desk/paint/mac/Wallpaper.h"
 
-#include "desk/paint/mac/Palette.h"
 #include "desk/paint/toolkit/Shapes.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
 namespace kestrune::desk {
 namespace {
+
+struct WallpaperColors {
+    Color skyTop;
+    Color skyMiddle;
+    Color skyHorizon;
+    Color sun;
+    Color glow; // around the sun
+    Color farHill;
+    Color nearHill;
+};
+
+constexpr std::array<WallpaperColors, 6> Wallpapers{{
+    // Lake at dawn
+    {rgb(0x3E78B8), rgb(0x93BFE2), rgb(0xFFDFD0), rgb(0xFFFAF2), rgb(0xFFE6DC), rgb(0x9CBAD3), rgb(0x173A60)},
+    // Plum dusk
+    {rgb(0x4B3C80), rgb(0xB0709F), rgb(0xFFC49A), rgb(0xFFF0D4), rgb(0xFFB98C), rgb(0xB483A6), rgb(0x281D47)},
+    // Sage valley
+    {rgb(0x5BA397), rgb(0xB2DCC0), rgb(0xFAF3CC), rgb(0xFFFDEC), rgb(0xFFF7CC), rgb(0xA0CBAA), rgb(0x164944)},
+    // Terracotta
+    {rgb(0xCB6F50), rgb(0xF2B183), rgb(0xFFE9C2), rgb(0xFFF8E4), rgb(0xFFE2AE), rgb(0xE3A883), rgb(0x632A2B)},
+    // Rose
+    {rgb(0xAB4F80), rgb(0xE99AA9), rgb(0xFFE4D2), rgb(0xFFF4EA), rgb(0xFFD9C2), rgb(0xDB9AAC), rgb(0x4E1F4A)},
+    // Blue hour
+    {rgb(0x1C2C5C), rgb(0x4966A6), rgb(0xC3C8E2), rgb(0xFFFFFF), rgb(0xBFCBF2), rgb(0x7488BA), rgb(0x0E1735)},
+}};
 
 constexpr int Layers = 6;
 
@@ -37,10 +62,8 @@ void paintSky(cairo_t* context, const Rect& screen, const WallpaperColors& color
     const double side = wallpaper % 2 == 0 ? 0.70 : 0.30;
     const Point sun{screen.minX() + screen.width() * side, screen.minY() + screen.height() * 0.40};
     const double unit = unitOf(screen);
-    addCircle(context, sun, unit * 0.62);
-    fillWithGlow(context, sun, unit * 0.62, colors.glow.withAlpha(0.34));
-    addCircle(context, sun, unit * 0.24);
-    fillWithGlow(context, sun, unit * 0.24, colors.glow.withAlpha(0.42));
+    fillGlow(context, sun, unit * 0.62, colors.glow.withAlpha(0.34));
+    fillGlow(context, sun, unit * 0.24, colors.glow.withAlpha(0.42));
     fillCircle(context, sun, unit * 0.05, colors.sun.withAlpha(0.94));
 }
 
@@ -70,7 +93,7 @@ void paintWallpaper(cairo_t* context, const Rect& screen, std::size_t wallpaper)
     const SavedState saved{context};
     cairo_rectangle(context, screen.minX(), screen.minY(), screen.width(), screen.height());
     cairo_clip(context);
-    const WallpaperColors& colors = wallpaperColors(wallpaper);
+    const WallpaperColors& colors = Wallpapers[wallpaper % Wallpapers.size()];
     paintSky(context, screen, colors, wallpaper);
     for (int layer = 0; layer < Layers; ++layer) {
         paintHills(context, screen, colors, layer, wallpaper);

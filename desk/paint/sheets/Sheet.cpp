@@ -1,10 +1,9 @@
 #include "desk/paint/sheets/Sheet.h"
 
 #include "desk/paint/desk/DeskPainter.h"
-#include "desk/paint/desk/PanelPainter.h"
 #include "desk/paint/mac/Palette.h"
-#include "desk/paint/mac/WindowLayout.h"
-#include "desk/paint/mac/WindowPainter.h"
+#include "desk/paint/mac/PanelPainter.h"
+#include "desk/paint/mac/Window.h"
 #include "desk/paint/toolkit/RectMath.h"
 #include "desk/paint/toolkit/Shapes.h"
 
@@ -16,9 +15,8 @@ namespace kestrune::desk {
 namespace {
 
 constexpr double PageMargin = 40;
-constexpr double TitleHeight = 56;
-constexpr double CaptionHeight = 34;
 constexpr double Gap = 20;
+constexpr double SmallestLetters = 11; // pixels, on a sheet that is shown 900 pixels wide
 constexpr double CornerRadius = 8;
 constexpr double Surroundings = 40; // between a window and the edge of what is behind it
 
@@ -33,9 +31,8 @@ void paintWindowAlone(cairo_t* context, const WindowPicture& window, bool dark) 
     TextPainter text{context};
     ImageStore images;
     const Canvas canvas{context, text, images, paletteFor(dark)};
-    const WindowLayout layout = windowLayout(window);
-    paintPanel(canvas, layout.frame, windowPanelStyle(canvas.palette, window));
-    paintWindow(canvas, layout, window);
+    paintPanel(canvas, window.frame, windowPanelStyle(canvas.palette, window));
+    paintWindow(canvas, window);
 }
 
 Size sizeOnSheet(const Sheet& sheet, const SheetCell& cell) {
@@ -43,20 +40,33 @@ Size sizeOnSheet(const Sheet& sheet, const SheetCell& cell) {
             std::round(cell.picture.size.height * sheet.scale)};
 }
 
-// Painted by itself, as painters keep parts in the scale that they know.
+ui::StyledText styled(const std::string& words, double size, FontWeight weight, TextAlignment alignment) {
+    return {.runs = {{words, weight}}, .font = ui::Font::system(size), .alignment = alignment};
+}
+
+ui::StyledText titleOf(const Sheet& sheet, double captionSize) {
+    return styled(sheet.title, 1.35 * captionSize, FontWeight::semibold, TextAlignment::leading);
+}
+
+ui::StyledText captionOf(const SheetCell& cell, double captionSize) {
+    return styled(cell.caption, captionSize, FontWeight::medium, TextAlignment::center);
+}
+
+// Wrapped into lines of about the same length.
+Size captionSize(TextPainter& measure, const ui::StyledText& caption, double width) {
+    const double inOneLine = measure.size(caption, std::nullopt).width;
+    const double balanced = 1.15 * inOneLine / std::max(1.0, std::ceil(inOneLine / width));
+    const double room = std::min(width, balanced);
+    return {room, measure.size(caption, room).height};
+}
+
 void paintSmall(cairo_t* context, const Rect& area, const Picture& picture, double scale) {
-    const auto surface = Surface::create(picture.size, scale);
-    if (!surface) {
-        return;
-    }
-    picture.paint(surface->context());
     const SavedState saved{context};
     addRoundedRectangle(context, area, CornerRadius);
     cairo_clip(context);
     cairo_translate(context, area.minX(), area.minY());
     cairo_scale(context, scale, scale);
-    cairo_set_source_surface(context, cairo_get_target(surface->context()), 0, 0);
-    cairo_paint(context);
+    picture.paint(context);
 }
 
 void paintSheet(cairo_t* context, const Sheet& sheet) {
@@ -65,16 +75,13 @@ void paintSheet(cairo_t* context, const Sheet& sheet) {
     cairo_rectangle(context, 0, 0, layout.size.width, layout.size.height);
     fillWithVerticalGradient(context, 0, layout.size.height, {page.windowTop, page.windowBottom});
     TextPainter text{context};
-    text.paint(sheet.title, {PageMargin, PageMargin + TitleHeight / 2 - 8},
-               {.size = 24, .weight = FontWeight::semibold, .color = page.primaryText});
-    TextStyle style = CaptionStyle;
-    style.color = page.secondaryText;
-    style.alignment = TextAlignment::center;
+    text.paint(titleOf(sheet, layout.captionSize),
+               {PageMargin, PageMargin, layout.size.width - 2 * PageMargin, 0}, page.primaryText);
     for (std::size_t index = 0; index < sheet.cells.size(); ++index) {
-        paintSmall(context, layout.pictures[index], sheet.cells[index].picture, sheet.scale);
-        const Rect& caption = layout.captions[index];
-        style.maximumWidth = caption.width();
-        text.paint(sheet.cells[index].caption, centerOf(caption), style);
+        const SheetCell& cell = sheet.cells[index];
+        paintSmall(context, layout.pictures[index], cell.picture, sheet.scale);
+        text.paint(captionOf(cell, layout.captionSize),
+                   movedBy(layout.captions[index], {0, layout.captionSize / 2}), page.secondaryText);
     }
 }
 
@@ -84,6 +91,12 @@ Picture pictureOfDesk(DeskPicture desk, Size window) {
     return {window, [shown = std::move(desk), window](cairo_t* context) {
                 DeskPainter().paint(context, shown, window);
             }};
+}
+
+Picture pictureOfStage(DeskPicture desk, Size window) {
+    window.height -= DeskLayout::HeaderHeight + DeskLayout::FooterHeight;
+    desk.stageOnly = true;
+    return pictureOfDesk(std::move(desk), window);
 }
 
 Picture pictureOfWindow(WindowPicture window, bool dark) {
@@ -101,22 +114,27 @@ SheetLayout layOut(const Sheet& sheet) {
         width = std::max(width, sizeOnSheet(sheet, cell).width);
     }
     SheetLayout layout;
-    double top = PageMargin + TitleHeight;
+    layout.size.width = 2 * PageMargin + static_cast<double>(columns) * (width + Gap) - Gap;
+    layout.captionSize = std::max(13.0, std::round(layout.size.width / 900 * SmallestLetters));
+    TextPainter measure;
+    double top = PageMargin + measure.size(titleOf(sheet, layout.captionSize), std::nullopt).height + Gap;
     for (std::size_t first = 0; first < count; first += columns) {
         double bottom = top;
         const std::size_t end = std::min(count, first + columns);
         for (std::size_t index = first; index < end; ++index) {
-            const Size size = sizeOnSheet(sheet, sheet.cells[index]);
+            const SheetCell& cell = sheet.cells[index];
+            const Size size = sizeOnSheet(sheet, cell);
             const double left = PageMargin + static_cast<double>(index - first) * (width + Gap);
             layout.pictures.emplace_back(left + std::round((width - size.width) / 2), top, size.width,
                                          size.height);
-            layout.captions.emplace_back(left, top + size.height, width, CaptionHeight);
+            const Size caption = captionSize(measure, captionOf(cell, layout.captionSize), width);
+            layout.captions.emplace_back(left + (width - caption.width) / 2, top + size.height, caption.width,
+                                         caption.height + layout.captionSize);
             bottom = std::max(bottom, layout.captions.back().maxY());
         }
         top = bottom + Gap;
     }
-    layout.size = {2 * PageMargin + static_cast<double>(columns) * (width + Gap) - Gap,
-                   top - Gap + PageMargin};
+    layout.size.height = top - Gap + PageMargin;
     return layout;
 }
 

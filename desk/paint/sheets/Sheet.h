@@ -5,7 +5,6 @@
 #include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/mac/SystemPicture.h"
 #include "desk/paint/toolkit/Surface.h"
-#include "desk/paint/toolkit/TextPainter.h"
 
 #include <cstddef>
 #include <functional>
@@ -24,11 +23,11 @@ struct Picture {
 // The desk fills a window of that size.
 Picture pictureOfDesk(DeskPicture desk, Size window);
 
+// What it shows of the displays there, alone.
+Picture pictureOfStage(DeskPicture desk, Size window);
+
 // The window alone, wherever it is on its display.
 Picture pictureOfWindow(WindowPicture window, bool dark);
-
-// What stands below a picture on a sheet; longer ones than the picture is wide are cut.
-inline constexpr TextStyle CaptionStyle{.size = 13, .weight = FontWeight::medium};
 
 struct SheetCell {
     std::string caption;
@@ -43,11 +42,13 @@ struct Sheet {
     std::vector<SheetCell> cells; // row by row
 };
 
-// Where the cells' pictures go on the sheet; the captions are below them.
+// Where the cells' pictures go on the sheet. The captions are below them, in letters that can still be read
+// where the sheet is shown 900 pixels wide, and wrap.
 struct SheetLayout {
     Size size;
     std::vector<Rect> pictures;
     std::vector<Rect> captions;
+    double captionSize = 0;
 };
 SheetLayout layOut(const Sheet& sheet);
 

@@ -21,25 +21,21 @@ SpritePlace spritePlace(cairo_t* context, const Rect& area) {
     return place;
 }
 
-SurfaceHandle makeSpriteSurface(const SpriteGrid& grid) {
-    SurfaceHandle surface{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(grid.pixels.width),
-                                                     static_cast<int>(grid.pixels.height))};
+ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin, cairo_format_t format) {
+    const SurfaceHandle surface{cairo_image_surface_create(format, static_cast<int>(grid.pixels.width),
+                                                           static_cast<int>(grid.pixels.height))};
     cairo_surface_set_device_scale(surface.get(), grid.deviceScale, grid.deviceScale);
-    return surface;
-}
-
-ContextHandle makeSpriteContext(cairo_surface_t* sprite, const SpriteGrid& grid, Point areaOrigin) {
-    ContextHandle context{cairo_create(sprite)};
+    ContextHandle context{cairo_create(surface.get())};
     cairo_translate(context.get(), grid.phase.x / grid.deviceScale, grid.phase.y / grid.deviceScale);
     cairo_scale(context.get(), grid.scale / grid.deviceScale, grid.scale / grid.deviceScale);
     cairo_translate(context.get(), -areaOrigin.x, -areaOrigin.y);
     return context;
 }
 
-void paintSprite(cairo_t* context, cairo_surface_t* sprite, const SpritePlace& place) {
+void paintSprite(cairo_t* context, cairo_t* sprite, const SpritePlace& place) {
     const SavedState saved{context};
     cairo_identity_matrix(context);
-    cairo_set_source_surface(context, sprite, place.corner.x / place.grid.deviceScale,
+    cairo_set_source_surface(context, cairo_get_target(sprite), place.corner.x / place.grid.deviceScale,
                              place.corner.y / place.grid.deviceScale);
     // Pixel lies on pixel, so nothing is to be interpolated.
     cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);

@@ -24,35 +24,48 @@ struct SpritePlace {
 };
 SpritePlace spritePlace(cairo_t* context, const Rect& area);
 
-// Transparent memory for the grid's pixels, and a context for it whose area begins at the same user's
+// A context with memory of that format for the grid's pixels, whose area begins at the same user's
 // coordinates.
-SurfaceHandle makeSpriteSurface(const SpriteGrid& grid);
-ContextHandle makeSpriteContext(cairo_surface_t* sprite, const SpriteGrid& grid, Point areaOrigin);
+ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin, cairo_format_t format);
 
-void paintSprite(cairo_t* context, cairo_surface_t* sprite, const SpritePlace& place);
+// What is larger takes too much memory to be kept.
+inline constexpr double MostSpritePixels = 4e7;
+
+void paintSprite(cairo_t* context, cairo_t* sprite, const SpritePlace& place);
 
 // `Subject` is the value that decides what the sprite shows; two that compare equal must give the same
 // picture.
 template <typename Subject>
 class CachedSprite {
 public:
+    // One without transparency is faster.
+    explicit CachedSprite(cairo_format_t format = CAIRO_FORMAT_ARGB32) : format_(format) {}
+
     // `extent` encloses all that is to be seen of what `paintAnew` paints, in the same coordinates as the
     // context's. `paintAnew` is called only when the subject, or how the extent lies on the device's pixels,
     // is another than last time.
     void paint(cairo_t* context, const Rect& extent, Subject subject,
                const std::function<void(cairo_t*)>& paintAnew) {
         const SpritePlace place = spritePlace(context, extent);
-        if (!surface_ || place.grid != grid_ || !(subject == subject_)) {
-            surface_ = makeSpriteSurface(place.grid);
-            paintAnew(makeSpriteContext(surface_.get(), place.grid, {extent.minX(), extent.minY()}).get());
+        if (place.grid.pixels.width * place.grid.pixels.height > MostSpritePixels) {
+            const SavedState saved{context};
+            cairo_rectangle(context, extent.minX(), extent.minY(), extent.width(), extent.height());
+            cairo_clip(context);
+            paintAnew(context);
+            return;
+        }
+        if (!sprite_ || place.grid != grid_ || !(subject == subject_)) {
+            sprite_ = makeSprite(place.grid, {extent.minX(), extent.minY()}, format_);
+            paintAnew(sprite_.get());
             grid_ = place.grid;
             subject_ = std::move(subject);
         }
-        paintSprite(context, surface_.get(), place);
+        paintSprite(context, sprite_.get(), place);
     }
 
 private:
-    SurfaceHandle surface_;
+    cairo_format_t format_;
+    ContextHandle sprite_;
     SpriteGrid grid_;
     Subject subject_;
 };

@@ -21,7 +21,6 @@ using SurfaceHandle = std::unique_ptr<cairo_surface_t, ReleasedBy<cairo_surface_
 using PatternHandle = std::unique_ptr<cairo_pattern_t, ReleasedBy<cairo_pattern_destroy>>;
 using FontOptionsHandle = std::unique_ptr<cairo_font_options_t, ReleasedBy<cairo_font_options_destroy>>;
 using TextLayoutHandle = std::unique_ptr<PangoLayout, ReleasedBy<g_object_unref>>;
-using FontHandle = std::unique_ptr<PangoFont, ReleasedBy<g_object_unref>>;
 using FontDescriptionHandle = std::unique_ptr<PangoFontDescription, ReleasedBy<pango_font_description_free>>;
 using AttributesHandle = std::unique_ptr<PangoAttrList, ReleasedBy<pango_attr_list_unref>>;
 using CharactersHandle = std::unique_ptr<char, ReleasedBy<g_free>>;

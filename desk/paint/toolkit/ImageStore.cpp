@@ -3,20 +3,6 @@
 #include "desk/paint/toolkit/Shapes.h"
 
 namespace kestrune::desk {
-namespace {
-
-PatternHandle patternFilling(cairo_surface_t* image, const Rect& area) {
-    PatternHandle pattern{cairo_pattern_create_for_surface(image)};
-    cairo_matrix_t toImage;
-    cairo_matrix_init_scale(&toImage, cairo_image_surface_get_width(image) / area.width(),
-                            cairo_image_surface_get_height(image) / area.height());
-    cairo_matrix_translate(&toImage, -area.minX(), -area.minY());
-    cairo_pattern_set_matrix(pattern.get(), &toImage);
-    cairo_pattern_set_filter(pattern.get(), CAIRO_FILTER_BEST);
-    return pattern;
-}
-
-} // namespace
 
 cairo_surface_t* ImageStore::image(const std::string& path) {
     const auto [entry, isNew] = images_.try_emplace(path);
@@ -29,21 +15,25 @@ cairo_surface_t* ImageStore::image(const std::string& path) {
     return entry->second.get();
 }
 
-void paintImage(cairo_t* context, cairo_surface_t* image, const Rect& area) {
+void paintImage(cairo_t* context, cairo_surface_t* image, const Rect& area,
+                const std::optional<Color>& tint) {
     const SavedState saved{context};
-    const PatternHandle pattern = patternFilling(image, area);
-    cairo_set_source(context, pattern.get());
-    cairo_rectangle(context, area.minX(), area.minY(), area.width(), area.height());
-    cairo_fill(context);
-}
-
-void paintTemplateImage(cairo_t* context, cairo_surface_t* image, const Rect& area, const Color& tint) {
-    const SavedState saved{context};
+    const PatternHandle pattern{cairo_pattern_create_for_surface(image)};
+    cairo_matrix_t toImage;
+    cairo_matrix_init_scale(&toImage, cairo_image_surface_get_width(image) / area.width(),
+                            cairo_image_surface_get_height(image) / area.height());
+    cairo_matrix_translate(&toImage, -area.minX(), -area.minY());
+    cairo_pattern_set_matrix(pattern.get(), &toImage);
+    cairo_pattern_set_filter(pattern.get(), CAIRO_FILTER_BEST);
     cairo_rectangle(context, area.minX(), area.minY(), area.width(), area.height());
     cairo_clip(context);
-    const PatternHandle pattern = patternFilling(image, area);
-    setColor(context, tint);
-    cairo_mask(context, pattern.get());
+    if (tint) {
+        setColor(context, *tint);
+        cairo_mask(context, pattern.get());
+    } else {
+        cairo_set_source(context, pattern.get());
+        cairo_paint(context);
+    }
 }
 
 } // namespace kestrune::desk

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/mac/Palette.h"
 #include "desk/paint/toolkit/CairoObjects.h"
+#include "desk/paint/toolkit/Color.h"
 
+#include <optional>
 #include <string>
 #include <unordered_map>
 
@@ -20,10 +21,8 @@ private:
     std::unordered_map<std::string, SurfaceHandle> images_;
 };
 
-// Fills the area with the image.
-void paintImage(cairo_t* context, cairo_surface_t* image, const Rect& area);
-
-// As paintImage, in one colour; of the image only the opacity counts.
-void paintTemplateImage(cairo_t* context, cairo_surface_t* image, const Rect& area, const Color& tint);
+// Fills the area with the image, or with a colour where the image is opaque.
+void paintImage(cairo_t* context, cairo_surface_t* image, const Rect& area,
+                const std::optional<Color>& tint = std::nullopt);
 
 } // namespace kestrune::desk

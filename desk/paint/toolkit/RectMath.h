@@ -11,11 +11,13 @@ inline Point centerOf(const Rect& rect) {
     return {rect.minX() + rect.width() / 2, rect.minY() + rect.height() / 2};
 }
 
-// With every edge moved outwards, or inwards by a negative distance.
-inline Rect enlargedBy(const Rect& rect, double distance) {
-    return {rect.minX() - distance, rect.minY() - distance, rect.width() + 2 * distance,
-            rect.height() + 2 * distance};
+inline Rect insetBy(const Rect& rect, double horizontal, double vertical) {
+    return {rect.minX() + horizontal, rect.minY() + vertical, rect.width() - 2 * horizontal,
+            rect.height() - 2 * vertical};
 }
+
+// With every edge moved outwards, or inwards by a negative distance.
+inline Rect enlargedBy(const Rect& rect, double distance) { return insetBy(rect, -distance, -distance); }
 
 inline Rect movedBy(const Rect& rect, Point way) {
     return {rect.minX() + way.x, rect.minY() + way.y, rect.width(), rect.height()};

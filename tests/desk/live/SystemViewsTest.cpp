@@ -2,7 +2,7 @@
 
 #include "desk/live/world/SystemViews.h"
 
-#include "desk/paint/toolkit/PangoMeasurer.h"
+#include "desk/paint/mac/ScenePainter.h"
 #include "tests/base/Overlap.h"
 #include "tests/desk/paint/PaintedPicture.h"
 #include "ui/layout/Layout.h"

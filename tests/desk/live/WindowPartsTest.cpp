@@ -1,7 +1,7 @@
 #include "desk/live/world/WindowParts.h"
 
 #include "desk/live/world/ScreenParts.h"
-#include "desk/paint/toolkit/PangoMeasurer.h"
+#include "desk/paint/mac/ScenePainter.h"
 #include "replay/ApplicationHost.h"
 #include "sim/seam/WindowState.h"
 #include "tests/desk/live/WindowTitles.h"

@@ -1,7 +1,7 @@
-#include "desk/paint/desk/DeskHitTest.h"
+#include "desk/paint/desk/DeskParts.h"
 #include "desk/paint/mac/ApplicationIcon.h"
 #include "desk/paint/mac/SymbolPainter.h"
-#include "desk/paint/mac/WindowLayout.h"
+#include "desk/paint/mac/Window.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/WindowPictures.h"
 

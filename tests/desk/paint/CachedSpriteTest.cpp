@@ -64,6 +64,18 @@ TEST_F(Sprite, IsMovedByWholePixelsAsItIs) {
     EXPECT_EQ(paintings_, 2);
 }
 
+TEST_F(Sprite, IsNotKeptWhereItWouldBeVeryLarge) {
+    cairo_translate(surface_->context(), -9990, -9990);
+    cairo_scale(surface_->context(), 1000, 1000);
+    for (const int paintings : {1, 2}) {
+        paint(surface_->context(), {10, 10, 8, 8}, 1);
+        EXPECT_EQ(paintings_, paintings);
+        EXPECT_EQ(alphaAt(12, 12), 255);
+        EXPECT_EQ(alphaAt(8, 12), 0);
+    }
+    EXPECT_EQ(cairo_status(surface_->context()), CAIRO_STATUS_SUCCESS);
+}
+
 TEST_F(Sprite, IsWhatIsPaintedWithoutItUnderATransformation) {
     cairo_translate(surface_->context(), 3.3, 4.6);
     cairo_scale(surface_->context(), 0.37, 0.37);

@@ -1,8 +1,8 @@
 // Pictures at 100 %, and a look at their pixels by where these are on the displays.
 #pragma once
 
-#include "desk/paint/desk/DeskHitTest.h"
 #include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/desk/DeskParts.h"
 #include "desk/paint/toolkit/RectMath.h"
 #include "tests/desk/paint/PaintedPicture.h"
 

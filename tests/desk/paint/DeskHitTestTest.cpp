@@ -1,7 +1,5 @@
-#include "desk/paint/desk/DeskHitTest.h"
-
-#include "desk/paint/mac/MenuLayout.h"
-#include "desk/paint/mac/ToolTipPainter.h"
+#include "desk/paint/desk/DeskParts.h"
+#include "desk/paint/mac/Menu.h"
 #include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/WindowPictures.h"
@@ -20,7 +18,7 @@ protected:
     MenuLayout menu(const DeskPicture& picture) { return *menuLayout(measure_, picture); }
 
     DeskHitTest hitTest_;
-    TextMeasure measure_;
+    TextPainter measure_;
 };
 
 TEST_F(HitTest, FindsStatusItemsAndTitlesOnEachDisplay) {

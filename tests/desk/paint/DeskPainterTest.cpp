@@ -1,11 +1,11 @@
 #include "desk/paint/desk/DeskPainter.h"
 
-#include "desk/paint/desk/BandPainter.h"
 #include "desk/paint/desk/DeskLayout.h"
 #include "desk/paint/desk/DisplayPainter.h"
-#include "desk/paint/mac/DockPainter.h"
+#include "desk/paint/desk/Marks.h"
+#include "desk/paint/mac/Canvas.h"
+#include "desk/paint/mac/Dock.h"
 #include "desk/paint/mac/PointerPainter.h"
-#include "desk/paint/toolkit/Canvas.h"
 #include "desk/paint/toolkit/RectMath.h"
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/PaintedPicture.h"
@@ -155,6 +155,63 @@ TEST(DeskPainter, ShowsWhereThePointerWasHeldOnThatDisplayUntilTheMarkHasFaded) 
     EXPECT_LE(mark->maxY(), held.y + 1) << "above the band";
     picture.heldMark->age = 1;
     EXPECT_FALSE(differenceOf(PaintedPicture{picture}, without));
+}
+
+TEST(DeskPainter, ShowsAPlaceThroughAGlassWhereTheDisplaysAreSmall) {
+    DeskPicture picture = twoDisplays();
+    picture.pointer = {2400, 500};
+    const PaintedPicture without{picture};
+    const DeskLayout layout = deskLayoutOf(picture);
+    ASSERT_LT(layout.scale(), 0.6);
+    for (const Point place : {Point{2400, 500}, Point{2400, 977}, Point{1520, -60}, Point{300, 400}}) {
+        picture.loupe = place;
+        const PaintedPicture painted{picture};
+        const std::optional<Rect> glass = differenceOf(painted, without);
+        ASSERT_TRUE(glass);
+        EXPECT_TRUE(encloses(layout.stage(), *glass, 1));
+        const Point shown = layout.placeContaining(place)->toWindow(place);
+        EXPECT_FALSE(glass->contains(shown)) << "it is beside it";
+    }
+    // The arrow's black is ten points below its tip.
+    picture.loupe = picture.pointer;
+    const auto isBlack = [](Pixel pixel) { return isNear(pixel, 0, 0, 0, 12); };
+    const Rect everything{0, layout.stage().minY(), TestWindow.width, layout.stage().height()};
+    const int small = without.count(everything, isBlack);
+    EXPECT_GT(PaintedPicture{picture}.count(everything, isBlack), small + 300);
+    // It enlarges what is there, not the desk's own marks.
+    DeskPicture marked = picture;
+    marked.heldMark = HeldMark{picture.pointer, 0.2};
+    const std::optional<Rect> mark = differenceOf(PaintedPicture{marked}, PaintedPicture{picture});
+    ASSERT_TRUE(mark);
+    EXPECT_LE(mark->width(), 130);
+}
+
+TEST(DeskPainter, NeedsNoGlassForAPlaceThatIsNoneOrLargeEnough) {
+    DeskPicture picture = twoDisplays();
+    const PaintedPicture without{picture};
+    picture.loupe = Point{-5000, 3};
+    EXPECT_FALSE(differenceOf(PaintedPicture{picture}, without));
+    picture.shown = Rect{2400, 500, 0, 0};
+    const PaintedPicture closeUp{picture};
+    picture.loupe = Point{2400, 500};
+    EXPECT_FALSE(differenceOf(PaintedPicture{picture}, closeUp));
+}
+
+TEST(DeskPainter, ShowsTheStageAlone) {
+    DeskPicture picture = twoDisplays();
+    picture.story = "A story";
+    picture.stageOnly = true;
+    const DeskLayout layout = deskLayoutOf(picture);
+    EXPECT_EQ(layout.stage(), (Rect{0, 0, TestWindow.width, TestWindow.height}));
+    const PaintedPicture painted{picture};
+    DeskPicture other = picture;
+    other.story = "Another";
+    other.whatHappened = "Something else";
+    other.events += 5;
+    other.keys.clear();
+    EXPECT_FALSE(differenceOf(painted, PaintedPicture{other}));
+    other.displays[0].name = "Renamed";
+    EXPECT_TRUE(differenceOf(painted, PaintedPicture{other})) << "its captions stay";
 }
 
 TEST(DeskPainter, DrawsATrailForAMovedDockUntilItHasFaded) {

@@ -1,4 +1,5 @@
-#include "desk/paint/mac/MenuBarLayout.h"
+#include "desk/paint/mac/MenuBar.h"
+
 #include "desk/paint/toolkit/ImageStore.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/paint/CloseUp.h"

@@ -1,4 +1,5 @@
-#include "desk/paint/mac/MenuLayout.h"
+#include "desk/paint/mac/Menu.h"
+
 #include "tests/desk/paint/CloseUp.h"
 #include "tests/desk/paint/SystemPictures.h"
 
@@ -8,7 +9,7 @@ namespace kestrune::desk {
 namespace {
 
 std::optional<MenuLayout> menuOf(const DeskPicture& picture) {
-    TextMeasure measure;
+    TextPainter measure;
     return menuLayout(measure, picture);
 }
 

@@ -1,5 +1,3 @@
-#include "desk/paint/toolkit/PangoMeasurer.h"
-
 #include "desk/paint/mac/ScenePainter.h"
 #include "tests/desk/paint/PaintedCanvas.h"
 

@@ -1,6 +1,5 @@
 #include "desk/paint/mac/ScenePainter.h"
 
-#include "desk/paint/toolkit/SceneColor.h"
 #include "tests/desk/paint/PaintedCanvas.h"
 #include "tests/desk/paint/WindowPictures.h"
 

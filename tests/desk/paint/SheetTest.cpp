@@ -52,6 +52,26 @@ TEST(Sheet, FillsRowAfterRow) {
     EXPECT_GT(layout.pictures[3].minY(), layout.captions[2].maxY()) << "the highest of its row";
 }
 
+TEST(Sheet, HasCaptionsOfAsManyLinesAsTheyNeed) {
+    Sheet sheet = sheetOf(6, 3);
+    const SheetLayout before = layOut(sheet);
+    EXPECT_GE(before.captionSize, before.size.width / 900 * 10.5) << "legible 900 pixels wide";
+    sheet.cells[2].caption = "A window of which there is much more to say than there is room for in one line";
+    const SheetLayout layout = layOut(sheet);
+    EXPECT_GT(layout.captions[2].height(), 2 * before.captionSize);
+    EXPECT_LE(layout.captions[2].width(), layout.pictures[2].width());
+    EXPECT_GT(layout.pictures[4].minY(), before.pictures[4].minY());
+    EXPECT_GE(layout.pictures[4].minY(), layout.captions[2].maxY());
+}
+
+TEST(Sheet, ShowsOfTheDeskWhatIsOnItsStage) {
+    const DeskPicture desk = twoDisplays();
+    const Picture whole = pictureOfDesk(desk, TestWindow);
+    const Picture stage = pictureOfStage(desk, TestWindow);
+    EXPECT_EQ(stage.size.width, whole.size.width);
+    EXPECT_EQ(stage.size.height, DeskLayout::of(desk, TestWindow).stage().height());
+}
+
 TEST(Sheet, ShowsEachWindowInItsAppearance) {
     for (const double scale : {1.0, 0.5}) {
         const Picture sheet = pictureOfSheet(sheetOf(2, 2, scale));

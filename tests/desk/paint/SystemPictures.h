@@ -1,9 +1,9 @@
 // Pictures with the parts of a Mac's screen that the application lives in, for their tests.
 #pragma once
 
-#include "desk/paint/mac/MenuBarLayout.h"
+#include "desk/paint/mac/MenuBar.h"
 #include "desk/paint/toolkit/RectMath.h"
-#include "desk/paint/toolkit/TextMeasure.h"
+#include "desk/paint/toolkit/Text.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/paint/PaintedPicture.h"
 
@@ -60,7 +60,7 @@ inline DeskPicture withMenu() {
 }
 
 inline MenuBarLayout menuBarOf(const DeskPicture& picture, std::size_t display) {
-    TextMeasure measure;
+    TextPainter measure;
     return menuBarLayout(measure, picture.displays[display].bounds, picture);
 }
 

@@ -1,9 +1,11 @@
-#include "desk/paint/desk/StatusBarPainter.h"
+#include "desk/paint/toolkit/Text.h"
+
+#include "desk/paint/desk/Chrome.h"
 #include "desk/paint/toolkit/Surface.h"
-#include "desk/paint/toolkit/TextPainter.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 
 namespace kestrune::desk {
@@ -15,7 +17,30 @@ protected:
     TextPainter text_{surface_->context()};
 };
 
-TEST_F(Text, IsSetInInter) { EXPECT_EQ(text_.resolvedFamily(), "Inter"); }
+// The width of a text in a family, as Pango sets it without anything of ours.
+double widthInFamily(cairo_t* context, const char* text, const char* family) {
+    const TextLayoutHandle layout{pango_cairo_create_layout(context)};
+    const FontDescriptionHandle font{pango_font_description_new()};
+    pango_font_description_set_family(font.get(), family);
+    pango_font_description_set_absolute_size(font.get(), 11 * PANGO_SCALE);
+    pango_layout_set_font_description(layout.get(), font.get());
+    pango_layout_set_text(layout.get(), text, -1);
+    int width = 0;
+    pango_layout_get_size(layout.get(), &width, nullptr);
+    return static_cast<double>(width) / PANGO_SCALE;
+}
+
+TEST_F(Text, IsSetInInter) {
+    constexpr const char* Sentence = "The Dock stays where it is, and nowhere else";
+    const double width = text_.width(Sentence, {.size = 11});
+    EXPECT_NEAR(width, widthInFamily(surface_->context(), Sentence, "Inter"), 2);
+    EXPECT_GT(std::abs(width - widthInFamily(surface_->context(), Sentence, "DejaVu Sans")), 8);
+}
+
+TEST_F(Text, IsMeasuredAlikeWhereNothingIsPainted) {
+    TextPainter measure;
+    EXPECT_EQ(measure.width("Kestrune", {.size = 13}), text_.width("Kestrune", {.size = 13}));
+}
 
 TEST_F(Text, GivesTabularNumbersOneWidth) {
     const TextStyle tabular{.size = 13, .tabularNumbers = true};

@@ -1,4 +1,4 @@
-#include "desk/paint/mac/ToolTipPainter.h"
+#include "desk/paint/mac/Menu.h"
 #include "tests/desk/paint/SystemPictures.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@ namespace kestrune::desk {
 namespace {
 
 std::optional<Rect> toolTipOf(const DeskPicture& picture) {
-    TextMeasure measure;
+    TextPainter measure;
     return toolTipArea(measure, picture);
 }
 

@@ -1,5 +1,5 @@
-#include "desk/paint/desk/DeskHitTest.h"
 #include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/desk/DeskParts.h"
 #include "tests/base/UnusualNumbers.h"
 #include "tests/desk/paint/PaintedPicture.h"
 #include "tests/desk/paint/WindowPictures.h"

@@ -1,8 +1,8 @@
 // Windows with a scene, for the tests of their painting.
 #pragma once
 
+#include "desk/paint/mac/ScenePainter.h"
 #include "desk/paint/mac/SystemPicture.h"
-#include "desk/paint/toolkit/PangoMeasurer.h"
 #include "tests/desk/paint/SystemPictures.h"
 
 #include <cmath>

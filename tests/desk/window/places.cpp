@@ -7,9 +7,9 @@
 #include "desk/live/world/LiveDesk.h"
 #include "desk/live/world/LivePicture.h"
 #include "desk/live/world/WindowParts.h"
-#include "desk/paint/desk/DeskHitTest.h"
 #include "desk/paint/desk/DeskLayout.h"
-#include "desk/paint/mac/MenuLayout.h"
+#include "desk/paint/desk/DeskParts.h"
+#include "desk/paint/mac/Menu.h"
 #include "desk/paint/toolkit/RectMath.h"
 
 #include <chrono>
@@ -63,7 +63,7 @@ void printCloseButton(LiveDesk& desk, const std::string& name, const std::string
 void printMenu(LiveDesk& desk, const std::string& kind) {
     desk.openStatusMenu();
     const DeskPicture picture = pictureOf(desk);
-    TextMeasure measure;
+    TextPainter measure;
     const auto layout = menuLayout(measure, picture);
     for (std::size_t row = 0; layout && row < layout->rows.size(); ++row) {
         const Rect& area = layout->rows[row];

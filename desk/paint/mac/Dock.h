@@ -1,15 +1,15 @@
-// The Dock, and the trail of its last move.
+// The Dock. Places are in global display coordinates, for painting and for the pointer.
 #pragma once
 
-#include "desk/paint/desk/DeskPicture.h"
-#include "desk/paint/toolkit/Canvas.h"
+#include "base/Geometry.h"
+#include "desk/paint/mac/Canvas.h"
+#include "desk/paint/mac/SystemPicture.h"
 
 #include <optional>
 #include <vector>
 
 namespace kestrune::desk {
 
-// The Dock's parts in global display coordinates.
 struct DockPlace {
     Rect panel;
     double scale = 1;         // less than 1 on a display that is too narrow for it
@@ -18,16 +18,12 @@ struct DockPlace {
     double separator = 0;     // its middle, before the tiles and the last icon
     std::vector<Rect> tiles;  // of minimised windows
 };
-DockPlace dockPlace(const Rect& display, const DeskPicture& picture);
+DockPlace dockPlace(const Rect& display, const MacPicture& picture);
 
 // All that the Dock and its shadow cover.
 Rect dockExtent(const DockPlace& dock);
 
 // With a window in each tile.
-void paintDock(const Canvas& canvas, const DockPlace& dock, const DeskPicture& picture);
-
-// A dotted arc between two places of the Dock's panel, in window coordinates, and the outline of the place
-// that it left.
-void paintDockTrail(cairo_t* context, const Rect& from, const Rect& to, double age);
+void paintDock(const Canvas& canvas, const DockPlace& dock, const MacPicture& picture);
 
 } // namespace kestrune::desk

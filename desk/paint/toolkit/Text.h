@@ -2,21 +2,21 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/mac/Palette.h"
 #include "desk/paint/toolkit/CairoObjects.h"
-#include "desk/paint/toolkit/PangoText.h"
-#include "ui/Font.h"
-#include "ui/Style.h"
+#include "desk/paint/toolkit/Color.h"
+#include "ui/Scene.h"
 
 #include <limits>
-#include <string>
+#include <optional>
 #include <string_view>
+#include <vector>
 
 namespace kestrune::desk {
 
 using ui::FontWeight;
 using ui::TextAlignment;
 
+// Of a single line.
 struct TextStyle {
     double size = 13; // in user units
     FontWeight weight = FontWeight::regular;
@@ -26,10 +26,12 @@ struct TextStyle {
     double maximumWidth = std::numeric_limits<double>::infinity(); // longer text ends in an ellipsis
 };
 
-// Paints into one context, which must outlive it. Text is UTF-8; ill-formed bytes become replacement
-// characters.
+// Sets text for one context, which must outlive it: what is measured is what is painted. Text is UTF-8;
+// ill-formed bytes become replacement characters. Sizes are in user units.
 class TextPainter {
 public:
+    // For measuring alone. Keep one: making it costs more than measuring.
+    TextPainter();
     explicit TextPainter(cairo_t* context);
 
     double width(std::string_view text, const TextStyle& style);
@@ -39,17 +41,20 @@ public:
     // width.
     double paint(std::string_view text, Point anchor, const TextStyle& style);
 
-    // Paints text that wraps, centred in the area both ways; what does not fit ends in an ellipsis.
-    void paintParagraph(std::string_view text, const Rect& area, const TextStyle& style);
-
-    // The family of the font file that text is really set in.
-    std::string resolvedFamily();
+    // A text of a scene, in one line for each paragraph, or wrapped at a width: between words, and inside a
+    // word that is wider. Lines of a text style are as high as the style says.
+    Size size(const ui::StyledText& text, std::optional<double> width);
+    void paint(const ui::StyledText& text, const Rect& frame, const Color& color);
 
 private:
-    void prepare(std::string_view text, const TextStyle& style);
-    void fillPrepared();
-    Size preparedSize() const { return textSize(layout_.get()); }
+    explicit TextPainter(ContextHandle own);
 
+    void setLine(std::string_view text, const TextStyle& style);
+    void setRuns(const std::vector<ui::TextRun>& runs, double size, PangoAttribute* more);
+    void fill(Point topLeft, const Color& color);
+    Size setSize() const;
+
+    ContextHandle own_;
     cairo_t* context_;
     TextLayoutHandle layout_;
 };

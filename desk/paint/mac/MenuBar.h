@@ -1,18 +1,16 @@
-// Where the parts of a display's menu bar stand, in global display coordinates, for painting and for the
-// pointer.
+// The menu bar of a display: mark, titles, status items and the clock. Places are in global display
+// coordinates, for painting and for the pointer.
 #pragma once
 
 #include "base/Geometry.h"
-#include "desk/paint/desk/DeskPicture.h"
-#include "desk/paint/toolkit/TextMeasure.h"
+#include "desk/paint/mac/Canvas.h"
+#include "desk/paint/mac/SystemPicture.h"
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace kestrune::desk {
-
-// At the top of the display.
-Rect menuBarArea(const Rect& display);
 
 // The slot is what a press hits and what is highlighted under an open menu.
 struct StatusItemPlace {
@@ -34,16 +32,15 @@ struct MenuBarLayout {
     double clockWidth = 0;
 };
 
-MenuBarLayout menuBarLayout(TextMeasure& measure, const Rect& display, const DeskPicture& picture);
+MenuBarLayout menuBarLayout(TextPainter& measure, const Rect& display, const MacPicture& picture);
 
 // The titles that the menu bars show: the application's own or, without any, those of the Finder.
-const std::vector<std::string>& menuBarTitles(const DeskPicture& picture);
+const std::vector<std::string>& menuBarTitles(const MacPicture& picture);
 
 // The slot that the menu with this anchor hangs from; null when the bar does not show it.
 Rect anchorSlot(const MenuBarLayout& layout, const MenuAnchor& anchor);
 
-// How the bar's texts are set; the colour is left to the painter.
-TextStyle menuBarTitleStyle(std::size_t title);
-TextStyle clockStyle();
+void paintMenuBar(const Canvas& canvas, const MenuBarLayout& layout, const MacPicture& picture,
+                  std::size_t display);
 
 } // namespace kestrune::desk

@@ -4,7 +4,7 @@
 #include "desk/paint/mac/Palette.h"
 #include "desk/paint/toolkit/CairoObjects.h"
 #include "desk/paint/toolkit/ImageStore.h"
-#include "desk/paint/toolkit/TextPainter.h"
+#include "desk/paint/toolkit/Text.h"
 
 namespace kestrune::desk {
 

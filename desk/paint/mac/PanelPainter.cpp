@@ -1,8 +1,7 @@
-#include "desk/paint/desk/PanelPainter.h"
+#include "desk/paint/mac/PanelPainter.h"
 
 #include "desk/paint/toolkit/RectMath.h"
 #include "desk/paint/toolkit/Shapes.h"
-#include "desk/paint/toolkit/SoftShadow.h"
 
 namespace kestrune::desk {
 
@@ -13,7 +12,7 @@ Rect panelExtent(const Rect& panel, const PanelStyle& style) {
 void paintPanel(const Canvas& canvas, const Rect& panel, const PanelStyle& style) {
     const SystemColors& colors = canvas.palette.system;
     const auto paintShadow = [&](double drop, double blur, double strength) {
-        const Rect shape{panel.minX(), panel.minY() + drop, panel.width(), panel.height()};
+        const Rect shape = movedBy(panel, {0, drop});
         paintSoftShadow(canvas.context, shape, blur,
                         colors.panelShadow.withAlpha(colors.panelShadow.alpha * strength),
                         [&](cairo_t* mask) { addRoundedRectangle(mask, shape, style.cornerRadius); });

@@ -1,12 +1,13 @@
-#include "desk/paint/mac/WindowPainter.h"
+#include "desk/paint/mac/Window.h"
 
 #include "desk/paint/mac/ControlPainter.h"
 #include "desk/paint/mac/Measures.h"
 #include "desk/paint/mac/ScenePainter.h"
-#include "desk/paint/toolkit/SceneColor.h"
+#include "desk/paint/toolkit/RectMath.h"
 #include "desk/paint/toolkit/Shapes.h"
 
 #include <algorithm>
+#include <variant>
 
 namespace kestrune::desk {
 namespace {
@@ -26,27 +27,42 @@ void paintBar(const Canvas& canvas, const Rect& bar, const WindowPicture& shown)
 
 void paintTitle(const Canvas& canvas, const Rect& bar, const WindowPicture& shown) {
     constexpr double ButtonsWidth = 72; // with the room after them
+    const bool isStandard = shown.look == WindowLook::standard;
+    const double left = isStandard ? ButtonsWidth : ButtonsWidth + ToolbarButtonInset;
+    const double right = isStandard ? ButtonsWidth : ToolbarButtonInset;
     const WindowColors& colors = canvas.palette.application;
-    const double middle = bar.minY() + bar.height() / 2;
-    const Color color = shown.isKey ? colors.title : colors.inactiveTitle;
-    if (shown.look == WindowLook::standard) {
-        canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, middle},
-                          {.size = 13,
-                           .weight = FontWeight::bold,
-                           .color = color,
-                           .alignment = TextAlignment::center,
-                           .maximumWidth = std::max(0.0, bar.width() - 2 * ButtonsWidth)});
-    } else {
-        const double left = ButtonsWidth + ToolbarButtonInset;
-        canvas.text.paint(shown.title, {bar.minX() + left, middle},
-                          {.size = 15,
-                           .weight = FontWeight::bold,
-                           .color = color,
-                           .maximumWidth = std::max(0.0, bar.width() - left - ToolbarButtonInset)});
-    }
+    const double start = isStandard ? bar.width() / 2 : left;
+    canvas.text.paint(shown.title, {bar.minX() + start, centerOf(bar).y},
+                      {.size = isStandard ? 13.0 : 15.0,
+                       .weight = FontWeight::bold,
+                       .color = shown.isKey ? colors.title : colors.inactiveTitle,
+                       .alignment = isStandard ? TextAlignment::center : TextAlignment::leading,
+                       .maximumWidth = std::max(0.0, bar.width() - left - right)});
 }
 
 } // namespace
+
+WindowLayout windowLayout(const WindowPicture& shown) {
+    const Rect frame = shown.frame.standardized();
+    const double titleHeight = shown.titleBarHeight;
+    const double inset = shown.look == WindowLook::standard ? WindowButtonInset : ToolbarButtonInset;
+    WindowLayout result;
+    result.frame = frame;
+    result.titleBar = {frame.minX(), frame.minY(), frame.width(), titleHeight};
+    result.content = {frame.minX(), frame.minY() + titleHeight, frame.width(), frame.height() - titleHeight};
+    result.closeButton = {frame.minX() + inset, frame.minY() + (titleHeight - WindowButtonSide) / 2,
+                          WindowButtonSide, WindowButtonSide};
+    result.minimizeButton = movedBy(result.closeButton, {WindowButtonDistance, 0});
+    return result;
+}
+
+std::optional<Rect> controlFrame(const ui::Element& element) {
+    if (const auto* const button = std::get_if<ui::ButtonElement>(&element)) {
+        return button->frame;
+    }
+    const auto* const toggle = std::get_if<ui::ToggleElement>(&element);
+    return toggle != nullptr ? std::optional(toggle->frame) : std::nullopt;
+}
 
 PanelStyle windowPanelStyle(const Palette& palette, const WindowPicture& shown) {
     return {.color = shown.look == WindowLook::paper ? palette.system.paper : palette.application.window,
@@ -55,7 +71,8 @@ PanelStyle windowPanelStyle(const Palette& palette, const WindowPicture& shown) 
             .shadowDrop = shown.isKey ? 14.0 : 8.0};
 }
 
-void paintWindow(const Canvas& canvas, const WindowLayout& layout, const WindowPicture& shown) {
+void paintWindow(const Canvas& canvas, const WindowPicture& shown) {
+    const WindowLayout layout = windowLayout(shown);
     const SavedState saved{canvas.context};
     addRoundedRectangle(canvas.context, layout.frame, WindowCornerRadius);
     cairo_clip(canvas.context);
@@ -82,16 +99,16 @@ void paintMiniature(const Canvas& canvas, const Rect& area, const WindowPicture&
     if (!(scale > SmallestScale && scale < 1 / SmallestScale)) {
         return; // Nothing to see, and the transformation would come close to a singular one.
     }
-    const WindowLayout layout = windowLayout(shown);
+    const Rect frame = shown.frame.standardized();
     const SavedState saved{canvas.context};
     cairo_translate(canvas.context, area.minX() + (area.width() - shown.frame.width() * scale) / 2,
                     area.minY() + (area.height() - shown.frame.height() * scale) / 2);
     cairo_scale(canvas.context, scale, scale);
-    cairo_translate(canvas.context, -layout.frame.minX(), -layout.frame.minY());
-    fillRoundedRectangle(canvas.context, layout.frame, WindowCornerRadius,
+    cairo_translate(canvas.context, -frame.minX(), -frame.minY());
+    fillRoundedRectangle(canvas.context, frame, WindowCornerRadius,
                          windowPanelStyle(canvas.palette, shown).color);
-    paintWindow(canvas, layout, shown);
-    strokeRoundedRectangle(canvas.context, layout.frame, WindowCornerRadius, 0.75 / scale,
+    paintWindow(canvas, shown);
+    strokeRoundedRectangle(canvas.context, frame, WindowCornerRadius, 0.75 / scale,
                            canvas.palette.dockBorder);
 }
 

@@ -1,15 +1,14 @@
-#include "desk/paint/mac/DockPainter.h"
+#include "desk/paint/mac/Dock.h"
 
 #include "desk/paint/mac/ApplicationIcon.h"
-#include "desk/paint/mac/DockIcons.h"
 #include "desk/paint/mac/Measures.h"
-#include "desk/paint/mac/WindowPainter.h"
+#include "desk/paint/mac/Window.h"
 #include "desk/paint/toolkit/RectMath.h"
 #include "desk/paint/toolkit/Shapes.h"
-#include "desk/paint/toolkit/SoftShadow.h"
 
 #include <algorithm>
-#include <cmath>
+#include <array>
+#include <numbers>
 
 namespace kestrune::desk {
 namespace {
@@ -23,31 +22,49 @@ constexpr double ShadowBlur = 20;
 constexpr double WidestPanel = 0.92;
 constexpr double HighestPanel = 0.2;
 
-Point topCenter(const Rect& rect) { return {rect.minX() + rect.width() / 2, rect.minY()}; }
+// The icon of another application: a coloured rounded square with petals around its middle.
+struct Icon {
+    Color top;
+    Color bottom;
+    int petals;
+    double distance; // of a petal from the middle, in halves of the square's side as its size
+    Size petal;
+    Color glyph = rgb(0xFFFFFF, 0.96);
+};
 
-// How strong a mark of this age is: full at first, then fading.
-double strengthAt(double age) { return std::clamp(1.6 * (1 - age), 0.0, 1.0); }
+constexpr std::array Icons{
+    Icon{rgb(0x6F9BE8), rgb(0x3A63C2), 8, 0.42, {0.22, 0.22}},
+    Icon{rgb(0xFBC46A), rgb(0xE88B2E), 12, 0.38, {0.34, 0.10}},
+    Icon{rgb(0x5CC7C0), rgb(0x1F8A8E), 3, 0.28, {0.52, 0.34}},
+    Icon{rgb(0xF58B78), rgb(0xD2504A), 2, 0.24, {0.26, 0.96}},
+    Icon{rgb(0xA98CEB), rgb(0x6C4CC4), 4, 0.36, {0.40, 0.40}},
+    Icon{rgb(0x7C8294), rgb(0x474C5C), 6, 0.40, {0.30, 0.30}},
+    Icon{rgb(0x8FD08A), rgb(0x3E9A57), 5, 0.32, {0.52, 0.30}},
+    Icon{rgb(0xFDFCFA), rgb(0xE3E0DC), 1, 0, {0.84, 0.84}, rgb(0x6C6A78)},
+};
 
-void paintArrowHead(cairo_t* context, Point tip, Point direction) {
-    const double length = std::hypot(direction.x, direction.y);
-    if (length == 0) {
-        return;
-    }
+void paintIcon(cairo_t* context, const Icon& icon, const Rect& square) {
+    const double half = square.width() / 2;
+    const double radius = half / 2;
+    addRoundedRectangle(context, square, radius);
+    fillWithVerticalGradient(context, square.minY(), square.maxY(), {icon.top, icon.bottom});
+    strokeRoundedRectangle(context, square, radius, half * 0.06, rgb(0xFFFFFF, 0.22));
     const SavedState saved{context};
-    cairo_translate(context, tip.x, tip.y);
-    cairo_rotate(context, std::atan2(direction.y, direction.x));
-    cairo_move_to(context, 0, 0);
-    cairo_line_to(context, -11, -6.5);
-    cairo_line_to(context, -8.5, 0);
-    cairo_line_to(context, -11, 6.5);
-    cairo_close_path(context);
-    cairo_fill(context);
+    cairo_translate(context, centerOf(square).x, centerOf(square).y);
+    cairo_scale(context, half, half);
+    for (int petal = 0; petal < icon.petals; ++petal) {
+        const Size& size = icon.petal;
+        fillRoundedRectangle(context,
+                             {icon.distance - size.width / 2, -size.height / 2, size.width, size.height},
+                             std::min(size.width, size.height) / 3, icon.glyph);
+        cairo_rotate(context, 2 * std::numbers::pi / icon.petals);
+    }
 }
 
 } // namespace
 
-DockPlace dockPlace(const Rect& display, const DeskPicture& picture) {
-    const std::size_t places = DockIconCount + picture.miniaturized.size() + (picture.dockIcon ? 1 : 0);
+DockPlace dockPlace(const Rect& display, const MacPicture& picture) {
+    const std::size_t places = Icons.size() + picture.miniaturized.size() + (picture.dockIcon ? 1 : 0);
     const double width = static_cast<double>(places) * (DockIconSide + DockIconGap) - 2 * DockIconGap +
                          SeparatorWidth + 2 * DockPadding;
     DockPlace dock;
@@ -63,7 +80,7 @@ DockPlace dockPlace(const Rect& display, const DeskPicture& picture) {
         x += (DockIconSide + DockIconGap) * dock.scale;
         return place;
     };
-    while (dock.icons.size() + 1 < DockIconCount) {
+    while (dock.icons.size() + 1 < Icons.size()) {
         dock.icons.push_back(nextPlace());
     }
     if (picture.dockIcon) {
@@ -80,7 +97,7 @@ DockPlace dockPlace(const Rect& display, const DeskPicture& picture) {
 
 Rect dockExtent(const DockPlace& dock) { return enlargedBy(dock.panel, 2 * ShadowBlur * dock.scale); }
 
-void paintDock(const Canvas& canvas, const DockPlace& dock, const DeskPicture& picture) {
+void paintDock(const Canvas& canvas, const DockPlace& dock, const MacPicture& picture) {
     constexpr double SmallestScale = 1.0 / 64;
     if (dock.scale < SmallestScale) {
         return; // Too small to see; the glyphs' transformation would come close to a singular one.
@@ -100,7 +117,7 @@ void paintDock(const Canvas& canvas, const DockPlace& dock, const DeskPicture& p
                    DotRadius * dock.scale, canvas.palette.menuBarText.withAlpha(0.6));
     };
     for (std::size_t icon = 0; icon < dock.icons.size(); ++icon) {
-        paintDockIcon(canvas.context, icon, dock.icons[icon]);
+        paintIcon(canvas.context, Icons.at(icon), dock.icons[icon]);
         const bool isRunning = icon == 0 || icon == 2 || icon == 4;
         if (isRunning) {
             paintDot(dock.icons[icon]);
@@ -114,44 +131,6 @@ void paintDock(const Canvas& canvas, const DockPlace& dock, const DeskPicture& p
     for (std::size_t tile = 0; tile < dock.tiles.size(); ++tile) {
         paintMiniature(canvas, dock.tiles[tile], picture.miniaturized[tile]);
     }
-}
-
-void paintDockTrail(cairo_t* context, const Rect& from, const Rect& to, double age) {
-    const double strength = strengthAt(age);
-    if (!(strength > 0)) {
-        return;
-    }
-    const SavedState saved{context};
-    const Color white = rgb(0xFFFFFF, strength);
-    constexpr double Dashes[] = {5, 4};
-    cairo_set_dash(context, Dashes, 2, 0);
-    strokeRoundedRectangle(context, from, from.height() / 4, 1.5, white.withAlpha(0.75 * strength));
-
-    const Point start{topCenter(from).x, topCenter(from).y - 4};
-    const Point tip{topCenter(to).x, topCenter(to).y - 5};
-    const double span = std::hypot(tip.x - start.x, tip.y - start.y);
-    const double lift = std::clamp(span * 0.42, 40.0, 210.0);
-    const Point bend{(start.x + tip.x) / 2, std::min(start.y, tip.y) - lift};
-    const auto towards = [](Point first, Point second, double part) {
-        return Point{first.x + (second.x - first.x) * part, first.y + (second.y - first.y) * part};
-    };
-    const Point startControl = towards(start, bend, 0.72);
-    const Point endControl = towards(tip, bend, 0.72);
-    const Point arrival{tip.x - endControl.x, tip.y - endControl.y};
-    const double arrivalLength = std::max(1.0, std::hypot(arrival.x, arrival.y));
-    const Point end = towards(tip, endControl, std::min(0.5, 17 / arrivalLength));
-    cairo_set_line_cap(context, CAIRO_LINE_CAP_ROUND);
-    constexpr double Dots[] = {0.01, 10};
-    cairo_set_dash(context, Dots, 2, 0);
-    cairo_move_to(context, start.x, start.y);
-    cairo_curve_to(context, startControl.x, startControl.y, endControl.x, endControl.y, end.x, end.y);
-    setColor(context, rgb(0x000000, 0.22 * strength));
-    cairo_set_line_width(context, 6);
-    cairo_stroke_preserve(context);
-    setColor(context, white);
-    cairo_set_line_width(context, 4.5);
-    cairo_stroke(context);
-    paintArrowHead(context, tip, arrival);
 }
 
 } // namespace kestrune::desk

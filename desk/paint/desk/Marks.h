@@ -1,8 +1,9 @@
-// The guarded band along a display's bottom edge, and the mark where it held the pointer.
+// What the desk marks on the displays: the guarded band along a bottom edge, the place where it held the
+// pointer, and the way of the Dock.
 #pragma once
 
 #include "desk/paint/desk/DeskLayout.h"
-#include "desk/paint/toolkit/Canvas.h"
+#include "desk/paint/mac/Canvas.h"
 
 namespace kestrune::desk {
 
@@ -14,5 +15,9 @@ void paintBand(const Canvas& canvas, const DisplayPlace& place, double bandTop, 
 
 // In window coordinates, above the band. `location` is in global display coordinates.
 void paintHeldMark(const Canvas& canvas, const DisplayPlace& place, Point location, double age);
+
+// A dotted arc between two places of the Dock's panel, in window coordinates, and the outline of the place
+// that it left.
+void paintDockTrail(cairo_t* context, const Rect& from, const Rect& to, double age);
 
 } // namespace kestrune::desk
