@@ -1,6 +1,7 @@
 #include "desk/window/WindowCanvas.h"
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace kestrune::desk {
@@ -10,34 +11,29 @@ namespace {
 constexpr int SmallestWidth = 720;
 constexpr int SmallestHeight = 450;
 
-RendererHandle createRenderer(SDL_Window* window) {
-    RendererHandle renderer{
-        SDL_CreateRenderer(window, -1, SDL_RENDERER_ACCELERATED | SDL_RENDERER_PRESENTVSYNC)};
-    if (!renderer) {
-        renderer.reset(SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE));
-    }
-    return renderer;
-}
-
 } // namespace
 
 std::optional<WindowCanvas> WindowCanvas::open(Size size) {
-    WindowHandle window{SDL_CreateWindow("Kestrune", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
-                                         static_cast<int>(size.width), static_cast<int>(size.height),
-                                         SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI)};
-    if (!window) {
+    WindowCanvas canvas;
+    const char* const driver = SDL_GetCurrentVideoDriver();
+    if (driver == nullptr || driver == std::string_view("dummy") || driver == std::string_view("offscreen")) {
         return std::nullopt;
     }
-    SDL_SetWindowMinimumSize(window.get(), SmallestWidth, SmallestHeight);
-    RendererHandle renderer = createRenderer(window.get());
-    if (!renderer) {
+    canvas.window_.reset(SDL_CreateWindow("Kestrune", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+                                          static_cast<int>(size.width), static_cast<int>(size.height),
+                                          SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+    if (!canvas.window_) {
         return std::nullopt;
     }
-    return WindowCanvas(std::move(window), std::move(renderer));
+    SDL_Window* const window = canvas.window_.get();
+    SDL_SetWindowMinimumSize(window, SmallestWidth, SmallestHeight);
+    canvas.renderer_.reset(
+        SDL_CreateRenderer(window, -1, SDL_RENDERER_ACCELERATED | SDL_RENDERER_PRESENTVSYNC));
+    if (!canvas.renderer_) {
+        canvas.renderer_.reset(SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE));
+    }
+    return canvas.renderer_ ? std::optional(std::move(canvas)) : std::nullopt;
 }
-
-WindowCanvas::WindowCanvas(WindowHandle window, RendererHandle renderer)
-    : window_(std::move(window)), renderer_(std::move(renderer)) {}
 
 Size WindowCanvas::size() const {
     int width = 0;
@@ -55,10 +51,12 @@ double WindowCanvas::scale() const {
 }
 
 void WindowCanvas::show(const DeskPicture& picture) {
-    if (shown_ && shown_->picture == picture && shown_->size == size() && shown_->scale == scale()) {
+    const Shown wanted{picture, size(), scale()};
+    if (shown_ == wanted) {
         return;
     }
-    if (!fit()) {
+    const bool isSameSize = shown_ && shown_->size == wanted.size && shown_->scale == wanted.scale;
+    if (!isSameSize && !makeRoom()) {
         return;
     }
     painter_.paint(surface_->context(), picture, size());
@@ -67,14 +65,12 @@ void WindowCanvas::show(const DeskPicture& picture) {
     SDL_RenderCopy(renderer_.get(), texture_.get(), nullptr, nullptr);
     SDL_RenderPresent(renderer_.get());
     SDL_SetWindowTitle(window_.get(), ("Kestrune: " + picture.whatHappened).c_str());
-    shown_ = Shown{picture, size(), scale()};
+    shown_ = wanted;
 }
 
 // Whether there is memory and a texture in the window's size.
-bool WindowCanvas::fit() {
-    if (surface_ && texture_ && shown_ && shown_->size == size() && shown_->scale == scale()) {
-        return true;
-    }
+bool WindowCanvas::makeRoom() {
+    shown_.reset();
     surface_ = Surface::create(size(), scale());
     if (!surface_) {
         return false;

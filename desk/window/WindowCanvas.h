@@ -13,22 +13,27 @@
 
 namespace kestrune::desk {
 
-template <auto destroy>
+template <typename Object, auto destroy>
 struct DestroyedBy {
-    template <typename Object>
-    void operator()(Object* object) const {
-        destroy(object);
-    }
+    void operator()(Object* object) const { destroy(object); }
 };
 
-using WindowHandle = std::unique_ptr<SDL_Window, DestroyedBy<SDL_DestroyWindow>>;
-using RendererHandle = std::unique_ptr<SDL_Renderer, DestroyedBy<SDL_DestroyRenderer>>;
-using TextureHandle = std::unique_ptr<SDL_Texture, DestroyedBy<SDL_DestroyTexture>>;
+template <typename Object, auto destroy>
+using SdlHandle = std::unique_ptr<Object, DestroyedBy<Object, destroy>>;
 
-// Needs SDL's video; must go before that does.
+// SDL's video, from the first window to the last.
+struct Video {
+    Video() { SDL_Init(SDL_INIT_VIDEO); }
+    ~Video() { SDL_Quit(); }
+
+    Video(const Video&) = delete;
+    Video& operator=(const Video&) = delete;
+};
+
+// There is one at a time.
 class WindowCanvas {
 public:
-    // Absent when the display server does not give a window.
+    // Absent when the display server does not give a window that a person can see and use.
     static std::optional<WindowCanvas> open(Size size);
 
     // In logical pixels, the unit of the mouse.
@@ -49,15 +54,18 @@ private:
         DeskPicture picture;
         Size size;
         double scale;
+
+        friend bool operator==(const Shown&, const Shown&) = default;
     };
 
-    WindowCanvas(WindowHandle window, RendererHandle renderer);
+    WindowCanvas() = default;
 
-    bool fit();
+    bool makeRoom();
 
-    WindowHandle window_;
-    RendererHandle renderer_;
-    TextureHandle texture_;
+    std::unique_ptr<Video> video_ = std::make_unique<Video>();
+    SdlHandle<SDL_Window, SDL_DestroyWindow> window_;
+    SdlHandle<SDL_Renderer, SDL_DestroyRenderer> renderer_;
+    SdlHandle<SDL_Texture, SDL_DestroyTexture> texture_;
     std::optional<Surface> surface_;
     DeskPainter painter_;
     std::optional<Shown> shown_;

@@ -1,6 +1,7 @@
 #include "desk/live/gallery/Gallery.h"
 
 #include "desk/live/world/LivePicture.h"
+#include "desk/paint/desk/DeskLayout.h"
 #include "desk/paint/sheets/Sheet.h"
 
 #include <algorithm>
@@ -57,24 +58,28 @@ private:
                 return replay::InputError{"the scene " + name + " expected " + *missing};
             }
             auto& shown = std::get<DeskPicture>(performed);
-            std::string caption = shown.story;
-            Picture picture = pictureOfScene(*scene, std::move(shown));
+            shown.dark = isDark_;
+            const Picture picture = scene->frame == Frame::window
+                                        ? pictureOfWindow(shown.windows.front(), isDark_)
+                                        : pictureOfDesk(shown, UsualWindow);
             if (isWanted(name)) {
                 if (auto error = write(name, picture, SceneScale)) {
                     return error;
                 }
             }
-            sheet.cells.push_back({std::move(caption), std::move(picture)});
+            sheet.cells.push_back(
+                {shown.story, scene->frame == Frame::window ? picture : stageOf(shown, picture)});
         }
         return std::nullopt;
     }
 
-    Picture pictureOfScene(const Scene& scene, DeskPicture shown) const {
-        if (scene.frame == Frame::window) {
-            return pictureOfWindow(shown.windows.front(), isDark_);
-        }
-        shown.dark = isDark_;
-        return pictureOfDesk(std::move(shown), UsualWindow);
+    // The displays alone, as the caption says it all.
+    static Picture stageOf(const DeskPicture& shown, const Picture& desk) {
+        const Rect stage = DeskLayout::of(shown, desk.size).stage();
+        return {stage.size, [stage, desk](cairo_t* context) {
+                    cairo_translate(context, -stage.minX(), -stage.minY());
+                    desk.paint(context);
+                }};
     }
 
     MaybeError write(const std::string& name, const Picture& picture, double scale) const {
@@ -98,20 +103,17 @@ private:
 
 MaybeError checkNames(const std::vector<std::string>& wanted) {
     std::vector<std::string> names;
-    std::string list;
     for (const Chapter& chapter : chapters()) {
         names.push_back(chapter.name);
         for (const Story& story : chapter.stories) {
-            for (const Scene& scene : story.scenes) {
-                names.push_back(chapter.nameOf(scene));
-            }
+            std::transform(story.scenes.begin(), story.scenes.end(), std::back_inserter(names),
+                           [&chapter](const Scene& scene) { return chapter.nameOf(scene); });
         }
-    }
-    for (const std::string& name : names) {
-        list += (list.empty() ? "" : ", ") + name;
     }
     for (const std::string& name : wanted) {
         if (std::find(names.begin(), names.end(), name) == names.end()) {
+            std::string list = names.front();
+            std::for_each(names.begin() + 1, names.end(), [&](const auto& other) { list += ", " + other; });
             return replay::InputError{"--gallery: no scene is called " + replay::inQuotes(name) +
                                       "; there are " + list};
         }
