@@ -6,8 +6,11 @@
 #include "desk/live/world/LivePicture.h"
 #include "desk/paint/desk/DeskHitTest.h"
 #include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/desk/DeskPainter.h"
 #include "desk/paint/sheets/Sheet.h"
-#include "desk/window/WindowCanvas.h"
+#include "desk/paint/toolkit/Surface.h"
+
+#include <SDL.h>
 
 #include <algorithm>
 #include <array>
@@ -15,6 +18,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace kestrune::desk {
@@ -27,6 +31,126 @@ constexpr const char* UsualScreenshot = "kestrune-desk.png";
 // Between two looks at the events, in milliseconds. SDL_WaitEventTimeout would sleep until there is one, but
 // on X11 it can leave a message to the window on its way when the window goes, which ends the process.
 constexpr Uint32 Pause = 8;
+
+constexpr int SmallestWidth = 720;
+constexpr int SmallestHeight = 450;
+
+template <typename Object, auto destroy>
+struct DestroyedBy {
+    void operator()(Object* object) const { destroy(object); }
+};
+
+template <typename Object, auto destroy>
+using SdlHandle = std::unique_ptr<Object, DestroyedBy<Object, destroy>>;
+
+// SDL's video, from the first window to the last.
+struct Video {
+    Video() { SDL_Init(SDL_INIT_VIDEO); }
+    ~Video() { SDL_Quit(); }
+
+    Video(const Video&) = delete;
+    Video& operator=(const Video&) = delete;
+};
+
+// A window on the screen that shows pictures of the desk. There is one at a time.
+class WindowCanvas {
+public:
+    // Absent when the display server does not give a window that a person can see and use.
+    static std::optional<WindowCanvas> open(Size size) {
+        WindowCanvas canvas;
+        const char* const driver = SDL_GetCurrentVideoDriver();
+        if (driver == nullptr || driver == std::string_view("dummy") ||
+            driver == std::string_view("offscreen")) {
+            return std::nullopt;
+        }
+        canvas.window_.reset(SDL_CreateWindow("Kestrune", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+                                              static_cast<int>(size.width), static_cast<int>(size.height),
+                                              SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+        if (!canvas.window_) {
+            return std::nullopt;
+        }
+        SDL_Window* const window = canvas.window_.get();
+        SDL_SetWindowMinimumSize(window, SmallestWidth, SmallestHeight);
+        canvas.renderer_.reset(
+            SDL_CreateRenderer(window, -1, SDL_RENDERER_ACCELERATED | SDL_RENDERER_PRESENTVSYNC));
+        if (!canvas.renderer_) {
+            canvas.renderer_.reset(SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE));
+        }
+        return canvas.renderer_ ? std::optional(std::move(canvas)) : std::nullopt;
+    }
+
+    // In logical pixels, the unit of the mouse.
+    Size size() const {
+        int width = 0;
+        int height = 0;
+        SDL_GetWindowSize(window_.get(), &width, &height);
+        return {static_cast<double>(width), static_cast<double>(height)};
+    }
+
+    // Device pixels for each logical one.
+    double scale() const {
+        int pixelWidth = 0;
+        int pixelHeight = 0;
+        SDL_GetRendererOutputSize(renderer_.get(), &pixelWidth, &pixelHeight);
+        const double width = size().width;
+        return width > 0 && pixelWidth > 0 ? pixelWidth / width : 1;
+    }
+
+    // Paints when the picture or the window's size is another than the last time. The title tells what
+    // happened.
+    void show(const DeskPicture& picture) {
+        const Shown wanted{picture, size(), scale()};
+        if (shown_ == wanted) {
+            return;
+        }
+        const bool isSameSize = shown_ && shown_->size == wanted.size && shown_->scale == wanted.scale;
+        if (!isSameSize && !makeRoom()) {
+            return;
+        }
+        painter_.paint(surface_->context(), picture, size());
+        SDL_UpdateTexture(texture_.get(), nullptr, surface_->pixels().data(), surface_->stride());
+        SDL_RenderClear(renderer_.get());
+        SDL_RenderCopy(renderer_.get(), texture_.get(), nullptr, nullptr);
+        SDL_RenderPresent(renderer_.get());
+        SDL_SetWindowTitle(window_.get(), ("Kestrune: " + picture.whatHappened).c_str());
+        shown_ = wanted;
+    }
+
+    // The window was uncovered or its contents were lost: the next picture is shown in any case.
+    void forget() { shown_.reset(); }
+
+private:
+    struct Shown {
+        DeskPicture picture;
+        Size size;
+        double scale;
+
+        friend bool operator==(const Shown&, const Shown&) = default;
+    };
+
+    WindowCanvas() = default;
+
+    // Whether there is memory and a texture in the window's size.
+    bool makeRoom() {
+        shown_.reset();
+        surface_ = Surface::create(size(), scale());
+        if (!surface_) {
+            return false;
+        }
+        texture_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888,
+                                         SDL_TEXTUREACCESS_STREAMING, surface_->pixelWidth(),
+                                         surface_->pixelHeight()));
+        return texture_ != nullptr;
+    }
+
+    std::unique_ptr<Video> video_ = std::make_unique<Video>();
+    SdlHandle<SDL_Window, SDL_DestroyWindow> window_;
+    SdlHandle<SDL_Renderer, SDL_DestroyRenderer> renderer_;
+    SdlHandle<SDL_Texture, SDL_DestroyTexture> texture_;
+    std::optional<Surface> surface_;
+    DeskPainter painter_;
+    std::optional<Shown> shown_;
+};
 
 EventType motionType(Uint32 buttons) {
     if ((buttons & SDL_BUTTON_LMASK) != 0) {

@@ -36,8 +36,6 @@ std::string lengthened(const std::string& text) {
     return result;
 }
 
-void asItIs(LiveDeskSetup&) {}
-
 void withLongTexts(LiveDeskSetup& setup) {
     for (auto& [key, text] : setup.bundle.localizedStrings) {
         text = lengthened(text);
@@ -45,13 +43,6 @@ void withLongTexts(LiveDeskSetup& setup) {
 }
 
 void withoutPermission(LiveDeskSetup& setup) { setup.permission = sim::Permission::notListed; }
-
-void withLongTextsAndNoPermission(LiveDeskSetup& setup) {
-    withLongTexts(setup);
-    withoutPermission(setup);
-}
-
-void withoutCopyright(LiveDeskSetup& setup) { setup.bundle.infoDictionary.erase("NSHumanReadableCopyright"); }
 
 // The first control of a kind in the application's window.
 template <typename Wanted>
@@ -197,10 +188,14 @@ void goToSwitch(Stage& stage) {
 } // namespace
 
 Chapter wizardChapter() {
-    Story introduction{asItIs, {}};
+    Story introduction{[](LiveDeskSetup&) {}, {}};
     addLooks(introduction.scenes, Introduction);
     Story permission{withoutPermission, {}};
-    Story longPermission{withLongTextsAndNoPermission, {}};
+    Story longPermission{[](LiveDeskSetup& setup) {
+                             withLongTexts(setup);
+                             withoutPermission(setup);
+                         },
+                         {}};
     for (const WizardState& state : Permission) {
         addLooks(permission.scenes, state);
         longPermission.scenes.push_back(longScene(state));
@@ -214,7 +209,7 @@ Chapter wizardChapter() {
 }
 
 Chapter settingsChapter() {
-    const Story story{asItIs,
+    const Story story{[](LiveDeskSetup&) {},
                       {
                           windowScene("in-front", "In front", openSettings),
                           windowScene("switch-pressed", "Switch held down", press<FirstSwitch>),
@@ -226,8 +221,9 @@ Chapter settingsChapter() {
                           windowScene("background", "Behind another application", putBehind),
                       }};
     const Story longStory{withLongTexts, {windowScene("long", "Long texts", openSettings)}};
-    const Story bareStory{withoutCopyright,
-                          {windowScene("without-copyright", "Without a copyright", openSettings)}};
+    const Story bareStory{
+        [](LiveDeskSetup& setup) { setup.bundle.infoDictionary.erase("NSHumanReadableCopyright"); },
+        {windowScene("without-copyright", "Without a copyright", openSettings)}};
     return {"settings", "Kestrune Settings: every state", 5, 1, {story, longStory, bareStory}};
 }
 
