@@ -248,7 +248,7 @@ ln -sf "$(type -p kestrune-pictures)" build/mac/mac"""
 
     def setUp(self):
         super().setUp()
-        for name in ("count-tests", "pictures"):
+        for name in ("count-tests", "draw-gallery"):
             shutil.copy(REPOSITORY / "tools" / name, self.checkout / "tools")
         self.pin_archive()
         self.programs = {"cmake": self.CMAKE, "ctest": self.CTEST, "sysctl": "echo 3"}
