@@ -298,8 +298,12 @@ void applyFrame(Frame frame, DeskPicture& picture) {
         return doOverlap(part, seen) && !isWithin(overlapOf(part, bounds), seen);
     });
     if (frame != Frame::display && isWithin(wanted, seen) && !isAnyCut) {
-        constexpr double MarginOfStage = 40; // more than there is around what is shown
-        picture.shown = enlargedBy(seen, -MarginOfStage * seen.width() / stage.width);
+        // The stage has a margin around what is shown, and displays stand further apart on it than they are.
+        const Point middle = centerOf(seen);
+        picture.shown = enlargedBy(seen, -40);
+        const double tooLarge = DeskLayout::of(picture, UsualWindow).scale() * seen.width() / stage.width;
+        const Size size{picture.shown->width() * tooLarge, picture.shown->height() * tooLarge};
+        picture.shown = Rect{middle.x - size.width / 2, middle.y - size.height / 2, size.width, size.height};
         return;
     }
     picture.shown.reset();
