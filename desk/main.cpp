@@ -1,8 +1,7 @@
 // The simulated Mac on the screen, and its windowless commands.
 
 #include "desk/command/Command.h"
-#include "desk/headless/LaunchCommand.h"
-#include "desk/headless/ReplayCommand.h"
+#include "desk/headless/HeadlessCommands.h"
 #include "desk/live/gallery/Gallery.h"
 #include "desk/window/DeskWindow.h"
 
@@ -43,7 +42,7 @@ int finish(const std::variant<std::string, replay::InputError>& result) {
 struct Runner {
     const Options& options;
 
-    int operator()(const OpenWindow& window) const { return runDeskWindow(options, window.outcome); }
+    int operator()(const OpenWindow& window) const { return finish(runDeskWindow(options, window.outcome)); }
     int operator()(const DrawGallery& draw) const {
         return finish(drawGallery(draw.folder, draw.scenes, options));
     }

@@ -8,8 +8,10 @@
 #include <cmath>
 #include <initializer_list>
 #include <limits>
+#include <map>
 #include <memory>
 #include <system_error>
+#include <type_traits>
 
 namespace kestrune::desk {
 
@@ -69,6 +71,9 @@ public:
     }
 };
 
+// What an option means something to: the desk in a window, and what comes in its place.
+enum Modes : unsigned { Window = 1, Gallery = 2, Replay = 4, Generate = 8, Launching = 16 };
+
 class CommandLine {
 public:
     CommandLine() {
@@ -81,7 +86,6 @@ public:
         addDesk();
         addOutcome();
         addGeneration();
-        checkCompany();
     }
 
     Command read(std::span<const std::string_view> arguments) {
@@ -91,59 +95,68 @@ public:
         } catch (const CLI::CallForHelp&) {
             return {PrintHelp{app_.help()}, {}};
         }
-        readDesk();
+        if (pin_) {
+            options_.pinned = checkedPin();
+        }
         return {mode(), options_};
     }
 
 private:
-    CLI::Option* add(const char* name, const char* kind, auto& value, const char* what) {
-        return app_.add_option(name, value, what)->type_name(kind)->group(group_);
-    }
-
-    void addFlag(const char* name, bool& value, const char* what) {
-        app_.add_flag(name, value, what)->group(group_);
-    }
-
     void addModes() {
         group_ = "Instead of the desk in a window";
-        add("--gallery", "DIR [SCENE...]", galleryWords_,
-            "draws scenes into the folder DIR, all when none is named: a PNG\n"
-            "for each, and a sheet with all those that belong together")
-            ->check(path());
-        add("--replay", "FILE", play_.recording, "plays a pointer recording")->check(path());
-        add("--generate", "FILE", make_.path, "writes a made-up recording")->check(path());
-        addFlag("--launch", isLaunch_, "launches Kestrune and prints every call to the platform, in order");
+        modes_[Gallery] = add(Gallery, "--gallery", "DIR [SCENE...]", galleryWords_,
+                              "draws scenes into the folder DIR, all when none is named: a PNG\n"
+                              "for each, and a sheet with all those that belong together")
+                              ->check(path());
+        modes_[Replay] =
+            add(Replay, "--replay", "FILE", play_.recording, "plays a pointer recording")->check(path());
+        modes_[Generate] =
+            add(Generate, "--generate", "FILE", make_.path, "writes a made-up recording")->check(path());
+        modes_[Launching] = addFlag(Launching, "--launch", isLaunch_,
+                                    "launches Kestrune and prints every call to the platform, in order");
     }
 
     void addDesk() {
         group_ = "The desk";
-        add("--displays", "LIST", displays_,
+        add(
+            Window | Gallery | Replay | Launching, "--displays", "LIST",
+            [this](const std::string& text) { readDisplays(text); },
             "at most 16 displays as WxH+X+Y or WxH-X-Y, separated by commas,\n"
             "in points, y downwards, decimals allowed; the first is the\n"
             "primary, at +0+0. Usual: 1512x982+0+0,1920x1080+1512-98");
-        add("--pin", "N", pin_, "the display that keeps the Dock, counted from 1. Usual: 1")
+        add(Window | Replay | Launching, "--pin", "N", pin_,
+            "the display that keeps the Dock, counted from 1. Usual: 1")
             ->transform(wholeNumber(0, Largest));
-        add("--guard", "on|off", guard_, "whether Kestrune guards the Dock. Usual: on")
+        add(
+            Window | Replay | Launching, "--guard", "on|off",
+            [this](const std::string& word) { options_.guardOn = word == "on"; },
+            "whether Kestrune guards the Dock. Usual: on")
             ->check(oneOf({"on", "off"}));
-        add("--margin", "M", options_.margin,
+        add(Window | Replay | Launching, "--margin", "M", options_.margin,
             "depth of the guarded band in points; 4 when absent or not\ngreater than 0")
             ->check(finiteNumber());
-        add("--permission", "P", permission_,
+        add(
+            Window | Launching, "--permission", "P",
+            [this](const std::string& word) { options_.isPermissionGranted = word == "granted"; },
             "granted or missing: whether Kestrune has the Accessibility\n"
             "permission when it is launched. Usual: granted")
             ->check(oneOf({"granted", "missing"}));
-        add("--defaults", "FILE", options_.defaults, "keeps the preferences in a property list")
+        add(Window | Launching, "--defaults", "FILE", options_.defaultsFile,
+            "keeps the preferences in a property list")
             ->check(path());
-        addFlag("--dark", options_.dark, "paints dark");
+        addFlag(Window | Gallery | Replay, "--dark", options_.dark, "paints dark");
     }
 
     void addOutcome() {
         group_ = "With --replay, or when the window is closed";
-        add("--report", "json", report_, "ends with one object instead of a few lines of text")
+        add(
+            Window | Replay, "--report", "json", [this](const std::string&) { outcome_.asJSON = true; },
+            "ends with one object instead of a few lines of text")
             ->check(oneOf({"json"}));
-        add("--screenshot", "FILE", outcome_.screenshot, "writes a PNG of the desk as it is in the end")
+        add(Window | Replay, "--screenshot", "FILE", outcome_.screenshot,
+            "writes a PNG of the desk as it is in the end")
             ->check(path());
-        add("--emit", "FILE", play_.emit,
+        add(Replay, "--emit", "FILE", play_.emit,
             "writes index,type,x,y,deliveredX,deliveredY for each event that\n"
             "was delivered; with --replay only")
             ->check(path());
@@ -151,62 +164,56 @@ private:
 
     void addGeneration() {
         group_ = "With --generate";
-        add("--seed", "N", make_.motion.seed, "the same seed gives the same recording. Usual: 1")
+        add(Generate, "--seed", "N", make_.motion.seed, "the same seed gives the same recording. Usual: 1")
             ->transform(wholeNumber(0, Largest));
-        add("--rows", "N", make_.motion.rows, "how many rows. Usual: 10000")
+        add(Generate, "--rows", "N", make_.motion.rows, "how many rows. Usual: 10000")
             ->transform(wholeNumber(1, MostRows));
-        add("--size", "WxH", size_, "the recorded display, in pixels. Usual: 1512x982");
+        add(
+            Generate, "--size", "WxH", [this](const std::string& text) { readSize(text); },
+            "the recorded display, in pixels. Usual: 1512x982");
     }
 
-    // Which options mean nothing to each other.
-    void checkCompany() {
-        exclude("--gallery", {"--replay", "--generate", "--launch", "--pin", "--guard", "--margin",
-                              "--permission", "--defaults", "--report", "--screenshot"});
-        exclude("--replay", {"--generate", "--launch", "--permission", "--defaults"});
-        exclude("--generate", {"--launch", "--displays", "--pin", "--guard", "--margin", "--permission",
-                               "--defaults", "--dark", "--report", "--screenshot"});
-        exclude("--launch", {"--dark", "--report", "--screenshot"});
-        app_.get_option("--emit")->needs(app_.get_option("--replay"));
-        for (const char* const option : {"--seed", "--rows", "--size"}) {
-            app_.get_option(option)->needs(app_.get_option("--generate"));
+    CLI::Option* add(unsigned modes, const char* name, const char* kind, auto&& value, const char* what) {
+        if constexpr (std::is_invocable_v<decltype(value), const std::string&>) {
+            return keepTo(modes, app_.add_option_function<std::string>(name, value, what)->type_name(kind));
+        } else {
+            return keepTo(modes, app_.add_option(name, value, what)->type_name(kind));
         }
     }
 
-    void exclude(const char* mode, std::initializer_list<const char*> others) {
-        for (const char* const other : others) {
-            app_.get_option(other)->excludes(app_.get_option(mode));
-        }
+    CLI::Option* addFlag(unsigned modes, const char* name, bool& value, const char* what) {
+        return keepTo(modes, app_.add_flag(name, value, what));
     }
 
-    void readDisplays() {
-        auto displays = replay::parseDisplayList(displays_);
+    CLI::Option* keepTo(unsigned modes, CLI::Option* option) {
+        for (const auto& [mode, another] : modes_) {
+            if ((modes & mode) == 0) {
+                option->excludes(another);
+            } else if (modes == mode) {
+                option->needs(another);
+            }
+        }
+        return option->group(group_);
+    }
+
+    void readDisplays(const std::string& text) {
+        auto displays = replay::parseDisplayList(text);
         if (const auto* error = std::get_if<replay::InputError>(&displays)) {
             throw CLI::ValidationError(error->message);
         }
         options_.displays = std::get<std::vector<Rect>>(std::move(displays));
     }
 
-    // What the parser cannot tell by itself.
-    void readDesk() {
-        if (isGiven("--displays")) {
-            readDisplays();
-        }
-        if (pin_ && (*pin_ < 1 || *pin_ > options_.displays.size())) {
+    std::size_t checkedPin() const {
+        if (*pin_ < 1 || *pin_ > options_.displays.size()) {
             const std::string last = std::to_string(options_.displays.size());
             throw CLI::ValidationError("--pin", "expected a display number from 1 to " + last + ", found " +
                                                     std::to_string(*pin_));
         }
-        if (pin_) {
-            options_.pinned = *pin_ - 1;
-        }
-        if (isGiven("--guard")) {
-            options_.guardOn = guard_ == "on";
-        }
-        options_.isPermissionGranted = permission_ != "missing";
+        return *pin_ - 1;
     }
 
-    void readSize() {
-        const std::string_view size = size_;
+    void readSize(std::string_view size) {
         const std::size_t separator = std::min(size.find('x'), size.size());
         const auto width = parsed<int>(size.substr(0, separator));
         const auto height = parsed<int>(size.substr(std::min(separator + 1, size.size())));
@@ -222,35 +229,25 @@ private:
     }
 
     Mode mode() {
-        outcome_.asJSON = isGiven("--report");
-        if (isGiven("--gallery")) {
+        if (!galleryWords_.empty()) {
             return DrawGallery{galleryWords_.front(), {galleryWords_.begin() + 1, galleryWords_.end()}};
         }
-        if (isGiven("--replay")) {
+        if (!play_.recording.empty()) {
             play_.outcome = outcome_;
             return play_;
         }
-        if (isGiven("--generate")) {
-            if (isGiven("--size")) {
-                readSize();
-            }
+        if (!make_.path.empty()) {
             return make_;
         }
         return isLaunch_ ? Mode(Launch{}) : OpenWindow{outcome_};
     }
 
-    bool isGiven(const char* option) const { return app_.count(option) > 0; }
-
     CLI::App app_{"A simulated Mac with several displays, and Kestrune on it, in a window", "kestrune-desk"};
-    std::string group_; // of the options that are added
+    std::string group_;                      // of the options that are added
+    std::map<unsigned, CLI::Option*> modes_; // by the bit of each
 
     Options options_;
-    std::string displays_;
     std::optional<std::size_t> pin_; // counted from 1
-    std::string guard_;
-    std::string permission_;
-    std::string report_;
-    std::string size_;
     bool isLaunch_ = false;
     std::vector<std::string> galleryWords_; // the folder, then scenes
     Outcome outcome_;

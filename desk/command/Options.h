@@ -19,7 +19,8 @@ struct Options {
     std::optional<bool> guardOn;
     std::optional<double> margin; // points
 
-    std::optional<std::string> defaults; // the file that keeps the preferences
+    // The file that keeps the preferences: every change is saved there.
+    std::optional<std::string> defaultsFile;
 
     // Whether Kestrune has the Accessibility permission when it is launched.
     bool isPermissionGranted = true;

@@ -4,14 +4,18 @@
 #include "desk/live/hand/DeskKeys.h"
 #include "desk/live/hand/Hand.h"
 #include "desk/live/world/LivePicture.h"
-#include "desk/live/world/OpenDesk.h"
-#include "desk/paint/desk/DeskLayout.h"
 #include "desk/paint/desk/DeskParts.h"
+#include "desk/paint/desk/DeskLayout.h"
+#include "desk/paint/desk/DeskPainter.h"
 #include "desk/paint/sheets/Sheet.h"
-#include "desk/window/WindowCanvas.h"
+#include "desk/paint/toolkit/Surface.h"
 
+#include <SDL.h>
+
+#include <algorithm>
+#include <array>
 #include <chrono>
-#include <cstdio>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,7 +25,6 @@ namespace kestrune::desk {
 
 namespace {
 
-constexpr int BadInput = 2;
 constexpr const char* GalleryFolder = "out/gallery";
 constexpr const char* UsualScreenshot = "kestrune-desk.png";
 
@@ -29,10 +32,125 @@ constexpr const char* UsualScreenshot = "kestrune-desk.png";
 // on X11 it can leave a message to the window on its way when the window goes, which ends the process.
 constexpr Uint32 Pause = 8;
 
-int refuse(const std::string& message) {
-    std::fprintf(stderr, "kestrune-desk: %s\n", message.c_str());
-    return BadInput;
-}
+constexpr int SmallestWidth = 720;
+constexpr int SmallestHeight = 450;
+
+template <typename Object, auto destroy>
+struct DestroyedBy {
+    void operator()(Object* object) const { destroy(object); }
+};
+
+template <typename Object, auto destroy>
+using SdlHandle = std::unique_ptr<Object, DestroyedBy<Object, destroy>>;
+
+// SDL's video, from the first window to the last.
+struct Video {
+    Video() { SDL_Init(SDL_INIT_VIDEO); }
+    ~Video() { SDL_Quit(); }
+
+    Video(const Video&) = delete;
+    Video& operator=(const Video&) = delete;
+};
+
+// A window on the screen that shows pictures of the desk. There is one at a time.
+class WindowCanvas {
+public:
+    // Absent when the display server does not give a window that a person can see and use.
+    static std::optional<WindowCanvas> open(Size size) {
+        WindowCanvas canvas;
+        const char* const driver = SDL_GetCurrentVideoDriver();
+        if (driver == nullptr || driver == std::string_view("dummy") ||
+            driver == std::string_view("offscreen")) {
+            return std::nullopt;
+        }
+        canvas.window_.reset(SDL_CreateWindow("Kestrune", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+                                              static_cast<int>(size.width), static_cast<int>(size.height),
+                                              SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+        if (!canvas.window_) {
+            return std::nullopt;
+        }
+        SDL_Window* const window = canvas.window_.get();
+        SDL_SetWindowMinimumSize(window, SmallestWidth, SmallestHeight);
+        canvas.renderer_.reset(
+            SDL_CreateRenderer(window, -1, SDL_RENDERER_ACCELERATED | SDL_RENDERER_PRESENTVSYNC));
+        if (!canvas.renderer_) {
+            canvas.renderer_.reset(SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE));
+        }
+        return canvas.renderer_ ? std::optional(std::move(canvas)) : std::nullopt;
+    }
+
+    // In logical pixels, the unit of the mouse.
+    Size size() const {
+        int width = 0;
+        int height = 0;
+        SDL_GetWindowSize(window_.get(), &width, &height);
+        return {static_cast<double>(width), static_cast<double>(height)};
+    }
+
+    // Device pixels for each logical one.
+    double scale() const {
+        int pixelWidth = 0;
+        int pixelHeight = 0;
+        SDL_GetRendererOutputSize(renderer_.get(), &pixelWidth, &pixelHeight);
+        const double width = size().width;
+        return width > 0 && pixelWidth > 0 ? pixelWidth / width : 1;
+    }
+
+    // Paints when the picture or the window's size is another than the last time. The title tells what
+    // happened.
+    void show(const DeskPicture& picture) {
+        const Shown wanted{picture, size(), scale()};
+        if (shown_ == wanted) {
+            return;
+        }
+        const bool isSameSize = shown_ && shown_->size == wanted.size && shown_->scale == wanted.scale;
+        if (!isSameSize && !makeRoom()) {
+            return;
+        }
+        painter_.paint(surface_->context(), picture, size());
+        SDL_UpdateTexture(texture_.get(), nullptr, surface_->pixels().data(), surface_->stride());
+        SDL_RenderClear(renderer_.get());
+        SDL_RenderCopy(renderer_.get(), texture_.get(), nullptr, nullptr);
+        SDL_RenderPresent(renderer_.get());
+        SDL_SetWindowTitle(window_.get(), ("Kestrune: " + picture.whatHappened).c_str());
+        shown_ = wanted;
+    }
+
+    // The window was uncovered or its contents were lost: the next picture is shown in any case.
+    void forget() { shown_.reset(); }
+
+private:
+    struct Shown {
+        DeskPicture picture;
+        Size size;
+        double scale;
+
+        friend bool operator==(const Shown&, const Shown&) = default;
+    };
+
+    WindowCanvas() = default;
+
+    // Whether there is memory and a texture in the window's size.
+    bool makeRoom() {
+        shown_.reset();
+        surface_ = Surface::create(size(), scale());
+        if (!surface_) {
+            return false;
+        }
+        texture_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888,
+                                         SDL_TEXTUREACCESS_STREAMING, surface_->pixelWidth(),
+                                         surface_->pixelHeight()));
+        return texture_ != nullptr;
+    }
+
+    std::unique_ptr<Video> video_ = std::make_unique<Video>();
+    SdlHandle<SDL_Window, SDL_DestroyWindow> window_;
+    SdlHandle<SDL_Renderer, SDL_DestroyRenderer> renderer_;
+    SdlHandle<SDL_Texture, SDL_DestroyTexture> texture_;
+    std::optional<Surface> surface_;
+    DeskPainter painter_;
+    std::optional<Shown> shown_;
+};
 
 EventType motionType(Uint32 buttons) {
     if ((buttons & SDL_BUTTON_LMASK) != 0) {
@@ -44,44 +162,28 @@ EventType motionType(Uint32 buttons) {
     return buttons != 0 ? EventType::otherMouseDragged : EventType::mouseMoved;
 }
 
-// The key as the desk knows it, 0 for one that it does not know.
-char deskKey(SDL_Keycode key) {
-    switch (key) {
-    case SDLK_KP_PLUS:
-    case SDLK_PLUS:
-    case SDLK_EQUALS: // The plus sign's key without Shift.
-        return '+';
-    case SDLK_KP_MINUS:
-    case SDLK_MINUS:
-        return '-';
-    default:
-        return key > 0 && key < 0x80 ? static_cast<char>(key) : '\0';
-    }
-}
-
-// The keys of menus, dialogs and windows.
-std::optional<NavigationKey> navigationKey(SDL_Keysym pressed) {
-    switch (pressed.sym) {
-    case SDLK_UP:
-        return NavigationKey::up;
-    case SDLK_DOWN:
-        return NavigationKey::down;
-    case SDLK_LEFT:
-        return NavigationKey::left;
-    case SDLK_RIGHT:
-        return NavigationKey::right;
-    case SDLK_RETURN:
-    case SDLK_KP_ENTER:
-        return NavigationKey::enter;
-    case SDLK_SPACE:
-        return NavigationKey::space;
-    case SDLK_TAB:
-        return (pressed.mod & KMOD_SHIFT) != 0 ? NavigationKey::backTab : NavigationKey::tab;
-    case SDLK_ESCAPE:
-        return NavigationKey::escape;
-    default:
-        return std::nullopt;
-    }
+KeyPress keyPress(const SDL_KeyboardEvent& event) {
+    // Where the character on the cap is not the key's own number.
+    constexpr std::array<std::pair<SDL_Keycode, char32_t>, 11> Caps = {{
+        {SDLK_UP, U'↑'},
+        {SDLK_DOWN, U'↓'},
+        {SDLK_LEFT, U'←'},
+        {SDLK_RIGHT, U'→'},
+        {SDLK_RETURN, U'⏎'},
+        {SDLK_KP_ENTER, U'⏎'},
+        {SDLK_TAB, U'⇥'},
+        {SDLK_ESCAPE, U'⎋'},
+        {SDLK_KP_PLUS, U'+'},
+        {SDLK_EQUALS, U'+'}, // The plus sign's key without Shift.
+        {SDLK_KP_MINUS, U'-'},
+    }};
+    const SDL_Keysym& key = event.keysym;
+    const auto found =
+        std::find_if(Caps.begin(), Caps.end(), [&key](const auto& cap) { return cap.first == key.sym; });
+    const bool isCharacter = key.sym > 0 && key.sym < 0x80;
+    // Keyboards that are not a Mac's have Control where its hand looks for Command.
+    return {found != Caps.end() ? found->second : static_cast<char32_t>(isCharacter ? key.sym : 0),
+            (key.mod & KMOD_SHIFT) != 0, (key.mod & (KMOD_CTRL | KMOD_GUI)) != 0, event.repeat != 0};
 }
 
 class DeskWindow {
@@ -113,9 +215,7 @@ private:
         if (zoomedTo_) {
             result.shown = Rect{zoomedTo_->x, zoomedTo_->y, 0, 0};
         }
-        if (hidesKeys_) {
-            result.keys = legendOfHiddenKeys();
-        }
+        result.keys = keyLegend(hidesKeys_);
         return result;
     }
 
@@ -127,32 +227,29 @@ private:
             isClosed_ = true;
             break;
         case SDL_KEYDOWN:
-            press(event.key);
-            break;
-        case SDL_MOUSEBUTTONDOWN:
-            if (event.button.button == SDL_BUTTON_LEFT) {
-                desk_.pressButton(targetAt(placeOf(event.button)));
+            if (const auto command = pressDeskKey(desk_, keyPress(event.key))) {
+                perform(*command);
             }
             break;
+        case SDL_MOUSEBUTTONDOWN:
         case SDL_MOUSEBUTTONUP:
             if (event.button.button == SDL_BUTTON_LEFT) {
-                desk_.releaseButton(targetAt(placeOf(event.button)));
+                const DeskPicture shown = picture();
+                const auto target = targetAt(placeOf(event.button), shown, layoutOf(shown));
+                event.type == SDL_MOUSEBUTTONDOWN ? desk_.pressButton(target) : desk_.releaseButton(target);
             }
             break;
         case SDL_MOUSEMOTION:
             handleMotion(event.motion);
-            break;
-        case SDL_WINDOWEVENT:
-            if (event.window.event == SDL_WINDOWEVENT_EXPOSED) {
-                canvas_.forget();
-            }
             break;
         case SDL_RENDER_TARGETS_RESET:
         case SDL_RENDER_DEVICE_RESET:
             canvas_.forget();
             break;
         default:
-            break;
+            if (event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_EXPOSED) {
+                canvas_.forget();
+            }
         }
     }
 
@@ -160,7 +257,7 @@ private:
         const Point place = placeOf(motion);
         follow(place);
         const DeskPicture shown = picture();
-        const DeskLayout seen = DeskLayout::of(shown, canvas_.size());
+        const DeskLayout seen = layoutOf(shown);
         const std::optional<DeskTarget> target = targetAt(place, shown, seen);
         hand_.moveTo(seen.toGlobal(place), motionType(motion.state), elapsed());
         desk_.hover(target);
@@ -182,34 +279,12 @@ private:
         return {static_cast<double>(event.x), static_cast<double>(event.y)};
     }
 
-    DeskLayout layout() { return DeskLayout::of(picture(), canvas_.size()); }
+    DeskLayout layoutOf(const DeskPicture& shown) { return DeskLayout::of(shown, canvas_.size()); }
+    DeskLayout layout() { return layoutOf(picture()); }
 
     std::optional<DeskTarget> targetAt(Point place, const DeskPicture& shown, const DeskLayout& seen) {
         const std::optional<Point> point = seen.pointAt(place);
         return point ? hitTest_.targetAt(shown, *point) : std::nullopt;
-    }
-
-    std::optional<DeskTarget> targetAt(Point place) { return targetAt(place, picture(), layout()); }
-
-    void press(const SDL_KeyboardEvent& event) {
-        const auto navigation = navigationKey(event.keysym);
-        if (navigation && desk_.navigate(*navigation)) {
-            return;
-        }
-        const char character = deskKey(event.keysym.sym);
-        if (event.repeat != 0 && character != '+' && character != '-') {
-            return;
-        }
-        // Command; keyboards that are not a Mac's have Control where its hand looks for it.
-        if ((event.keysym.mod & (KMOD_CTRL | KMOD_GUI)) != 0) {
-            if (character != '\0') {
-                desk_.pressEquivalent(std::string(1, character), (event.keysym.mod & KMOD_SHIFT) != 0);
-            }
-            return;
-        }
-        if (const auto command = pressDeskKey(desk_, character)) {
-            perform(*command);
-        }
     }
 
     void perform(WindowCommand command) {
@@ -269,66 +344,32 @@ private:
     bool isClosed_ = false;
 };
 
-// SDL's video for the length of a scope.
-class Video {
-public:
-    Video() : isThere_(SDL_Init(SDL_INIT_VIDEO) == 0) {}
-    ~Video() { SDL_Quit(); }
-
-    Video(const Video&) = delete;
-    Video& operator=(const Video&) = delete;
-
-    // Whether a person can see and use a window.
-    bool isUsable() const {
-        if (!isThere_) {
-            return false;
-        }
-        const std::string_view driver = SDL_GetCurrentVideoDriver();
-        return driver != "dummy" && driver != "offscreen";
-    }
-
-private:
-    bool isThere_;
-};
-
-int drawGalleryInstead(const Options& options) {
-    std::printf("No display server gives a window: pictures of all scenes go to %s\n", GalleryFolder);
-    const auto error = drawGallery(GalleryFolder, {}, options);
-    return error ? refuse(error->message) : 0;
-}
-
-int finish(DeskWindow& window, LiveDesk& desk, const Outcome& outcome) {
-    if (outcome.screenshot) {
-        if (const auto error = window.writeTo(*outcome.screenshot)) {
-            return refuse(error->message);
-        }
-    }
-    if (const auto& error = desk.savingError()) {
-        return refuse(*error);
-    }
-    const replay::Report report = desk.report();
-    const std::string text = outcome.asJSON ? replay::reportAsJSON(report) : replay::reportAsText(report);
-    std::fwrite(text.data(), 1, text.size(), stdout);
-    return 0;
-}
-
 } // namespace
 
-int runDeskWindow(const Options& options, const Outcome& outcome) {
+std::variant<std::string, replay::InputError> runDeskWindow(const Options& options, const Outcome& outcome) {
     auto opened = openDesk(options);
     if (const auto* error = std::get_if<replay::InputError>(&opened)) {
-        return refuse(error->message);
+        return *error;
     }
     auto desk = std::get<std::unique_ptr<LiveDesk>>(std::move(opened));
-    const Video video;
-    std::optional<WindowCanvas> canvas = video.isUsable() ? WindowCanvas::open(UsualWindow) : std::nullopt;
+    std::optional<WindowCanvas> canvas = WindowCanvas::open(UsualWindow);
     if (!canvas) {
         desk.reset(); // There is one session at a time, and each scene has its own.
-        return drawGalleryInstead(options);
+        if (const auto error = drawGallery(GalleryFolder, {}, options)) {
+            return *error;
+        }
+        return std::string("No display server gives a window: pictures of all scenes are in ") +
+               GalleryFolder + "\n";
     }
     DeskWindow window(*std::move(canvas), *desk, options.dark, outcome);
     window.run();
-    return finish(window, *desk, outcome);
+    if (const auto error = outcome.screenshot ? window.writeTo(*outcome.screenshot) : std::nullopt) {
+        return replay::InputError{error->message};
+    }
+    if (const auto& error = desk->savingError()) {
+        return replay::InputError{*error};
+    }
+    return outcome.asJSON ? replay::reportAsJSON(desk->report()) : replay::reportAsText(desk->report());
 }
 
 } // namespace kestrune::desk

@@ -3,10 +3,13 @@
 
 #include "desk/command/Command.h"
 
+#include <string>
+#include <variant>
+
 namespace kestrune::desk {
 
-// Runs until the window is closed, then prints the report. Where no window can be opened it draws the
-// gallery into out/gallery instead. Gives the exit status: 0, or 2 after one line on standard error.
-int runDeskWindow(const Options& options, const Outcome& outcome);
+// Runs until the window is closed, then gives the report. Where no window can be opened it draws the gallery
+// into out/gallery instead, and tells so.
+std::variant<std::string, replay::InputError> runDeskWindow(const Options& options, const Outcome& outcome);
 
 } // namespace kestrune::desk

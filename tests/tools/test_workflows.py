@@ -153,7 +153,7 @@ class LinuxSteps(JobTest, MakefileTest):
             "count-tests build/gcc/tests.xml build/arm64/tests.xml build/sanitize/tests.xml build/coverage/"
             "tests.xml build/mutants/",
         ),
-        "tools/pictures out/pictures": (
+        "tools/draw-gallery out/pictures": (
             "desk --gallery out/pictures",
             "desk --gallery out/pictures --dark",
         ),
@@ -162,7 +162,7 @@ class LinuxSteps(JobTest, MakefileTest):
     def setUp(self):
         super().setUp()
         self.checkout = self.folder
-        for name in (".ci/run", "tools/pictures"):
+        for name in (".ci/run", "tools/draw-gallery"):
             (self.checkout / name).parent.mkdir(exist_ok=True)
             shutil.copy(REPOSITORY / name, self.checkout / name)
         for tool in self.TOOLS:
@@ -210,7 +210,7 @@ class LinuxSteps(JobTest, MakefileTest):
 
     def test_say_what_builds_the_program_that_paints(self):
         (self.checkout / "build/gcc/desk/kestrune-desk").unlink()
-        self.assert_run_fails("tools/pictures: build/gcc/desk/kestrune-desk is not there; run: make test")
+        self.assert_run_fails("tools/draw-gallery: build/gcc/desk/kestrune-desk is not there; run: make test")
 
 
 class MacSteps(JobTest, ReleaseTest):
@@ -243,12 +243,12 @@ ln -sf "$(type -p kestrune-pictures)" build/mac/mac"""
             "codesign --force",
             "codesign --verify --strict",
         ),
-        "tools/pictures out/pictures": ("kestrune-pictures out/pictures",),
+        "tools/draw-gallery out/pictures": ("kestrune-pictures out/pictures",),
     }
 
     def setUp(self):
         super().setUp()
-        for name in ("count-tests", "pictures"):
+        for name in ("count-tests", "draw-gallery"):
             shutil.copy(REPOSITORY / "tools" / name, self.checkout / "tools")
         self.pin_archive()
         self.programs = {"cmake": self.CMAKE, "ctest": self.CTEST, "sysctl": "echo 3"}
@@ -268,7 +268,8 @@ ln -sf "$(type -p kestrune-pictures)" build/mac/mac"""
 
     def test_say_what_builds_the_program_that_draws(self):
         self.use_mac(**self.programs | {"cmake": STAND_INS["cmake"]})
-        self.assert_run_fails("tools/pictures: build/mac/mac/kestrune-pictures is not there; run: make test")
+        self.assert_run_fails(
+            "tools/draw-gallery: build/mac/mac/kestrune-pictures is not there; run: make test")
 
 
 if __name__ == "__main__":

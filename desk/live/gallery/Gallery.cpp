@@ -1,6 +1,7 @@
 #include "desk/live/gallery/Gallery.h"
 
 #include "desk/live/world/LivePicture.h"
+#include "desk/paint/desk/DeskLayout.h"
 #include "desk/paint/sheets/Sheet.h"
 
 #include <algorithm>
@@ -100,20 +101,17 @@ private:
 
 MaybeError checkNames(const std::vector<std::string>& wanted) {
     std::vector<std::string> names;
-    std::string list;
     for (const Chapter& chapter : chapters()) {
         names.push_back(chapter.name);
         for (const Story& story : chapter.stories) {
-            for (const Scene& scene : story.scenes) {
-                names.push_back(chapter.nameOf(scene));
-            }
+            std::transform(story.scenes.begin(), story.scenes.end(), std::back_inserter(names),
+                           [&chapter](const Scene& scene) { return chapter.nameOf(scene); });
         }
-    }
-    for (const std::string& name : names) {
-        list += (list.empty() ? "" : ", ") + name;
     }
     for (const std::string& name : wanted) {
         if (std::find(names.begin(), names.end(), name) == names.end()) {
+            std::string list = names.front();
+            std::for_each(names.begin() + 1, names.end(), [&](const auto& other) { list += ", " + other; });
             return replay::InputError{"--gallery: no scene is called " + replay::inQuotes(name) +
                                       "; there are " + list};
         }

@@ -1,7 +1,6 @@
 // The scenes of the tour: a user's first launch, and what comes after it.
 
-#include "desk/live/gallery/Chapter.h"
-#include "desk/live/world/PinnedDisplay.h"
+#include "desk/live/gallery/Gallery.h"
 
 #include <chrono>
 
@@ -9,325 +8,162 @@ namespace kestrune::desk {
 
 namespace {
 
-// Each takes a second.
-constexpr int UnansweredEvents = 3;
-
-constexpr int DeepeningSteps = 4;
-
 constexpr sim::Duration LongRest = std::chrono::seconds(2);
 constexpr sim::Duration UntilTheWatcherLooks = std::chrono::seconds(1);
 constexpr sim::Duration UntilTheUpdaterHasChecked = std::chrono::seconds(1);
 
-// The story is about the display that was pinned in the beginning and another one.
-class TourScenes {
-public:
-    explicit TourScenes(Stage& stage)
-        : desk_(stage.desk()), hand_(stage.hand()), first_(stage.first()), other_(stage.other()) {}
+constexpr EventType Drag = EventType::leftMouseDragged;
 
-    std::string firstLaunch();
-    std::string letDockLeave();
-    std::string openMenuBeforeSetup();
-    std::string askForPermission();
-    std::string grantPermission();
-    std::string finishWizard();
-    std::string bringDockHome();
-    std::string hold();
-    std::string holdDrag();
-    std::string restToSeeTheToolTip();
-    std::string openMenuAfterSetup();
-    std::string chooseOther();
-    std::string pushWhereChosen();
-    std::string switchOff();
-    std::string switchOn();
-    std::string plugIn();
-    std::string deepen();
-    std::string unplugPinned();
-    std::string plugInAgain();
-    std::string revoke();
-    std::string grantAgain();
-    std::string timeOut();
-    std::string openSettings();
-    std::string launchAtLogin();
-    std::string findNothingNew();
-    std::string findNewVersion();
-    std::string reportBug();
-    std::string leaveOneDisplay();
-    std::string quit();
-    std::string launchAgain();
-
-private:
-    // The last ones go.
-    void unplugAllBut(std::size_t count);
-
-    const std::string& nameOf(DisplayID number);
-    std::string pinnedName();
-
-    LiveDesk& desk_;
-    TourHand& hand_;
-    DisplayID first_;
-    std::optional<DisplayID> other_;
-};
-
-template <std::string (TourScenes::*Play)()>
-std::string played(Stage& stage) {
-    if (!stage.other()) {
-        stage.hand().miss("another display than the pinned one, both with a free bottom edge");
-        return "";
-    }
-    return (TourScenes(stage).*Play)();
+template <typename... Steps>
+Scene scene(const char* name, Frame frame, const char* caption, Steps... steps) {
+    return {name, frame, caption, {steps...}};
 }
 
-std::string TourScenes::firstLaunch() {
-    hand_.glideTo(hand_.onDisplay(first_, 0.62, 0.55));
-    return "Kestrune runs for the first time. Its wizard is open; nothing keeps the Dock yet.";
+Step glide(Role display, double fractionX, double fractionY, EventType type = EventType::mouseMoved) {
+    return [=](Stage& stage) { stage.glide(display, fractionX, fractionY, type); };
 }
 
-std::string TourScenes::letDockLeave() {
-    hand_.push(*other_);
-    return "Pushed against the bottom edge of " + nameOf(*other_) + ", the pointer pulls the Dock over.";
+Step push(Role display, EventType type = EventType::mouseMoved) {
+    return [=](Stage& stage) { stage.push(display, type); };
 }
 
-std::string TourScenes::openMenuBeforeSetup() {
-    hand_.openMenu(*other_);
-    hand_.pointAtRow("Complete setup");
-    return "Before its setup the menu lists the displays and lets nobody choose one.";
+Step pointAt(const Thing& thing) {
+    return [thing](Stage& stage) { stage.pointAt(thing); };
 }
 
-std::string TourScenes::askForPermission() {
-    hand_.clickRow("Complete setup");
-    hand_.clickControl("Request permission");
-    hand_.holdControl("Open System Settings");
-    return "Moving events needs the Accessibility permission. The wizard lets the system ask for it.";
+Step press(const Thing& thing) {
+    return [thing](Stage& stage) { stage.press(thing); };
 }
 
-std::string TourScenes::grantPermission() {
-    hand_.letGo();
-    hand_.clickControl("Kestrune");
-    desk_.advance(UntilTheWatcherLooks);
-    return "Switched on in System Settings, and within a second the guard runs by itself.";
+Step click(const Thing& thing) {
+    return [thing](Stage& stage) { stage.click(thing); };
 }
 
-std::string TourScenes::finishWizard() {
-    hand_.closeWindow("Accessibility");
-    hand_.pointAtControl("Finish");
-    return "The wizard has noticed, too: one more click, and the first run is done.";
+void letGo(Stage& stage) { stage.letGo(); }
+
+Step wait(sim::Duration duration) {
+    return [duration](Stage& stage) { stage.desk().advance(duration); };
 }
 
-std::string TourScenes::bringDockHome() {
-    hand_.clickControl("Finish");
-    hand_.push(first_);
-    return "The guard is on. One push brings the Dock home to " + nameOf(first_) + ".";
+// Something that a key does.
+Step act(void (LiveDesk::*action)(), int times = 1) {
+    return [=](Stage& stage) {
+        for (int time = 0; time < times; ++time) {
+            (stage.desk().*action)();
+        }
+    };
 }
 
-std::string TourScenes::hold() {
-    hand_.push(*other_);
-    return "The same push as before: the pointer is held above the edge, and the Dock stays.";
+Step leaveDisplays(std::size_t count) {
+    return [count](Stage& stage) {
+        while (stage.desk().session().displays().connected().size() > count) {
+            stage.glide(Role::latest, 0.5, 0.5);
+            stage.desk().unplugUnderPointer();
+        }
+    };
 }
 
-std::string TourScenes::holdDrag() {
-    hand_.push(*other_, EventType::leftMouseDragged);
-    return "Dragging a window down makes no difference.";
-}
-
-std::string TourScenes::restToSeeTheToolTip() {
-    const auto& connected = desk_.session().displays().connected();
-    const sim::Display* other = desk_.session().displays().withID(*other_);
-    hand_.pointAt(DeskTarget::statusItem(static_cast<std::size_t>(other - connected.data()), 0));
-    desk_.advance(LongRest);
-    return "The pointer rests on the icon.";
-}
-
-std::string TourScenes::openMenuAfterSetup() {
-    hand_.openMenu(first_);
-    hand_.pointAtRow(nameOf(first_));
-    return "The setup is complete, and the menu is all there.";
-}
-
-std::string TourScenes::chooseOther() {
-    hand_.pointAtRow(nameOf(*other_));
-    return "Choose the display that keeps the Dock: " + nameOf(*other_) + ".";
-}
-
-std::string TourScenes::pushWhereChosen() {
-    hand_.clickRow(nameOf(*other_));
-    hand_.push(*other_);
-    return "The pin is on " + nameOf(*other_) + " now, and there the Dock may go.";
-}
-
-std::string TourScenes::switchOff() {
-    hand_.openMenu(first_);
-    hand_.clickRow("Disable");
-    hand_.openMenu(first_);
-    hand_.pointAtRow("Enable");
-    return "The menu's switch: off, the Dock goes wherever the pointer pushes it.";
-}
-
-std::string TourScenes::switchOn() {
-    hand_.clickRow("Enable");
-    hand_.push(first_);
-    return "On again, and the choice has stayed: " + nameOf(first_) + " is guarded.";
-}
-
-std::string TourScenes::plugIn() {
-    desk_.plugIn();
-    const DisplayID added = desk_.session().displays().connected().back().displayID;
-    hand_.push(added);
-    return nameOf(added) + " is plugged in, and guarded from its first event on.";
-}
-
-std::string TourScenes::deepen() {
-    for (int step = 0; step < DeepeningSteps; ++step) {
-        desk_.deepenBand();
-    }
-    hand_.push(first_);
-    return "A deeper band keeps the pointer further from the edge.";
-}
-
-std::string TourScenes::unplugPinned() {
-    for (int step = 0; step < DeepeningSteps; ++step) {
-        desk_.narrowBand();
-    }
-    const std::string unplugged = nameOf(*other_);
-    hand_.glideTo(hand_.onDisplay(*other_, 0.5, 0.5));
-    desk_.unplugUnderPointer();
-    return unplugged + " is unplugged: the choice falls back to " + pinnedName() + " and is stored.";
-}
-
-std::string TourScenes::plugInAgain() {
-    desk_.plugIn();
-    hand_.openMenu(first_);
-    hand_.pointAtRow(nameOf(*other_));
-    return nameOf(*other_) + " is back. The pin stays where it fell; the menu moves it with one click.";
-}
-
-std::string TourScenes::revoke() {
-    hand_.openMenu(first_);
-    desk_.togglePermission();
-    for (int event = 0; event < UnansweredEvents; ++event) {
-        const Point pointer = desk_.session().pointer();
-        desk_.movePointerTowards({pointer.x + 24, pointer.y});
-    }
-    return "Without the Accessibility permission every event waits a second for the tap.";
-}
-
-std::string TourScenes::grantAgain() {
-    desk_.togglePermission();
-    hand_.push(desk_.session().displays().connected().back().displayID);
-    return "Granted again, the tap answers and the guard holds as before.";
-}
-
-std::string TourScenes::timeOut() {
-    desk_.timeOutTap();
-    return "The system gives up on a slow tap, and the guard switches it on again.";
-}
-
-std::string TourScenes::openSettings() {
-    unplugAllBut(2);
-    hand_.openMenu(desk_.session().displays().connected().front().displayID);
-    hand_.clickRow("Settings…");
-    hand_.pointAtControl("Launch at login");
-    return "While its Settings are open, Kestrune is an application with a menu bar of its own.";
-}
-
-std::string TourScenes::launchAtLogin() {
-    hand_.clickControl("Launch at login");
-    desk_.openLoginItems();
-    hand_.pointAtControl("Kestrune");
-    return "Launched at login from now on, and System Settings knows.";
-}
-
-std::string TourScenes::findNothingNew() {
-    hand_.closeWindow("Login Items");
-    hand_.clickControl("Check for Updates…");
-    desk_.advance(UntilTheUpdaterHasChecked);
-    hand_.pointAtControl("OK");
-    return "A check for updates finds nothing new, and says so.";
-}
-
-std::string TourScenes::findNewVersion() {
-    hand_.clickControl("OK");
-    desk_.changeUpdateFeed();
-    hand_.clickControl("Check for Updates…");
-    desk_.advance(UntilTheUpdaterHasChecked);
-    hand_.pointAtControl("Remind Me Later");
-    return "Another check finds a new version; its window floats in front of everything.";
-}
-
-std::string TourScenes::reportBug() {
-    hand_.clickControl("Remind Me Later");
-    hand_.clickControl("Report a Bug…");
-    return "A bug report is a mail that the user sends, or does not.";
-}
-
-std::string TourScenes::leaveOneDisplay() {
-    hand_.closeWindow("New Message");
-    hand_.closeWindow("Kestrune Settings");
-    unplugAllBut(1);
-    hand_.push(desk_.session().displays().connected().front().displayID);
-    return "With one display left there is nothing to guard, and the pointer goes everywhere.";
-}
-
-std::string TourScenes::quit() {
-    desk_.quitOrLaunch();
-    return "Quit, the icon and the tap are gone; what was chosen is kept for the next launch.";
-}
-
-std::string TourScenes::launchAgain() {
-    desk_.quitOrLaunch();
-    hand_.openMenu(desk_.session().displays().connected().front().displayID);
-    return "Launched again, Kestrune needs no setup any more and guards what was chosen.";
-}
-
-void TourScenes::unplugAllBut(std::size_t count) {
-    const auto& connected = desk_.session().displays().connected();
-    while (connected.size() > count) {
-        hand_.glideTo(hand_.onDisplay(connected.back().displayID, 0.5, 0.5));
-        desk_.unplugUnderPointer();
+// Each takes a second.
+void sendThreeUnansweredEvents(Stage& stage) {
+    for (int event = 0; event < 3; ++event) {
+        const Point pointer = stage.desk().session().pointer();
+        stage.desk().movePointerTowards({pointer.x + 24, pointer.y});
     }
 }
-
-const std::string& TourScenes::nameOf(DisplayID number) {
-    return desk_.session().displays().withID(number)->localizedName;
-}
-
-std::string TourScenes::pinnedName() { return pinnedDisplay(desk_.session())->localizedName; }
 
 } // namespace
 
+// The story is about the display that was pinned in the beginning and another one.
 Chapter tourChapter() {
+    using enum Role;
+    using enum Frame;
     // Nothing is granted and nothing is stored.
     const auto prepare = [](LiveDeskSetup& setup) { setup.permission = sim::Permission::notListed; };
     const std::vector<Scene> scenes = {
-        {"first-launch", played<&TourScenes::firstLaunch>, Frame::display},
-        {"the-dock-leaves", played<&TourScenes::letDockLeave>},
-        {"menu-before-setup", played<&TourScenes::openMenuBeforeSetup>, Frame::whatIsOpen},
-        {"permission-asked-for", played<&TourScenes::askForPermission>, Frame::whatIsOpen},
-        {"permission-granted", played<&TourScenes::grantPermission>, Frame::whatIsOpen},
-        {"wizard-finished", played<&TourScenes::finishWizard>, Frame::whatIsOpen},
-        {"the-dock-comes-home", played<&TourScenes::bringDockHome>},
-        {"held", played<&TourScenes::hold>, Frame::pointer},
-        {"held-while-dragging", played<&TourScenes::holdDrag>, Frame::pointer},
-        {"tool-tip", played<&TourScenes::restToSeeTheToolTip>, Frame::whatIsOpen},
-        {"menu-after-setup", played<&TourScenes::openMenuAfterSetup>, Frame::whatIsOpen},
-        {"choosing-a-display", played<&TourScenes::chooseOther>, Frame::whatIsOpen},
-        {"another-choice", played<&TourScenes::pushWhereChosen>},
-        {"switched-off", played<&TourScenes::switchOff>, Frame::whatIsOpen},
-        {"switched-on", played<&TourScenes::switchOn>},
-        {"one-more-display", played<&TourScenes::plugIn>},
-        {"deeper-band", played<&TourScenes::deepen>},
-        {"pinned-display-unplugged", played<&TourScenes::unplugPinned>},
-        {"plugged-in-again", played<&TourScenes::plugInAgain>, Frame::whatIsOpen},
-        {"permission-revoked", played<&TourScenes::revoke>},
-        {"permission-back", played<&TourScenes::grantAgain>},
-        {"tap-timeout", played<&TourScenes::timeOut>},
-        {"settings", played<&TourScenes::openSettings>, Frame::display},
-        {"launch-at-login", played<&TourScenes::launchAtLogin>, Frame::whatIsOpen},
-        {"nothing-new", played<&TourScenes::findNothingNew>, Frame::whatIsOpen},
-        {"new-version", played<&TourScenes::findNewVersion>, Frame::whatIsOpen},
-        {"bug-report", played<&TourScenes::reportBug>, Frame::whatIsOpen},
-        {"one-display-left", played<&TourScenes::leaveOneDisplay>},
-        {"quit", played<&TourScenes::quit>},
-        {"launched-again", played<&TourScenes::launchAgain>, Frame::whatIsOpen},
+        scene("first-launch", display,
+              "Kestrune runs for the first time. Its wizard is open; nothing keeps the Dock yet.",
+              glide(first, 0.62, 0.55)),
+        scene("the-dock-leaves", everything,
+              "Pushed against the bottom edge of {other}, the pointer pulls the Dock over.", push(other)),
+        scene("menu-before-setup", whatIsOpen,
+              "Before its setup the menu lists the displays and lets nobody choose one.",
+              click(statusItem(other)), pointAt(menuRow("Complete setup"))),
+        scene("permission-asked-for", whatIsOpen,
+              "Moving events needs the Accessibility permission. The wizard lets the system ask for it.",
+              click(menuRow("Complete setup")), press(titleBar("Welcome to Kestrune")),
+              glide(first, 0.18, 0.28, Drag), letGo, click(control("Request permission")),
+              press(control("Open System Settings"))),
+        scene("permission-granted", whatIsOpen,
+              "Switched on in System Settings, and within a second the guard runs by itself.", letGo,
+              click(control("Kestrune")), wait(UntilTheWatcherLooks)),
+        scene("wizard-finished", whatIsOpen,
+              "The wizard has noticed, too: one more click, and the first run is done.",
+              click(closeButton("Accessibility")), pointAt(control("Finish"))),
+        scene("the-dock-comes-home", everything, "The guard is on. One push brings the Dock home to {first}.",
+              click(control("Finish")), push(first)),
+        scene("held", pointer,
+              "The same push as before: the pointer is held above the edge, and the Dock stays.",
+              push(other)),
+        scene("held-while-dragging", pointer, "Dragging a window down makes no difference.",
+              act(&LiveDesk::openLoginItems), press(titleBar("Login Items")), push(other, Drag)),
+        scene("tool-tip", whatIsOpen, "The pointer rests on the icon.", glide(other, 0.5, 0.5, Drag), letGo,
+              click(closeButton("Login Items")), pointAt(statusItem(other)), wait(LongRest)),
+        scene("menu-after-setup", whatIsOpen, "The setup is complete, and the menu is all there.",
+              click(statusItem(first)), pointAt(menuRow("{first}"))),
+        scene("choosing-a-display", whatIsOpen, "Choose the display that keeps the Dock: {other}.",
+              pointAt(menuRow("{other}"))),
+        scene("another-choice", everything, "The pin is on {other} now, and there the Dock may go.",
+              click(menuRow("{other}")), push(other)),
+        scene("switched-off", whatIsOpen,
+              "The menu's switch: off, the Dock goes wherever the pointer pushes it.",
+              click(statusItem(first)), click(menuRow("Disable")), click(statusItem(first)),
+              pointAt(menuRow("Enable"))),
+        scene("switched-on", pointer, "On again, and the choice has stayed: {first} is guarded.",
+              click(menuRow("Enable")), push(first)),
+        scene("one-more-display", pointer, "{latest} is plugged in, and guarded from its first event on.",
+              act(&LiveDesk::plugIn), push(latest)),
+        scene("deeper-band", pointer, "A deeper band keeps the pointer further from the edge.",
+              act(&LiveDesk::deepenBand, 4), push(first)),
+        scene("pinned-display-unplugged", everything,
+              "{other} is unplugged: the choice falls back to {pinned} and is stored.",
+              act(&LiveDesk::narrowBand, 4), glide(other, 0.5, 0.5), act(&LiveDesk::unplugUnderPointer)),
+        scene("plugged-in-again", whatIsOpen,
+              "{other} is back. The pin stays where it fell; the menu moves it with one click.",
+              act(&LiveDesk::plugIn), click(statusItem(first)), pointAt(menuRow("{other}"))),
+        scene("permission-revoked", everything,
+              "Without the Accessibility permission every event waits a second for the tap.",
+              click(statusItem(first)), act(&LiveDesk::togglePermission), sendThreeUnansweredEvents),
+        scene("permission-back", pointer, "Granted again, the tap answers and the guard holds as before.",
+              act(&LiveDesk::togglePermission), push(latest)),
+        scene("tap-timeout", everything,
+              "The system gives up on a slow tap, and the guard switches it on again.",
+              act(&LiveDesk::timeOutTap)),
+        scene("settings", display,
+              "While its Settings are open, Kestrune is an application with a menu bar of its own.",
+              leaveDisplays(2), click(statusItem(main)), click(menuRow("Settings…")),
+              pointAt(control("Launch at login"))),
+        scene("launch-at-login", whatIsOpen, "Launched at login from now on, and System Settings knows.",
+              click(control("Launch at login")), act(&LiveDesk::openLoginItems),
+              pointAt(control("Kestrune"))),
+        scene("nothing-new", whatIsOpen, "A check for updates finds nothing new, and says so.",
+              click(closeButton("Login Items")), click(control("Check for Updates…")),
+              wait(UntilTheUpdaterHasChecked), pointAt(control("OK"))),
+        scene("new-version", whatIsOpen,
+              "Another check finds a new version; its window floats in front of everything.",
+              click(control("OK")), act(&LiveDesk::changeUpdateFeed), click(control("Check for Updates…")),
+              wait(UntilTheUpdaterHasChecked), pointAt(control("Remind Me Later"))),
+        scene("bug-report", whatIsOpen, "A bug report is a mail that the user sends, or does not.",
+              click(control("Remind Me Later")), click(control("Report a Bug…"))),
+        scene("one-display-left", everything,
+              "With one display left there is nothing to guard, and the pointer goes everywhere.",
+              click(closeButton("New Message")), click(closeButton("Kestrune Settings")), leaveDisplays(1),
+              push(main)),
+        scene("quit", everything,
+              "Quit, the icon and the tap are gone; what was chosen is kept for the next launch.",
+              act(&LiveDesk::quitOrLaunch)),
+        scene("launched-again", whatIsOpen,
+              "Launched again, Kestrune needs no setup any more and guards what was chosen.",
+              act(&LiveDesk::quitOrLaunch), click(statusItem(main)), pointAt(menuRow("{pinned}"))),
     };
     return {"tour", "The whole life of Kestrune, scene by scene", 3, 0.5, {{prepare, scenes}}};
 }

@@ -1,11 +1,11 @@
 // The scenes about one window: the wizard and Settings.
 
-#include "Kestrune/Preferences.h"
-#include "desk/live/gallery/Chapter.h"
-#include "replay/recording/Utf8.h"
+#include "desk/live/gallery/Gallery.h"
+#include "replay/StoredChoices.h"
 
 #include <algorithm>
 #include <chrono>
+#include <sstream>
 #include <utility>
 #include <variant>
 
@@ -22,25 +22,19 @@ constexpr double HalfTheWay = 8; // of the knob, in points
 // and Finnish interface texts run about a third to a half longer than English ones.
 constexpr double AssumedLengthening = 1.4;
 
-// A longer text of the same kind: its words go on from the first, without the marks of bold text, and break
-// off where it is long enough.
+// A longer text of the same kind: its words go on from the first, without the marks of bold text, until it is
+// long enough.
 std::string lengthened(const std::string& text) {
-    const auto wanted = static_cast<std::size_t>(AssumedLengthening * static_cast<double>(text.size()));
+    const double wanted = AssumedLengthening * static_cast<double>(text.size());
     std::string words = text;
     std::erase(words, '*');
+    std::istringstream repeated(words);
     std::string result = text;
-    while (result.size() < wanted) {
-        result += " " + words;
-    }
-    result.resize(wanted);
-    // Half a character is not left over.
-    while (replay::firstInvalidUtf8(result)) {
-        result.pop_back();
+    for (std::string word; static_cast<double>(result.size()) < wanted && repeated >> word;) {
+        result += " " + word;
     }
     return result;
 }
-
-void asItIs(LiveDeskSetup&) {}
 
 void withLongTexts(LiveDeskSetup& setup) {
     for (auto& [key, text] : setup.bundle.localizedStrings) {
@@ -50,54 +44,38 @@ void withLongTexts(LiveDeskSetup& setup) {
 
 void withoutPermission(LiveDeskSetup& setup) { setup.permission = sim::Permission::notListed; }
 
-void withLongTextsAndNoPermission(LiveDeskSetup& setup) {
-    withLongTexts(setup);
-    withoutPermission(setup);
-}
-
-void withoutCopyright(LiveDeskSetup& setup) { setup.bundle.infoDictionary.erase("NSHumanReadableCopyright"); }
-
-// The window's first control that is wanted, or one that nobody can reach.
+// The first control of a kind in the application's window.
 template <typename Wanted>
-DeskTarget firstControl(Stage& stage, bool (*isWanted)(const Wanted&)) {
-    const auto window = stage.window();
-    if (!window) {
-        return DeskTarget::control(0, 0);
-    }
-    const auto& elements = window->scene.elements;
-    const auto found = std::find_if(elements.begin(), elements.end(), [&](const ui::Element& element) {
-        const auto* const control = std::get_if<Wanted>(&element);
-        return control != nullptr && isWanted(*control);
-    });
-    return DeskTarget::control(window->number, static_cast<std::size_t>(found - elements.begin()));
+Thing firstControl(const std::string& name, bool (*isWanted)(const Wanted&)) {
+    return {name, [isWanted](Stage& stage) -> std::optional<DeskTarget> {
+                const WindowPicture window = stage.window().value_or(WindowPicture());
+                const auto& elements = window.scene.elements;
+                const auto found =
+                    std::find_if(elements.begin(), elements.end(), [&](const ui::Element& element) {
+                        const auto* const control = std::get_if<Wanted>(&element);
+                        return control != nullptr && isWanted(*control);
+                    });
+                return DeskTarget::control(window.number, static_cast<std::size_t>(found - elements.begin()));
+            }};
 }
 
 // The wizard's button that leads on, which is drawn by the application itself.
-DeskTarget mainButton(Stage& stage) {
-    return firstControl<ui::ButtonElement>(
-        stage, [](const auto& button) { return button.kind == ui::ButtonElement::Kind::custom; });
-}
-
-DeskTarget firstButton(Stage& stage) {
-    return firstControl<ui::ButtonElement>(stage, [](const auto&) { return true; });
-}
-
-DeskTarget firstSwitch(Stage& stage) {
-    return firstControl<ui::ToggleElement>(stage, [](const auto&) { return true; });
-}
+const Thing MainButton =
+    firstControl<ui::ButtonElement>("the button that leads on", [](const ui::ButtonElement& button) {
+        return button.kind == ui::ButtonElement::Kind::custom;
+    });
+const Thing FirstButton = firstControl<ui::ButtonElement>("a button", [](const auto&) { return true; });
+const Thing FirstSwitch = firstControl<ui::ToggleElement>("a switch", [](const auto&) { return true; });
 
 // Drawn off what is held down, the press does nothing.
-void drawOff(Stage& stage) {
-    stage.desk().hover(std::nullopt);
-    stage.desk().releaseButton(std::nullopt);
+void putBehind(Stage& stage) {
+    stage.drawOff();
+    stage.desk().session().windows().setActive(false);
 }
 
-void putBehind(Stage& stage) { stage.desk().session().windows().setActive(false); }
-
 void bringToFront(Stage& stage) {
-    if (const auto window = stage.window()) {
-        stage.hand().click(DeskTarget::titleBar(window->number));
-    }
+    const WindowPicture window = stage.window().value_or(WindowPicture());
+    stage.click({"a title bar", [&](Stage&) { return DeskTarget::titleBar(window.number); }});
     stage.desk().advance(sim::Duration::zero());
 }
 
@@ -110,8 +88,7 @@ void openMenu(Stage& stage) {
 
 // The introduction is for whoever has granted the permission before the wizard opens.
 void openIntroduction(Stage& stage) {
-    stage.desk().session().defaults().set(Preferences::HasCompletedOnboardingKey.name(),
-                                          sim::PropertyList{false});
+    stage.desk().session().defaults().set(replay::entries::HasCompletedOnboarding, sim::PropertyList{false});
     openMenu(stage);
     stage.desk().navigate(NavigationKey::enter);
     stage.desk().advance(sim::Duration::zero());
@@ -121,7 +98,7 @@ void waitForWizard(Stage&) {}
 
 // The system's dialog stays, and the user comes back to the wizard.
 void requestPermission(Stage& stage) {
-    stage.hand().click(mainButton(stage));
+    stage.click(MainButton);
     stage.desk().advance(sim::Duration::zero());
     bringToFront(stage);
 }
@@ -131,16 +108,24 @@ void grantPermission(Stage& stage) {
     stage.desk().advance(UntilThePermissionIsSeen);
 }
 
+void goToNext(Stage& stage) { stage.desk().navigate(NavigationKey::tab); }
+
 void focusMainButton(Stage& stage) {
-    const DeskTarget button = mainButton(stage);
-    const auto window = stage.window();
-    for (std::size_t step = 0; window && step < window->scene.elements.size(); ++step) {
-        stage.desk().navigate(NavigationKey::tab);
-        if (stage.window()->focusedElement == button.index) {
+    bringToFront(stage);
+    const WindowPicture window = stage.window().value_or(WindowPicture());
+    const std::size_t button = MainButton.find(stage)->index;
+    for (std::size_t step = 0; step < window.scene.elements.size(); ++step) {
+        goToNext(stage);
+        if (stage.window()->focusedElement == button) {
             return;
         }
     }
-    stage.hand().miss("the button under the keyboard");
+    stage.miss("the button under the keyboard");
+}
+
+template <const Thing& thing>
+void press(Stage& stage) {
+    stage.press(thing);
 }
 
 struct WizardState {
@@ -157,15 +142,11 @@ const std::vector<WizardState> Permission = {
 };
 
 Scene windowScene(const std::string& name, const std::string& caption, void (*play)(Stage&)) {
-    const auto tell = [caption, play](Stage& stage) {
-        play(stage);
-        return caption;
-    };
-    return {name, tell, Frame::window};
+    return {name, Frame::window, caption, {play}};
 }
 
 Scene longScene(const WizardState& state) {
-    return windowScene(state.name + "-long", state.caption + ", texts 1.4 times as long", state.enter);
+    return windowScene(state.name + "-long", state.caption + ", long texts", state.enter);
 }
 
 void addLooks(std::vector<Scene>& scenes, const WizardState& state) {
@@ -173,15 +154,9 @@ void addLooks(std::vector<Scene>& scenes, const WizardState& state) {
         scenes.push_back(windowScene(state.name + look, state.caption + caption, play));
     };
     add("", ", in front", state.enter);
-    add("-pressed", ", button held down", [](Stage& stage) { stage.hand().press(mainButton(stage)); });
-    add("-background", ", in the background", [](Stage& stage) {
-        drawOff(stage);
-        putBehind(stage);
-    });
-    add("-focused", ", button focused", [](Stage& stage) {
-        bringToFront(stage);
-        focusMainButton(stage);
-    });
+    add("-pressed", ", button held down", press<MainButton>);
+    add("-background", ", in the background", putBehind);
+    add("-focused", ", button focused", focusMainButton);
 }
 
 void openSettings(Stage& stage) {
@@ -195,34 +170,32 @@ void drag(Stage& stage, double distance) {
     stage.desk().movePointerTowards({pointer.x + distance, pointer.y}, EventType::leftMouseDragged);
 }
 
-void holdSwitch(Stage& stage) { stage.hand().press(firstSwitch(stage)); }
-
 void dragSwitch(Stage& stage) { drag(stage, HalfTheWay); }
 
 void switchOn(Stage& stage) {
     drag(stage, -HalfTheWay);
-    stage.desk().releaseButton(firstSwitch(stage));
+    stage.letGo();
     stage.desk().advance(UntilTheKnobRests);
-    stage.hand().click(firstSwitch(stage));
+    stage.click(FirstSwitch);
     stage.desk().advance(UntilTheKnobRests);
 }
 
-void holdButton(Stage& stage) { stage.hand().press(firstButton(stage)); }
-
-void goToNext(Stage& stage) { stage.desk().navigate(NavigationKey::tab); }
-
 void goToSwitch(Stage& stage) {
-    drawOff(stage);
+    stage.drawOff();
     goToNext(stage);
 }
 
 } // namespace
 
 Chapter wizardChapter() {
-    Story introduction{asItIs, {}};
+    Story introduction{[](LiveDeskSetup&) {}, {}};
     addLooks(introduction.scenes, Introduction);
     Story permission{withoutPermission, {}};
-    Story longPermission{withLongTextsAndNoPermission, {}};
+    Story longPermission{[](LiveDeskSetup& setup) {
+                             withLongTexts(setup);
+                             withoutPermission(setup);
+                         },
+                         {}};
     for (const WizardState& state : Permission) {
         addLooks(permission.scenes, state);
         longPermission.scenes.push_back(longScene(state));
@@ -236,20 +209,21 @@ Chapter wizardChapter() {
 }
 
 Chapter settingsChapter() {
-    const Story story{asItIs,
+    const Story story{[](LiveDeskSetup&) {},
                       {
                           windowScene("in-front", "In front", openSettings),
-                          windowScene("switch-pressed", "Switch held down", holdSwitch),
+                          windowScene("switch-pressed", "Switch held down", press<FirstSwitch>),
                           windowScene("switch-dragged", "Switch half dragged", dragSwitch),
                           windowScene("on", "Switch on", switchOn),
-                          windowScene("button-pressed", "Button held down", holdButton),
+                          windowScene("button-pressed", "Button held down", press<FirstButton>),
                           windowScene("switch-focused", "Keyboard at the switch", goToSwitch),
                           windowScene("button-focused", "Keyboard at a button", goToNext),
                           windowScene("background", "Behind another application", putBehind),
                       }};
-    const Story longStory{withLongTexts, {windowScene("long", "Texts 1.4 times as long", openSettings)}};
-    const Story bareStory{withoutCopyright,
-                          {windowScene("without-copyright", "Without a copyright", openSettings)}};
+    const Story longStory{withLongTexts, {windowScene("long", "Long texts", openSettings)}};
+    const Story bareStory{
+        [](LiveDeskSetup& setup) { setup.bundle.infoDictionary.erase("NSHumanReadableCopyright"); },
+        {windowScene("without-copyright", "Without a copyright", openSettings)}};
     return {"settings", "Kestrune Settings: every state", 5, 1, {story, longStory, bareStory}};
 }
 

@@ -5,6 +5,7 @@
 #include "desk/live/world/LiveDesk.h"
 
 #include <optional>
+#include <utility>
 
 namespace kestrune::desk {
 
@@ -17,19 +18,25 @@ public:
     explicit Hand(LiveDesk& desk) : desk_(desk) {}
 
     // `target` is in global display coordinates; `elapsed` is the real time since the desk was opened.
-    void moveTo(Point target, EventType type, sim::Duration elapsed);
+    void moveTo(Point target, EventType type, sim::Duration elapsed) {
+        letTimePass(elapsed);
+        waiting_ = {target, type};
+        letTimePass(elapsed);
+    }
 
     // Lets the session catch up with the real time.
-    void letTimePass(sim::Duration elapsed);
+    void letTimePass(sim::Duration elapsed) {
+        if (elapsed >= desk_.now()) {
+            desk_.advance(elapsed - desk_.now());
+            if (const auto movement = std::exchange(waiting_, std::nullopt)) {
+                desk_.movePointerTowards(movement->first, movement->second);
+            }
+        }
+    }
 
 private:
-    struct Movement {
-        Point target;
-        EventType type;
-    };
-
     LiveDesk& desk_;
-    std::optional<Movement> waiting_;
+    std::optional<std::pair<Point, EventType>> waiting_;
 };
 
 } // namespace kestrune::desk

@@ -14,10 +14,12 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <variant>
 #include <vector>
 
 namespace kestrune::desk {
@@ -152,5 +154,9 @@ private:
     std::optional<DockMove> dockMove_;
     DisplayID lastDockDisplay_ = 1;
 };
+
+// A desk as the command line asks for it. The error says why the file of the preferences could not be read,
+// in which case it is left as it is, or not be saved.
+std::variant<std::unique_ptr<LiveDesk>, replay::InputError> openDesk(const Options& options);
 
 } // namespace kestrune::desk

@@ -20,12 +20,7 @@ const ui::Measurer& pangoMeasurer() {
 } // namespace
 
 std::variant<LiveDeskSetup, replay::InputError> setupOf(const Options& options) {
-    LiveDeskSetup setup;
-    setup.displays = options.displays;
-    setup.pinned = options.pinned;
-    setup.guardOn = options.guardOn;
-    setup.margin = options.margin;
-    setup.defaultsFile = options.defaults;
+    LiveDeskSetup setup{options};
     setup.permission = options.isPermissionGranted ? sim::Permission::granted : sim::Permission::notListed;
     auto bundle = sim::loadResourceFolder(KESTRUNE_RESOURCES);
     if (auto* error = std::get_if<std::string>(&bundle)) {
@@ -35,8 +30,8 @@ std::variant<LiveDeskSetup, replay::InputError> setupOf(const Options& options) 
     // Which address a build has is decided when it is packaged; here it only has to be there.
     setup.bundle.infoDictionary.emplace("SUFeedURL",
                                         sim::PropertyList{std::string("https://example.org/appcast.xml")});
-    if (options.defaults) {
-        auto loaded = sim::loadDefaultsFile(*options.defaults);
+    if (options.defaultsFile) {
+        auto loaded = sim::loadDefaultsFile(*options.defaultsFile);
         if (auto* error = std::get_if<std::string>(&loaded)) {
             return replay::InputError{std::move(*error)};
         }

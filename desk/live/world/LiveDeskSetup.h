@@ -1,31 +1,17 @@
 // What a live desk begins with.
 #pragma once
 
-#include "base/Geometry.h"
 #include "desk/command/Options.h"
 #include "replay/recording/InputError.h"
 #include "sim/session/Session.h"
 
-#include <cstddef>
-#include <optional>
-#include <string>
 #include <variant>
-#include <vector>
 
 namespace kestrune::desk {
 
-struct LiveDeskSetup {
-    // Global display coordinates, the primary first; at least one.
-    std::vector<Rect> displays = {{0, 0, 1512, 982}, {1512, -98, 1920, 1080}};
-
-    // The stored preferences. The choices that follow are stored in their place where they are present.
+struct LiveDeskSetup : Options {
+    // The stored preferences. The choices among the options are stored in their place where they are present.
     sim::PropertyListDictionary defaults = {};
-    std::optional<std::size_t> pinned = std::nullopt; // index into `displays`
-    std::optional<bool> guardOn = std::nullopt;
-    std::optional<double> margin = std::nullopt; // points
-
-    // Where every change of the preferences is saved.
-    std::optional<std::string> defaultsFile = std::nullopt;
 
     sim::Permission permission = sim::Permission::granted;
 

@@ -11,10 +11,10 @@ namespace kestrune::desk {
 // The size of a window or picture unless something else is wanted, in logical pixels.
 inline constexpr Size UsualWindow{1440, 900};
 
-// With the key legend, and with the marks as old as they are now.
+// With the marks as old as they are now. The legend of keys is left to whoever reads them.
 DeskPicture pictureOf(LiveDesk& desk);
 
-// The desk in the end, and a sentence on what came of the recording. Without the key legend.
+// The desk in the end, and a sentence on what came of the recording.
 DeskPicture pictureAfterReplay(replay::SimulatedDesk& desk, const replay::Report& report);
 
 } // namespace kestrune::desk

@@ -10,8 +10,6 @@ namespace kestrune::desk {
 
 namespace {
 
-// The keys 1 to 9 choose a display.
-constexpr std::size_t MostDisplays = 9;
 constexpr std::array<Size, 4> NewDisplaySizes = {{{1280, 800}, {2560, 1440}, {1080, 1920}, {1920, 1080}}};
 
 bool areSameDisplays(const std::vector<sim::Display>& some, const std::vector<sim::Display>& others) {

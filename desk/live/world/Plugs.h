@@ -3,6 +3,7 @@
 
 #include "sim/session/Session.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,6 +18,9 @@ struct PlugChange {
 
 class Plugs {
 public:
+    // A key for each digit but 0 chooses one of them.
+    static constexpr std::size_t MostDisplays = 9;
+
     // `session` must outlive the plugs.
     explicit Plugs(sim::Session& session) : session_(session) {}
 

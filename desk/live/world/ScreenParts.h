@@ -1,7 +1,7 @@
 // The user's hand at the parts of the Mac's screen: menus and windows.
 #pragma once
 
-#include "desk/live/hand/NavigationKey.h"
+#include "desk/live/world/NavigationKey.h"
 #include "desk/live/world/SystemWindows.h"
 #include "desk/live/world/WindowParts.h"
 #include "desk/paint/desk/DeskPicture.h"

@@ -1,7 +1,7 @@
 // The user's hand at windows: buttons and switches, title bars, the keyboard.
 #pragma once
 
-#include "desk/live/hand/NavigationKey.h"
+#include "desk/live/world/NavigationKey.h"
 #include "desk/live/world/SwitchMotion.h"
 #include "desk/live/world/SystemWindows.h"
 #include "desk/paint/desk/DeskPicture.h"

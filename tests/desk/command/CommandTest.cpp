@@ -84,7 +84,7 @@ TEST(Command, ReadsWhatTheOtherModesTake) {
     EXPECT_THAT(modeOf<DrawGallery>(scenes).scenes, ElementsAre("tour/held", "wizard"));
     EXPECT_TRUE(optionsOf(scenes).dark);
     EXPECT_EQ(modeOf<MakeRecording>({"--generate", "f", "--rows", "010"}).motion.rows, 10U);
-    EXPECT_EQ(optionsOf({"--defaults", "kestrune.plist"}).defaults, "kestrune.plist");
+    EXPECT_EQ(optionsOf({"--defaults", "kestrune.plist"}).defaultsFile, "kestrune.plist");
     EXPECT_EQ(optionsOf({"--guard", "on"}).guardOn, true);
     EXPECT_EQ(modeOf<OpenWindow>({"--screenshot", "end.png"}).outcome.screenshot, "end.png");
 }
@@ -97,7 +97,7 @@ TEST(Command, ReadsWhatALaunchTakes) {
     modeOf<Launch>(words);
     const Options options = optionsOf(words);
     EXPECT_FALSE(options.isPermissionGranted);
-    EXPECT_EQ(options.defaults, "kestrune.plist");
+    EXPECT_EQ(options.defaultsFile, "kestrune.plist");
     EXPECT_EQ(options.guardOn, false);
     EXPECT_EQ(options.pinned, 1U);
 }

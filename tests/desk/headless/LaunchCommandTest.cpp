@@ -1,5 +1,4 @@
-#include "desk/headless/LaunchCommand.h"
-
+#include "desk/headless/HeadlessCommands.h"
 #include "tests/base/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -158,14 +157,14 @@ TEST(LaunchCommand, FollowsTheSwitchThatIsStored) {
 TEST(LaunchCommand, ReadsTheDefaultsFileAndLeavesItAlone) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.file("defaults.plist", "nonsense");
+    options.defaultsFile = folder.file("defaults.plist", "nonsense");
     const auto refused = runLaunch(options);
     ASSERT_TRUE(std::holds_alternative<replay::InputError>(refused));
-    EXPECT_EQ(std::get<replay::InputError>(refused).message.rfind(*options.defaults, 0), 0U);
+    EXPECT_EQ(std::get<replay::InputError>(refused).message.rfind(*options.defaultsFile, 0), 0U);
 
-    options.defaults = folder.path() / "absent.plist";
+    options.defaultsFile = folder.path() / "absent.plist";
     launched(options);
-    EXPECT_FALSE(std::filesystem::exists(*options.defaults));
+    EXPECT_FALSE(std::filesystem::exists(*options.defaultsFile));
 }
 
 } // namespace

@@ -132,8 +132,7 @@ TEST_F(DrawnGallery, TellsWhichScenesThereAre) {
 
 TEST_F(DrawnGallery, NeedsAnotherDisplayToPushAgainst) {
     const std::string missing =
-        "the scene tour/first-launch expected another display than the pinned one, both "
-        "with a free bottom edge";
+        "the scene tour/the-dock-leaves expected another display than the pinned one with a free bottom edge";
     Options options;
     options.displays = {{0, 0, 1000, 600}};
     EXPECT_EQ(draw({"tour"}, options), missing);

@@ -65,7 +65,7 @@ TEST(LiveDeskSetup, StoresNothingThatWasNotAskedFor) {
 TEST(LiveDeskSetup, ReplacesOnlyWhatTheOptionsChoose) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.file("defaults.plist", R"(<?xml version="1.0" encoding="UTF-8"?>
+    options.defaultsFile = folder.file("defaults.plist", R"(<?xml version="1.0" encoding="UTF-8"?>
 <plist version="1.0"><dict>
     <key>isEnabled</key><false/>
     <key>hasCompletedOnboarding</key><true/>
@@ -82,10 +82,10 @@ TEST(LiveDeskSetup, ReplacesOnlyWhatTheOptionsChoose) {
 TEST(LiveDeskSetup, TellsWhichFileCannotBeRead) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.file("defaults.plist", "nonsense");
+    options.defaultsFile = folder.file("defaults.plist", "nonsense");
     const auto result = setupOf(options);
     ASSERT_TRUE(std::holds_alternative<replay::InputError>(result));
-    EXPECT_EQ(std::get<replay::InputError>(result).message.rfind(*options.defaults, 0), 0U);
+    EXPECT_EQ(std::get<replay::InputError>(result).message.rfind(*options.defaultsFile, 0), 0U);
 }
 
 } // namespace

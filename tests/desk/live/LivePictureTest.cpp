@@ -1,6 +1,5 @@
 #include "desk/live/world/LivePicture.h"
 
-#include "desk/live/hand/DeskKeys.h"
 #include "tests/desk/live/LiveFixture.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +23,6 @@ TEST(LivePicture, ShowsTheDisplaysWithPinAndBands) {
     EXPECT_EQ(picture.dockDisplay, 1U);
     EXPECT_EQ(picture.pointer, (Point{756, 491}));
     EXPECT_EQ(picture.guard, GuardState::on);
-    EXPECT_EQ(picture.keys, keyLegend());
     EXPECT_EQ(picture.clock, "Tue 9:41");
     EXPECT_EQ(picture.whatHappened, desk.news().text);
 }

@@ -1,5 +1,4 @@
-#include "desk/live/world/OpenDesk.h"
-
+#include "desk/live/world/LiveDesk.h"
 #include "sim/formats/DefaultsFile.h"
 #include "sim/seam/StatusItemState.h"
 #include "tests/base/FileContent.h"
@@ -61,10 +60,10 @@ TEST(OpenDesk, FindsTheApplicationsResources) {
 TEST(OpenDesk, SavesWhatTheApplicationStoresWhenItIsLaunched) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.path() / "defaults.plist";
+    options.defaultsFile = folder.path() / "defaults.plist";
     const auto saved = [&options] {
         std::vector<std::string> keys;
-        const auto loaded = sim::loadDefaultsFile(*options.defaults);
+        const auto loaded = sim::loadDefaultsFile(*options.defaultsFile);
         for (const auto& [key, value] : std::get<sim::PropertyListDictionary>(loaded)) {
             keys.push_back(key);
         }
@@ -81,7 +80,7 @@ TEST(OpenDesk, SavesWhatTheApplicationStoresWhenItIsLaunched) {
 TEST(OpenDesk, KeepsWhatWasChosenForTheNextTime) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.path() / "defaults.plist";
+    options.defaultsFile = folder.path() / "defaults.plist";
     {
         const auto desk = opened(options);
         desk->pin(2);
@@ -97,14 +96,14 @@ TEST(OpenDesk, KeepsWhatWasChosenForTheNextTime) {
 TEST(OpenDesk, PrefersTheOptionsToWhatIsStoredAndStoresThem) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.path() / "defaults.plist";
+    options.defaultsFile = folder.path() / "defaults.plist";
     opened(options)->pin(2);
     options.pinned = 0;
     options.guardOn = false;
     options.margin = 12;
     EXPECT_EQ(opened(options)->session().dock().display(), 1U);
 
-    const auto loaded = sim::loadDefaultsFile(*options.defaults);
+    const auto loaded = sim::loadDefaultsFile(*options.defaultsFile);
     const auto& entries = std::get<sim::PropertyListDictionary>(loaded);
     EXPECT_EQ(entries.at("pinnedScreenUUID").asString(), sim::uuidOfDisplay(1));
     EXPECT_FALSE(entries.at("isEnabled").asBool());
@@ -114,11 +113,11 @@ TEST(OpenDesk, PrefersTheOptionsToWhatIsStoredAndStoresThem) {
 TEST(OpenDesk, StoresTheFallbackWhenTheChosenDisplayIsNotConnected) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.path() / "defaults.plist";
+    options.defaultsFile = folder.path() / "defaults.plist";
     opened(options)->pin(2);
     options.displays = {{0, 0, 1512, 982}};
     opened(options);
-    const auto loaded = sim::loadDefaultsFile(*options.defaults);
+    const auto loaded = sim::loadDefaultsFile(*options.defaultsFile);
     EXPECT_EQ(std::get<sim::PropertyListDictionary>(loaded).at("pinnedScreenUUID").asString(),
               sim::uuidOfDisplay(1));
 }
@@ -126,17 +125,17 @@ TEST(OpenDesk, StoresTheFallbackWhenTheChosenDisplayIsNotConnected) {
 TEST(OpenDesk, RefusesAFileThatIsNoPropertyListAndLeavesItAlone) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.file("defaults.plist", "nonsense");
+    options.defaultsFile = folder.file("defaults.plist", "nonsense");
     options.guardOn = false;
-    EXPECT_THAT(refusal(options), StartsWith(*options.defaults));
+    EXPECT_THAT(refusal(options), StartsWith(*options.defaultsFile));
     EXPECT_THAT(refusal(options), testing::Not(HasSubstr("\n")));
-    EXPECT_EQ(contentOf(*options.defaults), "nonsense");
+    EXPECT_EQ(contentOf(*options.defaultsFile), "nonsense");
 }
 
 TEST(OpenDesk, RefusesAFileThatCannotBeSaved) {
     const TemporaryFolder folder;
     Options options;
-    options.defaults = folder.path() / "missing" / "defaults.plist";
+    options.defaultsFile = folder.path() / "missing" / "defaults.plist";
     options.guardOn = false;
     EXPECT_THAT(refusal(options), HasSubstr("cannot be written"));
 }
@@ -146,7 +145,7 @@ TEST(OpenDesk, TellsThatPreferencesAreNotSavedAsLongAsItIsSo) {
     const std::filesystem::path home = folder.path() / "home";
     std::filesystem::create_directory(home);
     Options options;
-    options.defaults = home / "defaults.plist";
+    options.defaultsFile = home / "defaults.plist";
     const auto desk = opened(options);
     std::filesystem::remove_all(home);
     desk->pin(2);

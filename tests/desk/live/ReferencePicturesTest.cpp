@@ -7,7 +7,7 @@
 //
 // A picture that differs is written to tests/desk/live/differing/ of the build directory.
 
-#include "desk/live/gallery/Chapter.h"
+#include "desk/live/gallery/Gallery.h"
 #include "desk/paint/sheets/Sheet.h"
 #include "sim/session/FixedAdvanceMeasurer.h"
 #include "tests/base/TemporaryFolder.h"

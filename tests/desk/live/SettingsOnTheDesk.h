@@ -1,9 +1,9 @@
 // The application with its setup complete, and a user who opens its Settings.
 #pragma once
 
-#include "desk/live/gallery/TourHand.h"
 #include "desk/live/world/LivePicture.h"
 #include "desk/live/world/WindowParts.h"
+#include "tests/desk/live/HandOnTheStage.h"
 #include "tests/desk/live/WindowTitles.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ protected:
     static LiveDeskSetup setup() { return std::get<LiveDeskSetup>(setupOf({})); }
 
     void open() {
-        hand.openMenu(1);
+        hand.openMenu();
         hand.clickRow("Settings…");
         desk.advance(std::chrono::seconds(1));
     }
@@ -87,8 +87,9 @@ protected:
         desk.releaseButton(std::nullopt);
     }
 
-    LiveDesk desk{setup()};
-    TourHand hand{desk};
+    Stage stage{setup()};
+    LiveDesk& desk = stage.desk();
+    HandOnTheStage hand{stage};
 };
 
 } // namespace kestrune::desk

@@ -229,57 +229,49 @@ TEST_F(ScenesOfTheTour, LaunchAgain) {
     EXPECT_THAT(rowsOfMenu(), Not(Contains("Complete setup…")));
 }
 
-TEST(HandOfTheTour, LeavesAloneWhatIsNotThere) {
-    LiveDesk desk(otherDisplays());
-    TourHand hand(desk);
-    EXPECT_FALSE(hand.missing());
-    hand.openMenu(9);
-    EXPECT_EQ(hand.missing(), "display 9");
-    hand.clickRow("Disable");
-    EXPECT_EQ(hand.missing(), "display 9") << "only the first is told";
+// What a stage misses first of all.
+std::string missed(const std::vector<Step>& steps) {
+    Stage stage(otherDisplays());
+    const auto outcome = stage.perform({"scene", Frame::everything, "", steps});
+    const auto* const missing = std::get_if<std::string>(&outcome);
+    return missing != nullptr ? *missing : "nothing";
+}
 
-    // Display 1 has the second one above it, and nothing below; display 2 has the first one below all of it.
-    TourHand other(desk);
-    other.push(1);
-    EXPECT_FALSE(other.missing());
-    other.push(2);
-    EXPECT_EQ(other.missing(), "a free bottom edge of display 2");
-    other.closeWindow("Kestrune Settings");
-    EXPECT_FALSE(desk.parts().isMenuOpen());
+Step clickOn(const Thing& thing) {
+    return [thing](Stage& stage) { stage.click(thing); };
+}
+
+TEST(HandOfTheTour, LeavesAloneWhatIsNotThere) {
+    EXPECT_EQ(missed({}), "nothing");
+    EXPECT_EQ(missed({clickOn(menuRow("Disable")), clickOn(control("OK"))}), "the menu row “Disable”")
+        << "only the first is told";
+    EXPECT_EQ(missed({[](Stage& stage) { stage.push(Role::first); }}), "nothing");
+    EXPECT_EQ(missed({[](Stage& stage) {
+                  stage.glide(Role::other, 0.5, 0.5);
+                  stage.desk().unplugUnderPointer();
+                  stage.glide(Role::other, 0.5, 0.5);
+                  stage.click(statusItem(Role::other));
+              }}),
+              "a status item");
+}
+
+TEST(HandOfTheTour, PushesAgainstNoEdgeWithADisplayBelowIt) {
+    LiveDeskSetup setup = otherDisplays();
+    setup.pinned = 1;
+    Stage stage(setup);
+    stage.push(Role::other);
+    EXPECT_FALSE(stage.missing());
+    stage.push(Role::first);
+    EXPECT_EQ(stage.missing(), "a free bottom edge to push against");
 }
 
 TEST(HandOfTheTour, NamesWhatItDidNotFind) {
-    LiveDesk desk(otherDisplays());
-    const auto missed = [&desk](const auto& use) {
-        TourHand hand(desk);
-        use(hand);
-        return hand.missing().value_or("nothing");
-    };
-    EXPECT_EQ(missed([](TourHand& hand) { hand.clickRow("Disable"); }), "the menu row “Disable”");
-    EXPECT_EQ(missed([](TourHand& hand) { hand.pointAtRow("Enable"); }), "the menu row “Enable”");
-    EXPECT_EQ(missed([](TourHand& hand) { hand.pointAtControl("OK"); }), "the button or switch “OK”");
-    EXPECT_EQ(missed([](TourHand& hand) { hand.closeWindow("Mail"); }), "the window “Mail”");
-    EXPECT_EQ(missed([](TourHand& hand) { hand.holdControl("Deny"); }), "the button or switch “Deny”");
-    EXPECT_EQ(missed([](TourHand& hand) { hand.click(DeskTarget::statusItem(0, 9)); }), "a status item");
-    EXPECT_EQ(missed([](TourHand& hand) { hand.pointAt(DeskTarget::ofWindow(7)); }), "a part of the screen");
-}
-
-TEST(SceneOfTheTour, FramesWhatItTalksAbout) {
-    LiveDesk desk(otherDisplays());
-    desk.advance(std::chrono::seconds(1));
-    const DeskPicture picture = pictureOf(desk);
-    ASSERT_EQ(picture.windows.size(), 1U);
-    const Rect wizard = picture.windows[0].frame;
-    EXPECT_FALSE(framed(Frame::everything, picture));
-    EXPECT_FALSE(framed(Frame::window, picture));
-    const Rect display = framed(Frame::display, picture).value();
-    const Rect open = framed(Frame::whatIsOpen, picture).value();
-    EXPECT_EQ(display, (Rect{-48, -48, 1096, 696})) << "the one with the pointer";
-    EXPECT_LT(open.minX(), wizard.minX());
-    EXPECT_GT(open.maxY(), wizard.maxY());
-    EXPECT_TRUE(open.contains(picture.pointer));
-    EXPECT_LT(open.width(), display.width());
-    EXPECT_FALSE(framed(Frame::pointer, picture)) << "there is a glass for that";
+    EXPECT_EQ(missed({clickOn(menuRow("{first}"))}), "the menu row “Display 3”");
+    EXPECT_EQ(missed({clickOn(control("OK"))}), "the button or switch “OK”");
+    EXPECT_EQ(missed({clickOn(closeButton("Mail"))}), "the window “Mail”");
+    EXPECT_EQ(missed({clickOn(titleBar("Mail"))}), "the window “Mail”");
+    const Thing nowhere = {"a part of the screen", [](Stage&) { return DeskTarget::ofWindow(7); }};
+    EXPECT_EQ(missed({[&nowhere](Stage& stage) { stage.press(nowhere); }}), "a part of the screen");
 }
 
 TEST(SceneOfTheTour, ShowsTheHeldPointerThroughAGlass) {
@@ -299,6 +291,30 @@ TEST(SceneOfTheTour, ShowsTheHeldPointerThroughAGlass) {
     EXPECT_THAT(throughAGlass, Contains("held"));
 }
 
+TEST(HandOfTheTour, DragsAWindowByItsTitleBar) {
+    Stage stage(otherDisplays());
+    stage.desk().advance(std::chrono::seconds(1));
+    const auto left = [&stage] { return stage.window()->frame.minX(); };
+    const double before = left();
+    stage.press(titleBar("Welcome to Kestrune"));
+    stage.glide(Role::main, 0.3, 0.3, EventType::leftMouseDragged);
+    EXPECT_LT(left(), before);
+    stage.letGo();
+    const double dropped = left();
+    stage.glide(Role::main, 0.6, 0.3, EventType::leftMouseDragged);
+    EXPECT_EQ(left(), dropped);
+}
+
+TEST(SceneOfTheTour, BeginsWithoutTheNewsOfTheLastOne) {
+    Stage stage(usualDisplays());
+    const auto newsOf = [&stage](const std::vector<Step>& steps) {
+        return std::get<DeskPicture>(stage.perform({"scene", Frame::everything, "", steps})).whatHappened;
+    };
+    EXPECT_EQ(newsOf({[](Stage& scene) { scene.desk().openLoginItems(); }}),
+              "System Settings shows the login items");
+    EXPECT_EQ(newsOf({}), "");
+}
+
 // The first one that expects it, and what it expected.
 TEST(SceneOfTheTour, TellsWhatItDidNotFind) {
     LiveDeskSetup setup = otherDisplays();
@@ -316,7 +332,7 @@ TEST(SceneOfTheTour, TellsWhatItDidNotFind) {
 
 TEST(SceneOfTheTour, TellsThatThereIsNoWindowToShow) {
     Stage stage(std::get<LiveDeskSetup>(setupOf({})));
-    const auto outcome = stage.perform({"nothing", [](Stage&) { return "Nothing"; }, Frame::window});
+    const auto outcome = stage.perform({"nothing", Frame::window, "Nothing", {}});
     EXPECT_EQ(std::get<std::string>(outcome), "a window");
 }
 

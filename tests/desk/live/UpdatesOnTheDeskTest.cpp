@@ -1,8 +1,8 @@
 // A user with mouse and keyboard at the windows of the updater.
 
-#include "desk/live/gallery/TourHand.h"
 #include "desk/live/world/LivePicture.h"
 #include "desk/live/world/WindowParts.h"
+#include "tests/desk/live/HandOnTheStage.h"
 
 #include <gtest/gtest.h>
 
@@ -46,8 +46,9 @@ protected:
 
     sim::Updates& updates() { return desk.session().updates(); }
 
-    LiveDesk desk{std::get<LiveDeskSetup>(setupOf({}))};
-    TourHand hand{desk};
+    Stage stage{std::get<LiveDeskSetup>(setupOf({}))};
+    LiveDesk& desk = stage.desk();
+    HandOnTheStage hand{stage};
 };
 
 TEST_F(UpdatesOnTheDesk, ShowTheCheckAndLetItBeCancelled) {

@@ -1,13 +1,17 @@
-#include "desk/headless/ReplayCommand.h"
+#include "desk/headless/HeadlessCommands.h"
 
+#include "desk/live/world/LiveDeskSetup.h"
 #include "desk/live/world/LivePicture.h"
 #include "desk/paint/sheets/Sheet.h"
+#include "replay/ApplicationHost.h"
 #include "replay/Emission.h"
 #include "replay/Replay.h"
 #include "replay/recording/MotionGenerator.h"
 #include "replay/recording/RecordingReader.h"
 #include "replay/recording/RecordingWriter.h"
+#include "sim/session/JournalOutline.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <utility>
 
@@ -34,6 +38,29 @@ MaybeError writeScreenshot(const std::string& path, bool dark, replay::Simulated
     picture.dark = dark;
     const auto error = writePicture(path, pictureOfDesk(std::move(picture), UsualWindow), PixelsPerPoint);
     return error ? MaybeError(replay::InputError{error->message}) : std::nullopt;
+}
+
+std::string foldedText(const std::vector<std::string>& journal) {
+    std::string text;
+    std::size_t details = 0;
+    const auto flush = [&] {
+        if (details > 0) {
+            text += "    ... " + std::to_string(details) +
+                    (details == 1 ? " call that builds menu items or reads the displays\n"
+                                  : " calls that build menu items or read the displays\n");
+            details = 0;
+        }
+    };
+    for (const std::string& line : journal) {
+        if (sim::isDetail(line)) {
+            ++details;
+            continue;
+        }
+        flush();
+        text += line + "\n";
+    }
+    flush();
+    return text;
 }
 
 } // namespace
@@ -63,6 +90,18 @@ std::variant<std::string, replay::InputError> runReplay(const PlayRecording& pla
 
 std::optional<replay::InputError> runGenerate(const MakeRecording& make) {
     return replay::writeRecording(std::filesystem::path(make.path), replay::generateRows(make.motion));
+}
+
+std::variant<std::string, replay::InputError> runLaunch(const Options& options) {
+    const auto setup = setupOf(options);
+    if (const auto* error = std::get_if<replay::InputError>(&setup)) {
+        return *error;
+    }
+    sim::SessionOptions sessionOptions = sessionOptionsOf(std::get<LiveDeskSetup>(setup));
+    sessionOptions.recordJournal = true;
+    sim::Session session(sessionOptions);
+    const replay::ApplicationHost host(session);
+    return foldedText(session.journal().take());
 }
 
 } // namespace kestrune::desk

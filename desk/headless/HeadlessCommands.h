@@ -1,4 +1,4 @@
-// The windowless commands.
+// The commands that need no window.
 #pragma once
 
 #include "desk/command/Command.h"
@@ -16,5 +16,10 @@ std::variant<std::string, replay::InputError> runReplay(const PlayRecording& pla
 
 // Writes a made-up recording; the error says why it could not be written.
 std::optional<replay::InputError> runGenerate(const MakeRecording& make);
+
+// Launches the application, to read what it asks of the platform: every call from the start of the process to
+// the end of what the launch left to be done, a line each in order; calls that only build menu items or read
+// the displays are counted.
+std::variant<std::string, replay::InputError> runLaunch(const Options& options);
 
 } // namespace kestrune::desk
