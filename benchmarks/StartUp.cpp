@@ -35,7 +35,7 @@ std::optional<double> launchTime() {
     const double time = Microseconds(Clock::now() - start).count();
     const auto items = session.statusItems().shown();
     const bool hasMenu = items.size() == 1 && items.front()->menu.has_value();
-    session.endApplication();
+    session.user().endApplication();
     return hasMenu ? std::optional(time) : std::nullopt;
 }
 

@@ -7,19 +7,26 @@
 namespace kestrune::sim {
 
 System::System(SessionOptions options)
-    : journal(options.recordJournal),
-      accessibility(options.permission, [this](bool isInFront) { systemCameForward(isInFront); }),
+    : updateSupply{.framework = options.updateFramework},
+      journal(options.recordJournal),
+      accessibility(options.permission, faults, [this](bool isInFront) { systemCameForward(isInFront); }),
       displays(std::move(options.displays)),
       dock(displays, options.dockDwell),
       defaults(std::move(options.defaults)),
       bundle(std::move(options.bundle)),
       surroundings(std::move(options.surroundings)),
       process(application, bundle, [this] { endProcess(); }),
-      updates(options.updateFramework, bundle, mainThread, windows, journal),
+      updates(updateSupply, bundle, mainThread, windows, journal),
       measurer(options.measurer != nullptr ? *options.measurer : fixedAdvance) {}
 
 System::~System() {
     setFatalErrorReporter({}); // the application's, which would call the platform
+}
+
+void System::tellOfDisabledTaps() {
+    if (mainThread.isFree()) {
+        taps.notify();
+    }
 }
 
 // Whoever puts away what was in front comes back to the application, if it has something to show.

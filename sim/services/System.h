@@ -16,10 +16,12 @@
 #include "sim/services/Observers.h"
 #include "sim/services/Process.h"
 #include "sim/services/RunLoopSources.h"
+#include "sim/services/StandingFaults.h"
 #include "sim/services/StatusItems.h"
 #include "sim/services/Surroundings.h"
 #include "sim/services/TapChain.h"
 #include "sim/services/Timers.h"
+#include "sim/services/UpdateSupply.h"
 #include "sim/services/Updates.h"
 #include "sim/services/Windows.h"
 #include "sim/session/Displays.h"
@@ -42,6 +44,11 @@ struct System {
     System(const System&) = delete;
     System& operator=(const System&) = delete;
 
+    // The application's taps that the system has switched off get to know it, unless the main thread is busy.
+    void tellOfDisabledTaps();
+
+    StandingFaults faults;
+    UpdateSupply updateSupply;
     Journal journal;
     VirtualClock clock;
     Accessibility accessibility;
@@ -52,17 +59,17 @@ struct System {
     RunLoopSources sources;
     const BundleContents bundle;
     const Surroundings surroundings;
-    LoginItem loginItem;
-    Links links{accessibility};
+    LoginItem loginItem{faults};
+    Links links{accessibility, faults};
     LogRecords log;
     ApplicationState application;
     Process process;
     Timers timers{clock};
     MainThread mainThread{clock, timers};
     Observers observers;
-    StatusItems statusItems;
+    StatusItems statusItems{faults};
     MenuTracking menus{application, statusItems, bundle, timers, journal};
-    Windows windows{application, displays, observers, journal};
+    Windows windows{application, displays, observers, journal, faults};
     Updates updates;
     const FixedAdvanceMeasurer fixedAdvance;
     const ui::Measurer& measurer;

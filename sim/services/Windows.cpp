@@ -214,7 +214,7 @@ void Windows::setActive(bool isActive) {
 }
 
 void Windows::activateByApplication() {
-    if (!refusesActivation_) {
+    if (!faults_.refusesActivation) {
         setActive(true);
     }
 }

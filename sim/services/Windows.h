@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/Window.h"
+#include "sim/services/StandingFaults.h"
 #include "ui/Scene.h"
 
 #include <cstddef>
@@ -27,8 +28,12 @@ public:
 
     // All of them must outlive this.
     Windows(ApplicationState& application, const Displays& displays, const Observers& observers,
-            Journal& journal)
-        : application_(application), displays_(displays), observers_(observers), journal_(journal) {}
+            Journal& journal, const StandingFaults& faults)
+        : application_(application),
+          displays_(displays),
+          observers_(observers),
+          journal_(journal),
+          faults_(faults) {}
 
     // The windows that are to be seen, the frontmost first: by level, and within a level the one first that
     // was ordered front last.
@@ -84,9 +89,8 @@ public:
     // The application becomes the active one, or ceases to be.
     void setActive(bool isActive);
 
-    // The same at the application's own wish. Fault: the system does not let it.
+    // The same at the application's own wish, if the system lets it.
     void activateByApplication();
-    void refuseActivation(bool refuse) { refusesActivation_ = refuse; }
 
     // The platform makes an object of the class itself, from an archive or from a bare window: both are
     // refused.
@@ -106,7 +110,7 @@ private:
     const Displays& displays_;
     const Observers& observers_;
     Journal& journal_;
-    bool refusesActivation_ = false;
+    const StandingFaults& faults_;
     std::vector<std::weak_ptr<Window::State>> all_;
     std::vector<std::weak_ptr<Window::State>> ordered_; // the front one first, whatever its level
     std::weak_ptr<Window::State> wantedKey_;            // the one that was made key last

@@ -5,7 +5,7 @@
 #include "sim/services/Accessibility.h"
 #include "sim/services/BundleContents.h"
 #include "sim/services/Surroundings.h"
-#include "sim/services/Updates.h"
+#include "sim/services/UpdateSupply.h"
 #include "sim/session/Display.h"
 #include "sim/session/Dock.h"
 #include "ui/layout/Layout.h"

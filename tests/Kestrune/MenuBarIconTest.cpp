@@ -56,7 +56,7 @@ TEST_F(MenuBarIcon, LeavesTheBarWithTheController) {
 }
 
 TEST_F(MenuBarIcon, StaysEmptyWithoutAButton) {
-    session.statusItems().withholdButtons(true);
+    session.faults().withholdStatusButtons(true);
     EXPECT_THAT(callsOf([this] { make(); }), Not(hasCallAbout("+[NSImage")));
     EXPECT_FALSE(item()->button);
     EXPECT_TRUE(item()->menu);

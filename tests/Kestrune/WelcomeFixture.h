@@ -58,7 +58,7 @@ protected:
     // The main thread does what waits for it.
     void settle() { session.advance(sim::Duration::zero()); }
 
-    void setPermission(sim::Permission permission) { session.accessibility().setPermission(permission); }
+    void setPermission(sim::Permission permission) { session.user().setPermission(permission); }
 
     bool press(std::string_view title) {
         const bool isPressed = pressButton(session, title);

@@ -85,7 +85,7 @@ TEST_F(WelcomeStepsWithoutPermission, DoesNotTakeTheAnswerOfTheRequest) {
 TEST_F(WelcomeStepsWithoutPermission, OpensThePane) {
     makeAndShow();
     press("Request permission");
-    session.accessibility().denyInDialog();
+    session.user().denyInDialog();
     press("Open System Settings");
     EXPECT_THAT(session.openedURLs(),
                 ElementsAre("x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"));
@@ -105,8 +105,8 @@ TEST_F(WelcomeStepsWithoutPermission, SeesThePermissionAtTheNextTick) {
 
 TEST_F(WelcomeStepsWithoutPermission, SeesThePermissionAtOnceWhenItsWindowBecomesKeyAgain) {
     makeAndShow();
-    session.accessibility().showPane();
-    session.accessibility().flipSwitch();
+    session.user().openPane();
+    session.user().flipPermissionSwitch();
     EXPECT_FALSE(controller->model()->isAccessibilityTrusted);
     session.windows().click(onlyWindow(session));
     EXPECT_TRUE(controller->model()->isAccessibilityTrusted);

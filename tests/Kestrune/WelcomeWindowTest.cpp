@@ -68,7 +68,7 @@ TEST_F(WelcomeWindowWithoutPermission, IsShownAndListed) {
 }
 
 TEST_F(WelcomeWindowWithoutPermission, ThrowsTheProbesTapAwayWhenThereIsOne) {
-    session.accessibility().delayTrust(true);
+    session.faults().delayTrust(true);
     setPermission(sim::Permission::granted);
     make();
     EXPECT_THAT(callsOf([this] { controller->show(); }), hasCallAbout("CGEventTapCreate"));
@@ -84,7 +84,7 @@ TEST_F(WelcomeWindow, BecomesKeyAfterTheApplicationIsActive) {
 }
 
 TEST_F(WelcomeWindow, IsThereAlthoughTheSystemDoesNotActivateTheApplication) {
-    session.refuseActivation(true);
+    session.faults().refuseActivation(true);
     makeAndShow();
     EXPECT_NE(onlyWindow(session), nullptr);
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
@@ -275,7 +275,7 @@ TEST_F(WelcomeWindowDeathTest, CanOnlyBeMadeByItself) {
 
 TEST_F(WelcomeWindowDeathTest, StopsTheProcessWhenThePanesAddressIsNoURL) {
     makeAndShow();
-    session.refuseURLs(true);
+    session.faults().refuseURLs(true);
     EXPECT_DEATH(controller->model()->openAccessibilitySettings(),
                  "Fatal error: The address of the Accessibility pane is no URL\\.");
 }

@@ -8,6 +8,8 @@
 namespace kestrune::sim {
 namespace {
 
+const StandingFaults NoFaults;
+
 struct State {
     const char* name;
     Permission permission;
@@ -15,10 +17,7 @@ struct State {
     bool allowsActiveTaps;
     bool isListed;
     bool isSwitchedOn;
-    // What becomes of it.
     Permission whenListed;
-    Permission whenFlipped;
-    Permission whenRemoved;
 };
 
 void PrintTo(const State& state, std::ostream* output) { *output << state.name; }
@@ -28,14 +27,14 @@ std::string nameOfState(const testing::TestParamInfo<State>& state) { return sta
 class AccessibilityTest : public testing::TestWithParam<State> {};
 
 TEST_P(AccessibilityTest, AnswersForAPermissionThatWasThereFromTheStart) {
-    const Accessibility accessibility(GetParam().permission);
+    const Accessibility accessibility(GetParam().permission, NoFaults);
     EXPECT_EQ(accessibility.permission(), GetParam().permission);
     EXPECT_EQ(accessibility.readsAsTrusted(), GetParam().readsAsTrusted);
     EXPECT_EQ(accessibility.allowsActiveTaps(), GetParam().allowsActiveTaps);
 }
 
 TEST_P(AccessibilityTest, AnswersForAPermissionThatChanged) {
-    Accessibility accessibility(Permission::granted);
+    Accessibility accessibility(Permission::granted, NoFaults);
     accessibility.setPermission(Permission::notListed);
     accessibility.setPermission(GetParam().permission);
     EXPECT_EQ(accessibility.readsAsTrusted(), GetParam().readsAsTrusted);
@@ -43,13 +42,13 @@ TEST_P(AccessibilityTest, AnswersForAPermissionThatChanged) {
 }
 
 TEST_P(AccessibilityTest, ShowsARowInThePane) {
-    const Accessibility accessibility(GetParam().permission);
+    const Accessibility accessibility(GetParam().permission, NoFaults);
     EXPECT_EQ(accessibility.isListed(), GetParam().isListed);
     EXPECT_EQ(accessibility.isSwitchedOn(), GetParam().isSwitchedOn);
 }
 
 TEST_P(AccessibilityTest, ListsTheApplicationThatAsks) {
-    Accessibility accessibility(GetParam().permission);
+    Accessibility accessibility(GetParam().permission, NoFaults);
     accessibility.listApplication();
     EXPECT_EQ(accessibility.permission(), GetParam().whenListed);
     EXPECT_FALSE(accessibility.isDialogShown());
@@ -57,56 +56,38 @@ TEST_P(AccessibilityTest, ListsTheApplicationThatAsks) {
 }
 
 TEST_P(AccessibilityTest, AsksTheUserInADialog) {
-    Accessibility accessibility(GetParam().permission);
+    Accessibility accessibility(GetParam().permission, NoFaults);
     accessibility.askUser();
     EXPECT_EQ(accessibility.permission(), GetParam().whenListed);
     EXPECT_TRUE(accessibility.isDialogShown());
     EXPECT_FALSE(accessibility.isPaneShown());
 }
 
-TEST_P(AccessibilityTest, FollowsTheSwitchOfTheRow) {
-    Accessibility accessibility(GetParam().permission);
-    accessibility.flipSwitch();
-    EXPECT_EQ(accessibility.permission(), GetParam().whenFlipped);
-}
-
-TEST_P(AccessibilityTest, FollowsTheRemovalOfTheRow) {
-    Accessibility accessibility(GetParam().permission);
-    accessibility.removeRow();
-    EXPECT_EQ(accessibility.permission(), GetParam().whenRemoved);
-    EXPECT_FALSE(accessibility.isListed());
-}
-
 const State States[] = {
-    {"NotListed", Permission::notListed, false, false, false, false, Permission::switchedOff,
-     Permission::notListed, Permission::notListed},
-    {"SwitchedOff", Permission::switchedOff, false, false, true, false, Permission::switchedOff,
-     Permission::granted, Permission::notListed},
-    {"Granted", Permission::granted, true, true, true, true, Permission::granted, Permission::switchedOff,
-     Permission::rowDeleted},
-    {"RowDeleted", Permission::rowDeleted, true, false, false, false, Permission::rowDeleted,
-     Permission::rowDeleted, Permission::rowDeleted},
-    {"Stale", Permission::stale, false, false, true, true, Permission::stale, Permission::stale,
-     Permission::notListed},
+    {"NotListed", Permission::notListed, false, false, false, false, Permission::switchedOff},
+    {"SwitchedOff", Permission::switchedOff, false, false, true, false, Permission::switchedOff},
+    {"Granted", Permission::granted, true, true, true, true, Permission::granted},
+    {"RowDeleted", Permission::rowDeleted, true, false, false, false, Permission::rowDeleted},
+    {"Stale", Permission::stale, false, false, true, true, Permission::stale},
 };
 INSTANTIATE_TEST_SUITE_P(States, AccessibilityTest, testing::ValuesIn(States), nameOfState);
 
 TEST(AccessibilityDialog, LeadsToThePaneOrOnlyCloses) {
-    Accessibility accessibility(Permission::notListed);
+    Accessibility accessibility(Permission::notListed, NoFaults);
     EXPECT_FALSE(accessibility.isDialogShown());
     accessibility.askUser();
-    accessibility.denyInDialog();
+    accessibility.answerDialog(DialogAnswer::deny);
     EXPECT_FALSE(accessibility.isDialogShown());
     EXPECT_FALSE(accessibility.isPaneShown());
     accessibility.askUser();
-    accessibility.openSettingsFromDialog();
+    accessibility.answerDialog(DialogAnswer::openSettings);
     EXPECT_FALSE(accessibility.isDialogShown());
     EXPECT_TRUE(accessibility.isPaneShown());
     EXPECT_EQ(accessibility.permission(), Permission::switchedOff);
 }
 
 TEST(AccessibilityPane, IsShownUntilItIsClosed) {
-    Accessibility accessibility(Permission::granted);
+    Accessibility accessibility(Permission::granted, NoFaults);
     EXPECT_FALSE(accessibility.isPaneShown());
     accessibility.showPane();
     EXPECT_TRUE(accessibility.isPaneShown());
@@ -115,22 +96,13 @@ TEST(AccessibilityPane, IsShownUntilItIsClosed) {
     EXPECT_EQ(accessibility.permission(), Permission::granted);
 }
 
-TEST(AccessibilityPane, HelpsARowOfAnOlderBuildByItsRemovalAlone) {
-    Accessibility accessibility(Permission::stale);
-    accessibility.flipSwitch();
-    EXPECT_FALSE(accessibility.readsAsTrusted());
-    accessibility.removeRow();
-    accessibility.listApplication();
-    accessibility.flipSwitch();
-    EXPECT_EQ(accessibility.permission(), Permission::granted);
-}
-
 TEST(Accessibility, MayReadAsUntrustedForAWhileAfterAGrant) {
-    Accessibility accessibility(Permission::granted);
-    accessibility.delayTrust(true);
+    StandingFaults faults;
+    const Accessibility accessibility(Permission::granted, faults);
+    faults.delaysTrust = true;
     EXPECT_FALSE(accessibility.readsAsTrusted());
     EXPECT_TRUE(accessibility.allowsActiveTaps());
-    accessibility.delayTrust(false);
+    faults.delaysTrust = false;
     EXPECT_TRUE(accessibility.readsAsTrusted());
 }
 

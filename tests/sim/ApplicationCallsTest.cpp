@@ -163,7 +163,7 @@ TEST_F(ApplicationCallsTest, AreJournaledForTextsURLsTrustAndDebugMessages) {
                     url->absoluteString();
                     URL::withString("");
                     isProcessTrustedWithOptions({true});
-                    session_.accessibility().setPermission(Permission::notListed);
+                    session_.user().setPermission(Permission::notListed);
                     isProcessTrustedWithOptions({false});
                     log.debug(LogMessage::of<"message">());
                 }),

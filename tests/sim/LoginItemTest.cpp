@@ -6,7 +6,8 @@ namespace kestrune::sim {
 namespace {
 
 TEST(LoginItem, IsRegisteredAndUnregistered) {
-    LoginItem item;
+    const StandingFaults faults;
+    LoginItem item(faults);
     EXPECT_EQ(item.status(), AppServiceStatus::notRegistered);
     EXPECT_FALSE(item.registerItem());
     EXPECT_EQ(item.status(), AppServiceStatus::enabled);
@@ -15,7 +16,8 @@ TEST(LoginItem, IsRegisteredAndUnregistered) {
 }
 
 TEST(LoginItem, MayWaitForApproval) {
-    LoginItem item;
+    const StandingFaults faults;
+    LoginItem item(faults);
     item.requireApproval(true);
     EXPECT_FALSE(item.registerItem());
     EXPECT_EQ(item.status(), AppServiceStatus::requiresApproval);
@@ -27,7 +29,8 @@ TEST(LoginItem, MayWaitForApproval) {
 }
 
 TEST(LoginItem, IsApprovedByTheUserAlone) {
-    LoginItem item;
+    const StandingFaults faults;
+    LoginItem item(faults);
     item.setStatus(AppServiceStatus::requiresApproval);
     EXPECT_FALSE(item.registerItem());
     EXPECT_EQ(item.status(), AppServiceStatus::requiresApproval);
@@ -38,7 +41,8 @@ TEST(LoginItem, IsApprovedByTheUserAlone) {
 }
 
 TEST(LoginItem, IsRegisteredAlsoWhenTheSystemDidNotKnowOfIt) {
-    LoginItem item;
+    const StandingFaults faults;
+    LoginItem item(faults);
     item.setStatus(AppServiceStatus::notFound);
     EXPECT_FALSE(item.registerItem());
     EXPECT_EQ(item.status(), AppServiceStatus::enabled);
@@ -49,14 +53,15 @@ TEST(LoginItem, IsRegisteredAlsoWhenTheSystemDidNotKnowOfIt) {
 }
 
 TEST(LoginItem, StaysAsItIsWhenTheSystemRefuses) {
-    LoginItem item;
-    item.refuse("No");
+    StandingFaults faults;
+    LoginItem item(faults);
+    faults.loginItemRefusal = "No";
     EXPECT_EQ(item.registerItem()->localizedDescription, "No");
     EXPECT_EQ(item.status(), AppServiceStatus::notRegistered);
     item.setStatus(AppServiceStatus::enabled);
     EXPECT_EQ(item.unregisterItem()->localizedDescription, "No");
     EXPECT_EQ(item.status(), AppServiceStatus::enabled);
-    item.refuse(std::nullopt);
+    faults.loginItemRefusal.reset();
     EXPECT_FALSE(item.unregisterItem());
 }
 

@@ -130,11 +130,11 @@ TEST(PlatformCalls, LeaveNothingWhileTheJournalIsOff) {
 
 TEST(PlatformCalls, RefuseATapAlthoughThePermissionIsThere) {
     Session session;
-    session.refuseTapCreation(true);
+    session.faults().refuseTapCreation(true);
     EXPECT_TRUE(isProcessTrusted());
     EXPECT_FALSE(
         createTap(EventTapLocation::session, EventTapPlacement::headInsert, EventTapOptions::defaultTap));
-    session.refuseTapCreation(false);
+    session.faults().refuseTapCreation(false);
     EXPECT_TRUE(
         createTap(EventTapLocation::session, EventTapPlacement::headInsert, EventTapOptions::defaultTap));
 }

@@ -73,7 +73,7 @@ TEST_F(SessionApplicationTest, EndsWithEverythingOfTheProcess) {
     EXPECT_EQ(session_.timers().count(), 1U);
     EXPECT_EQ(session_.observers().count(), 1U);
     EXPECT_EQ(session_.statusItems().shown().size(), 1U);
-    session_.endApplication();
+    session_.user().endApplication();
     EXPECT_EQ(session_.taps().count(), 0U);
     EXPECT_EQ(session_.sources().count(), 0U);
     EXPECT_EQ(session_.timers().count(), 0U);
@@ -87,12 +87,12 @@ TEST_F(SessionApplicationTest, EndsWithEverythingOfTheProcess) {
 
 TEST_F(SessionApplicationTest, CallsNothingOfAProcessThatWasEndedByForce) {
     const Leftovers leftovers(calls_);
-    session_.endApplication();
+    session_.user().endApplication();
     letThingsHappen();
     EXPECT_THAT(calls_, IsEmpty());
     EXPECT_THAT(leftovers.received, IsEmpty());
     EXPECT_THAT(leftovers.delegate->received(), IsEmpty());
-    EXPECT_FALSE(session_.menus().open(StatusItemIndex{0}));
+    EXPECT_FALSE(session_.user().openMenu(StatusItemIndex{0}));
     EXPECT_EQ(leftovers.menuDelegate->openings(), 0);
 }
 
@@ -110,9 +110,9 @@ TEST_F(SessionApplicationTest, ClosesItsMenuAndFiresNoTimerThatWaitedForThat) {
     const Leftovers leftovers(calls_);
     session_.advance(0s);
     calls_.clear();
-    ASSERT_TRUE(session_.menus().open(StatusItemIndex{0}));
+    ASSERT_TRUE(session_.user().openMenu(StatusItemIndex{0}));
     session_.advance(2s);
-    session_.endApplication();
+    session_.user().endApplication();
     EXPECT_EQ(session_.menus().place(), std::nullopt);
     EXPECT_THAT(calls_, IsEmpty());
 }
@@ -120,7 +120,7 @@ TEST_F(SessionApplicationTest, ClosesItsMenuAndFiresNoTimerThatWaitedForThat) {
 TEST_F(SessionApplicationTest, LeavesOnlyHarmlessObjects) {
     {
         Leftovers leftovers(calls_);
-        session_.endApplication();
+        session_.user().endApplication();
         leftovers.timer.invalidate();
         leftovers.statusItem.setMenu(leftovers.menu);
         leftovers.statusItem.button()->setToolTip("tool tip");
@@ -136,7 +136,7 @@ TEST_F(SessionApplicationTest, LeavesOnlyHarmlessObjects) {
 
 TEST_F(SessionApplicationTest, StartsAnotherProcessWithNothingOfTheOneBefore) {
     const Leftovers former(calls_);
-    session_.endApplication();
+    session_.user().endApplication();
     const Leftovers current(calls_);
     EXPECT_EQ(session_.application().delegate.lock(), current.delegate);
     EXPECT_EQ(session_.timers().count(), 1U);
@@ -146,15 +146,15 @@ TEST_F(SessionApplicationTest, StartsAnotherProcessWithNothingOfTheOneBefore) {
     EXPECT_THAT(calls_, ElementsAre("task", "timer", "observer"));
     EXPECT_THAT(former.received, IsEmpty());
     EXPECT_EQ(current.received.size(), 1U);
-    EXPECT_TRUE(session_.menus().open(StatusItemIndex{0}));
+    EXPECT_TRUE(session_.user().openMenu(StatusItemIndex{0}));
     EXPECT_EQ(former.menuDelegate->openings(), 0);
     EXPECT_EQ(current.menuDelegate->openings(), 1);
 }
 
 TEST_F(SessionApplicationTest, StartsAnotherProcessWithAMainThreadThatIsFree) {
     const Leftovers former(calls_);
-    session_.stallMainThread(10s);
-    session_.endApplication();
+    session_.faults().stallMainThread(10s);
+    session_.user().endApplication();
     const Leftovers current(calls_);
     session_.changeDisplays({makeDisplay(1, "Other", {0, 0, 800, 600})});
     EXPECT_THAT(calls_, ElementsAre("observer"));
@@ -162,15 +162,15 @@ TEST_F(SessionApplicationTest, StartsAnotherProcessWithAMainThreadThatIsFree) {
 
 // Only a running process remembers a grant whose row is gone.
 TEST_F(SessionApplicationTest, StartsAnotherProcessWithoutTheGrantOfADeletedRow) {
-    session_.accessibility().removeRow();
+    session_.user().removePermissionRow();
     EXPECT_TRUE(isProcessTrusted());
-    session_.endApplication();
+    session_.user().endApplication();
     EXPECT_FALSE(isProcessTrusted());
     EXPECT_EQ(session_.accessibility().permission(), Permission::notListed);
 }
 
 TEST_F(SessionApplicationTest, StartsAnotherProcessWithTheGrantOfTheRow) {
-    session_.endApplication();
+    session_.user().endApplication();
     EXPECT_TRUE(isProcessTrusted());
 }
 
@@ -200,7 +200,7 @@ TEST(SessionApplicationPolicy, IsRegularUnlessTheBundleSaysOtherwise) {
 TEST_F(SessionApplicationTest, DropsItsMainQueueWithItsProcess) {
     Application::sharedApplication();
     session_.mainThread().enqueue([this] { calls_.emplace_back("former"); });
-    session_.endApplication();
+    session_.user().endApplication();
     Application::sharedApplication();
     session_.mainThread().enqueue([this] { calls_.emplace_back("current"); });
     session_.advance(1s);
@@ -213,7 +213,7 @@ TEST_F(SessionApplicationTest, MayEndWhileATapHandlesAnEvent) {
     contract::RecordingTap second(leftovers.received, {});
     second.schedule();
     second.onPointerEvent([this](Event* event) {
-        session_.endApplication();
+        session_.user().endApplication();
         return event;
     });
     const Delivery delivery = session_.movePointer(1, 1);

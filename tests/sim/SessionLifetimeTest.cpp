@@ -87,7 +87,7 @@ TEST(Session, StartsWithNothingOfTheOneBefore) {
     {
         Session session;
         UserDefaults::standardUserDefaults()->setBool(true, UserDefaultsKey("key"));
-        session.accessibility().setPermission(Permission::switchedOff);
+        session.user().setPermission(Permission::switchedOff);
         session.advance(std::chrono::seconds(5));
         Log("subsystem", "category").error(LogMessage::of<"message">());
     }

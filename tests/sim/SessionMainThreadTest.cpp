@@ -34,7 +34,7 @@ TEST_F(SessionMainThreadTest, HearsOfChangedDisplaysAtOnce) {
 
 TEST_F(SessionMainThreadTest, HearsOfChangedDisplaysOnceItsMainThreadIsFree) {
     observeDisplays("observer");
-    session_.stallMainThread(2s);
+    session_.faults().stallMainThread(2s);
     session_.changeDisplays({});
     session_.changeDisplays({makeDisplay(1, "Other", {0, 0, 800, 600})});
     session_.advance(1999ms);
@@ -56,7 +56,7 @@ TEST_F(SessionMainThreadTest, WorksOffItsMainQueueInOrderWhenTimePasses) {
 
 TEST_F(SessionMainThreadTest, WorksOffItsMainQueueOnceItsMainThreadIsFree) {
     session_.mainThread().enqueue([this] { calls_.emplace_back("task"); });
-    session_.stallMainThread(1s);
+    session_.faults().stallMainThread(1s);
     session_.advance(999ms);
     EXPECT_THAT(calls_, IsEmpty());
     session_.advance(1ms);
@@ -77,9 +77,9 @@ TEST_F(SessionMainThreadTest, OpensTheAccessibilityPaneForItsAddressAlone) {
 }
 
 TEST_F(SessionMainThreadTest, RefusesTextsAsURLsOnDemand) {
-    session_.refuseURLs(true);
+    session_.faults().refuseURLs(true);
     EXPECT_FALSE(URL::withString("https://kestrune.example/"));
-    session_.refuseURLs(false);
+    session_.faults().refuseURLs(false);
     EXPECT_TRUE(URL::withString("https://kestrune.example/"));
 }
 
@@ -87,7 +87,7 @@ TEST_F(SessionMainThreadTest, DoesWorkOnAnotherThreadOnDemand) {
     EXPECT_TRUE(session_.mainThread().isCurrent());
     observeDisplays("observer");
     std::vector<bool> isCurrent;
-    session_.onAnotherThread([&] {
+    session_.faults().onAnotherThread([&] {
         isCurrent.push_back(MainActor::isCurrent());
         session_.changeDisplays({});
     });

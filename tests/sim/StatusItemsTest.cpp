@@ -29,11 +29,11 @@ TEST_F(StatusItemsTest, ShowThoseThatExistFromTheFirstToTheLatest) {
 
 TEST_F(StatusItemsTest, HaveAButtonUnlessTheSystemWithholdsIt) {
     const StatusItem with = add(10);
-    items_.withholdButtons(true);
+    session_.faults().withholdStatusButtons(true);
     const StatusItem without = add(10);
     EXPECT_TRUE(with.button());
     EXPECT_FALSE(without.button());
-    items_.withholdButtons(false);
+    session_.faults().withholdStatusButtons(false);
     EXPECT_TRUE(add(10).button());
     EXPECT_FALSE(without.button());
 }
@@ -43,7 +43,7 @@ TEST_F(StatusItemsTest, AreGoneOnceTheyAreCleared) {
     items_.clear();
     EXPECT_TRUE(items_.shown().empty());
     item.setMenu(Menu());
-    EXPECT_FALSE(session_.menus().open(StatusItemIndex{0}));
+    EXPECT_FALSE(session_.user().openMenu(StatusItemIndex{0}));
 }
 
 TEST_F(StatusItemsTest, ForgetTheImagesOfTheProcessThatEnded) {

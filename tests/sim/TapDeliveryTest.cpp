@@ -137,7 +137,7 @@ TEST_F(TapDeliveryTest, TellsTheRestWhenATapRemovesItselfInItsNotice) {
         first->releaseSource();
         first->releaseTap();
     });
-    session_.disableTaps(EventType::tapDisabledByUserInput);
+    session_.faults().disableTaps(EventType::tapDisabledByUserInput);
     EXPECT_THAT(received_,
                 ElementsAre(contract::ReceivedEvent{"first", EventType::tapDisabledByUserInput, {}},
                             contract::ReceivedEvent{"second", EventType::tapDisabledByUserInput, {}}));

@@ -52,7 +52,7 @@ TEST_F(TapTimeoutTest, HoldsNothingUpWhileTheMainThreadIsIdle) {
 }
 
 TEST_F(TapTimeoutTest, HoldsAnEventUpUntilTheMainThreadIsFree) {
-    session_.stallMainThread(400ms);
+    session_.faults().stallMainThread(400ms);
     EXPECT_EQ(post(), Moved);
     EXPECT_EQ(session_.longestHold(), 400ms);
     EXPECT_EQ(session_.clock().now(), 400ms);
@@ -61,20 +61,20 @@ TEST_F(TapTimeoutTest, HoldsAnEventUpUntilTheMainThreadIsFree) {
 }
 
 TEST_F(TapTimeoutTest, WaitsUntilJustBeforeTheTimeout) {
-    session_.stallMainThread(Session::TapTimeout - 1ns);
+    session_.faults().stallMainThread(Session::TapTimeout - 1ns);
     EXPECT_EQ(post(), Moved);
     EXPECT_EQ(session_.taps().enabledCount(), 1U);
 }
 
 TEST_F(TapTimeoutTest, LetsTheEventGoOnUnchangedAfterTheTimeout) {
-    session_.stallMainThread(Session::TapTimeout);
+    session_.faults().stallMainThread(Session::TapTimeout);
     EXPECT_EQ(post(), Sent);
     EXPECT_EQ(session_.longestHold(), Session::TapTimeout);
     EXPECT_EQ(session_.taps().enabledCount(), 0U);
 }
 
 TEST_F(TapTimeoutTest, TellsTheApplicationOnceItsMainThreadIsFree) {
-    session_.stallMainThread(3s);
+    session_.faults().stallMainThread(3s);
     EXPECT_EQ(post(), Sent);
     EXPECT_THAT(received_, IsEmpty());
     session_.advance(1999ms);
@@ -87,7 +87,7 @@ TEST_F(TapTimeoutTest, TellsTheApplicationOnceItsMainThreadIsFree) {
 }
 
 TEST_F(TapTimeoutTest, DoesNotWaitForATapThatIsSwitchedOff) {
-    session_.stallMainThread(10s);
+    session_.faults().stallMainThread(10s);
     post();
     post();
     post();
@@ -96,30 +96,30 @@ TEST_F(TapTimeoutTest, DoesNotWaitForATapThatIsSwitchedOff) {
 
 TEST_F(TapTimeoutTest, WorksAgainOnceTheApplicationEnabledTheTap) {
     tap_.onDisabled([this](EventType) { tap_.enable(true); });
-    session_.stallMainThread(2s);
+    session_.faults().stallMainThread(2s);
     EXPECT_EQ(post(), Sent);
     session_.advance(1s);
     EXPECT_EQ(post(), Moved);
 }
 
 TEST_F(TapTimeoutTest, CountsTheLongerOfTwoStalls) {
-    session_.stallMainThread(800ms);
-    session_.stallMainThread(300ms);
+    session_.faults().stallMainThread(800ms);
+    session_.faults().stallMainThread(300ms);
     post();
     EXPECT_EQ(session_.longestHold(), 800ms);
 }
 
 TEST_F(TapTimeoutTest, KeepsTheLongestHold) {
-    session_.stallMainThread(500ms);
+    session_.faults().stallMainThread(500ms);
     post();
-    session_.stallMainThread(200ms);
+    session_.faults().stallMainThread(200ms);
     post();
     EXPECT_EQ(session_.longestHold(), 500ms);
     EXPECT_EQ(session_.clock().now(), 700ms);
 }
 
 TEST_F(TapTimeoutTest, DoesNotHoldUpEventsThatNoActiveTapReceives) {
-    session_.stallMainThread(10s);
+    session_.faults().stallMainThread(10s);
     session_.post(EventType::leftMouseDragged, Sent);
     EXPECT_EQ(session_.longestHold(), 0s);
     EXPECT_EQ(session_.taps().enabledCount(), 1U);
@@ -132,7 +132,7 @@ TEST_F(TapTimeoutTest, HoldsEveryEventUpWhenThePermissionIsGone) {
     tap_.onDisabled([this](EventType) { tap_.enable(true); });
     for (const Permission permission :
          {Permission::switchedOff, Permission::rowDeleted, Permission::notListed}) {
-        session_.accessibility().setPermission(permission);
+        session_.user().setPermission(permission);
         received_.clear();
         const Duration before = session_.clock().now();
         EXPECT_EQ(post(), Sent);
@@ -145,37 +145,37 @@ TEST_F(TapTimeoutTest, HoldsEveryEventUpWhenThePermissionIsGone) {
 
 TEST_F(TapTimeoutTest, HoldsUpOneEventWhenTheApplicationTearsTheTapDown) {
     tap_.onDisabled([this](EventType) { tap_.unschedule(); });
-    session_.accessibility().setPermission(Permission::switchedOff);
+    session_.user().setPermission(Permission::switchedOff);
     post();
     post();
     EXPECT_EQ(session_.clock().now(), Session::TapTimeout);
 }
 
 TEST_F(TapTimeoutTest, WorksAgainOnceThePermissionIsBack) {
-    session_.accessibility().setPermission(Permission::switchedOff);
+    session_.user().setPermission(Permission::switchedOff);
     post();
-    session_.accessibility().setPermission(Permission::granted);
+    session_.user().setPermission(Permission::granted);
     tap_.enable(true);
     EXPECT_EQ(post(), Moved);
 }
 
 TEST_F(TapTimeoutTest, TellsAboutUserInputAtOnceWhileTheMainThreadIsIdle) {
-    session_.disableTaps(EventType::tapDisabledByUserInput);
+    session_.faults().disableTaps(EventType::tapDisabledByUserInput);
     EXPECT_THAT(received_, ElementsAre(UserInputNotice));
     EXPECT_EQ(post(), Sent);
 }
 
 TEST_F(TapTimeoutTest, TellsAboutUserInputOnceTheMainThreadIsFree) {
-    session_.stallMainThread(500ms);
-    session_.disableTaps(EventType::tapDisabledByUserInput);
+    session_.faults().stallMainThread(500ms);
+    session_.faults().disableTaps(EventType::tapDisabledByUserInput);
     EXPECT_THAT(received_, IsEmpty());
     session_.advance(500ms);
     EXPECT_THAT(received_, ElementsAre(UserInputNotice));
 }
 
 TEST_F(TapTimeoutTest, TellsNothingToATapThatLeftTheRunLoopMeanwhile) {
-    session_.stallMainThread(500ms);
-    session_.disableTaps(EventType::tapDisabledByUserInput);
+    session_.faults().stallMainThread(500ms);
+    session_.faults().disableTaps(EventType::tapDisabledByUserInput);
     tap_.unschedule();
     session_.advance(500ms);
     EXPECT_THAT(received_, IsEmpty());
@@ -183,14 +183,14 @@ TEST_F(TapTimeoutTest, TellsNothingToATapThatLeftTheRunLoopMeanwhile) {
 
 TEST_F(TapTimeoutTest, TellsNothingToATapThatTheApplicationDisabled) {
     tap_.enable(false);
-    session_.disableTaps(EventType::tapDisabledByUserInput);
+    session_.faults().disableTaps(EventType::tapDisabledByUserInput);
     EXPECT_THAT(received_, IsEmpty());
 }
 
 TEST_F(TapTimeoutTest, NeitherWaitsForNorSwitchesOffATapThatOnlyListens) {
     RecordingTap listener(received_, named("listener", EventTapOptions::listenOnly));
     ASSERT_TRUE(listener.schedule());
-    session_.accessibility().setPermission(Permission::switchedOff);
+    session_.user().setPermission(Permission::switchedOff);
     post();
     EXPECT_THAT(received_,
                 ElementsAre(ReceivedEvent{"listener", EventType::mouseMoved, Sent}, TimeoutNotice));
@@ -205,7 +205,7 @@ TEST_F(TapTimeoutTest, NeitherWaitsForNorSwitchesOffATapThatOnlyListens) {
 TEST_F(TapTimeoutTest, DelaysWhatFallsDueWhileAnEventIsHeldUp) {
     std::vector<Duration> times;
     session_.clock().schedule(100ms, [&] { times.push_back(session_.clock().now()); });
-    session_.stallMainThread(400ms);
+    session_.faults().stallMainThread(400ms);
     post();
     EXPECT_THAT(times, IsEmpty());
     session_.advance(0ms);
@@ -219,8 +219,8 @@ TEST_F(TapTimeoutTest, RunsNothingOnABusyMainThread) {
         session_.clock().schedule(due, note);
     }
     tap_.onDisabled([&](EventType) { times.push_back(-session_.clock().now()); });
-    session_.stallMainThread(3s);
-    session_.disableTaps(EventType::tapDisabledByTimeout);
+    session_.faults().stallMainThread(3s);
+    session_.faults().disableTaps(EventType::tapDisabledByTimeout);
     session_.advance(2s);
     EXPECT_THAT(times, IsEmpty());
     session_.advance(8s);

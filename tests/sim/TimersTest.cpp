@@ -69,7 +69,7 @@ TEST_F(TimersTest, TakeATenthOfAMillisecondForNoInterval) {
 
 TEST_F(TimersTest, FireLateAndOnceAfterTheMainThreadWasBusy) {
     schedule(1, true);
-    session_.stallMainThread(3500ms);
+    session_.faults().stallMainThread(3500ms);
     session_.advance(4s);
     EXPECT_THAT(firings_, ElementsAre(3500ms, 4s));
 }

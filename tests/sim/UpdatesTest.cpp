@@ -100,8 +100,8 @@ protected:
 
 TEST_F(UpdatesTest, DoNothingBeforeTheyAreStarted) {
     updates().checkForUser();
-    updates().checkAsScheduled();
-    updates().dismiss();
+    session_.checkForUpdatesAsScheduled();
+    session_.user().dismissUpdater();
     session_.advance(1s);
     EXPECT_THAT(delegate_->told, IsEmpty());
     EXPECT_THAT(titles(), IsEmpty());
@@ -133,7 +133,7 @@ TEST_F(UpdatesTest, ShowAtOnceThatTheyCheckForTheUser) {
     EXPECT_THAT(delegate_->told, IsEmpty());
     updates().checkForUser();
     EXPECT_THAT(titles(), SizeIs(1));
-    updates().dismiss();
+    session_.user().dismissUpdater();
     EXPECT_THAT(titles(), IsEmpty());
     EXPECT_THAT(delegate_->told, ElementsAre("finish"));
     session_.advance(1s);
@@ -150,18 +150,18 @@ TEST_F(UpdatesTest, SayToTheUserThatThereIsNothingNew) {
     EXPECT_THAT(delegate_->told, ElementsAre("will alert"));
     updates().checkForUser();
     EXPECT_THAT(titles(), SizeIs(1));
-    updates().dismiss();
+    session_.user().dismissUpdater();
     EXPECT_THAT(delegate_->told, ElementsAre("will alert", "did alert", "finish"));
     EXPECT_THAT(titles(), IsEmpty());
-    updates().dismiss();
+    session_.user().dismissUpdater();
     EXPECT_THAT(delegate_->told, SizeIs(3));
 }
 
 TEST_F(UpdatesTest, SayNothingOfAScheduledCheckThatFindsNothing) {
     for (const UpdateFeed feed : {UpdateFeed::nothingNew, UpdateFeed::unreachable}) {
-        updates().setFeed(feed);
+        session_.updateSupply().feed = feed;
         start();
-        updates().checkAsScheduled();
+        session_.checkForUpdatesAsScheduled();
         EXPECT_THAT(titles(), IsEmpty());
         session_.advance(1s);
         EXPECT_THAT(titles(), IsEmpty());
@@ -170,7 +170,7 @@ TEST_F(UpdatesTest, SayNothingOfAScheduledCheckThatFindsNothing) {
 }
 
 TEST_F(UpdatesTestWithoutFeed, AreUnreachable) {
-    updates().setFeed(UpdateFeed::newVersion);
+    session_.updateSupply().feed = UpdateFeed::newVersion;
     start();
     updates().checkForUser();
     session_.advance(1s);
@@ -185,16 +185,16 @@ TEST_F(UpdatesTest, TellTheUserWhatTheCheckHasFound) {
         {UpdateFeed::newVersion, "A new version of Kestrune is available!"}};
     start();
     for (const auto& [feed, message] : found) {
-        updates().setFeed(feed);
+        session_.updateSupply().feed = feed;
         updates().checkForUser();
         session_.advance(1s);
         EXPECT_EQ(headline(), message);
-        updates().dismiss();
+        session_.user().dismissUpdater();
     }
 }
 
 TEST_F(UpdatesTest, AnnounceAndShowANewVersion) {
-    updates().setFeed(UpdateFeed::newVersion);
+    session_.updateSupply().feed = UpdateFeed::newVersion;
     start();
     updates().checkForUser();
     session_.advance(1s);
@@ -203,17 +203,17 @@ TEST_F(UpdatesTest, AnnounceAndShowANewVersion) {
     EXPECT_EQ(session_.windows().shown()[0]->className, "NSWindow");
     EXPECT_EQ(session_.windows().keyWindow(), session_.windows().shown()[0]);
     EXPECT_THAT(delegate_->told, ElementsAre("update"));
-    updates().dismiss();
+    session_.user().dismissUpdater();
     EXPECT_THAT(delegate_->told, ElementsAre("update", "finish"));
     EXPECT_THAT(titles(), IsEmpty());
 }
 
 TEST_F(UpdatesTest, AnnounceAgainWhatTheUserAsksForWhileItIsShown) {
-    updates().setFeed(UpdateFeed::newVersion);
+    session_.updateSupply().feed = UpdateFeed::newVersion;
     start();
-    updates().checkAsScheduled();
+    session_.checkForUpdatesAsScheduled();
     session_.advance(1s);
-    updates().checkAsScheduled();
+    session_.checkForUpdatesAsScheduled();
     EXPECT_THAT(delegate_->told, ElementsAre("update"));
     updates().checkForUser();
     EXPECT_THAT(delegate_->told, ElementsAre("update", "update"));
@@ -221,10 +221,10 @@ TEST_F(UpdatesTest, AnnounceAgainWhatTheUserAsksForWhileItIsShown) {
 }
 
 TEST_F(UpdatesTest, MayHaveWindowsOfTheirOwnClasses) {
-    updates().setFeed(UpdateFeed::newVersion);
-    updates().setWindowClass("SPUUpdateWindow");
+    session_.updateSupply().feed = UpdateFeed::newVersion;
+    session_.updateSupply().windowClass = "SPUUpdateWindow";
     start();
-    updates().checkAsScheduled();
+    session_.checkForUpdatesAsScheduled();
     session_.advance(1s);
     EXPECT_EQ(Application::sharedApplication().windows().at(0).className(), "SPUUpdateWindow");
 }
@@ -239,7 +239,7 @@ TEST_F(UpdatesTest, KeepTheMainQueueAndTheTimersWhileTheirAlertIsModal) {
     session_.mainThread().enqueue([&] { done.emplace_back("task"); });
     session_.advance(5s);
     EXPECT_THAT(done, IsEmpty());
-    updates().dismiss();
+    session_.user().dismissUpdater();
     EXPECT_THAT(done, ElementsAre("timer"));
     session_.advance(0s);
     EXPECT_THAT(done, ElementsAre("timer", "task"));
@@ -251,7 +251,7 @@ TEST_F(UpdatesTest, EndWithTheProcess) {
     updates().checkForUser();
     session_.advance(500ms);
     ASSERT_TRUE(updates().isShowingAlert());
-    session_.endApplication();
+    session_.user().endApplication();
     EXPECT_FALSE(updates().isShowingAlert());
     EXPECT_THAT(titles(), IsEmpty());
     bool isDone = false;
@@ -262,12 +262,12 @@ TEST_F(UpdatesTest, EndWithTheProcess) {
 }
 
 TEST_F(UpdatesTest, DoWithoutADelegateThatIsGone) {
-    updates().setFeed(UpdateFeed::newVersion);
+    session_.updateSupply().feed = UpdateFeed::newVersion;
     start();
     delegate_.reset();
     updates().checkForUser();
     session_.advance(1s);
-    updates().dismiss();
+    session_.user().dismissUpdater();
     EXPECT_THAT(titles(), IsEmpty());
 }
 

@@ -123,7 +123,7 @@ TEST_F(WindowsTest, LeaveTheDockWhenTheyAreOrderedOutAndWithTheirProcess) {
     EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
     small.makeKeyAndOrderFront();
     session.windows().miniaturizeByUser(small.state());
-    session.endApplication();
+    session.user().endApplication();
     EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
     EXPECT_FALSE(small.state()->isMiniaturized);
 }
@@ -140,13 +140,13 @@ TEST_F(WindowsTest, AreNotClosedTwice) {
 
 TEST_F(WindowsTest, GoOutOfSightWithTheProcess) {
     show();
-    session.endApplication();
+    session.user().endApplication();
     EXPECT_THAT(session.windows().shown(), IsEmpty());
 }
 
 TEST_F(WindowsTest, OfAProcessThatHasEndedHaveNoEffectOnTheNext) {
     show();
-    session.endApplication();
+    session.user().endApplication();
     Application::sharedApplication();
     session.windows().setActive(true);
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
@@ -158,9 +158,9 @@ TEST_F(WindowsTest, LoseTheKeysToTheSystemAndGetThemBack) {
     window.setDelegate(delegate);
     session.accessibility().askUser();
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
-    session.accessibility().openSettingsFromDialog();
+    session.user().openSettingsFromDialog();
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
-    session.accessibility().closePane();
+    session.user().closePane();
     EXPECT_EQ(session.windows().keyWindow(), window.state());
     EXPECT_THAT(delegate->received(), ElementsAre("windowDidBecomeKey:"));
 }
@@ -168,26 +168,26 @@ TEST_F(WindowsTest, LoseTheKeysToTheSystemAndGetThemBack) {
 TEST_F(WindowsTest, GetTheKeysBackFromADialogThatIsDenied) {
     show();
     session.accessibility().askUser();
-    session.accessibility().denyInDialog();
+    session.user().denyInDialog();
     EXPECT_EQ(session.windows().keyWindow(), window.state());
 }
 
 TEST_F(WindowsTest, WaitForTheLastThingThatTheSystemShows) {
     show();
-    session.accessibility().showPane();
+    session.user().openPane();
     session.accessibility().askUser();
-    session.accessibility().denyInDialog();
+    session.user().denyInDialog();
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
     session.accessibility().askUser();
-    session.accessibility().closePane();
+    session.user().closePane();
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
 }
 
 TEST_F(WindowsTest, OfAnAccessoryDoNotGetTheKeysBackByThemselves) {
     show();
-    session.accessibility().showPane();
+    session.user().openPane();
     Application::sharedApplication().setActivationPolicy(ActivationPolicy::accessory);
-    session.accessibility().closePane();
+    session.user().closePane();
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
 }
 
@@ -260,7 +260,7 @@ TEST_F(WindowsDeathTest, DoNotMakeControllersOfAnUnknownClass) {
 TEST_F(WindowsDeathTest, ForgetTheClassesOfAProcessWithIt) {
     session.windows().registerController("Controller", "Controller.cpp");
     EXPECT_DEATH(session.windows().refuseConstruction("Controller"), "init\\(coder:\\) is not supported");
-    session.endApplication();
+    session.user().endApplication();
     EXPECT_DEATH(session.windows().refuseConstruction("Controller"), "does not know the class");
 }
 

@@ -127,7 +127,7 @@ void requestPermission(Stage& stage) {
 }
 
 void grantPermission(Stage& stage) {
-    stage.desk().session().accessibility().setPermission(sim::Permission::granted);
+    stage.desk().session().user().setPermission(sim::Permission::granted);
     stage.desk().advance(UntilThePermissionIsSeen);
 }
 

@@ -17,12 +17,11 @@ double SystemWindow::titleBarHeight() const {
 
 // The dialog shows on the primary display, the others beside it where there is another.
 SystemWindows::SystemWindows(sim::Session& session) : session_(session) {
-    sim::Accessibility& accessibility = session.accessibility();
     const SystemWindow dialog{.level = WindowLevel::floating,
                               .heightOnDisplay = 0.42,
                               .title =
                                   [&] {
-                                      return accessibility.isDialogShown()
+                                      return session.accessibility().isDialogShown()
                                                  ? std::optional<std::string>("Accessibility Access (Events)")
                                                  : std::nullopt;
                                   },
@@ -30,8 +29,8 @@ SystemWindows::SystemWindows(sim::Session& session) : session_(session) {
                                   [&] {
                                       return permissionDialog(
                                           kestruneAsListed(session),
-                                          [&] { accessibility.openSettingsFromDialog(); },
-                                          [&] { accessibility.denyInDialog(); });
+                                          [&] { session.user().openSettingsFromDialog(); },
+                                          [&] { session.user().denyInDialog(); });
                                   },
                               .close = nullptr};
     const SystemWindow mail{

@@ -65,7 +65,7 @@ protected:
     }
 
     void grant() {
-        session.accessibility().setPermission(sim::Permission::granted);
+        session.user().setPermission(sim::Permission::granted);
         session.advance(std::chrono::milliseconds(1100));
     }
 
@@ -188,7 +188,7 @@ TEST_F(WindowPartsOnTheWizard, DragTheWindowByItsTitleBar) {
 }
 
 TEST_F(WindowPartsOnTheWizard, BringTheWindowForwardWithAClickAndPutItBehindWithOneElsewhere) {
-    session.accessibility().showPane();
+    session.user().openPane();
     EXPECT_THAT(titles(), ElementsAre("Accessibility", "Welcome to Kestrune"));
     click(DeskTarget::ofWindow(wizard().number));
     EXPECT_TRUE(wizard().isKey);
@@ -267,8 +267,8 @@ TEST_F(WindowPartsOnTheWizard, LetGoWhenTheDisplaysChange) {
 TEST_F(WindowPartsOnTheWizard, KeepTheNumberOfAWindow) {
     const std::size_t number = wizard().number;
     click(DeskTarget::closeButton(number));
-    session.menus().open(sim::StatusItemIndex{0});
-    session.menus().choose(0); // "Complete setup…"
+    session.user().openMenu(sim::StatusItemIndex{0});
+    session.user().chooseRow(0); // "Complete setup…"
     session.advance(sim::Duration::zero());
     EXPECT_EQ(wizard().number, number);
     EXPECT_TRUE(wizard().isKey);
