@@ -4,8 +4,10 @@
 #include "platform/AppService.h"
 #include "platform/Menu.h"
 #include "sim/services/System.h"
+#include "ui/Scene.h"
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace kestrune::sim {
@@ -30,6 +32,30 @@ public:
     bool press(std::string_view keyEquivalent, EventModifierFlags modifiers) {
         return system_.menus.press(keyEquivalent, modifiers);
     }
+
+    // Makes another application the active one, or the application again.
+    void switchAway() { system_.windows.setActive(false); }
+    void switchToApplication() { system_.windows.setActive(true); }
+
+    // At the windows: what a click does is told in sim::Windows.
+    void clickWindow(const Windows::WindowState& window) { system_.windows.click(window); }
+    void closeWindow(const Windows::WindowState& window) { system_.windows.closeByUser(window); }
+    void miniaturizeWindow(const Windows::WindowState& window) { system_.windows.miniaturizeByUser(window); }
+    void moveWindow(const Windows::WindowState& window, Point topLeft) {
+        system_.windows.moveTo(window, topLeft);
+    }
+
+    // Presses a button of the hosted view, or flips a switch; elements count from 0 and are those of the
+    // scene. Nothing happens to any other element.
+    void pressButton(const Windows::WindowState& window, std::size_t element);
+    void flipSwitch(const Windows::WindowState& window, std::size_t element);
+
+    // The button of the hosted view that the key stands for; absent when there is none.
+    static std::optional<std::size_t> elementFor(const Window::State& window, ui::KeyboardShortcut shortcut);
+
+    // The same with the keyboard: the button of the key window whose shortcut the key is, Return or Escape.
+    // True when there is one.
+    bool press(ui::KeyboardShortcut shortcut);
 
     // At the system's dialog about the permission: one button leads to the pane, the other only closes the
     // dialog.

@@ -260,7 +260,7 @@ TEST_F(AppEvents, NothingHappensForADayOnceThePermissionIsThereAndNoWindowIsOpen
     session.advance(24h);
     EXPECT_THAT(session.journal().take(), IsEmpty());
     app->openSettingsWindow();
-    session.windows().closeByUser(session.windows().shown().at(0));
+    session.user().closeWindow(session.windows().shown().at(0));
     session.advance(0s);
     session.journal().take();
     session.advance(24h);
@@ -273,7 +273,7 @@ TEST_F(AppEvents, SettingsAreOneControllerForTheWholeProcess) {
     app->openSettingsWindow();
     const auto controller = app->settingsWindowController();
     const auto window = session.windows().shown().at(0);
-    session.windows().closeByUser(window);
+    session.user().closeWindow(window);
     app->openSettingsWindow();
     EXPECT_EQ(app->settingsWindowController(), controller);
     EXPECT_EQ(session.windows().shown().at(0), window);

@@ -184,14 +184,14 @@ TEST_F(AppLaunch, OpensSettingsWhenItIsOpenedAgain) {
 TEST_F(AppLaunch, BringsSettingsOutOfTheDockWhenItIsOpenedAgain) {
     launchAndSettle();
     session.user().reopenApplication();
-    session.windows().miniaturizeByUser(session.windows().shown().at(0));
+    session.user().miniaturizeWindow(session.windows().shown().at(0));
     EXPECT_FALSE(session.user().reopenApplication());
     EXPECT_EQ(session.windows().shown().size(), 1U);
 }
 
 TEST_F(AppLaunchWithoutPermission, OpensTheWizardWhenItIsOpenedAgain) {
     launchAndSettle();
-    session.windows().closeByUser(session.windows().shown().at(0));
+    session.user().closeWindow(session.windows().shown().at(0));
     EXPECT_FALSE(session.user().reopenApplication());
     EXPECT_EQ(session.windows().shown().size(), 1U);
     EXPECT_EQ(app->settingsWindowController(), nullptr);

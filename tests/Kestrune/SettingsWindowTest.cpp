@@ -48,7 +48,7 @@ protected:
 
     void flipSwitch() {
         const auto window = onlyWindow(session);
-        session.windows().flipSwitch(window, ui::placesOf<ui::ToggleElement>(scene()).at(0));
+        session.user().flipSwitch(window, ui::placesOf<ui::ToggleElement>(scene()).at(0));
         settle();
     }
 
@@ -124,7 +124,7 @@ TEST_F(SettingsWindow, IsOneWindowHoweverOftenItIsShown) {
     EXPECT_EQ(onlyWindow(session), window);
     EXPECT_EQ(controller->model(), model);
     EXPECT_TRUE(isSwitchOn());
-    session.windows().closeByUser(window);
+    session.user().closeWindow(window);
     session.user().setLoginItem(AppServiceStatus::requiresApproval);
     controller->show();
     settle();
@@ -135,7 +135,7 @@ TEST_F(SettingsWindow, IsOneWindowHoweverOftenItIsShown) {
 TEST_F(SettingsWindow, ComesBackFromTheDock) {
     makeAndShow();
     const auto window = onlyWindow(session);
-    session.windows().miniaturizeByUser(window);
+    session.user().miniaturizeWindow(window);
     EXPECT_THAT(session.windows().shown(), IsEmpty());
     controller->show();
     settle();
@@ -148,7 +148,7 @@ TEST_F(SettingsWindow, MakesTheApplicationAnAccessoryWhenItCloses) {
     session.application().policy = ActivationPolicy::regular;
     makeAndShow();
     EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
     EXPECT_THAT(session.windows().shown(), IsEmpty());
 }
@@ -182,7 +182,7 @@ TEST_F(SettingsWindow, ChecksForUpdatesInOrder) {
     makeAndShow();
     const Calls observing = callsOf([this] { manager->startWindowObserver(); });
     manager->stopWindowObserver();
-    session.windows().setActive(false); // so that the updater's window becomes key only afterwards
+    session.user().switchAway(); // so that the updater's window becomes key only afterwards
     const Calls checking = callsOf([this] { controller->model()->checkForUpdates(); });
     EXPECT_THAT(checking,
                 ElementsAreArray(inOrder(
@@ -203,7 +203,7 @@ TEST_F(SettingsWindow, ActivatesTheApplicationAlsoWhenTheManagerIsGoneMeanwhile)
     settle();
     manager.reset();
     session.process().objects().clear();
-    session.windows().setActive(false);
+    session.user().switchAway();
     session.advance(300ms);
     EXPECT_TRUE(session.application().isActive);
 }
@@ -231,7 +231,7 @@ TEST_F(SettingsWindow, KeepsItsDockIconWhenAnUpdateIsPutAway) {
     session.user().dismissUpdater();
     session.advance(1s);
     EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
 }
 
@@ -241,7 +241,7 @@ TEST_F(SettingsWindow, LeavesADockIconWhenItIsClosedWhileAnUpdateIsShown) {
     makeAndShow();
     EXPECT_TRUE(press("Check for Updates…"));
     session.advance(1s);
-    session.windows().closeByUser(session.windows().shown().back());
+    session.user().closeWindow(session.windows().shown().back());
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
     session.user().dismissUpdater();
     session.advance(1s);
@@ -249,7 +249,7 @@ TEST_F(SettingsWindow, LeavesADockIconWhenItIsClosedWhileAnUpdateIsShown) {
     EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
     controller->show();
     settle();
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
 }
 
@@ -271,7 +271,7 @@ TEST_F(SettingsWindow, LosesItsDockIconWithAnUpdateThatWasThereBefore) {
 
 TEST_F(SettingsWindowWithoutUpdater, ChangesNothingWhenItShouldCheckForUpdates) {
     makeAndShow();
-    session.windows().setActive(false);
+    session.user().switchAway();
     controller->model()->checkForUpdates();
     session.advance(1s);
     EXPECT_FALSE(session.application().isActive);

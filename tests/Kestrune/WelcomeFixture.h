@@ -28,7 +28,7 @@ inline bool pressButton(sim::Session& session, std::string_view title) {
     }
     const auto place = ui::placeOfButton(sim::Windows::sceneOf(*window), title);
     if (place) {
-        session.windows().pressButton(window, *place);
+        session.user().pressButton(window, *place);
     }
     return place.has_value();
 }

@@ -88,7 +88,7 @@ TEST_F(WelcomeWindow, IsThereAlthoughTheSystemDoesNotActivateTheApplication) {
     makeAndShow();
     EXPECT_NE(onlyWindow(session), nullptr);
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
-    session.windows().click(onlyWindow(session));
+    session.user().clickWindow(onlyWindow(session));
     EXPECT_EQ(session.windows().keyWindow(), onlyWindow(session));
 }
 
@@ -141,8 +141,8 @@ TEST_F(WelcomeWindow, PublishesAtEveryShowAndWheneverItBecomesKey) {
     const auto observation = controller->model()->observe([&] { ++changes; });
     controller->show();
     EXPECT_EQ(changes, 1);
-    session.windows().setActive(false);
-    session.windows().setActive(true);
+    session.user().switchAway();
+    session.user().switchToApplication();
     EXPECT_EQ(changes, 2);
 }
 
@@ -179,7 +179,7 @@ TEST_F(WelcomeWindow, HasDoneEverythingBeforeItTellsThatItHasFinished) {
 
 TEST_F(WelcomeWindow, ClosedEarlyIsNotFinished) {
     makeAndShow();
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
     EXPECT_EQ(session.defaults().find("hasCompletedOnboarding"), nullptr);
     EXPECT_EQ(finishedCalls, 0);
@@ -190,7 +190,7 @@ TEST_F(WelcomeWindow, ClosedEarlyIsNotFinished) {
 TEST_F(WelcomeWindow, CanBeShownAgainAfterItWasClosed) {
     makeAndShow();
     press("Get started");
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     controller->show();
     settle();
     EXPECT_THAT(buttons(), ElementsAre("Finish")); // where it was left

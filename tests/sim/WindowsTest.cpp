@@ -26,7 +26,7 @@ protected:
 
     void show() {
         window.makeKeyAndOrderFront();
-        session.windows().setActive(true);
+        session.user().switchToApplication();
     }
 
     void host(const ui::View& view) {
@@ -50,7 +50,7 @@ TEST_F(WindowsTest, HaveATitleBarAboveTheirContent) {
 }
 
 TEST_F(WindowsTest, AreDraggedByTheirTopLeftCorner) {
-    session.windows().moveTo(window.state(), {100, 50});
+    session.user().moveWindow(window.state(), {100, 50});
     // The display is 1512 by 982: 50 points down, 128 high.
     EXPECT_EQ(state().frame, Rect(100, 804, 300, 128));
 }
@@ -70,14 +70,14 @@ TEST_F(WindowsTest, StayWhereTheyAreWithoutAMainDisplay) {
 TEST_F(WindowsTest, AreKeyOnlyWhileTheApplicationIsActive) {
     window.makeKeyAndOrderFront();
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
-    session.windows().setActive(true);
+    session.user().switchToApplication();
     EXPECT_EQ(session.windows().keyWindow(), window.state());
 }
 
 TEST_F(WindowsTest, AreNotClosedByAUserWithoutAButtonForIt) {
     Window fixed(Rect(0, 0, 300, 100), WindowStyleMask::titled, BackingStoreType::buffered, false);
     fixed.makeKeyAndOrderFront();
-    session.windows().closeByUser(fixed.state());
+    session.user().closeWindow(fixed.state());
     EXPECT_THAT(session.windows().shown(), SizeIs(1));
 }
 
@@ -85,12 +85,12 @@ TEST_F(WindowsTest, GoIntoTheDockAndComeBackWithAClickOnTheirTile) {
     Window small(Rect(0, 0, 300, 100), WindowStyleMask::miniaturizable, BackingStoreType::buffered, false);
     show();
     small.makeKeyAndOrderFront();
-    session.windows().miniaturizeByUser(small.state());
+    session.user().miniaturizeWindow(small.state());
     EXPECT_THAT(session.windows().shown(), ElementsAre(window.state()));
     EXPECT_THAT(session.windows().miniaturized(), ElementsAre(small.state()));
     EXPECT_EQ(session.windows().keyWindow(), window.state());
-    session.windows().setActive(false);
-    session.windows().click(small.state());
+    session.user().switchAway();
+    session.user().clickWindow(small.state());
     EXPECT_THAT(session.windows().shown(), ElementsAre(small.state(), window.state()));
     EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
     EXPECT_EQ(session.windows().keyWindow(), small.state());
@@ -102,15 +102,15 @@ TEST_F(WindowsTest, TellTheNextKeyWindowWhenOneGoesIntoTheDock) {
     Window small(Rect(0, 0, 300, 100), WindowStyleMask::miniaturizable, BackingStoreType::buffered, false);
     small.makeKeyAndOrderFront();
     window.setDelegate(delegate);
-    session.windows().miniaturizeByUser(small.state());
+    session.user().miniaturizeWindow(small.state());
     EXPECT_THAT(delegate->received(), ElementsAre("windowDidBecomeKey:"));
 }
 
 TEST_F(WindowsTest, AreNotMiniaturizedWithoutAButtonForItNorFromOffTheScreen) {
     show();
-    session.windows().miniaturizeByUser(window.state());
+    session.user().miniaturizeWindow(window.state());
     Window hidden(Rect(0, 0, 300, 100), WindowStyleMask::miniaturizable, BackingStoreType::buffered, false);
-    session.windows().miniaturizeByUser(hidden.state());
+    session.user().miniaturizeWindow(hidden.state());
     EXPECT_THAT(session.windows().shown(), SizeIs(1));
     EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
 }
@@ -118,11 +118,11 @@ TEST_F(WindowsTest, AreNotMiniaturizedWithoutAButtonForItNorFromOffTheScreen) {
 TEST_F(WindowsTest, LeaveTheDockWhenTheyAreOrderedOutAndWithTheirProcess) {
     Window small(Rect(0, 0, 300, 100), WindowStyleMask::miniaturizable, BackingStoreType::buffered, false);
     small.makeKeyAndOrderFront();
-    session.windows().miniaturizeByUser(small.state());
+    session.user().miniaturizeWindow(small.state());
     small.orderOut();
     EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
     small.makeKeyAndOrderFront();
-    session.windows().miniaturizeByUser(small.state());
+    session.user().miniaturizeWindow(small.state());
     session.user().endApplication();
     EXPECT_THAT(session.windows().miniaturized(), IsEmpty());
     EXPECT_FALSE(small.state()->isMiniaturized);
@@ -133,8 +133,8 @@ TEST_F(WindowsTest, AreNotClosedTwice) {
     window.setReleasedWhenClosed(false);
     show();
     window.setDelegate(delegate);
-    session.windows().closeByUser(window.state());
-    session.windows().closeByUser(window.state());
+    session.user().closeWindow(window.state());
+    session.user().closeWindow(window.state());
     EXPECT_THAT(delegate->received(), ElementsAre("windowWillClose:"));
 }
 
@@ -148,7 +148,7 @@ TEST_F(WindowsTest, OfAProcessThatHasEndedHaveNoEffectOnTheNext) {
     show();
     session.user().endApplication();
     Application::sharedApplication();
-    session.windows().setActive(true);
+    session.user().switchToApplication();
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
 }
 
@@ -194,18 +194,18 @@ TEST_F(WindowsTest, OfAnAccessoryDoNotGetTheKeysBackByThemselves) {
 TEST_F(WindowsTest, HaveNothingToPressUnlessTheyHostSomething) {
     show();
     EXPECT_THAT(Windows::sceneOf(state()).elements, IsEmpty());
-    session.windows().pressButton(window.state(), 0);
-    EXPECT_FALSE(session.windows().press(ui::KeyboardShortcut::defaultAction));
+    session.user().pressButton(window.state(), 0);
+    EXPECT_FALSE(session.user().press(ui::KeyboardShortcut::defaultAction));
 }
 
 TEST_F(WindowsTest, LetNothingBePressedThatIsNoButton) {
     int pressed = 0;
     host(ui::VStack({}, {ui::VerbatimText("text"), ui::Button("button", [&pressed] { ++pressed; })}));
-    session.windows().pressButton(window.state(), 0);
-    session.windows().flipSwitch(window.state(), 1);
-    session.windows().pressButton(window.state(), 2);
+    session.user().pressButton(window.state(), 0);
+    session.user().flipSwitch(window.state(), 1);
+    session.user().pressButton(window.state(), 2);
     EXPECT_EQ(pressed, 0);
-    session.windows().pressButton(window.state(), 1);
+    session.user().pressButton(window.state(), 1);
     EXPECT_EQ(pressed, 1);
 }
 
@@ -215,8 +215,8 @@ TEST_F(WindowsTest, TakeEscapeForTheButtonThatCancels) {
              ++cancelled;
          }).keyboardShortcut(ui::KeyboardShortcut::cancelAction));
     show();
-    EXPECT_FALSE(session.windows().press(ui::KeyboardShortcut::defaultAction));
-    EXPECT_TRUE(session.windows().press(ui::KeyboardShortcut::cancelAction));
+    EXPECT_FALSE(session.user().press(ui::KeyboardShortcut::defaultAction));
+    EXPECT_TRUE(session.user().press(ui::KeyboardShortcut::cancelAction));
     EXPECT_EQ(cancelled, 1);
 }
 
@@ -248,7 +248,7 @@ using WindowsDeathTest = WindowsTest;
 
 TEST_F(WindowsDeathTest, StopTheProcessThatUsesOneAfterItReleasedItself) {
     show();
-    session.windows().closeByUser(window.state());
+    session.user().closeWindow(window.state());
     EXPECT_DEATH(window.makeKeyAndOrderFront(), "A window is used that its closing has released");
     EXPECT_DEATH(window.orderOut(), "A window is used that its closing has released");
 }

@@ -92,7 +92,7 @@ void drawOff(Stage& stage) {
     stage.desk().releaseButton(std::nullopt);
 }
 
-void putBehind(Stage& stage) { stage.desk().session().windows().setActive(false); }
+void putBehind(Stage& stage) { stage.desk().session().user().switchAway(); }
 
 void bringToFront(Stage& stage) {
     if (const auto window = stage.window()) {

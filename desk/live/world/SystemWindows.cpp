@@ -77,7 +77,7 @@ void SystemWindows::open(SystemWindow& window) const {
     const auto& displays = session_.displays().connected();
     const Rect& display = displays[std::min(window.display, displays.size() - 1)].bounds;
     const Size size = window.state->frame.size;
-    session_.windows().moveTo(
+    session_.user().moveWindow(
         window.state,
         {std::round(display.minX() + (display.width() - size.width) / 2),
          std::max(display.minY() + MenuBarHeight,

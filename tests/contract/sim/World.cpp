@@ -218,9 +218,9 @@ void World::launch(const std::function<void()>& work) { work(); }
 
 void World::catchTermination(const std::function<void()>& work) { work(); }
 
-void World::activateApplication() { state_->session.windows().setActive(true); }
+void World::activateApplication() { state_->session.user().switchToApplication(); }
 
-void World::activateAnotherApplication() { state_->session.windows().setActive(false); }
+void World::activateAnotherApplication() { state_->session.user().switchAway(); }
 
 bool World::reopenApplication() { return state_->session.user().reopenApplication(); }
 
@@ -269,7 +269,7 @@ void World::chooseRow(std::size_t row) { state_->session.user().chooseRow(row); 
 
 void World::pressKey(std::string_view character, EventModifierFlags modifiers) {
     if (!state_->session.user().press(character, modifiers) && character == "\r") {
-        state_->session.windows().press(ui::KeyboardShortcut::defaultAction);
+        state_->session.user().press(ui::KeyboardShortcut::defaultAction);
     }
 }
 
@@ -283,34 +283,30 @@ std::vector<ShownWindow> World::shownWindows() const {
 }
 
 void World::clickTitleBar(std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    windows.click(windows.shown().at(window));
+    state_->session.user().clickWindow(state_->session.windows().shown().at(window));
 }
 
 void World::clickCloseButton(std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    windows.closeByUser(windows.shown().at(window));
+    state_->session.user().closeWindow(state_->session.windows().shown().at(window));
 }
 
 void World::clickMinimizeButton(std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    windows.miniaturizeByUser(windows.shown().at(window));
+    state_->session.user().miniaturizeWindow(state_->session.windows().shown().at(window));
 }
 
 void World::clickButton(std::string_view title, std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    const auto clicked = windows.shown().at(window);
+    const auto clicked = state_->session.windows().shown().at(window);
     const auto place = ui::placeOfButton(sim::Windows::sceneOf(*clicked), title);
     if (!place) {
         fatal("There is no button of that title.");
     }
-    windows.pressButton(clicked, *place);
+    state_->session.user().pressButton(clicked, *place);
 }
 
 void World::clickSwitch(std::size_t index, std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    const auto clicked = windows.shown().at(window);
-    windows.flipSwitch(clicked, ui::placesOf<ui::ToggleElement>(sim::Windows::sceneOf(*clicked)).at(index));
+    const auto clicked = state_->session.windows().shown().at(window);
+    state_->session.user().flipSwitch(
+        clicked, ui::placesOf<ui::ToggleElement>(sim::Windows::sceneOf(*clicked)).at(index));
 }
 
 void World::constructFromArchive(std::string_view className) {

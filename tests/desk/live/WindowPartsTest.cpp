@@ -162,7 +162,7 @@ TEST_F(WindowPartsOnTheWizard, ShowWhenThePointerIsOverTheCloseButton) {
 }
 
 TEST_F(WindowPartsOnTheWizard, CloseAWindowInTheBackgroundWithoutBringingItForward) {
-    session.windows().setActive(false);
+    session.user().switchAway();
     const DeskTarget close = DeskTarget::closeButton(wizard().number);
     parts.press(close);
     EXPECT_FALSE(session.application().isActive);
@@ -301,7 +301,7 @@ TEST(WindowParts, KeepTheIntroductionInFrontOfTheDialog) {
     EXPECT_FALSE(picture.windows[0].isKey);
     EXPECT_EQ(picture.windows[1].title, "Accessibility Access (Events)");
     // A view without controls, or no view, has nothing to go to.
-    session.windows().setActive(true);
+    session.user().switchToApplication();
     parts.press(NavigationKey::tab);
     parts.press(NavigationKey::enter);
     EXPECT_EQ(parts.press(NavigationKey::space), std::nullopt);

@@ -87,7 +87,11 @@ void ShellSession::setActive(bool isActive) {
     if (!isRunning()) {
         return;
     }
-    session_.windows().setActive(isActive);
+    if (isActive) {
+        session_.user().switchToApplication();
+    } else {
+        session_.user().switchAway();
+    }
     model_.setActive(isActive);
     check();
 }
