@@ -3,7 +3,7 @@
 #include "Kestrune/KestruneApp.h"
 #include "benchmarks/CountArgument.h"
 #include "benchmarks/Quantile.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/StatusItemState.h"
 #include "sim/session/Session.h"
 
 #include <chrono>

@@ -1,9 +1,9 @@
 #include "platform/StatusBar.h"
 
-#include "sim/seam/MenuState.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/seam/StatusItemState.h"
 #include "sim/services/Current.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 #include "sim/services/StatusItems.h"
 
 namespace kestrune {

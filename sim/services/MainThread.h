@@ -3,7 +3,7 @@
 // Source: docs/MAC_FACTS.md, "The main thread".
 #pragma once
 
-#include "sim/session/VirtualClock.h"
+#include "sim/hardware/VirtualClock.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,11 +1,11 @@
 #include "sim/services/Updates.h"
 
-#include "sim/seam/HostedView.h"
-#include "sim/seam/WindowState.h"
-#include "sim/services/BundleContents.h"
+#include "sim/formats/BundleContents.h"
+#include "sim/services/HostedView.h"
 #include "sim/services/Journal.h"
 #include "sim/services/MainThread.h"
 #include "sim/services/UpdateSupply.h"
+#include "sim/services/WindowState.h"
 #include "sim/services/Windows.h"
 
 #include <utility>

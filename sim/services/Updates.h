@@ -8,7 +8,7 @@
 
 #include "platform/Updater.h"
 #include "platform/Window.h"
-#include "sim/session/VirtualClock.h"
+#include "sim/hardware/VirtualClock.h"
 #include "ui/View.h"
 
 #include <cstdint>

@@ -2,12 +2,12 @@
 
 #include "base/Fatal.h"
 #include "platform/NotificationCenter.h"
-#include "sim/seam/HostedView.h"
-#include "sim/seam/WindowState.h"
+#include "sim/hardware/Displays.h"
 #include "sim/services/ApplicationState.h"
+#include "sim/services/HostedView.h"
 #include "sim/services/Journal.h"
 #include "sim/services/Observers.h"
-#include "sim/session/Displays.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 

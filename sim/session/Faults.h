@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/Event.h"
-#include "sim/services/System.h"
+#include "sim/session/System.h"
 
 #include <functional>
 #include <optional>

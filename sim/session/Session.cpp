@@ -2,7 +2,7 @@
 
 #include "base/Fatal.h"
 #include "platform/NotificationCenter.h"
-#include "sim/session/PointerConfinement.h"
+#include "sim/hardware/PointerConfinement.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,13 +1,13 @@
 // A simulated Mac session as whoever drives it has it: the hardware, the user, time and faults.
 //
-// What the application meets is sim/services/System.h.
+// What the application meets is owned by sim/session/System.h.
 #pragma once
 
 #include "platform/Event.h"
 #include "sim/services/Current.h"
-#include "sim/services/System.h"
 #include "sim/session/Faults.h"
 #include "sim/session/SessionOptions.h"
+#include "sim/session/System.h"
 #include "sim/session/User.h"
 
 #include <cstdint>
@@ -38,24 +38,26 @@ public:
     // The session that exists; stops the process when there is none.
     static Session& current() { return sim::current<Session>(); }
 
-    // Who does something at the session, besides the hardware and time below.
+    // Who acts at the session, besides the hardware and time below.
     User& user() { return user_; }
     Faults& faults() { return faults_; }
 
-    // What the application meets.
-    Journal& journal() { return system_.journal; }
-    VirtualClock& clock() { return system_.clock; }
-    Accessibility& accessibility() { return system_.accessibility; }
+    // The hardware, and where updates come from.
     Displays& displays() { return system_.displays; }
+    Dock& dock() { return system_.dock; }
+    VirtualClock& clock() { return system_.clock; }
+    UpdateSupply& updateSupply() { return system_.updateSupply; }
+
+    // What the application meets, for whoever looks at what became of it.
+    Journal& journal() { return system_.journal; }
+    Accessibility& accessibility() { return system_.accessibility; }
     DefaultsDomain& defaults() { return system_.defaults; }
     TapChain& taps() { return system_.taps; }
     RunLoopSources& sources() { return system_.sources; }
-    Dock& dock() { return system_.dock; }
     const BundleContents& bundle() const { return system_.bundle; }
     const Surroundings& surroundings() const { return system_.surroundings; }
     LoginItem& loginItem() { return system_.loginItem; }
     Updates& updates() { return system_.updates; }
-    UpdateSupply& updateSupply() { return system_.updateSupply; }
     ApplicationState& application() { return system_.application; }
     Process& process() { return system_.process; }
     MainThread& mainThread() { return system_.mainThread; }

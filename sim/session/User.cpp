@@ -1,7 +1,7 @@
 #include "sim/session/User.h"
 
-#include "sim/seam/HostedView.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/HostedView.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 

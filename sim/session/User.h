@@ -3,7 +3,7 @@
 
 #include "platform/AppService.h"
 #include "platform/Menu.h"
-#include "sim/services/System.h"
+#include "sim/session/System.h"
 #include "ui/Scene.h"
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 #include "Kestrune/MainMenu.h"
 
-#include "sim/seam/MenuState.h"
+#include "sim/services/MenuState.h"
 #include "tests/Kestrune/AppFixture.h"
 
 namespace kestrune {

@@ -1,6 +1,6 @@
 #include "Kestrune/AccessibilityPane.h"
-#include "sim/seam/MenuState.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 
 namespace kestrune {

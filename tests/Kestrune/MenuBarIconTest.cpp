@@ -1,4 +1,4 @@
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 
 namespace kestrune {

@@ -4,7 +4,7 @@
 #include "Kestrune/SettingsView.h"
 #include "Kestrune/SettingsWindowController.h"
 #include "Kestrune/UpdaterManager.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/Kestrune/SettingsFixture.h"
 #include "tests/Kestrune/WelcomeFixture.h"
 

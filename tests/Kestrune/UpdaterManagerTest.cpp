@@ -1,6 +1,6 @@
 #include "Kestrune/UpdaterManager.h"
 
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/Kestrune/SettingsFixture.h"
 
 namespace kestrune {

@@ -3,7 +3,7 @@
 
 #include "Kestrune/WelcomeWindowController.h"
 #include "platform/Application.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/Kestrune/ShellCalls.h"
 #include "tests/ui/SceneParts.h"
 

@@ -2,7 +2,7 @@
 
 #include "desk/live/world/PinnedDisplay.h"
 #include "sim/formats/DefaultsFile.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "desk/live/world/ScreenParts.h"
 
 #include "desk/live/world/OtherApplication.h"
-#include "sim/seam/MenuState.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 
 #include <utility>
 #include <variant>

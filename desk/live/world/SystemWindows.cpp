@@ -3,8 +3,8 @@
 #include "desk/live/world/OtherApplication.h"
 #include "desk/live/world/SystemViews.h"
 #include "desk/paint/mac/Measures.h"
-#include "sim/seam/HostedView.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/HostedView.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,7 +4,7 @@
 #include "desk/paint/mac/ApplicationIcon.h"
 #include "desk/paint/mac/ControlPainter.h"
 #include "desk/paint/mac/Measures.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 #include <utility>

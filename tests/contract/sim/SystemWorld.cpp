@@ -1,5 +1,5 @@
 // What surrounds the application beside displays, menus and windows: login items, the system, frameworks.
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "sim/session/Session.h"
 #include "tests/contract/World.h"
 

@@ -1,8 +1,8 @@
 #include "tests/contract/World.h"
 
 #include "base/Fatal.h"
-#include "sim/seam/StatusItemState.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/StatusItemState.h"
+#include "sim/services/WindowState.h"
 #include "sim/session/Session.h"
 #include "tests/ui/SceneParts.h"
 

@@ -1,7 +1,7 @@
 #include "desk/live/world/OpenDesk.h"
 
 #include "sim/formats/DefaultsFile.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/StatusItemState.h"
 #include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/live/LiveFixture.h"

@@ -3,7 +3,7 @@
 #include "desk/live/world/ScreenParts.h"
 #include "desk/paint/toolkit/PangoMeasurer.h"
 #include "replay/ApplicationHost.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/desk/live/WindowTitles.h"
 
 #include <gmock/gmock.h>

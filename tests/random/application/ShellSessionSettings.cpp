@@ -1,6 +1,6 @@
 // Settings, the login item and updates.
 #include "platform/NotificationCenter.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/random/application/ShellSession.h"
 #include "tests/ui/SceneParts.h"
 

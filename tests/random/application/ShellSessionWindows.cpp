@@ -1,5 +1,5 @@
 // The application's windows: which there are, in which order, and which of them has the keys.
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/random/application/ShellSession.h"
 #include "tests/ui/SceneParts.h"
 

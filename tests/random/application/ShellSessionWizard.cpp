@@ -1,5 +1,5 @@
 // The wizard, and the user at what the system shows beside it.
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/random/application/ShellSession.h"
 #include "tests/ui/SceneParts.h"
 
