@@ -2,7 +2,7 @@
 
 #include "base/Geometry.h"
 #include "replay/StoredChoices.h"
-#include "sim/session/Display.h"
+#include "sim/hardware/Display.h"
 
 #include <optional>
 #include <utility>

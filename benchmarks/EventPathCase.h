@@ -5,7 +5,7 @@
 #include "Kestrune/Preferences.h"
 #include "benchmarks/EventPathFloor.h"
 #include "platform/UserDefaults.h"
-#include "sim/session/PointerEvent.h"
+#include "sim/hardware/PointerEvent.h"
 #include "sim/session/Session.h"
 
 #include <array>

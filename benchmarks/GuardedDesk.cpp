@@ -4,7 +4,7 @@
 #include "base/Fatal.h"
 #include "platform/UserDefaults.h"
 #include "replay/StoredChoices.h"
-#include "sim/session/Display.h"
+#include "sim/hardware/Display.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include "Kestrune/KestruneApp.h"
 #include "benchmarks/CountArgument.h"
 #include "benchmarks/Quantile.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/StatusItemState.h"
 #include "sim/session/Session.h"
 
 #include <chrono>
@@ -35,7 +35,7 @@ std::optional<double> launchTime() {
     const double time = Microseconds(Clock::now() - start).count();
     const auto items = session.statusItems().shown();
     const bool hasMenu = items.size() == 1 && items.front()->menu.has_value();
-    session.endApplication();
+    session.user().endApplication();
     return hasMenu ? std::optional(time) : std::nullopt;
 }
 

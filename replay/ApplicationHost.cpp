@@ -25,7 +25,7 @@ std::optional<std::size_t> firstDisplayRow(const std::vector<sim::MenuRow>& rows
 
 ApplicationHost::ApplicationHost(sim::Session& session) : session_(session) { launch(); }
 
-ApplicationHost::~ApplicationHost() { session_.endApplication(); }
+ApplicationHost::~ApplicationHost() { session_.user().endApplication(); }
 
 void ApplicationHost::launch() {
     if (!app_) {
@@ -42,8 +42,8 @@ void ApplicationHost::noticeEnd() {
 
 // A menu shows what it was built for before it was opened, and is built again when it opens.
 bool ApplicationHost::openFreshMenu() {
-    session_.menus().open(Kestrune);
-    return session_.menus().open(Kestrune);
+    session_.user().openMenu(Kestrune);
+    return session_.user().openMenu(Kestrune);
 }
 
 bool ApplicationHost::chooseDisplay(DisplayID number) {
@@ -57,8 +57,8 @@ bool ApplicationHost::chooseDisplay(DisplayID number) {
     const auto firstRow = firstDisplayRow(session_.menus().rows());
     const bool isChosen =
         display != displays.end() && firstRow &&
-        session_.menus().choose(*firstRow + static_cast<std::size_t>(display - displays.begin()));
-    session_.menus().close();
+        session_.user().chooseRow(*firstRow + static_cast<std::size_t>(display - displays.begin()));
+    session_.user().closeMenu();
     return isChosen;
 }
 
@@ -92,8 +92,8 @@ bool ApplicationHost::choose(const std::string& title) {
     const auto row = std::find_if(rows.begin(), rows.end(),
                                   [&](const sim::MenuRow& candidate) { return candidate.title == title; });
     const bool isChosen =
-        row != rows.end() && session_.menus().choose(static_cast<std::size_t>(row - rows.begin()));
-    session_.menus().close();
+        row != rows.end() && session_.user().chooseRow(static_cast<std::size_t>(row - rows.begin()));
+    session_.user().closeMenu();
     return isChosen;
 }
 

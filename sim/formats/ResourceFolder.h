@@ -1,7 +1,7 @@
 // The contents of a bundle from the folder that its resources are kept in.
 #pragma once
 
-#include "sim/services/BundleContents.h"
+#include "sim/formats/BundleContents.h"
 
 #include <string>
 #include <variant>

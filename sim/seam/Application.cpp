@@ -1,10 +1,10 @@
 #include "platform/Application.h"
 
-#include "sim/seam/MenuState.h"
 #include "sim/seam/RecordCall.h"
 #include "sim/services/ApplicationState.h"
 #include "sim/services/Current.h"
 #include "sim/services/MainThread.h"
+#include "sim/services/MenuState.h"
 #include "sim/services/Process.h"
 #include "sim/services/Windows.h"
 

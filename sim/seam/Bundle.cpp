@@ -1,7 +1,7 @@
 #include "platform/Bundle.h"
 
+#include "sim/formats/BundleContents.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/services/BundleContents.h"
 #include "sim/services/Current.h"
 
 namespace kestrune {

@@ -1,9 +1,9 @@
 #include "platform/DisplayUUID.h"
 
-#include "sim/seam/LiveObject.h"
+#include "sim/hardware/Displays.h"
 #include "sim/seam/RecordCall.h"
 #include "sim/services/Current.h"
-#include "sim/session/Displays.h"
+#include "sim/services/LiveObject.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "platform/Event.h"
 
+#include "sim/hardware/PointerEvent.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/session/PointerEvent.h"
 
 namespace kestrune {
 

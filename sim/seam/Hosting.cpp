@@ -1,7 +1,7 @@
 #include "platform/Hosting.h"
 
-#include "sim/seam/HostedView.h"
 #include "sim/seam/RecordCall.h"
+#include "sim/services/HostedView.h"
 
 #include <utility>
 

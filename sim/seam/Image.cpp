@@ -1,9 +1,9 @@
 #include "platform/Image.h"
 
+#include "sim/formats/BundleContents.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/seam/StatusItemState.h"
-#include "sim/services/BundleContents.h"
 #include "sim/services/Current.h"
+#include "sim/services/StatusItemState.h"
 #include "sim/services/StatusItems.h"
 
 #include <utility>

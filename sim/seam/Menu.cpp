@@ -1,7 +1,7 @@
 #include "platform/Menu.h"
 
-#include "sim/seam/MenuState.h"
 #include "sim/seam/RecordCall.h"
+#include "sim/services/MenuState.h"
 
 #include <utility>
 

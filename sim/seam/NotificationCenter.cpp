@@ -1,8 +1,8 @@
 #include "platform/NotificationCenter.h"
 
-#include "sim/seam/NotificationState.h"
 #include "sim/seam/RecordCall.h"
 #include "sim/services/Current.h"
+#include "sim/services/NotificationState.h"
 #include "sim/services/Observers.h"
 
 #include <utility>

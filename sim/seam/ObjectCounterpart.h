@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/Object.h"
-#include "sim/seam/LiveObject.h"
+#include "sim/services/LiveObject.h"
 
 namespace kestrune {
 

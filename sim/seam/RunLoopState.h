@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/RunLoop.h"
-#include "sim/seam/LiveObject.h"
+#include "sim/services/LiveObject.h"
 #include "sim/services/Tap.h"
 
 #include <memory>

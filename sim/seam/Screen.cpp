@@ -1,8 +1,8 @@
 #include "platform/Screen.h"
 
+#include "sim/hardware/Displays.h"
 #include "sim/seam/RecordCall.h"
 #include "sim/services/Current.h"
-#include "sim/session/Displays.h"
 
 #include <utility>
 

@@ -1,9 +1,9 @@
 #include "platform/StatusBar.h"
 
-#include "sim/seam/MenuState.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/seam/StatusItemState.h"
 #include "sim/services/Current.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 #include "sim/services/StatusItems.h"
 
 namespace kestrune {
@@ -43,7 +43,7 @@ StatusItem StatusBar::statusItem(double length) {
     sim::recordCall("-[NSStatusBar statusItemWithLength:] ", length);
     auto state = std::make_shared<StatusItem::State>();
     state->length = length;
-    if (!sim::current<sim::StatusItems>().withholdsButtons()) {
+    if (sim::current<sim::StatusItems>().givesButtons()) {
         state->button = std::make_shared<StatusBarButton::State>();
     }
     sim::current<sim::StatusItems>().add(state);

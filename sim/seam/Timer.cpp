@@ -1,8 +1,8 @@
 #include "platform/Timer.h"
 
 #include "sim/seam/RecordCall.h"
-#include "sim/seam/TimerState.h"
 #include "sim/services/Current.h"
+#include "sim/services/TimerState.h"
 #include "sim/services/Timers.h"
 
 #include <chrono>

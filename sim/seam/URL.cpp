@@ -9,7 +9,7 @@ namespace kestrune {
 
 std::optional<URL> URL::withString(std::string_view text) {
     sim::recordCall("+[NSURL URLWithString:] ", text);
-    if (text.empty() || sim::current<sim::Links>().refusesMaking()) {
+    if (text.empty() || !sim::current<sim::Links>().allowsMaking()) {
         return std::nullopt;
     }
     return URL(std::make_shared<const State>(State{std::string(text)}));

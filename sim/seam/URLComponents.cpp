@@ -59,7 +59,7 @@ void URLComponents::setQueryItems(std::span<const URLQueryItem> items) {
 std::optional<URL> URLComponents::url() const {
     sim::recordCall("-[NSURLComponents URL]");
     // Two slashes would begin a host.
-    if (sim::current<sim::Links>().refusesMaking() || state_->path.starts_with("//")) {
+    if (!sim::current<sim::Links>().allowsMaking() || state_->path.starts_with("//")) {
         return std::nullopt;
     }
     const std::string scheme = state_->scheme.empty() ? "" : state_->scheme + ":";

@@ -1,9 +1,9 @@
 #include "platform/Updater.h"
 
-#include "sim/seam/LiveObject.h"
 #include "sim/seam/RecordCall.h"
 #include "sim/services/Current.h"
 #include "sim/services/DefaultsDomain.h"
+#include "sim/services/LiveObject.h"
 #include "sim/services/Updates.h"
 
 namespace kestrune {

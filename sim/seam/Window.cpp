@@ -1,9 +1,9 @@
 #include "platform/Window.h"
 
-#include "sim/seam/HostedView.h"
 #include "sim/seam/RecordCall.h"
-#include "sim/seam/WindowState.h"
 #include "sim/services/Current.h"
+#include "sim/services/HostedView.h"
+#include "sim/services/WindowState.h"
 #include "sim/services/Windows.h"
 
 namespace kestrune {
@@ -15,16 +15,6 @@ std::string_view nameOf(WindowLevel level) {
 }
 
 } // namespace
-
-Rect Window::State::contentRect() const {
-    return {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height - titleBarHeight()};
-}
-
-void Window::State::setContentSize(Size size) {
-    const double top = frame.maxY();
-    frame.size = {size.width, size.height + titleBarHeight()};
-    frame.origin.y = top - frame.size.height;
-}
 
 Window::Window(const Rect& contentRect, WindowStyleMask styleMask, BackingStoreType backing, bool defer)
     : state_(std::make_shared<State>()) {

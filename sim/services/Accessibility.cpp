@@ -3,7 +3,8 @@
 namespace kestrune::sim {
 
 bool Accessibility::readsAsTrusted() const {
-    return !isTrustDelayed_ && (permission_ == Permission::granted || permission_ == Permission::rowDeleted);
+    return !faults_.delaysTrust &&
+           (permission_ == Permission::granted || permission_ == Permission::rowDeleted);
 }
 
 void Accessibility::listApplication() {
@@ -18,13 +19,9 @@ void Accessibility::askUser() {
     tell(true);
 }
 
-void Accessibility::openSettingsFromDialog() {
+void Accessibility::answerDialog(DialogAnswer answer) {
     isDialogShown_ = false;
-    showPane();
-}
-
-void Accessibility::denyInDialog() {
-    isDialogShown_ = false;
+    isPaneShown_ = isPaneShown_ || answer == DialogAnswer::openSettings;
     tell(isPaneShown_);
 }
 
@@ -50,20 +47,6 @@ bool Accessibility::isListed() const {
 
 bool Accessibility::isSwitchedOn() const {
     return permission_ == Permission::granted || permission_ == Permission::stale;
-}
-
-void Accessibility::flipSwitch() {
-    if (permission_ == Permission::switchedOff) {
-        permission_ = Permission::granted;
-    } else if (permission_ == Permission::granted) {
-        permission_ = Permission::switchedOff;
-    }
-}
-
-void Accessibility::removeRow() {
-    if (isListed()) {
-        permission_ = permission_ == Permission::granted ? Permission::rowDeleted : Permission::notListed;
-    }
 }
 
 void Accessibility::processEnded() {

@@ -3,6 +3,8 @@
 // Source: docs/MAC_FACTS.md, "Accessibility trust".
 #pragma once
 
+#include "sim/services/StandingFaults.h"
+
 #include <functional>
 #include <string_view>
 #include <utility>
@@ -17,22 +19,22 @@ enum class Permission {
     stale,      // the switch is on for an older build: not trusted, taps are refused
 };
 
+// What the user may do at the dialog.
+enum class DialogAnswer { openSettings, deny };
+
 class Accessibility {
 public:
     // Where System Settings shows the pane.
     static constexpr std::string_view PaneAddress =
         "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
 
-    // `systemInFront` is called when the system's dialog or its settings have come to the front (true), and
-    // when the user has put them away (false).
-    explicit Accessibility(Permission permission, std::function<void(bool isInFront)> systemInFront = {})
-        : permission_(permission), systemInFront_(std::move(systemInFront)) {}
+    // `faults` must outlive this. `systemInFront` is called when the system's dialog or its settings have
+    // come to the front (true), and when the user has put them away (false).
+    Accessibility(Permission permission, const StandingFaults& faults,
+                  std::function<void(bool isInFront)> systemInFront = {})
+        : permission_(permission), faults_(faults), systemInFront_(std::move(systemInFront)) {}
 
     Permission permission() const { return permission_; }
-    void setPermission(Permission permission) { permission_ = permission; }
-
-    // Fault: a grant is in force, but the process does not read as trusted yet.
-    void delayTrust(bool delay) { isTrustDelayed_ = delay; }
 
     // What AXIsProcessTrusted answers.
     bool readsAsTrusted() const;
@@ -40,9 +42,8 @@ public:
     // Whether active taps of the application are waited for in good order.
     bool allowsActiveTaps() const { return permission_ == Permission::granted; }
 
-    // Fault: CGEventTapCreate refuses although the permission is there.
-    void refuseTapCreation(bool refuse) { refusesTapCreation_ = refuse; }
-    bool allowsTapCreation() const { return !refusesTapCreation_ && allowsActiveTaps(); }
+    // Whether CGEventTapCreate makes one.
+    bool allowsTapCreation() const { return !faults_.refusesTapCreation && allowsActiveTaps(); }
 
     // The application asked for something that needs the permission: it gets a row, switched off.
     void listApplication();
@@ -50,21 +51,20 @@ public:
     // The same, and the system's own dialog tells the user.
     void askUser();
 
-    // The system's dialog: one button leads to the pane, the other only closes the dialog.
-    bool isDialogShown() const { return isDialogShown_; }
-    void openSettingsFromDialog();
-    void denyInDialog();
-
-    // System Settings with the pane. The row, while there is one, has a switch, and can be removed.
-    bool isPaneShown() const { return isPaneShown_; }
+    // System Settings shows the pane.
     void showPane();
-    void closePane();
+
+    // What the user sees: the system's dialog, and System Settings with the pane. The row, while there is
+    // one, has a switch.
+    bool isDialogShown() const { return isDialogShown_; }
+    bool isPaneShown() const { return isPaneShown_; }
     bool isListed() const;
     bool isSwitchedOn() const;
 
-    // A switch that is on for an older build has no effect; only removing the row helps.
-    void flipSwitch();
-    void removeRow();
+    // Where the user's actions arrive: an answer to the dialog, the pane put away, another state of the row.
+    void answerDialog(DialogAnswer answer);
+    void closePane();
+    void setPermission(Permission permission) { permission_ = permission; }
 
     // The application's process has ended; only that process still read as trusted after its row was removed.
     void processEnded();
@@ -73,9 +73,8 @@ private:
     void tell(bool isInFront) const;
 
     Permission permission_;
+    const StandingFaults& faults_;
     std::function<void(bool isInFront)> systemInFront_;
-    bool isTrustDelayed_ = false;
-    bool refusesTapCreation_ = false;
     bool isDialogShown_ = false;
     bool isPaneShown_ = false;
 };

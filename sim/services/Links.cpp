@@ -5,7 +5,7 @@
 namespace kestrune::sim {
 
 bool Links::open(const std::string& text) {
-    if (refusesOpening_) {
+    if (faults_.refusesOpeningURLs) {
         return false;
     }
     opened_.push_back(text);

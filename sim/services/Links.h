@@ -3,6 +3,8 @@
 // Source: docs/MAC_FACTS.md, "URLs".
 #pragma once
 
+#include "sim/services/StandingFaults.h"
+
 #include <string>
 #include <vector>
 
@@ -12,8 +14,12 @@ class Accessibility;
 
 class Links {
 public:
-    // `accessibility` must outlive this: one address leads to its pane.
-    explicit Links(Accessibility& accessibility) : accessibility_(accessibility) {}
+    // Both must outlive this. One address leads to the pane of `accessibility`.
+    Links(Accessibility& accessibility, const StandingFaults& faults)
+        : accessibility_(accessibility), faults_(faults) {}
+
+    // Whether a text is a URL at all.
+    bool allowsMaking() const { return !faults_.refusesURLs; }
 
     // Whether somebody opens it.
     bool open(const std::string& text);
@@ -21,18 +27,10 @@ public:
     // The URLs that were opened, in order.
     const std::vector<std::string>& opened() const { return opened_; }
 
-    // Fault: no application is responsible for any URL.
-    void refuseOpening(bool refuse) { refusesOpening_ = refuse; }
-
-    // Fault: no text is a URL.
-    void refuseMaking(bool refuse) { refusesMaking_ = refuse; }
-    bool refusesMaking() const { return refusesMaking_; }
-
 private:
     Accessibility& accessibility_;
+    const StandingFaults& faults_;
     std::vector<std::string> opened_;
-    bool refusesOpening_ = false;
-    bool refusesMaking_ = false;
 };
 
 } // namespace kestrune::sim

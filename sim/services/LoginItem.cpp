@@ -16,8 +16,8 @@ bool LoginItem::isRegistered() const {
 }
 
 std::optional<Error> LoginItem::answer(AppServiceStatus granted) {
-    if (refusal_) {
-        return Error{*refusal_};
+    if (faults_.loginItemRefusal) {
+        return Error{*faults_.loginItemRefusal};
     }
     status_ = granted;
     return std::nullopt;

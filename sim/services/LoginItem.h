@@ -4,36 +4,35 @@
 #pragma once
 
 #include "platform/AppService.h"
+#include "sim/services/StandingFaults.h"
 
 #include <optional>
-#include <string>
 
 namespace kestrune::sim {
 
 class LoginItem {
 public:
+    // `faults` must outlive this.
+    explicit LoginItem(const StandingFaults& faults) : faults_(faults) {}
+
     AppServiceStatus status() const { return status_; }
-
-    // The user allows the item, or revokes it; or nothing is known of it.
-    void setStatus(AppServiceStatus status) { status_ = status; }
-
-    // Whoever registers anew waits for the user's approval.
-    void requireApproval(bool require) { requiresApproval_ = require; }
-
-    // Fault: the system refuses to register and to unregister, with that description; absent: it does not.
-    void refuse(std::optional<std::string> description) { refusal_ = std::move(description); }
 
     // What the application asks for. An item that is registered already stays as the user has it.
     std::optional<Error> registerItem();
     std::optional<Error> unregisterItem();
 
+    // Where the user's actions arrive: another state of the item, and whether whoever registers anew waits
+    // for approval.
+    void setStatus(AppServiceStatus status) { status_ = status; }
+    void requireApproval(bool require) { requiresApproval_ = require; }
+
 private:
     bool isRegistered() const;
     std::optional<Error> answer(AppServiceStatus granted);
 
+    const StandingFaults& faults_;
     AppServiceStatus status_ = AppServiceStatus::notRegistered;
     bool requiresApproval_ = false;
-    std::optional<std::string> refusal_;
 };
 
 } // namespace kestrune::sim

@@ -3,7 +3,7 @@
 // Source: docs/MAC_FACTS.md, "The main thread".
 #pragma once
 
-#include "sim/session/VirtualClock.h"
+#include "sim/hardware/VirtualClock.h"
 
 #include <cstdint>
 #include <functional>
@@ -27,12 +27,12 @@ public:
     void beginModalAlert();
     void endModalAlert();
 
-    // Fault: the thread is busy for that long. Nothing runs on it before.
+    // The thread is busy for that long. Nothing runs on it before.
     void stall(Duration duration);
     Duration freeAt() const { return freeAt_; }
     bool isFree() const { return clock_.now() >= freeAt_; }
 
-    // Fault: what `work` makes the application do happens on another thread.
+    // What `work` makes the application do happens on another thread.
     void workElsewhere(const std::function<void()>& work);
 
     // Whether the application runs on it.

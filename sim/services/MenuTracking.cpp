@@ -1,10 +1,10 @@
 #include "sim/services/MenuTracking.h"
 
-#include "sim/seam/MenuState.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/formats/BundleContents.h"
 #include "sim/services/ApplicationState.h"
-#include "sim/services/BundleContents.h"
 #include "sim/services/Journal.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 #include "sim/services/StatusItems.h"
 #include "sim/services/Timers.h"
 

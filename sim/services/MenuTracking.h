@@ -1,4 +1,4 @@
-// The user at the menus: one menu at a time is open, and its items are chosen by hand or by key.
+// The menus while they are tracked: one at a time is open, and its items are chosen by hand or by key.
 //
 // Source: docs/MAC_FACTS.md, "Menus".
 #pragma once
@@ -54,15 +54,17 @@ public:
           timers_(timers),
           journal_(journal) {}
 
-    // The user opens the menu there; one that is open closes before. Tells the menu's delegate. The menu that
-    // shows is the one that was there when it was opened. False when there is none.
-    bool open(const MenuPlace& place);
-
-    // Where the open menu hangs; absent while none is open.
+    // What the user sees: where the open menu hangs, absent while none is open; its rows from the top, none
+    // while none is open; the titles in the menu bar while the application is regular and active, of which
+    // its own name is the first.
     const std::optional<MenuPlace>& place() const { return place_; }
-
-    // Of the open menu, from the top; empty while none is open.
     std::vector<MenuRow> rows() const;
+    std::vector<std::string> mainMenuTitles() const;
+
+    // Where the user's actions arrive, the four below. The menu there opens; one that is open closes before.
+    // Tells the menu's delegate. The menu that shows is the one that was there when it was opened. False when
+    // there is none.
+    bool open(const MenuPlace& place);
 
     // Closes the menu and sends the action of the row; does nothing for a separator and a disabled row. True
     // when an action reached somebody.
@@ -70,9 +72,6 @@ public:
 
     // Without choosing anything.
     void close();
-
-    // The titles in the menu bar while the application is regular and active; its own name is the first.
-    std::vector<std::string> mainMenuTitles() const;
 
     // Command and the like with a character: an item of the open menu, or of the main menu when none is open
     // and the application is active, is chosen. True when an action reached somebody.

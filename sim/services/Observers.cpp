@@ -1,6 +1,6 @@
 #include "sim/services/Observers.h"
 
-#include "sim/seam/NotificationState.h"
+#include "sim/services/NotificationState.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,8 +3,8 @@
 // Source: docs/MAC_FACTS.md, "The process".
 #pragma once
 
+#include "sim/formats/BundleContents.h"
 #include "sim/services/ApplicationState.h"
-#include "sim/services/BundleContents.h"
 
 #include <functional>
 #include <map>

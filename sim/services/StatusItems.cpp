@@ -1,6 +1,6 @@
 #include "sim/services/StatusItems.h"
 
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/StatusItemState.h"
 
 namespace kestrune::sim {
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/StatusBar.h"
+#include "sim/services/StandingFaults.h"
 
 #include <map>
 #include <memory>
@@ -13,14 +14,16 @@ namespace kestrune::sim {
 
 class StatusItems {
 public:
+    // `faults` must outlive this.
+    explicit StatusItems(const StandingFaults& faults) : faults_(faults) {}
+
     void add(const std::shared_ptr<StatusItem::State>& item) { items_.push_back(item); }
 
     // From the first to the latest. An item leaves the bar with the last reference to it.
     std::vector<std::shared_ptr<StatusItem::State>> shown() const;
 
-    // Fault: the system makes status items without a button.
-    void withholdButtons(bool withhold) { withholdsButtons_ = withhold; }
-    bool withholdsButtons() const { return withholdsButtons_; }
+    // Whether a new one has a button.
+    bool givesButtons() const { return !faults_.withholdsStatusButtons; }
 
     // The images that `imageNamed:` has found, which it gives again.
     std::map<std::string, std::shared_ptr<Image::State>, std::less<>>& namedImages() { return namedImages_; }
@@ -29,9 +32,9 @@ public:
     void clear();
 
 private:
+    const StandingFaults& faults_;
     std::vector<std::weak_ptr<StatusItem::State>> items_;
     std::map<std::string, std::shared_ptr<Image::State>, std::less<>> namedImages_;
-    bool withholdsButtons_ = false;
 };
 
 } // namespace kestrune::sim

@@ -3,8 +3,8 @@
 // Source: docs/MAC_FACTS.md, "Event taps".
 #pragma once
 
+#include "sim/hardware/PointerEvent.h"
 #include "sim/services/Tap.h"
-#include "sim/session/PointerEvent.h"
 
 #include <cstdint>
 #include <functional>

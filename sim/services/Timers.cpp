@@ -1,6 +1,6 @@
 #include "sim/services/Timers.h"
 
-#include "sim/seam/TimerState.h"
+#include "sim/services/TimerState.h"
 
 #include <algorithm>
 #include <utility>

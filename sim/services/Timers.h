@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/Timer.h"
-#include "sim/session/VirtualClock.h"
+#include "sim/hardware/VirtualClock.h"
 
 #include <cstddef>
 #include <functional>

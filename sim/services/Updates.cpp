@@ -1,10 +1,11 @@
 #include "sim/services/Updates.h"
 
-#include "sim/seam/HostedView.h"
-#include "sim/seam/WindowState.h"
-#include "sim/services/BundleContents.h"
+#include "sim/formats/BundleContents.h"
+#include "sim/services/HostedView.h"
 #include "sim/services/Journal.h"
 #include "sim/services/MainThread.h"
+#include "sim/services/UpdateSupply.h"
+#include "sim/services/WindowState.h"
 #include "sim/services/Windows.h"
 
 #include <utility>
@@ -37,7 +38,7 @@ ui::View page(std::string_view heading, std::string_view text, std::vector<ui::V
 } // namespace
 
 std::optional<Error> Updates::start(const std::weak_ptr<StandardUserDriverDelegate>& delegate) {
-    switch (framework_) {
+    switch (supply_.framework) {
     case UpdateFramework::missing:
         return Error{std::string(MissingUpdateFramework)};
     case UpdateFramework::broken:
@@ -70,7 +71,7 @@ void Updates::check(bool isByUser) {
     ++sessionNumber_;
     if (isByUser) {
         const ui::View cancel = ui::Button("Cancel", [this] { dismiss(); });
-        show("Updating Kestrune", windowClass_, page("Checking for updates…", "", {cancel}), true);
+        show("Updating Kestrune", supply_.windowClass, page("Checking for updates…", "", {cancel}), true);
     }
     mainThread_.enqueue(
         [this, isByUser, number = sessionNumber_] {
@@ -84,7 +85,7 @@ void Updates::check(bool isByUser) {
 void Updates::finishCheck(bool isByUser) {
     hide();
     const bool hasAddress = bundle_.infoString("SUFeedURL").has_value();
-    const UpdateFeed feed = hasAddress ? feed_ : UpdateFeed::unreachable;
+    const UpdateFeed feed = hasAddress ? supply_.feed : UpdateFeed::unreachable;
     if (feed == UpdateFeed::newVersion) {
         stage_ = Stage::update;
         announce();
@@ -109,7 +110,7 @@ void Updates::showUpdate(bool isByUser) {
     buttons.push_back(ui::Button("Remind Me Later", [this] {
                           dismiss();
                       }).keyboardShortcut(ui::KeyboardShortcut::cancelAction));
-    show("Software Update", windowClass_,
+    show("Software Update", supply_.windowClass,
          page("A new version of Kestrune is available!", "Would you like to download it now?",
               std::move(buttons)),
          isByUser);
@@ -150,7 +151,7 @@ void Updates::show(std::string_view title, std::string_view className, const ui:
     window_->title = title;
     window_->styleMask = WindowStyleMask::titled;
     window_->isReleasedWhenClosed = false;
-    window_->hidesOnDeactivate = windowsHide_ && className != AlertClass;
+    window_->hidesOnDeactivate = supply_.windowsHide && className != AlertClass;
     window_->content = HostedView::make({[content] { return content; }, nullptr});
     window_->content->enter(window_);
     windows_.add(window_);

@@ -8,14 +8,12 @@
 
 #include "platform/Updater.h"
 #include "platform/Window.h"
-#include "sim/session/VirtualClock.h"
+#include "sim/hardware/VirtualClock.h"
 #include "ui/View.h"
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace kestrune::sim {
@@ -24,12 +22,8 @@ class Journal;
 class MainThread;
 class Windows;
 struct BundleContents;
-
-// Whether the bundle has the framework, and whether that starts.
-enum class UpdateFramework { missing, broken, working };
-
-// What a check finds at the address of the feed, if there is one.
-enum class UpdateFeed { unreachable, nothingNew, newVersion };
+struct UpdateSupply;
+enum class UpdateFeed;
 
 class Updates {
 public:
@@ -40,36 +34,23 @@ public:
     static constexpr std::string_view StartFailure = "The updater failed to start.";
 
     // All of them must outlive this.
-    Updates(UpdateFramework framework, const BundleContents& bundle, MainThread& mainThread, Windows& windows,
-            Journal& journal)
-        : framework_(framework),
-          bundle_(bundle),
-          mainThread_(mainThread),
-          windows_(windows),
-          journal_(journal) {}
-
-    // What the world is like. The framework is what it was when the application started it.
-    void setFramework(UpdateFramework framework) { framework_ = framework; }
-    UpdateFramework framework() const { return framework_; }
-    void setFeed(UpdateFeed feed) { feed_ = feed; }
-    void setWindowClass(std::string name) { windowClass_ = std::move(name); }
-
-    // Its windows leave the screen while the application is not active, as panels do.
-    void setWindowsHide(bool hide) { windowsHide_ = hide; }
-
-    // The time for a scheduled check has come.
-    void checkAsScheduled();
-
-    // An update is shown, or an alert.
-    bool isShowingUpdate() const { return stage_ == Stage::update; }
-    bool isShowingAlert() const { return stage_ == Stage::alert; }
-
-    // The user puts away whatever is shown.
-    void dismiss();
+    Updates(const UpdateSupply& supply, const BundleContents& bundle, MainThread& mainThread,
+            Windows& windows, Journal& journal)
+        : supply_(supply), bundle_(bundle), mainThread_(mainThread), windows_(windows), journal_(journal) {}
 
     // What the application asks for.
     std::optional<Error> start(const std::weak_ptr<StandardUserDriverDelegate>& delegate);
     void checkForUser();
+
+    // The time for a scheduled check has come.
+    void checkAsScheduled();
+
+    // What the user sees: an update, or an alert.
+    bool isShowingUpdate() const { return stage_ == Stage::update; }
+    bool isShowingAlert() const { return stage_ == Stage::alert; }
+
+    // Where the user's action arrives: whatever is shown is put away.
+    void dismiss();
 
     // Of the user driver that was started; null when there is none.
     std::shared_ptr<StandardUserDriverDelegate> delegate() const { return delegate_.lock(); }
@@ -90,14 +71,11 @@ private:
     void hide();
     void tell(std::string_view selector, void (StandardUserDriverDelegate::*method)());
 
-    UpdateFramework framework_;
+    const UpdateSupply& supply_;
     const BundleContents& bundle_;
     MainThread& mainThread_;
     Windows& windows_;
     Journal& journal_;
-    UpdateFeed feed_ = UpdateFeed::nothingNew;
-    std::string windowClass_ = "NSWindow";
-    bool windowsHide_ = false;
     std::weak_ptr<StandardUserDriverDelegate> delegate_;
     bool isStarted_ = false;
     Stage stage_ = Stage::idle;

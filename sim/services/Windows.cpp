@@ -2,36 +2,16 @@
 
 #include "base/Fatal.h"
 #include "platform/NotificationCenter.h"
-#include "sim/seam/HostedView.h"
-#include "sim/seam/WindowState.h"
+#include "sim/hardware/Displays.h"
 #include "sim/services/ApplicationState.h"
+#include "sim/services/HostedView.h"
 #include "sim/services/Journal.h"
 #include "sim/services/Observers.h"
-#include "sim/session/Displays.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 
 namespace kestrune::sim {
-
-namespace {
-
-// Runs an action of the hosted view; window and view live until it returns.
-template <typename Wanted, typename Action>
-void withElement(const Windows::WindowState& window, std::size_t element, Action&& action) {
-    if (!window->content) {
-        return;
-    }
-    const auto view = window->content;
-    const auto& elements = view->host().scene().elements;
-    if (element >= elements.size()) {
-        return;
-    }
-    if (const auto* const wanted = std::get_if<Wanted>(&elements[element])) {
-        action(view->host(), *wanted);
-    }
-}
-
-} // namespace
 
 std::vector<Windows::WindowState> Windows::shown() const {
     const bool isActive = application_.isActive;
@@ -175,38 +155,6 @@ void Windows::moveTo(const WindowState& window, Point topLeft) const {
         displays_.appKitFrame({topLeft.x, topLeft.y, window->frame.width(), window->frame.height()});
 }
 
-void Windows::pressButton(const WindowState& window, std::size_t element) {
-    withElement<ui::ButtonElement>(window, element, [](ui::ViewHost& host, const ui::ButtonElement& button) {
-        host.press(button.action);
-    });
-}
-
-void Windows::flipSwitch(const WindowState& window, std::size_t element) {
-    withElement<ui::ToggleElement>(window, element, [](ui::ViewHost& host, const ui::ToggleElement& toggle) {
-        host.flip(toggle.action, !toggle.isOn);
-    });
-}
-
-std::optional<std::size_t> Windows::elementFor(const Window::State& window, ui::KeyboardShortcut shortcut) {
-    const auto& elements = sceneOf(window).elements;
-    const auto button =
-        std::find_if(elements.begin(), elements.end(), [shortcut](const ui::Element& element) {
-            const auto* const candidate = std::get_if<ui::ButtonElement>(&element);
-            return candidate != nullptr && candidate->shortcut == shortcut;
-        });
-    return button != elements.end() ? std::optional(static_cast<std::size_t>(button - elements.begin()))
-                                    : std::nullopt;
-}
-
-bool Windows::press(ui::KeyboardShortcut shortcut) {
-    const WindowState key = keyWindow();
-    const auto element = key ? elementFor(*key, shortcut) : std::nullopt;
-    if (element) {
-        pressButton(key, *element);
-    }
-    return element.has_value();
-}
-
 void Windows::setActive(bool isActive) {
     const WindowState before = keyWindow();
     application_.isActive = isActive;
@@ -214,7 +162,7 @@ void Windows::setActive(bool isActive) {
 }
 
 void Windows::activateByApplication() {
-    if (!refusesActivation_) {
+    if (!faults_.refusesActivation) {
         setActive(true);
     }
 }

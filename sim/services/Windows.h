@@ -1,15 +1,14 @@
-// The application's windows on the screen, and the user who works with them.
+// The application's windows on the screen.
 //
 // Source: docs/MAC_FACTS.md, "Windows".
 #pragma once
 
 #include "platform/Window.h"
+#include "sim/services/StandingFaults.h"
 #include "ui/Scene.h"
 
-#include <cstddef>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,8 +26,12 @@ public:
 
     // All of them must outlive this.
     Windows(ApplicationState& application, const Displays& displays, const Observers& observers,
-            Journal& journal)
-        : application_(application), displays_(displays), observers_(observers), journal_(journal) {}
+            Journal& journal, const StandingFaults& faults)
+        : application_(application),
+          displays_(displays),
+          observers_(observers),
+          journal_(journal),
+          faults_(faults) {}
 
     // The windows that are to be seen, the frontmost first: by level, and within a level the one first that
     // was ordered front last.
@@ -56,37 +59,21 @@ public:
     void orderFront(const WindowState& window);
     void orderOut(const WindowState& window);
 
-    // The user clicks into a window, or on its tile in the Dock: the application becomes active and the
-    // window key.
+    // Where the user's clicks arrive. A click into a window, or on its tile in the Dock, makes the
+    // application active and the window key; the close button and the minimise button work where the window
+    // has them.
     void click(const WindowState& window);
-
-    // The user presses the close button, if there is one.
     void closeByUser(const WindowState& window);
-
-    // The user presses the minimise button, if there is one: the window goes into the Dock.
     void miniaturizeByUser(const WindowState& window);
 
-    // The user drags the window; the top left corner in global display coordinates.
+    // Where a drag arrives; the top left corner in global display coordinates.
     void moveTo(const WindowState& window, Point topLeft) const;
-
-    // The user presses a button of the hosted view, or flips a switch; elements count from 0 and are those of
-    // the scene. Nothing happens to any other element.
-    void pressButton(const WindowState& window, std::size_t element);
-    void flipSwitch(const WindowState& window, std::size_t element);
-
-    // The button of the hosted view that the key stands for; absent when there is none.
-    static std::optional<std::size_t> elementFor(const Window::State& window, ui::KeyboardShortcut shortcut);
-
-    // The same with the keyboard: the button of the key window whose shortcut the key is, Return or Escape.
-    // True when there is one.
-    bool press(ui::KeyboardShortcut shortcut);
 
     // The application becomes the active one, or ceases to be.
     void setActive(bool isActive);
 
-    // The same at the application's own wish. Fault: the system does not let it.
+    // The same at the application's own wish, if the system lets it.
     void activateByApplication();
-    void refuseActivation(bool refuse) { refusesActivation_ = refuse; }
 
     // The platform makes an object of the class itself, from an archive or from a bare window: both are
     // refused.
@@ -106,7 +93,7 @@ private:
     const Displays& displays_;
     const Observers& observers_;
     Journal& journal_;
-    bool refusesActivation_ = false;
+    const StandingFaults& faults_;
     std::vector<std::weak_ptr<Window::State>> all_;
     std::vector<std::weak_ptr<Window::State>> ordered_; // the front one first, whatever its level
     std::weak_ptr<Window::State> wantedKey_;            // the one that was made key last

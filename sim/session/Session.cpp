@@ -2,7 +2,7 @@
 
 #include "base/Fatal.h"
 #include "platform/NotificationCenter.h"
-#include "sim/session/PointerConfinement.h"
+#include "sim/hardware/PointerConfinement.h"
 
 #include <algorithm>
 #include <utility>
@@ -51,7 +51,7 @@ Delivery Session::deliver(EventType type, Point location, double deltaY) {
         }
         system_.dock.pointerArrived(delivery.delivered, deltaY, system_.clock.now());
     }
-    runPendingNotices();
+    system_.tellOfDisabledTaps();
     return delivery;
 }
 
@@ -91,44 +91,17 @@ void Session::changeDisplays(std::vector<Display> displays) {
     }
 }
 
-bool Session::reopenApplication() {
-    if (!system_.application.isRunning) {
-        return false;
-    }
-    system_.windows.setActive(true);
-    const auto delegate = system_.application.delegate.lock();
-    if (!delegate) {
-        return true;
-    }
-    const bool hasVisibleWindows =
-        !system_.windows.shown().empty() || !system_.windows.miniaturized().empty();
-    system_.journal.record("-[", delegate->className(), " applicationShouldHandleReopen:hasVisibleWindows:] ",
-                           hasVisibleWindows);
-    return delegate->applicationShouldHandleReopen(hasVisibleWindows);
-}
-
 void Session::advance(Duration duration) {
     VirtualClock& clock = system_.clock;
     const MainThread& mainThread = system_.mainThread;
     const Duration end = clock.now() + duration;
     if (!mainThread.isFree()) {
         clock.elapse(std::min(mainThread.freeAt(), end) - clock.now());
-        runPendingNotices();
+        system_.tellOfDisabledTaps();
     }
     if (mainThread.freeAt() <= end) {
         clock.advance(end - clock.now());
-        runPendingNotices();
-    }
-}
-
-void Session::disableTaps(EventType reason) {
-    system_.taps.disableAll(reason);
-    runPendingNotices();
-}
-
-void Session::runPendingNotices() {
-    if (system_.mainThread.isFree()) {
-        system_.taps.notify();
+        system_.tellOfDisabledTaps();
     }
 }
 

@@ -1,15 +1,16 @@
 // A simulated Mac session as whoever drives it has it: the hardware, the user, time and faults.
 //
-// What the application meets is sim/services/System.h.
+// What the application meets is owned by sim/session/System.h.
 #pragma once
 
 #include "platform/Event.h"
 #include "sim/services/Current.h"
-#include "sim/services/System.h"
+#include "sim/session/Faults.h"
 #include "sim/session/SessionOptions.h"
+#include "sim/session/System.h"
+#include "sim/session/User.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -37,14 +38,22 @@ public:
     // The session that exists; stops the process when there is none.
     static Session& current() { return sim::current<Session>(); }
 
-    Journal& journal() { return system_.journal; }
-    VirtualClock& clock() { return system_.clock; }
-    Accessibility& accessibility() { return system_.accessibility; }
+    // Who acts at the session, besides the hardware and time below.
+    User& user() { return user_; }
+    Faults& faults() { return faults_; }
+
+    // The hardware, and where updates come from.
     Displays& displays() { return system_.displays; }
+    Dock& dock() { return system_.dock; }
+    VirtualClock& clock() { return system_.clock; }
+    UpdateSupply& updateSupply() { return system_.updateSupply; }
+
+    // What the application meets, for whoever looks at what became of it.
+    Journal& journal() { return system_.journal; }
+    Accessibility& accessibility() { return system_.accessibility; }
     DefaultsDomain& defaults() { return system_.defaults; }
     TapChain& taps() { return system_.taps; }
     RunLoopSources& sources() { return system_.sources; }
-    Dock& dock() { return system_.dock; }
     const BundleContents& bundle() const { return system_.bundle; }
     const Surroundings& surroundings() const { return system_.surroundings; }
     LoginItem& loginItem() { return system_.loginItem; }
@@ -81,37 +90,11 @@ public:
     // once its main thread is free.
     void changeDisplays(std::vector<Display> displays);
 
-    // The user opens the application that runs already: the system makes it the active one and tells its
-    // delegate. Whether AppKit goes on by itself, which is not simulated.
-    bool reopenApplication();
-
-    // The user ends the application by force.
-    void endApplication() { system_.process.end(); }
-
     // Lets time pass. The main thread runs what falls due, once it is free.
     void advance(Duration duration);
 
-    // Fault: the main thread is busy for that long. Events wait for it, at most until the tap times out.
-    void stallMainThread(Duration duration) { system_.mainThread.stall(duration); }
-
-    // Fault: what `work` makes the application do happens on another thread.
-    void onAnotherThread(const std::function<void()>& work) { system_.mainThread.workElsewhere(work); }
-
-    // Fault: the system switches the taps off and, unless the main thread is busy, tells the application at
-    // once.
-    void disableTaps(EventType reason);
-
-    // Fault: CGEventTapCreate refuses although the permission is there.
-    void refuseTapCreation(bool refuse) { system_.accessibility.refuseTapCreation(refuse); }
-
-    // Fault: the system does not let the application activate itself.
-    void refuseActivation(bool refuse) { system_.windows.refuseActivation(refuse); }
-
-    // Fault: no application is responsible for any URL.
-    void refuseOpeningURLs(bool refuse) { system_.links.refuseOpening(refuse); }
-
-    // Fault: no text is a URL.
-    void refuseURLs(bool refuse) { system_.links.refuseMaking(refuse); }
+    // The same for the updater: the time for a scheduled check has come.
+    void checkForUpdatesAsScheduled() { system_.updates.checkAsScheduled(); }
 
     // What the application has left behind: URLs that were opened and records of the log, in order, what the
     // report of a crash would say, and how many objects of the platform's it retains.
@@ -124,10 +107,11 @@ private:
     Delivery deliver(EventType type, Point location, double deltaY);
     void waitForTaps(EventType type);
     void hold(Duration duration);
-    void runPendingNotices();
 
     bool cursorFollowsEvents_;
     System system_;
+    User user_{system_};
+    Faults faults_{system_};
     Point pointer_;
     Duration longestHold_{0};
     Current<Session> current_{*this};

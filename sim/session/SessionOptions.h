@@ -1,13 +1,13 @@
 // What a simulated session starts with.
 #pragma once
 
+#include "sim/formats/BundleContents.h"
 #include "sim/formats/PropertyList.h"
+#include "sim/hardware/Display.h"
+#include "sim/hardware/Dock.h"
 #include "sim/services/Accessibility.h"
-#include "sim/services/BundleContents.h"
 #include "sim/services/Surroundings.h"
-#include "sim/services/Updates.h"
-#include "sim/session/Display.h"
-#include "sim/session/Dock.h"
+#include "sim/services/UpdateSupply.h"
 #include "ui/layout/Layout.h"
 
 #include <vector>

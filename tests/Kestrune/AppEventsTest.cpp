@@ -65,7 +65,7 @@ TEST_F(AccessibilityWatcher, EndsWithThePermissionAlthoughTheGuardIsSwitchedOff)
 }
 
 TEST_F(AccessibilityWatcher, EndsAlthoughTheStartFails) {
-    session.refuseTapCreation(true);
+    session.faults().refuseTapCreation(true);
     grant();
     session.advance(1s);
     EXPECT_FALSE(guard->isRunning());
@@ -75,18 +75,18 @@ TEST_F(AccessibilityWatcher, EndsAlthoughTheStartFails) {
 
 TEST_F(AccessibilityWatcher, IsForestalledByTheMenu) {
     grant();
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     EXPECT_TRUE(guard->isRunning());
-    session.menus().close();
+    session.user().closeMenu();
     expectOver();
 }
 
 TEST_F(AccessibilityWatcher, IsForestalledByTheMenuOfAGuardThatIsSwitchedOff) {
     store("isEnabled", sim::PropertyList{false});
     grant();
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     EXPECT_FALSE(guard->isRunning());
-    session.menus().close();
+    session.user().closeMenu();
     expectOver();
 }
 
@@ -97,11 +97,11 @@ TEST_F(AccessibilityWatcher, IsLeftAloneAtTheEnd) {
 }
 
 TEST_F(AccessibilityWatcher, PausesWhileTheMenuIsOpen) {
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     grant();
     session.advance(10s);
     EXPECT_FALSE(guard->isRunning());
-    session.menus().close();
+    session.user().closeMenu();
     EXPECT_TRUE(guard->isRunning());
     expectOver();
 }
@@ -125,9 +125,9 @@ TEST_F(AccessibilityWatcher, EndsWithTheWizardAlsoWithoutThePermission) {
 TEST_F(AccessibilityWatcher, IsNotTakenUpAgain) {
     grant();
     session.advance(1s);
-    session.accessibility().setPermission(sim::Permission::switchedOff);
-    session.menus().open(sim::StatusItemIndex{0});
-    session.menus().close();
+    session.user().setPermission(sim::Permission::switchedOff);
+    session.user().openMenu(sim::StatusItemIndex{0});
+    session.user().closeMenu();
     app->welcomeFinished();
     expectOver();
 }
@@ -169,9 +169,9 @@ TEST_F(AppEvents, TheMenusItemsForItsWindowsCanBeChosen) {
 
 TEST_F(AppEvents, ARevokedPermissionLeavesTheGuardRunning) {
     launchAndSettle();
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     openedMenu(session);
-    session.menus().close();
+    session.user().closeMenu();
     session.changeDisplays({primaryDisplay(), thirdDisplay()});
     app->welcomeFinished();
     EXPECT_TRUE(guard->isRunning());
@@ -233,7 +233,7 @@ TEST_F(AppEvents, ChangedDisplaysAreReadAndShownWhileTheGuardIsStopped) {
 
 TEST_F(AppEvents, ChangedDisplaysReachTheGuardWhileTheMenuIsOpen) {
     launchAndSettle();
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     session.changeDisplays({primaryDisplay()});
     EXPECT_EQ(guard->screensCache().size(), 1U);
     EXPECT_TRUE(session.menus().place());
@@ -245,7 +245,7 @@ TEST_F(AppEvents, TheMainMenusSettingsLookAtTheSetup) {
     EXPECT_NE(app->settingsWindowController(), nullptr);
     EXPECT_EQ(app->welcomeWindowController(), nullptr);
     EXPECT_TRUE(app->isSetupComplete());
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_FALSE(app->isSetupComplete());
     store("hasCompletedOnboarding", sim::PropertyList{false});
     EXPECT_FALSE(app->isSetupComplete());
@@ -260,7 +260,7 @@ TEST_F(AppEvents, NothingHappensForADayOnceThePermissionIsThereAndNoWindowIsOpen
     session.advance(24h);
     EXPECT_THAT(session.journal().take(), IsEmpty());
     app->openSettingsWindow();
-    session.windows().closeByUser(session.windows().shown().at(0));
+    session.user().closeWindow(session.windows().shown().at(0));
     session.advance(0s);
     session.journal().take();
     session.advance(24h);
@@ -273,7 +273,7 @@ TEST_F(AppEvents, SettingsAreOneControllerForTheWholeProcess) {
     app->openSettingsWindow();
     const auto controller = app->settingsWindowController();
     const auto window = session.windows().shown().at(0);
-    session.windows().closeByUser(window);
+    session.user().closeWindow(window);
     app->openSettingsWindow();
     EXPECT_EQ(app->settingsWindowController(), controller);
     EXPECT_EQ(session.windows().shown().at(0), window);
@@ -316,7 +316,7 @@ TEST_F(DelegateGone, TheMenusCallbacksDoNothing) {
     menuBarController->showSettings();
     menuBarController->showWelcome();
     EXPECT_THAT(session.windows().all(), IsEmpty());
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     EXPECT_FALSE(guard->isRunning());
 }
 
@@ -324,7 +324,7 @@ TEST_F(DelegateGone, NothingOfItIsLeft) {
     launchAndSettle();
     letGo();
     guard.reset();
-    session.endApplication();
+    session.user().endApplication();
     EXPECT_EQ(session.liveObjects(), 0);
 }
 
@@ -332,13 +332,13 @@ using AppEventsDeathTest = AppWithoutPermission;
 
 TEST_F(AppEventsDeathTest, TheWatcherStaysOnTheMainThread) {
     launchAndSettle();
-    EXPECT_DEATH(session.onAnotherThread([this] { session.advance(1s); }),
+    EXPECT_DEATH(session.faults().onAnotherThread([this] { session.advance(1s); }),
                  "Fatal error: The Accessibility watcher has left the main thread\\.");
 }
 
 TEST_F(AppEventsDeathTest, ChangesOfDisplaysArriveOnTheMainThread) {
     launchAndSettle();
-    EXPECT_DEATH(session.onAnotherThread([this] { session.changeDisplays({primaryDisplay()}); }),
+    EXPECT_DEATH(session.faults().onAnotherThread([this] { session.changeDisplays({primaryDisplay()}); }),
                  "Fatal error: A change of displays was announced outside the main thread\\.");
 }
 

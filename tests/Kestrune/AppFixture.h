@@ -45,7 +45,7 @@ protected:
     }
 
     // The user grants the permission; nobody tells the application.
-    void grant() { session.accessibility().setPermission(sim::Permission::granted); }
+    void grant() { session.user().setPermission(sim::Permission::granted); }
 
     void store(std::string_view key, sim::PropertyList value) {
         session.defaults().set(key, std::move(value));

@@ -161,38 +161,38 @@ TEST_F(AppLaunch, ProbesWithATapThatChangesNothing) {
 }
 
 TEST_F(AppLaunch, LogsAFailedStartOnceAndGoesOn) {
-    session.refuseTapCreation(true);
+    session.faults().refuseTapCreation(true);
     launchAndSettle();
     EXPECT_FALSE(guard->isRunning());
     EXPECT_THAT(messagesButTheUpdaters(session),
                 ElementsAre(HasSubstr("tap"), StartsWith("scheduleWelcomeDecision")));
-    session.refuseTapCreation(false);
+    session.faults().refuseTapCreation(false);
     openedMenu(session);
     EXPECT_TRUE(guard->isRunning());
 }
 
 TEST_F(AppLaunch, OpensSettingsWhenItIsOpenedAgain) {
     launchAndSettle();
-    EXPECT_FALSE(session.reopenApplication());
+    EXPECT_FALSE(session.user().reopenApplication());
     ASSERT_NE(app->settingsWindowController(), nullptr);
     EXPECT_EQ(session.windows().shown().size(), 1U);
-    EXPECT_FALSE(session.reopenApplication());
+    EXPECT_FALSE(session.user().reopenApplication());
     EXPECT_EQ(session.windows().shown().size(), 1U);
     EXPECT_EQ(app->welcomeWindowController(), nullptr);
 }
 
 TEST_F(AppLaunch, BringsSettingsOutOfTheDockWhenItIsOpenedAgain) {
     launchAndSettle();
-    session.reopenApplication();
-    session.windows().miniaturizeByUser(session.windows().shown().at(0));
-    EXPECT_FALSE(session.reopenApplication());
+    session.user().reopenApplication();
+    session.user().miniaturizeWindow(session.windows().shown().at(0));
+    EXPECT_FALSE(session.user().reopenApplication());
     EXPECT_EQ(session.windows().shown().size(), 1U);
 }
 
 TEST_F(AppLaunchWithoutPermission, OpensTheWizardWhenItIsOpenedAgain) {
     launchAndSettle();
-    session.windows().closeByUser(session.windows().shown().at(0));
-    EXPECT_FALSE(session.reopenApplication());
+    session.user().closeWindow(session.windows().shown().at(0));
+    EXPECT_FALSE(session.user().reopenApplication());
     EXPECT_EQ(session.windows().shown().size(), 1U);
     EXPECT_EQ(app->settingsWindowController(), nullptr);
 }

@@ -125,7 +125,7 @@ TEST_F(BugReport, EndsWithoutALineFeed) {
 using BugReportDeathTest = BugReport;
 
 TEST_F(BugReportDeathTest, StopsTheProcessWithoutALink) {
-    session.refuseURLs(true);
+    session.faults().refuseURLs(true);
     EXPECT_DEATH(makeBugReportURL(), "The link of the bug report is no URL");
 }
 

@@ -1,4 +1,4 @@
-#include "sim/session/PointerEvent.h"
+#include "sim/hardware/PointerEvent.h"
 #include "tests/Kestrune/GuardFixture.h"
 
 namespace kestrune {
@@ -67,8 +67,8 @@ TEST_F(DockGuardCallback, TreatsEveryOtherTypeAlike) {
 TEST_F(DockGuardCallback, KeepsRunningThroughAStormOfDisabledTaps) {
     refreshAndStart();
     for (int round = 0; round < 1000; ++round) {
-        session.disableTaps(round % 2 == 0 ? EventType::tapDisabledByTimeout
-                                           : EventType::tapDisabledByUserInput);
+        session.faults().disableTaps(round % 2 == 0 ? EventType::tapDisabledByTimeout
+                                                    : EventType::tapDisabledByUserInput);
         ASSERT_EQ(session.taps().enabledCount(), 1U);
         ASSERT_EQ(delivered({2000, 1079}), (Point{2000, 1075}));
     }
@@ -78,7 +78,7 @@ TEST_F(DockGuardCallback, KeepsRunningThroughAStormOfDisabledTaps) {
 
 TEST_F(DockGuardCallback, IsEnabledAgainAfterTheMainThreadWasBusyForTooLong) {
     refreshAndStart();
-    session.stallMainThread(std::chrono::seconds(3));
+    session.faults().stallMainThread(std::chrono::seconds(3));
     EXPECT_EQ(delivered({2000, 1079}), (Point{2000, 1079}));
     EXPECT_EQ(session.longestHold(), sim::Session::TapTimeout);
     EXPECT_EQ(session.taps().enabledCount(), 0U);
@@ -89,12 +89,12 @@ TEST_F(DockGuardCallback, IsEnabledAgainAfterTheMainThreadWasBusyForTooLong) {
 
 TEST_F(DockGuardCallback, StaysRunningWhenThePermissionIsRevoked) {
     refreshAndStart();
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_EQ(delivered({2000, 1079}), (Point{2000, 1079}));
     EXPECT_TRUE(guard.isRunning());
     EXPECT_EQ(session.taps().enabledCount(), 1U);
     EXPECT_EQ(session.longestHold(), sim::Session::TapTimeout);
-    session.accessibility().setPermission(sim::Permission::granted);
+    session.user().setPermission(sim::Permission::granted);
     EXPECT_EQ(delivered({2000, 1079}), (Point{2000, 1075}));
 }
 

@@ -1,4 +1,4 @@
-#include "sim/session/PointerEvent.h"
+#include "sim/hardware/PointerEvent.h"
 #include "tests/Kestrune/GuardFixture.h"
 #include "tests/base/UnusualNumbers.h"
 

@@ -79,19 +79,19 @@ TEST_F(DockGuardLifecycle, StartsAgainAfterAStop) {
 }
 
 TEST_F(DockGuardLifecycle, LogsOneErrorWithoutThePermission) {
-    session.accessibility().setPermission(sim::Permission::notListed);
+    session.user().setPermission(sim::Permission::notListed);
     EXPECT_THAT(callsOf([this] { guard.start(); }), hasCallAbout("CGEventTapCreate").Times(1));
     expectOneErrorAndNoTap();
 }
 
 TEST_F(DockGuardLifecycle, LogsOneErrorWhenTheSystemRefusesTheTapDespiteThePermission) {
-    session.refuseTapCreation(true);
+    session.faults().refuseTapCreation(true);
     guard.start();
     expectOneErrorAndNoTap();
 }
 
 TEST_F(DockGuardLifecycle, LogsOneErrorWhenTheRowWasDeletedButReadsAsTrusted) {
-    session.accessibility().setPermission(sim::Permission::rowDeleted);
+    session.user().setPermission(sim::Permission::rowDeleted);
     guard.start();
     expectOneErrorAndNoTap();
 }
@@ -99,7 +99,7 @@ TEST_F(DockGuardLifecycle, LogsOneErrorWhenTheRowWasDeletedButReadsAsTrusted) {
 TEST_F(DockGuardLifecycle, MakesItsLogChannelOnceAndOnlyWhenNeeded) {
     guard.start();
     guard.stop();
-    session.refuseTapCreation(true);
+    session.faults().refuseTapCreation(true);
     const Calls refused = callsOf([this] {
         guard.start();
         guard.start();
@@ -110,7 +110,7 @@ TEST_F(DockGuardLifecycle, MakesItsLogChannelOnceAndOnlyWhenNeeded) {
 
 TEST_F(DockGuardLifecycle, ChangesNoFieldWhenTheTapIsRefused) {
     guard.refreshScreens();
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     guard.start();
     EXPECT_THAT(guard.screensCache(), SizeIs(2));
     ASSERT_TRUE(guard.pinnedScreen());
@@ -134,9 +134,9 @@ TEST_F(DockGuardLifecycle, ReleasesItsTapWithoutDisablingItWhenItGoes) {
 }
 
 TEST_F(DockGuardLifecycle, StartsOnceThePermissionArrives) {
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     guard.start();
-    session.accessibility().setPermission(sim::Permission::granted);
+    session.user().setPermission(sim::Permission::granted);
     guard.start();
     expectRunning();
 }
@@ -153,7 +153,7 @@ TEST_F(DockGuardLifecycle, StartedWhileRunningReplacesItsTap) {
 
 TEST_F(DockGuardLifecycle, KeepsItsTapWhenAnotherIsRefused) {
     refreshAndStart();
-    session.refuseTapCreation(true);
+    session.faults().refuseTapCreation(true);
     guard.start();
     expectRunning();
     EXPECT_THAT(session.logRecords(), SizeIs(1));

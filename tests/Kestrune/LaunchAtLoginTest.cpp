@@ -16,7 +16,7 @@ const std::string Unregistering = "-[SMAppService unregisterAndReturnError:]";
 
 class LaunchAtLogin : public SettingsFixture {
 protected:
-    void setStatus(AppServiceStatus status) { session.loginItem().setStatus(status); }
+    void setStatus(AppServiceStatus status) { session.user().setLoginItem(status); }
 };
 
 constexpr AppServiceStatus EveryStatus[] = {AppServiceStatus::notRegistered, AppServiceStatus::enabled,
@@ -64,9 +64,9 @@ TEST_F(LaunchAtLogin, RegistersWhateverIsNotEnabled) {
 }
 
 TEST_F(LaunchAtLogin, RegistersAgainWhatWaitsForApproval) {
-    session.loginItem().requireApproval(true);
+    session.user().requireLoginItemApproval(true);
     EXPECT_TRUE(setLaunchAtLogin(true));
-    session.loginItem().requireApproval(false);
+    session.user().requireLoginItemApproval(false);
     EXPECT_TRUE(setLaunchAtLogin(true));
     EXPECT_EQ(session.loginItem().status(), AppServiceStatus::requiresApproval);
     EXPECT_THAT(calls(), Contains(Registering).Times(2));
@@ -80,7 +80,7 @@ TEST_F(LaunchAtLogin, UnregistersWhatIsEnabled) {
 }
 
 TEST_F(LaunchAtLogin, IsChangedInOrder) {
-    session.loginItem().refuse("Operation not permitted");
+    session.faults().refuseLoginItem("Operation not permitted");
     EXPECT_THAT(callsOf([] { setLaunchAtLogin(true); }),
                 ElementsAreArray(inOrder(
                     {{"SMAppService.mainAppService", "-[SMAppService status]", Registering},
@@ -89,7 +89,7 @@ TEST_F(LaunchAtLogin, IsChangedInOrder) {
 }
 
 TEST_F(LaunchAtLogin, LogsThatItWasNotRegistered) {
-    session.loginItem().refuse("Operation not permitted");
+    session.faults().refuseLoginItem("Operation not permitted");
     EXPECT_FALSE(setLaunchAtLogin(true));
     ASSERT_THAT(session.logRecords(), SizeIs(1));
     EXPECT_EQ(session.logRecords()[0].level, sim::LogLevel::error);
@@ -101,7 +101,7 @@ TEST_F(LaunchAtLogin, LogsThatItWasNotRegistered) {
 
 TEST_F(LaunchAtLogin, LogsThatItWasNotUnregistered) {
     setStatus(AppServiceStatus::enabled);
-    session.loginItem().refuse("No such process");
+    session.faults().refuseLoginItem("No such process");
     EXPECT_FALSE(setLaunchAtLogin(false));
     ASSERT_THAT(session.logRecords(), SizeIs(1));
     EXPECT_EQ(session.logRecords()[0].level, sim::LogLevel::error);

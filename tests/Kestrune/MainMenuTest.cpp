@@ -1,6 +1,6 @@
 #include "Kestrune/MainMenu.h"
 
-#include "sim/seam/MenuState.h"
+#include "sim/services/MenuState.h"
 #include "tests/Kestrune/AppFixture.h"
 
 namespace kestrune {
@@ -20,7 +20,7 @@ protected:
     void makeRegular() { Application::sharedApplication().setActivationPolicy(ActivationPolicy::regular); }
 
     std::vector<std::string> opened(std::size_t title) {
-        session.menus().open(sim::MainMenuIndex{title});
+        session.user().openMenu(sim::MainMenuIndex{title});
         return rowTexts(session.menus().rows());
     }
 };
@@ -70,32 +70,32 @@ TEST_F(MainMenu, OpensSettingsInOrder) {
 }
 
 TEST_F(MainMenu, OpensSettingsWithCommandComma) {
-    EXPECT_TRUE(session.menus().press(",", EventModifierFlags::command));
+    EXPECT_TRUE(session.user().press(",", EventModifierFlags::command));
     EXPECT_NE(app->settingsWindowController(), nullptr);
 }
 
 TEST_F(MainMenu, OpensTheWizardUntilItIsFinished) {
     store("hasCompletedOnboarding", sim::PropertyList{false});
-    EXPECT_TRUE(session.menus().press(",", EventModifierFlags::command));
+    EXPECT_TRUE(session.user().press(",", EventModifierFlags::command));
     EXPECT_NE(app->welcomeWindowController(), nullptr);
     EXPECT_EQ(app->settingsWindowController(), nullptr);
 }
 
 TEST_F(MainMenu, HasNoSettingsOnceTheDelegateIsGone) {
     app.reset();
-    EXPECT_FALSE(session.menus().press(",", EventModifierFlags::command));
+    EXPECT_FALSE(session.user().press(",", EventModifierFlags::command));
     EXPECT_THAT(session.windows().all(), ::testing::IsEmpty());
 }
 
 TEST_F(MainMenu, QuitsWithCommandQ) {
-    EXPECT_TRUE(session.menus().press("q", EventModifierFlags::command));
+    EXPECT_TRUE(session.user().press("q", EventModifierFlags::command));
     EXPECT_FALSE(session.application().exists);
     EXPECT_FALSE(guard->isRunning());
 }
 
 TEST_F(MainMenu, AnswersNoKeysWhileAnotherApplicationIsActive) {
     session.application().isActive = false;
-    EXPECT_FALSE(session.menus().press("q", EventModifierFlags::command));
+    EXPECT_FALSE(session.user().press("q", EventModifierFlags::command));
     EXPECT_TRUE(session.application().exists);
 }
 

@@ -1,6 +1,6 @@
 #include "Kestrune/AccessibilityPane.h"
-#include "sim/seam/MenuState.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 
 namespace kestrune {
@@ -90,7 +90,7 @@ TEST_F(MenuActions, KeepARunningGuardAsItIsWhenItIsSwitchedOn) {
 
 TEST_F(MenuActions, SwitchOnWithoutAStartWhenThePermissionIsMissing) {
     store("isEnabled", sim::PropertyList{false});
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     switchOver();
     EXPECT_TRUE(stored("isEnabled")->asBool());
     EXPECT_FALSE(dockGuard->isRunning());
@@ -102,7 +102,7 @@ TEST_F(MenuActions, SwitchOnWithoutAStartWhenThePermissionIsMissing) {
 TEST_F(MenuActions, OfferToDisableAlthoughTheStartFailed) {
     store("isEnabled", sim::PropertyList{false});
     controller->rebuildMenu();
-    session.refuseTapCreation(true);
+    session.faults().refuseTapCreation(true);
     EXPECT_TRUE(chooseRow(session, "Enable"));
     EXPECT_FALSE(dockGuard->isRunning());
     EXPECT_THAT(session.logRecords(), SizeIs(1));
@@ -141,7 +141,7 @@ TEST_F(MenuActions, IgnoreASenderThatStandsForNoText) {
 }
 
 TEST_F(MenuActions, OpenTheAccessibilityPaneInOrder) {
-    session.accessibility().setPermission(sim::Permission::notListed);
+    session.user().setPermission(sim::Permission::notListed);
     controller->openAccessibilitySettings();
     EXPECT_THAT(session.journal().take(),
                 ElementsAre("AXIsProcessTrustedWithOptions({kAXTrustedCheckOptionPrompt: true}) -> false",
@@ -178,7 +178,7 @@ TEST_F(MenuActions, HaveTheirPlatformNames) {
 }
 
 TEST_F(MenuActions, ReachTheControllerThroughTheirSelectors) {
-    session.accessibility().setPermission(sim::Permission::notListed);
+    session.user().setPermission(sim::Permission::notListed);
     const MenuItem sender;
     for (const ActionMethod& method : controller->actionMethods()) {
         if (method.selector == Selector("openAccessibilitySettings")) {
@@ -189,15 +189,15 @@ TEST_F(MenuActions, ReachTheControllerThroughTheirSelectors) {
 }
 
 TEST_F(MenuActions, DoNothingOnceTheControllerIsGone) {
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     controller.reset();
-    EXPECT_FALSE(session.menus().choose(4));
+    EXPECT_FALSE(session.user().chooseRow(4));
     EXPECT_EQ(stored("isEnabled"), nullptr);
 }
 
 class MenuOpening : public MenuActions {
 protected:
-    void open() { session.menus().open(sim::StatusItemIndex{0}); }
+    void open() { session.user().openMenu(sim::StatusItemIndex{0}); }
 
     void expectCallback() {
         controller->setOnAccessibilityGranted([this] { ++grants; });
@@ -216,7 +216,7 @@ TEST_F(MenuOpening, AsksForTheStartAndRebuildsInOrder) {
 
 TEST_F(MenuOpening, AsksForNoStartWithoutThePermission) {
     expectCallback();
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     open();
     EXPECT_EQ(grants, 0);
 }
@@ -242,9 +242,9 @@ TEST_F(MenuOpening, ReplacesTheMenuEachTimeAlsoWithoutACallback) {
 }
 
 TEST_F(MenuOpening, LeavesTheShownMenuAsItWas) {
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_EQ(openedMenu(session).front(), "Pin Dock to: (disabled)");
-    session.menus().close();
+    session.user().closeMenu();
     EXPECT_EQ(openedMenu(session).front(), "Complete setup…");
 }
 
@@ -255,7 +255,7 @@ TEST_F(MenuActionsDeathTest, StopWithoutASharedApplicationToQuit) {
 }
 
 TEST_F(MenuActionsDeathTest, StopWhenThePanesAddressIsNoURL) {
-    session.refuseURLs(true);
+    session.faults().refuseURLs(true);
     EXPECT_DEATH(controller->openAccessibilitySettings(),
                  "Fatal error: The address of the Accessibility pane is no URL\\.");
 }

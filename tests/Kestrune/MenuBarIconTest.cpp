@@ -1,4 +1,4 @@
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 
 namespace kestrune {
@@ -56,7 +56,7 @@ TEST_F(MenuBarIcon, LeavesTheBarWithTheController) {
 }
 
 TEST_F(MenuBarIcon, StaysEmptyWithoutAButton) {
-    session.statusItems().withholdButtons(true);
+    session.faults().withholdStatusButtons(true);
     EXPECT_THAT(callsOf([this] { make(); }), Not(hasCallAbout("+[NSImage")));
     EXPECT_FALSE(item()->button);
     EXPECT_TRUE(item()->menu);

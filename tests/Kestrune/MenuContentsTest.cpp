@@ -1,6 +1,6 @@
 #include "Kestrune/KestruneApp.h"
-#include "sim/seam/MenuState.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 #include "tests/Kestrune/MenuFixture.h"
 #include "tests/base/UnusualNumbers.h"
 
@@ -93,7 +93,7 @@ TEST_F(MenuContents, OpenSettingsAfterSetup) {
 
 TEST_F(MenuContents, LeadToTheWizardWithoutThePermission) {
     completeSetup();
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_THAT(freshMenu(),
                 ElementsAre("Complete setup…", "---", "Pin Dock to: (disabled)",
                             "✓  Primary  (1920×1080)  (Main) (disabled)", "  Second  (1280×800) (disabled)",
@@ -115,7 +115,7 @@ TEST_F(MenuContents, BeforeSetupStandForTheirDisplays) {
 TEST_F(MenuContents, AreThoseBeforeSetupAgainWhenThePermissionIsRevoked) {
     completeSetup();
     EXPECT_EQ(freshMenu().front(), "Pin Dock to: (disabled)");
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_EQ(menu().front(), "Complete setup…");
     EXPECT_TRUE(stored("hasCompletedOnboarding")->asBool());
 }
@@ -151,7 +151,7 @@ TEST_F(MenuContents, MarkNothingWhenTheMainDisplayIsNotListed) {
     make();
     session.displays().scriptReads(std::deque(2, std::vector{secondDisplay()}));
     controller->rebuildMenu();
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     EXPECT_EQ(rowTexts(session.menus().rows())[1], "  Second  (1280×800)");
 }
 
@@ -255,11 +255,11 @@ TEST_F(MenuContentsInGerman, OfTheMainMenuAreInTheUsersLanguageButForEdit) {
     const auto app = runKestrune();
     session.application().isActive = true;
     Application::sharedApplication().setActivationPolicy(ActivationPolicy::regular);
-    session.menus().open(sim::MainMenuIndex{0});
+    session.user().openMenu(sim::MainMenuIndex{0});
     EXPECT_THAT(rowTexts(session.menus().rows()),
                 ElementsAre("Einstellungen … [,]", "---", "Kestrune beenden [q]"));
     EXPECT_EQ(session.menus().mainMenuTitles()[1], "Edit");
-    session.endApplication();
+    session.user().endApplication();
 }
 
 using MenuContentsDeathTest = MenuContents;

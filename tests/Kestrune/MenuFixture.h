@@ -31,17 +31,17 @@ inline std::vector<std::string> rowTexts(const std::vector<sim::MenuRow>& rows) 
 
 // Opens the menu as its user does and reads it.
 inline std::vector<std::string> openedMenu(sim::Session& session) {
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     return rowTexts(session.menus().rows());
 }
 
 // Chooses the first row with that title in the menu that a rebuild left behind.
 inline bool chooseRow(sim::Session& session, const std::string& title) {
-    session.menus().open(sim::StatusItemIndex{0});
+    session.user().openMenu(sim::StatusItemIndex{0});
     const auto rows = session.menus().rows();
     const auto row = std::find_if(rows.begin(), rows.end(),
                                   [&](const sim::MenuRow& candidate) { return candidate.title == title; });
-    return row != rows.end() && session.menus().choose(static_cast<std::size_t>(row - rows.begin()));
+    return row != rows.end() && session.user().chooseRow(static_cast<std::size_t>(row - rows.begin()));
 }
 
 class MenuFixture : public ::testing::Test {
@@ -74,7 +74,7 @@ protected:
     std::vector<std::string> menu() {
         controller->rebuildMenu();
         std::vector<std::string> rows = openedMenu(session);
-        session.menus().close();
+        session.user().closeMenu();
         return rows;
     }
 

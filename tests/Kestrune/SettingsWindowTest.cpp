@@ -4,7 +4,7 @@
 #include "Kestrune/SettingsView.h"
 #include "Kestrune/SettingsWindowController.h"
 #include "Kestrune/UpdaterManager.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/Kestrune/SettingsFixture.h"
 #include "tests/Kestrune/WelcomeFixture.h"
 
@@ -48,7 +48,7 @@ protected:
 
     void flipSwitch() {
         const auto window = onlyWindow(session);
-        session.windows().flipSwitch(window, ui::placesOf<ui::ToggleElement>(scene()).at(0));
+        session.user().flipSwitch(window, ui::placesOf<ui::ToggleElement>(scene()).at(0));
         settle();
     }
 
@@ -83,7 +83,7 @@ TEST_F(SettingsWindow, IsMadeInOrder) {
 TEST_F(SettingsWindow, BeginsWithTheSwitchAsTheSystemHasIt) {
     for (const auto status : {AppServiceStatus::enabled, AppServiceStatus::requiresApproval,
                               AppServiceStatus::notFound, AppServiceStatus::notRegistered}) {
-        session.loginItem().setStatus(status);
+        session.user().setLoginItem(status);
         EXPECT_EQ(SettingsWindowController::make()->model()->launchAtLogin,
                   status == AppServiceStatus::enabled);
     }
@@ -118,14 +118,14 @@ TEST_F(SettingsWindow, IsOneWindowHoweverOftenItIsShown) {
     makeAndShow();
     const auto window = onlyWindow(session);
     const auto model = controller->model();
-    session.loginItem().setStatus(AppServiceStatus::enabled);
+    session.user().setLoginItem(AppServiceStatus::enabled);
     controller->show();
     settle();
     EXPECT_EQ(onlyWindow(session), window);
     EXPECT_EQ(controller->model(), model);
     EXPECT_TRUE(isSwitchOn());
-    session.windows().closeByUser(window);
-    session.loginItem().setStatus(AppServiceStatus::requiresApproval);
+    session.user().closeWindow(window);
+    session.user().setLoginItem(AppServiceStatus::requiresApproval);
     controller->show();
     settle();
     EXPECT_EQ(onlyWindow(session), window);
@@ -135,7 +135,7 @@ TEST_F(SettingsWindow, IsOneWindowHoweverOftenItIsShown) {
 TEST_F(SettingsWindow, ComesBackFromTheDock) {
     makeAndShow();
     const auto window = onlyWindow(session);
-    session.windows().miniaturizeByUser(window);
+    session.user().miniaturizeWindow(window);
     EXPECT_THAT(session.windows().shown(), IsEmpty());
     controller->show();
     settle();
@@ -148,7 +148,7 @@ TEST_F(SettingsWindow, MakesTheApplicationAnAccessoryWhenItCloses) {
     session.application().policy = ActivationPolicy::regular;
     makeAndShow();
     EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
     EXPECT_THAT(session.windows().shown(), IsEmpty());
 }
@@ -166,7 +166,7 @@ TEST_F(SettingsWindow, RegistersAndUnregistersWithItsSwitch) {
 
 TEST_F(SettingsWindow, LeavesTheSwitchWhereTheUserPutItUntilItIsShownAgain) {
     makeAndShow();
-    session.loginItem().refuse("Operation not permitted");
+    session.faults().refuseLoginItem("Operation not permitted");
     flipSwitch();
     EXPECT_TRUE(isSwitchOn());
     EXPECT_EQ(session.loginItem().status(), AppServiceStatus::notRegistered);
@@ -182,13 +182,13 @@ TEST_F(SettingsWindow, ChecksForUpdatesInOrder) {
     makeAndShow();
     const Calls observing = callsOf([this] { manager->startWindowObserver(); });
     manager->stopWindowObserver();
-    session.windows().setActive(false); // so that the updater's window becomes key only afterwards
+    session.user().switchAway(); // so that the updater's window becomes key only afterwards
     const Calls checking = callsOf([this] { controller->model()->checkForUpdates(); });
     EXPECT_THAT(checking,
                 ElementsAreArray(inOrder(
                     {observing, Activating, {"-[SPUUpdater checkForUpdates]"}, {"Task on the main actor"}})));
     EXPECT_THAT(callsOf([this] { settle(); }), Contains("Task.sleep(for: 300 ms, clock: .continuous)"));
-    session.updates().dismiss();
+    session.user().dismissUpdater();
     settle();
     EXPECT_THAT(callsOf([this] { session.advance(299ms); }), IsEmpty());
     const Calls following = callsOf([this] { session.advance(1ms); });
@@ -199,11 +199,11 @@ TEST_F(SettingsWindow, ChecksForUpdatesInOrder) {
 TEST_F(SettingsWindow, ActivatesTheApplicationAlsoWhenTheManagerIsGoneMeanwhile) {
     makeAndShow();
     controller->model()->checkForUpdates();
-    session.updates().dismiss();
+    session.user().dismissUpdater();
     settle();
     manager.reset();
     session.process().objects().clear();
-    session.windows().setActive(false);
+    session.user().switchAway();
     session.advance(300ms);
     EXPECT_TRUE(session.application().isActive);
 }
@@ -213,7 +213,7 @@ TEST_F(SettingsWindow, SaysThatThereIsNoUpdateAndGoesOn) {
     EXPECT_TRUE(press("Check for Updates…"));
     session.advance(1s);
     ASSERT_TRUE(session.updates().isShowingAlert());
-    session.updates().dismiss();
+    session.user().dismissUpdater();
     session.advance(1s);
     EXPECT_EQ(observers(), 0U);
     EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
@@ -221,49 +221,49 @@ TEST_F(SettingsWindow, SaysThatThereIsNoUpdateAndGoesOn) {
 }
 
 TEST_F(SettingsWindow, KeepsItsDockIconWhenAnUpdateIsPutAway) {
-    session.updates().setFeed(sim::UpdateFeed::newVersion);
+    session.updateSupply().feed = sim::UpdateFeed::newVersion;
     makeAndShow();
     EXPECT_TRUE(press("Check for Updates…"));
     session.advance(1s);
     ASSERT_TRUE(session.updates().isShowingUpdate());
     EXPECT_EQ(session.windows().shown().front()->title, "Software Update");
     EXPECT_EQ(session.windows().shown().front()->level, WindowLevel::floating);
-    session.updates().dismiss();
+    session.user().dismissUpdater();
     session.advance(1s);
     EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
 }
 
 // The policy that the session found is put back whatever became of the window meanwhile.
 TEST_F(SettingsWindow, LeavesADockIconWhenItIsClosedWhileAnUpdateIsShown) {
-    session.updates().setFeed(sim::UpdateFeed::newVersion);
+    session.updateSupply().feed = sim::UpdateFeed::newVersion;
     makeAndShow();
     EXPECT_TRUE(press("Check for Updates…"));
     session.advance(1s);
-    session.windows().closeByUser(session.windows().shown().back());
+    session.user().closeWindow(session.windows().shown().back());
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
-    session.updates().dismiss();
+    session.user().dismissUpdater();
     session.advance(1s);
     EXPECT_THAT(session.windows().shown(), IsEmpty());
     EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
     controller->show();
     settle();
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
 }
 
 TEST_F(SettingsWindow, LosesItsDockIconWithAnUpdateThatWasThereBefore) {
     session.application().policy = ActivationPolicy::accessory;
-    session.updates().setFeed(sim::UpdateFeed::newVersion);
+    session.updateSupply().feed = sim::UpdateFeed::newVersion;
     make();
-    session.updates().checkAsScheduled();
+    session.checkForUpdatesAsScheduled();
     session.advance(1s);
     ASSERT_TRUE(session.updates().isShowingUpdate());
     controller->show();
     settle();
     EXPECT_EQ(session.application().policy, ActivationPolicy::regular);
-    session.updates().dismiss();
+    session.user().dismissUpdater();
     session.advance(1s);
     EXPECT_NE(onlyWindow(session), nullptr);
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
@@ -271,7 +271,7 @@ TEST_F(SettingsWindow, LosesItsDockIconWithAnUpdateThatWasThereBefore) {
 
 TEST_F(SettingsWindowWithoutUpdater, ChangesNothingWhenItShouldCheckForUpdates) {
     makeAndShow();
-    session.windows().setActive(false);
+    session.user().switchAway();
     controller->model()->checkForUpdates();
     session.advance(1s);
     EXPECT_FALSE(session.application().isActive);
@@ -297,7 +297,7 @@ TEST_F(SettingsWindow, ReportsABugInOrder) {
 
 TEST_F(SettingsWindow, GoesOnWhenNobodyOpensTheMail) {
     makeAndShow();
-    session.refuseOpeningURLs(true);
+    session.faults().refuseOpeningURLs(true);
     const auto policy = session.application().policy;
     const std::size_t logged = session.logRecords().size();
     EXPECT_TRUE(press("Report a Bug…"));
@@ -311,8 +311,8 @@ TEST_F(SettingsWindow, GoesOnWhenNobodyOpensTheMail) {
     EXPECT_TRUE(press("Check for Updates…"));
     session.advance(1s);
     ASSERT_TRUE(session.updates().isShowingAlert());
-    session.updates().dismiss();
-    session.refuseOpeningURLs(false);
+    session.user().dismissUpdater();
+    session.faults().refuseOpeningURLs(false);
     EXPECT_TRUE(press("Report a Bug…"));
     EXPECT_THAT(session.openedURLs(), SizeIs(1));
 }

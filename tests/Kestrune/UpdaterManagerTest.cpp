@@ -1,6 +1,6 @@
 #include "Kestrune/UpdaterManager.h"
 
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/Kestrune/SettingsFixture.h"
 
 namespace kestrune {
@@ -176,7 +176,7 @@ TEST_F(Updates, PutBackThePolicyThatTheFirstAnnouncementFound) {
     manager->standardUserDriverWillHandleShowingUpdate();
     settle();
     EXPECT_EQ(policy(), ActivationPolicy::regular);
-    session.windows().setActive(false);
+    session.user().switchAway();
     manager->standardUserDriverWillHandleShowingUpdate();
     settle();
     EXPECT_TRUE(session.application().isActive);
@@ -267,7 +267,7 @@ class UpdatesWindow : public Updates, public ::testing::WithParamInterface<Windo
 
 TEST_P(UpdatesWindow, FloatsOnceItIsKeyWhileItIsObserved) {
     start();
-    session.windows().setActive(true);
+    session.user().switchToApplication();
     manager->startWindowObserver();
     calls();
     const auto window = showWindow(GetParam().className, GetParam().title);
@@ -277,7 +277,7 @@ TEST_P(UpdatesWindow, FloatsOnceItIsKeyWhileItIsObserved) {
 
 TEST_P(UpdatesWindow, StaysWhereItIsWhileNobodyObservesIt) {
     start();
-    session.windows().setActive(true);
+    session.user().switchToApplication();
     manager->startWindowObserver();
     manager->stopWindowObserver();
     EXPECT_FALSE(floats(*showWindow(GetParam().className, GetParam().title)));
@@ -295,7 +295,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, UpdatesWindow, ::testing::ValuesIn(WindowExamp
 
 TEST_F(Updates, MakeTheWindowFloatThatBecomesKeyInOrder) {
     start();
-    session.windows().setActive(true);
+    session.user().switchToApplication();
     manager->startWindowObserver();
     windows.clear();
     Window window({0, 0, 200, 100}, WindowStyleMask::titled, BackingStoreType::buffered, false);
@@ -309,7 +309,7 @@ TEST_F(Updates, MakeTheWindowFloatThatBecomesKeyInOrder) {
 
 TEST_F(Updates, AskForTheTitleOnlyOfAWindowWhoseClassSaysNothing) {
     start();
-    session.windows().setActive(true);
+    session.user().switchToApplication();
     manager->startWindowObserver();
     const auto becomeKey = [&](std::string_view className) {
         Window window({0, 0, 200, 100}, WindowStyleMask::titled, BackingStoreType::buffered, false);

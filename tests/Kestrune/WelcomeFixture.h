@@ -3,7 +3,7 @@
 
 #include "Kestrune/WelcomeWindowController.h"
 #include "platform/Application.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/Kestrune/ShellCalls.h"
 #include "tests/ui/SceneParts.h"
 
@@ -28,7 +28,7 @@ inline bool pressButton(sim::Session& session, std::string_view title) {
     }
     const auto place = ui::placeOfButton(sim::Windows::sceneOf(*window), title);
     if (place) {
-        session.windows().pressButton(window, *place);
+        session.user().pressButton(window, *place);
     }
     return place.has_value();
 }
@@ -58,7 +58,7 @@ protected:
     // The main thread does what waits for it.
     void settle() { session.advance(sim::Duration::zero()); }
 
-    void setPermission(sim::Permission permission) { session.accessibility().setPermission(permission); }
+    void setPermission(sim::Permission permission) { session.user().setPermission(permission); }
 
     bool press(std::string_view title) {
         const bool isPressed = pressButton(session, title);

@@ -29,19 +29,19 @@ TEST_F(WelcomeSteps, GoesFromTheIntroductionToThePermission) {
 
 TEST_F(WelcomeSteps, GoesOnWithReturn) {
     makeAndShow();
-    EXPECT_TRUE(session.windows().press(ui::KeyboardShortcut::defaultAction));
+    EXPECT_TRUE(session.user().press(ui::KeyboardShortcut::defaultAction));
     settle();
     EXPECT_EQ(controller->model()->currentStep, Step::accessibility);
-    EXPECT_TRUE(session.windows().press(ui::KeyboardShortcut::defaultAction));
+    EXPECT_TRUE(session.user().press(ui::KeyboardShortcut::defaultAction));
     EXPECT_EQ(finishedCalls, 1);
 }
 
 TEST_F(WelcomeStepsWithoutPermission, DoesNotAnswerToReturnBeforeThePermissionIsThere) {
     makeAndShow();
-    EXPECT_FALSE(session.windows().press(ui::KeyboardShortcut::defaultAction));
+    EXPECT_FALSE(session.user().press(ui::KeyboardShortcut::defaultAction));
     setPermission(sim::Permission::granted);
     session.advance(1s);
-    EXPECT_TRUE(session.windows().press(ui::KeyboardShortcut::defaultAction));
+    EXPECT_TRUE(session.user().press(ui::KeyboardShortcut::defaultAction));
     EXPECT_EQ(finishedCalls, 1);
 }
 
@@ -85,7 +85,7 @@ TEST_F(WelcomeStepsWithoutPermission, DoesNotTakeTheAnswerOfTheRequest) {
 TEST_F(WelcomeStepsWithoutPermission, OpensThePane) {
     makeAndShow();
     press("Request permission");
-    session.accessibility().denyInDialog();
+    session.user().denyInDialog();
     press("Open System Settings");
     EXPECT_THAT(session.openedURLs(),
                 ElementsAre("x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"));
@@ -105,10 +105,10 @@ TEST_F(WelcomeStepsWithoutPermission, SeesThePermissionAtTheNextTick) {
 
 TEST_F(WelcomeStepsWithoutPermission, SeesThePermissionAtOnceWhenItsWindowBecomesKeyAgain) {
     makeAndShow();
-    session.accessibility().showPane();
-    session.accessibility().flipSwitch();
+    session.user().openPane();
+    session.user().flipPermissionSwitch();
     EXPECT_FALSE(controller->model()->isAccessibilityTrusted);
-    session.windows().click(onlyWindow(session));
+    session.user().clickWindow(onlyWindow(session));
     EXPECT_TRUE(controller->model()->isAccessibilityTrusted);
     settle();
     EXPECT_THAT(buttons(), ElementsAre("Finish"));
@@ -139,7 +139,7 @@ TEST_F(WelcomeStepsWithoutPermission, FallBackToWhatWasThereBeforeTheGrant) {
 
 TEST_F(WelcomeStepsWithoutPermission, GoOnLookingForThePermissionWhileTheWindowIsClosed) {
     makeAndShow();
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     setPermission(sim::Permission::granted);
     session.advance(1s);
     EXPECT_TRUE(controller->model()->isAccessibilityTrusted);

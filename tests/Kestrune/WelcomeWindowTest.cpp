@@ -68,7 +68,7 @@ TEST_F(WelcomeWindowWithoutPermission, IsShownAndListed) {
 }
 
 TEST_F(WelcomeWindowWithoutPermission, ThrowsTheProbesTapAwayWhenThereIsOne) {
-    session.accessibility().delayTrust(true);
+    session.faults().delayTrust(true);
     setPermission(sim::Permission::granted);
     make();
     EXPECT_THAT(callsOf([this] { controller->show(); }), hasCallAbout("CGEventTapCreate"));
@@ -84,11 +84,11 @@ TEST_F(WelcomeWindow, BecomesKeyAfterTheApplicationIsActive) {
 }
 
 TEST_F(WelcomeWindow, IsThereAlthoughTheSystemDoesNotActivateTheApplication) {
-    session.refuseActivation(true);
+    session.faults().refuseActivation(true);
     makeAndShow();
     EXPECT_NE(onlyWindow(session), nullptr);
     EXPECT_EQ(session.windows().keyWindow(), nullptr);
-    session.windows().click(onlyWindow(session));
+    session.user().clickWindow(onlyWindow(session));
     EXPECT_EQ(session.windows().keyWindow(), onlyWindow(session));
 }
 
@@ -141,8 +141,8 @@ TEST_F(WelcomeWindow, PublishesAtEveryShowAndWheneverItBecomesKey) {
     const auto observation = controller->model()->observe([&] { ++changes; });
     controller->show();
     EXPECT_EQ(changes, 1);
-    session.windows().setActive(false);
-    session.windows().setActive(true);
+    session.user().switchAway();
+    session.user().switchToApplication();
     EXPECT_EQ(changes, 2);
 }
 
@@ -179,7 +179,7 @@ TEST_F(WelcomeWindow, HasDoneEverythingBeforeItTellsThatItHasFinished) {
 
 TEST_F(WelcomeWindow, ClosedEarlyIsNotFinished) {
     makeAndShow();
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
     EXPECT_EQ(session.defaults().find("hasCompletedOnboarding"), nullptr);
     EXPECT_EQ(finishedCalls, 0);
@@ -190,7 +190,7 @@ TEST_F(WelcomeWindow, ClosedEarlyIsNotFinished) {
 TEST_F(WelcomeWindow, CanBeShownAgainAfterItWasClosed) {
     makeAndShow();
     press("Get started");
-    session.windows().closeByUser(onlyWindow(session));
+    session.user().closeWindow(onlyWindow(session));
     controller->show();
     settle();
     EXPECT_THAT(buttons(), ElementsAre("Finish")); // where it was left
@@ -275,7 +275,7 @@ TEST_F(WelcomeWindowDeathTest, CanOnlyBeMadeByItself) {
 
 TEST_F(WelcomeWindowDeathTest, StopsTheProcessWhenThePanesAddressIsNoURL) {
     makeAndShow();
-    session.refuseURLs(true);
+    session.faults().refuseURLs(true);
     EXPECT_DEATH(controller->model()->openAccessibilitySettings(),
                  "Fatal error: The address of the Accessibility pane is no URL\\.");
 }

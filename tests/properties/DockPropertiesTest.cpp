@@ -1,4 +1,4 @@
-#include "sim/session/Dock.h"
+#include "sim/hardware/Dock.h"
 #include "tests/properties/Generators.h"
 #include "tests/random/guard/GuardedSession.h"
 

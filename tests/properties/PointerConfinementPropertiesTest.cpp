@@ -1,4 +1,4 @@
-#include "sim/session/PointerConfinement.h"
+#include "sim/hardware/PointerConfinement.h"
 #include "tests/properties/Generators.h"
 
 #include <gtest/gtest.h>

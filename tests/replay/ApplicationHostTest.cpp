@@ -45,7 +45,7 @@ TEST(ApplicationHost, WatchesForThePermissionThatIsMissing) {
     EXPECT_TRUE(host.isWatchingAccessibility());
     EXPECT_FALSE(host.guardIsRunning());
     EXPECT_EQ(session.accessibility().permission(), sim::Permission::switchedOff) << "it is listed now";
-    session.accessibility().setPermission(sim::Permission::granted);
+    session.user().setPermission(sim::Permission::granted);
     session.advance(std::chrono::seconds(1));
     EXPECT_TRUE(host.guardIsRunning());
     EXPECT_FALSE(host.isWatchingAccessibility());
@@ -157,10 +157,10 @@ TEST(ApplicationHost, LosesTheChoicesWithThePermission) {
     sim::Session session(options());
     ApplicationHost host(session);
     EXPECT_TRUE(host.flipSwitch());
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_FALSE(host.flipSwitch());
     EXPECT_FALSE(host.chooseDisplay(2));
-    session.accessibility().setPermission(sim::Permission::granted);
+    session.user().setPermission(sim::Permission::granted);
     EXPECT_TRUE(host.flipSwitch());
     EXPECT_TRUE(host.chooseDisplay(2));
 }
@@ -180,8 +180,8 @@ TEST(ApplicationHost, NoticesThatTheProcessHasEnded) {
     host.noticeEnd();
     EXPECT_TRUE(host.isRunning());
     // The user chooses the menu's last row.
-    ASSERT_TRUE(session.menus().open(Kestrune));
-    ASSERT_TRUE(session.menus().choose(session.menus().rows().size() - 1));
+    ASSERT_TRUE(session.user().openMenu(Kestrune));
+    ASSERT_TRUE(session.user().chooseRow(session.menus().rows().size() - 1));
     host.noticeEnd();
     EXPECT_FALSE(host.isRunning());
     EXPECT_EQ(session.liveObjects(), 0);

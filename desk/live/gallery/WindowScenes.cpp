@@ -70,7 +70,7 @@ const Thing FirstSwitch = firstControl<ui::ToggleElement>("a switch", [](const a
 // Drawn off what is held down, the press does nothing.
 void putBehind(Stage& stage) {
     stage.drawOff();
-    stage.desk().session().windows().setActive(false);
+    stage.desk().session().user().switchAway();
 }
 
 void bringToFront(Stage& stage) {
@@ -104,7 +104,7 @@ void requestPermission(Stage& stage) {
 }
 
 void grantPermission(Stage& stage) {
-    stage.desk().session().accessibility().setPermission(sim::Permission::granted);
+    stage.desk().session().user().setPermission(sim::Permission::granted);
     stage.desk().advance(UntilThePermissionIsSeen);
 }
 

@@ -3,7 +3,7 @@
 // All bounds are in global display coordinates; the first display is the primary, with its origin at (0, 0).
 #pragma once
 
-#include "sim/session/Display.h"
+#include "sim/hardware/Display.h"
 
 #include <cstddef>
 #include <vector>

@@ -2,7 +2,7 @@
 
 #include "desk/live/world/PinnedDisplay.h"
 #include "sim/formats/DefaultsFile.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 #include <cmath>
@@ -208,7 +208,7 @@ void LiveDesk::openLoginItems() {
 
 void LiveDesk::changeLoginApproval() {
     doLoginItemsWait_ = !doLoginItemsWait_;
-    session_.loginItem().requireApproval(doLoginItemsWait_);
+    session_.user().requireLoginItemApproval(doLoginItemsWait_);
     news_ = newsOfLoginApproval(doLoginItemsWait_);
 }
 
@@ -224,12 +224,12 @@ void LiveDesk::changeUpdateFeed() {
         feed_ = sim::UpdateFeed::nothingNew;
         break;
     }
-    session_.updates().setFeed(feed_);
+    session_.updateSupply().feed = feed_;
     news_ = newsOfFeed(feed_);
 }
 
 void LiveDesk::letScheduledCheckCome() {
-    session_.updates().checkAsScheduled();
+    session_.checkForUpdatesAsScheduled();
     news_ = newsOfScheduledCheck(feed_, host_.isRunning());
 }
 
@@ -265,8 +265,7 @@ void LiveDesk::changeDisplays(std::vector<sim::Display> displays) {
 void LiveDesk::togglePermission() {
     const bool grant = session_.accessibility().permission() != sim::Permission::granted;
     tell([&] {
-        session_.accessibility().setPermission(grant ? sim::Permission::granted
-                                                     : sim::Permission::switchedOff);
+        session_.user().setPermission(grant ? sim::Permission::granted : sim::Permission::switchedOff);
         return PartsOutcome();
     });
 }
@@ -276,7 +275,7 @@ void LiveDesk::timeOutTap() {
         news_ = {"There is no tap to switch off", Occurrence::neutral};
         return;
     }
-    session_.disableTaps(EventType::tapDisabledByTimeout);
+    session_.faults().disableTaps(EventType::tapDisabledByTimeout);
     news_ = newsOfTapTimeout(session_.taps().enabledCount() > 0);
 }
 

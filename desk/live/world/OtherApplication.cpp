@@ -2,11 +2,11 @@
 
 namespace kestrune::desk {
 
-void comeToTheFront(sim::Session& session) { session.windows().setActive(false); }
+void comeToTheFront(sim::Session& session) { session.user().switchAway(); }
 
 void leaveTheFront(sim::Session& session) {
     if (session.application().policy == ActivationPolicy::regular && !session.windows().shown().empty()) {
-        session.windows().setActive(true);
+        session.user().switchToApplication();
     }
 }
 

@@ -1,8 +1,8 @@
 #include "desk/live/world/ScreenParts.h"
 
 #include "desk/live/world/OtherApplication.h"
-#include "sim/seam/MenuState.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 
 #include <utility>
 #include <variant>
@@ -118,13 +118,13 @@ void ScreenParts::openStatusMenu(std::size_t display) {
 }
 
 void ScreenParts::openMenu(const sim::MenuPlace& place, std::size_t display) {
-    session_.menus().open(place);
+    session_.user().openMenu(place);
     menuDisplay_ = display;
     highlightedRow_.reset();
 }
 
 void ScreenParts::closeMenu() {
-    session_.menus().close();
+    session_.user().closeMenu();
     noteClosedMenu();
 }
 
@@ -145,7 +145,7 @@ void ScreenParts::displaysChanged() {
 PartsOutcome ScreenParts::choose(std::size_t row) {
     const auto rows = session_.menus().rows();
     PartsOutcome outcome;
-    if (row < rows.size() && session_.menus().choose(row)) {
+    if (row < rows.size() && session_.user().chooseRow(row)) {
         outcome.chosenRow = rows[row].title;
         outcome.wasMarked = rows[row].state != ControlState::off;
     }
@@ -170,7 +170,7 @@ PartsOutcome ScreenParts::press(NavigationKey key) {
     }
     // The dialog's default button is the one that denies.
     if (key == NavigationKey::enter || key == NavigationKey::space || key == NavigationKey::escape) {
-        session_.accessibility().denyInDialog();
+        session_.user().denyInDialog();
     }
     return outcome;
 }
@@ -233,7 +233,7 @@ PartsOutcome ScreenParts::pressEquivalent(std::string_view character, bool withS
     const auto modifiers =
         withShift ? EventModifierFlags::command | EventModifierFlags::shift : EventModifierFlags::command;
     PartsOutcome outcome;
-    if (session_.menus().press(character, modifiers)) {
+    if (session_.user().press(character, modifiers)) {
         outcome.chosenRow = "⌘" + std::string(character);
         noteClosedMenu();
     } else if (character == "w" && system_.mail().isOpen() && !windows_.takesKeys()) {

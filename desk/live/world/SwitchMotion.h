@@ -4,7 +4,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "sim/session/VirtualClock.h"
+#include "sim/hardware/VirtualClock.h"
 
 #include <optional>
 

@@ -6,7 +6,7 @@
 namespace kestrune::desk {
 
 void SystemSettings::openLoginItems() {
-    session_.accessibility().closePane();
+    session_.user().closePane();
     areLoginItemsOpen_ = true;
     isRowSelected_ = false;
     comeToTheFront(session_);
@@ -45,18 +45,17 @@ bool SystemSettings::isOn() const {
 // A row that has gone meanwhile has no switch any more.
 void SystemSettings::flipSwitch() {
     if (!showsLoginItems()) {
-        session_.accessibility().flipSwitch();
+        session_.user().flipPermissionSwitch();
     } else if (isListed()) {
-        session_.loginItem().setStatus(isOn() ? AppServiceStatus::requiresApproval
-                                              : AppServiceStatus::enabled);
+        session_.user().setLoginItem(isOn() ? AppServiceStatus::requiresApproval : AppServiceStatus::enabled);
     }
 }
 
 void SystemSettings::removeRow() {
     if (showsLoginItems()) {
-        session_.loginItem().setStatus(AppServiceStatus::notRegistered);
+        session_.user().setLoginItem(AppServiceStatus::notRegistered);
     } else {
-        session_.accessibility().removeRow();
+        session_.user().removePermissionRow();
     }
     isRowSelected_ = false;
 }
@@ -65,7 +64,7 @@ void SystemSettings::close() {
     isRowSelected_ = false;
     areLoginItemsOpen_ = false;
     if (session_.accessibility().isPaneShown()) {
-        session_.accessibility().closePane();
+        session_.user().closePane();
     } else {
         leaveTheFront(session_);
     }

@@ -3,8 +3,8 @@
 #include "desk/live/world/OtherApplication.h"
 #include "desk/live/world/SystemViews.h"
 #include "desk/paint/mac/Measures.h"
-#include "sim/seam/HostedView.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/HostedView.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,12 +17,11 @@ double SystemWindow::titleBarHeight() const {
 
 // The dialog shows on the primary display, the others beside it where there is another.
 SystemWindows::SystemWindows(sim::Session& session) : session_(session) {
-    sim::Accessibility& accessibility = session.accessibility();
     const SystemWindow dialog{.level = WindowLevel::floating,
                               .heightOnDisplay = 0.42,
                               .title =
                                   [&] {
-                                      return accessibility.isDialogShown()
+                                      return session.accessibility().isDialogShown()
                                                  ? std::optional<std::string>("Accessibility Access (Events)")
                                                  : std::nullopt;
                                   },
@@ -30,8 +29,8 @@ SystemWindows::SystemWindows(sim::Session& session) : session_(session) {
                                   [&] {
                                       return permissionDialog(
                                           kestruneAsListed(session),
-                                          [&] { accessibility.openSettingsFromDialog(); },
-                                          [&] { accessibility.denyInDialog(); });
+                                          [&] { session.user().openSettingsFromDialog(); },
+                                          [&] { session.user().denyInDialog(); });
                                   },
                               .close = nullptr};
     const SystemWindow mail{
@@ -78,7 +77,7 @@ void SystemWindows::open(SystemWindow& window) const {
     const auto& displays = session_.displays().connected();
     const Rect& display = displays[std::min(window.display, displays.size() - 1)].bounds;
     const Size size = window.state->frame.size;
-    session_.windows().moveTo(
+    session_.user().moveWindow(
         window.state,
         {std::round(display.minX() + (display.width() - size.width) / 2),
          std::max(display.minY() + MenuBarHeight,

@@ -4,7 +4,7 @@
 #include "desk/paint/mac/ApplicationIcon.h"
 #include "desk/paint/mac/ControlPainter.h"
 #include "desk/paint/mac/Measures.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 
 #include <algorithm>
 #include <utility>
@@ -60,13 +60,13 @@ void WindowParts::press(const std::optional<DeskTarget>& target) {
     const WindowState window = windowOf(target);
     const bool isOfApplication = window && system_.find(window) == nullptr;
     if (!isOfApplication && takesKeys()) {
-        session_.windows().setActive(false);
+        session_.user().switchAway();
     }
     if (!window) {
         return;
     }
     if (const WindowState alert = modalAlert(); isOfApplication && alert && alert != window) {
-        session_.windows().click(alert);
+        session_.user().clickWindow(alert);
         return;
     }
     pressed_ = target;
@@ -78,7 +78,7 @@ void WindowParts::press(const std::optional<DeskTarget>& target) {
         return;
     }
     if (isOfApplication) {
-        session_.windows().click(window);
+        session_.user().clickWindow(window);
     }
     if (target->kind == Kind::control) {
         pressedControl_ = controlIn(window, target->index);
@@ -106,9 +106,9 @@ std::optional<std::string> WindowParts::release(const std::optional<DeskTarget>&
     if (target->kind == DeskTarget::Kind::closeButton) {
         close(window);
     } else if (target->kind == DeskTarget::Kind::minimizeButton) {
-        session_.windows().miniaturizeByUser(window);
+        session_.user().miniaturizeWindow(window);
     } else if (target->kind == DeskTarget::Kind::dockTile) {
-        session_.windows().click(window);
+        session_.user().clickWindow(window);
     } else if (control && isStillThere(control, window)) {
         return act(*control);
     }
@@ -119,7 +119,7 @@ void WindowParts::close(const WindowState& window) {
     if (const SystemWindow* const ofSystem = system_.find(window)) {
         ofSystem->close();
     } else {
-        session_.windows().closeByUser(window);
+        session_.user().closeWindow(window);
     }
 }
 
@@ -135,7 +135,7 @@ std::optional<std::string> WindowParts::letGoOfKnob(const Control& control, cons
     if (!isFlipped) {
         return std::nullopt;
     }
-    session_.windows().flipSwitch(window, control.element);
+    session_.user().flipSwitch(window, control.element);
     return toldOf(control);
 }
 
@@ -176,7 +176,7 @@ void WindowParts::followPointer() {
     if (const sim::Display* const display = session_.displays().containing(pointer)) {
         corner.y = std::max(corner.y, display->bounds.minY() + MenuBarHeight);
     }
-    session_.windows().moveTo(window, corner);
+    session_.user().moveWindow(window, corner);
 }
 
 std::optional<std::string> WindowParts::press(NavigationKey key) {
@@ -207,7 +207,7 @@ std::optional<std::string> WindowParts::press(NavigationKey key) {
 
 std::optional<std::string> WindowParts::pressShortcut(ui::KeyboardShortcut shortcut) {
     const WindowState key = session_.windows().keyWindow();
-    const auto element = sim::Windows::elementFor(*key, shortcut);
+    const auto element = sim::User::elementFor(*key, shortcut);
     const auto control = element ? controlIn(key, *element) : std::nullopt;
     return control ? std::optional(act(*control)) : std::nullopt;
 }
@@ -248,9 +248,9 @@ std::optional<std::string> WindowParts::act(const Control& control) {
     auto title = toldOf(control); // The action may end with the control.
     if (const ui::ToggleElement* const toggle = switchOf(control)) {
         slide(control, toggle->isOn ? 1 : 0, !toggle->isOn);
-        session_.windows().flipSwitch(window, control.element);
+        session_.user().flipSwitch(window, control.element);
     } else {
-        session_.windows().pressButton(window, control.element);
+        session_.user().pressButton(window, control.element);
     }
     return title;
 }

@@ -2,7 +2,7 @@
 #include "desk/paint/mac/ScenePainter.h"
 #include "desk/paint/toolkit/Shapes.h"
 #include "desk/paint/toolkit/Surface.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "sim/session/Session.h"
 #include "tests/contract/World.h"
 

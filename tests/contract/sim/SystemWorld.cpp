@@ -1,5 +1,5 @@
 // What surrounds the application beside displays, menus and windows: login items, the system, frameworks.
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "sim/session/Session.h"
 #include "tests/contract/World.h"
 
@@ -8,8 +8,6 @@ namespace kestrune::contract {
 namespace {
 
 static_assert(World::UpdateFailure == sim::Updates::StartFailure);
-
-sim::LoginItem& item() { return sim::Session::current().loginItem(); }
 
 sim::UpdateFramework simulated(UpdateFramework framework) {
     switch (framework) {
@@ -55,13 +53,15 @@ std::shared_ptr<void> World::showFrameworkWindow(std::string_view className, std
     return {window.get(), [window, &windows](void*) { windows.orderOut(window); }};
 }
 
-AppServiceStatus World::loginItem() const { return item().status(); }
+AppServiceStatus World::loginItem() const { return sim::Session::current().loginItem().status(); }
 
-void World::setLoginItem(AppServiceStatus status) { item().setStatus(status); }
+void World::setLoginItem(AppServiceStatus status) { sim::Session::current().user().setLoginItem(status); }
 
-void World::requireApprovalOfLoginItem() { item().requireApproval(true); }
+void World::requireApprovalOfLoginItem() { sim::Session::current().user().requireLoginItemApproval(true); }
 
-void World::refuseLoginItemChanges(std::string description) { item().refuse(std::move(description)); }
+void World::refuseLoginItemChanges(std::string description) {
+    sim::Session::current().faults().refuseLoginItem(std::move(description));
+}
 
 std::vector<std::string> World::loginItemMessages() const { return journalLines("-[SMAppService "); }
 
@@ -74,12 +74,12 @@ std::string World::localeIdentifier() const {
 }
 
 void World::setUpdateFramework(UpdateFramework framework) {
-    sim::Session::current().updates().setFramework(simulated(framework));
+    sim::Session::current().updateSupply().framework = simulated(framework);
 }
 
 // The journal has what the seam was asked for, also when there is nobody to ask.
 std::vector<std::string> World::updateMessages() const {
-    const bool isThere = sim::Session::current().updates().framework() != sim::UpdateFramework::missing;
+    const bool isThere = sim::Session::current().updateSupply().framework != sim::UpdateFramework::missing;
     return isThere ? journalLines("-[SPU") : std::vector<std::string>();
 }
 

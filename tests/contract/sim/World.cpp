@@ -1,8 +1,8 @@
 #include "tests/contract/World.h"
 
 #include "base/Fatal.h"
-#include "sim/seam/StatusItemState.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/StatusItemState.h"
+#include "sim/services/WindowState.h"
 #include "sim/session/Session.h"
 #include "tests/ui/SceneParts.h"
 
@@ -174,11 +174,11 @@ void World::setMainDisplay(std::optional<std::size_t> index) { state_->session.d
 
 void World::failUUIDStrings() { state_->session.displays().setUUIDStringsFail(true); }
 
-void World::setTrust(Trust trust) { state_->session.accessibility().setPermission(permission(trust)); }
+void World::setTrust(Trust trust) { state_->session.user().setPermission(permission(trust)); }
 
 Trust World::trust() const { return trustOf(state_->session.accessibility().permission()); }
 
-void World::followTrustDialog() { state_->session.accessibility().openSettingsFromDialog(); }
+void World::followTrustDialog() { state_->session.user().openSettingsFromDialog(); }
 
 bool World::isTrustDialogShown() const { return state_->session.accessibility().isDialogShown(); }
 
@@ -194,7 +194,7 @@ std::optional<DeliveredEvent> World::deliver(EventType type, Point location) {
     return DeliveredEvent{delivery.type, delivery.delivered, delivery.replaced};
 }
 
-void World::switchTapsOff(EventType reason) { state_->session.disableTaps(reason); }
+void World::switchTapsOff(EventType reason) { state_->session.faults().disableTaps(reason); }
 
 std::vector<LoggedMessage> World::loggedMessages() const {
     std::vector<LoggedMessage> messages;
@@ -209,18 +209,20 @@ void World::letTimePass(double seconds) {
         std::chrono::duration_cast<sim::Duration>(std::chrono::duration<double>(seconds)));
 }
 
-void World::onAnotherThread(const std::function<void()>& work) { state_->session.onAnotherThread(work); }
+void World::onAnotherThread(const std::function<void()>& work) {
+    state_->session.faults().onAnotherThread(work);
+}
 
 // In the simulation `run` returns after the launch, and `terminate:` after the process has ended.
 void World::launch(const std::function<void()>& work) { work(); }
 
 void World::catchTermination(const std::function<void()>& work) { work(); }
 
-void World::activateApplication() { state_->session.windows().setActive(true); }
+void World::activateApplication() { state_->session.user().switchToApplication(); }
 
-void World::activateAnotherApplication() { state_->session.windows().setActive(false); }
+void World::activateAnotherApplication() { state_->session.user().switchAway(); }
 
-bool World::reopenApplication() { return state_->session.reopenApplication(); }
+bool World::reopenApplication() { return state_->session.user().reopenApplication(); }
 
 bool World::isActive() const { return state_->session.application().isActive; }
 
@@ -239,11 +241,11 @@ ShownButton World::statusButton(std::size_t statusItem) const {
 }
 
 bool World::State::open(const sim::MenuPlace& place, const std::function<void()>& whileOpen) {
-    if (!session.menus().open(place)) {
+    if (!session.user().openMenu(place)) {
         return false;
     }
     whileOpen();
-    session.menus().close();
+    session.user().closeMenu();
     return true;
 }
 
@@ -263,11 +265,11 @@ std::vector<ShownRow> World::openMenuRows() const {
     return rows;
 }
 
-void World::chooseRow(std::size_t row) { state_->session.menus().choose(row); }
+void World::chooseRow(std::size_t row) { state_->session.user().chooseRow(row); }
 
 void World::pressKey(std::string_view character, EventModifierFlags modifiers) {
-    if (!state_->session.menus().press(character, modifiers) && character == "\r") {
-        state_->session.windows().press(ui::KeyboardShortcut::defaultAction);
+    if (!state_->session.user().press(character, modifiers) && character == "\r") {
+        state_->session.user().press(ui::KeyboardShortcut::defaultAction);
     }
 }
 
@@ -281,34 +283,30 @@ std::vector<ShownWindow> World::shownWindows() const {
 }
 
 void World::clickTitleBar(std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    windows.click(windows.shown().at(window));
+    state_->session.user().clickWindow(state_->session.windows().shown().at(window));
 }
 
 void World::clickCloseButton(std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    windows.closeByUser(windows.shown().at(window));
+    state_->session.user().closeWindow(state_->session.windows().shown().at(window));
 }
 
 void World::clickMinimizeButton(std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    windows.miniaturizeByUser(windows.shown().at(window));
+    state_->session.user().miniaturizeWindow(state_->session.windows().shown().at(window));
 }
 
 void World::clickButton(std::string_view title, std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    const auto clicked = windows.shown().at(window);
+    const auto clicked = state_->session.windows().shown().at(window);
     const auto place = ui::placeOfButton(sim::Windows::sceneOf(*clicked), title);
     if (!place) {
         fatal("There is no button of that title.");
     }
-    windows.pressButton(clicked, *place);
+    state_->session.user().pressButton(clicked, *place);
 }
 
 void World::clickSwitch(std::size_t index, std::size_t window) {
-    sim::Windows& windows = state_->session.windows();
-    const auto clicked = windows.shown().at(window);
-    windows.flipSwitch(clicked, ui::placesOf<ui::ToggleElement>(sim::Windows::sceneOf(*clicked)).at(index));
+    const auto clicked = state_->session.windows().shown().at(window);
+    state_->session.user().flipSwitch(
+        clicked, ui::placesOf<ui::ToggleElement>(sim::Windows::sceneOf(*clicked)).at(index));
 }
 
 void World::constructFromArchive(std::string_view className) {
@@ -323,6 +321,6 @@ std::string World::crashReportMessage() const { return state_->session.crashRepo
 
 std::vector<std::string> World::openedURLs() const { return state_->session.openedURLs(); }
 
-void World::letNobodyOpenURLs() { state_->session.refuseOpeningURLs(true); }
+void World::letNobodyOpenURLs() { state_->session.faults().refuseOpeningURLs(true); }
 
 } // namespace kestrune::contract

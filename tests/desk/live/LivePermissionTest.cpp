@@ -138,11 +138,11 @@ TEST(LivePermission, IsNotAskedForWhenItIsThere) {
 
 TEST(LivePermission, GivesNoTapThatTheSystemRefuses) {
     LiveDesk desk(unguarded());
-    desk.session().refuseTapCreation(true);
+    desk.session().faults().refuseTapCreation(true);
     desk.toggleGuard();
     EXPECT_EQ(desk.news().text, "Guard on, but the system gave it no event tap");
     EXPECT_EQ(desk.news().kind, Occurrence::warning);
-    desk.session().refuseTapCreation(false);
+    desk.session().faults().refuseTapCreation(false);
     desk.advance(3 * Second);
     EXPECT_FALSE(desk.host().guardIsRunning()) << "nobody tries again by the clock";
     desk.openStatusMenu();

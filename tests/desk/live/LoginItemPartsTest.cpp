@@ -35,7 +35,7 @@ TEST_F(LoginItemsOnTheDesk, ShowLaunchAtLoginAmongTheLoginItems) {
 }
 
 TEST_F(LoginItemsOnTheDesk, RevokeAndAllowTheLoginItem) {
-    desk.session().loginItem().setStatus(AppServiceStatus::enabled);
+    desk.session().user().setLoginItem(AppServiceStatus::enabled);
     desk.openLoginItems();
     hand.clickControl("Kestrune");
     EXPECT_EQ(loginItem(), AppServiceStatus::requiresApproval);
@@ -56,7 +56,7 @@ TEST_F(LoginItemsOnTheDesk, RevokeAndAllowTheLoginItem) {
 }
 
 TEST_F(LoginItemsOnTheDesk, LetOnlyTheUserAllowWhatTheUserRevoked) {
-    desk.session().loginItem().setStatus(AppServiceStatus::enabled);
+    desk.session().user().setLoginItem(AppServiceStatus::enabled);
     desk.openLoginItems();
     hand.clickControl("Kestrune");
     open();
@@ -98,11 +98,11 @@ TEST_F(LoginItemsOnTheDesk, RegisterAnItemThatWaitsForApproval) {
 }
 
 TEST_F(LoginItemsOnTheDesk, ShowOnePaneOfSystemSettingsAtATime) {
-    desk.session().accessibility().showPane();
+    desk.session().user().openPane();
     desk.openLoginItems();
     EXPECT_THAT(windowTitlesOn(desk), ElementsAre(LoginItemsTitle));
     EXPECT_FALSE(desk.session().accessibility().isPaneShown());
-    desk.session().accessibility().showPane();
+    desk.session().user().openPane();
     EXPECT_THAT(windowTitlesOn(desk), ElementsAre("Accessibility"));
     hand.closeWindow("Accessibility");
     EXPECT_THAT(windowTitlesOn(desk), IsEmpty());

@@ -1,6 +1,6 @@
 #include "desk/live/world/LiveDesk.h"
 #include "sim/formats/DefaultsFile.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/StatusItemState.h"
 #include "tests/base/FileContent.h"
 #include "tests/base/TemporaryFolder.h"
 #include "tests/desk/live/LiveFixture.h"

@@ -27,8 +27,8 @@ protected:
 
     // The menu that opens first is the one that was built at launch, before the setup was noted.
     PartsFixture() {
-        session.menus().open(sim::StatusItemIndex{0});
-        session.menus().close();
+        session.user().openMenu(sim::StatusItemIndex{0});
+        session.user().closeMenu();
     }
 
     static sim::SessionOptions options() {

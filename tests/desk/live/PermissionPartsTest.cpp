@@ -21,7 +21,7 @@ protected:
 
 class SettingsPaneOnTheDesk : public PartsFixture {
 protected:
-    SettingsPaneOnTheDesk() { session.accessibility().showPane(); }
+    SettingsPaneOnTheDesk() { session.user().openPane(); }
 
     sim::Permission permission() { return session.accessibility().permission(); }
     std::optional<bool> isOn() { return isSwitchOn(picture(), "Kestrune"); }
@@ -97,7 +97,7 @@ TEST_F(PermissionDialog, LeavesTheKeysToAnOpenMenu) {
 }
 
 TEST_F(PermissionDialog, IsInFrontOfSystemSettings) {
-    session.accessibility().showPane();
+    session.user().openPane();
     EXPECT_THAT(titles(), ElementsAre(DialogTitle, PaneTitle));
     EXPECT_TRUE(window(DialogTitle).isKey);
     EXPECT_FALSE(window(PaneTitle).isKey);
@@ -142,9 +142,9 @@ TEST_F(SettingsPaneOnTheDesk, ListsTheApplicationWithItsSwitch) {
                 ElementsAre("Allow the applications below to control your computer.", "Kestrune"));
     EXPECT_EQ(iconsIn(window(PaneTitle)), std::vector<std::string>{"icon.png"});
     EXPECT_EQ(isOn(), true);
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_EQ(isOn(), false);
-    session.accessibility().setPermission(sim::Permission::notListed);
+    session.user().setPermission(sim::Permission::notListed);
     EXPECT_EQ(isOn(), std::nullopt);
     EXPECT_THAT(textsIn(window(PaneTitle)),
                 ElementsAre("Allow the applications below to control your computer.", "No Items"));
@@ -176,7 +176,7 @@ TEST_F(SettingsPaneOnTheDesk, RemovesTheRow) {
     click(control("Remove"));
     EXPECT_EQ(isOn(), std::nullopt);
     EXPECT_EQ(permission(), sim::Permission::rowDeleted);
-    session.accessibility().setPermission(sim::Permission::switchedOff);
+    session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_FALSE(isRowSelected()) << "a new row is not the one that was chosen";
 }
 
@@ -184,7 +184,7 @@ TEST_F(SettingsPaneOnTheDesk, ClosesAndForgetsTheSelection) {
     click(control("Select Kestrune"));
     click(DeskTarget::closeButton(window(PaneTitle).number));
     EXPECT_THAT(titles(), ElementsAre());
-    session.accessibility().showPane();
+    session.user().openPane();
     EXPECT_FALSE(isRowSelected());
 }
 
@@ -202,7 +202,7 @@ TEST_F(SettingsPaneOnTheDesk, ShowsThatItsCloseButtonIsUsed) {
 TEST_F(SettingsPaneOnTheDesk, DoesNothingMoreOnceItIsClosed) {
     const DeskTarget close = DeskTarget::closeButton(window(PaneTitle).number);
     const DeskTarget toggle = control("Kestrune");
-    session.accessibility().closePane();
+    session.user().closePane();
     makeRegular();
     click(close);
     click(toggle);

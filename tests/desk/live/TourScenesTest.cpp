@@ -2,7 +2,7 @@
 
 #include "desk/live/gallery/Gallery.h"
 #include "desk/live/world/LivePicture.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/desk/live/WindowTitles.h"
 
 #include <gmock/gmock.h>

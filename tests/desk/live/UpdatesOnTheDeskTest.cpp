@@ -96,7 +96,7 @@ TEST_F(UpdatesOnTheDesk, KeepClicksAwayFromOtherWindowsWhileAnAlertIsOpen) {
     EXPECT_EQ(front().number, alert);
     EXPECT_TRUE(front().isKey);
     // From another application a click brings the alert forward.
-    desk.session().windows().setActive(false);
+    desk.session().user().switchAway();
     desk.pressButton(DeskTarget::ofWindow(settings().number));
     desk.releaseButton(DeskTarget::ofWindow(settings().number));
     EXPECT_TRUE(front().isKey);

@@ -3,7 +3,7 @@
 #include "desk/live/world/ScreenParts.h"
 #include "desk/paint/mac/ScenePainter.h"
 #include "replay/ApplicationHost.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/desk/live/WindowTitles.h"
 
 #include <gmock/gmock.h>
@@ -65,7 +65,7 @@ protected:
     }
 
     void grant() {
-        session.accessibility().setPermission(sim::Permission::granted);
+        session.user().setPermission(sim::Permission::granted);
         session.advance(std::chrono::milliseconds(1100));
     }
 
@@ -162,7 +162,7 @@ TEST_F(WindowPartsOnTheWizard, ShowWhenThePointerIsOverTheCloseButton) {
 }
 
 TEST_F(WindowPartsOnTheWizard, CloseAWindowInTheBackgroundWithoutBringingItForward) {
-    session.windows().setActive(false);
+    session.user().switchAway();
     const DeskTarget close = DeskTarget::closeButton(wizard().number);
     parts.press(close);
     EXPECT_FALSE(session.application().isActive);
@@ -188,7 +188,7 @@ TEST_F(WindowPartsOnTheWizard, DragTheWindowByItsTitleBar) {
 }
 
 TEST_F(WindowPartsOnTheWizard, BringTheWindowForwardWithAClickAndPutItBehindWithOneElsewhere) {
-    session.accessibility().showPane();
+    session.user().openPane();
     EXPECT_THAT(titles(), ElementsAre("Accessibility", "Welcome to Kestrune"));
     click(DeskTarget::ofWindow(wizard().number));
     EXPECT_TRUE(wizard().isKey);
@@ -267,8 +267,8 @@ TEST_F(WindowPartsOnTheWizard, LetGoWhenTheDisplaysChange) {
 TEST_F(WindowPartsOnTheWizard, KeepTheNumberOfAWindow) {
     const std::size_t number = wizard().number;
     click(DeskTarget::closeButton(number));
-    session.menus().open(sim::StatusItemIndex{0});
-    session.menus().choose(0); // "Complete setup…"
+    session.user().openMenu(sim::StatusItemIndex{0});
+    session.user().chooseRow(0); // "Complete setup…"
     session.advance(sim::Duration::zero());
     EXPECT_EQ(wizard().number, number);
     EXPECT_TRUE(wizard().isKey);
@@ -301,7 +301,7 @@ TEST(WindowParts, KeepTheIntroductionInFrontOfTheDialog) {
     EXPECT_FALSE(picture.windows[0].isKey);
     EXPECT_EQ(picture.windows[1].title, "Accessibility Access (Events)");
     // A view without controls, or no view, has nothing to go to.
-    session.windows().setActive(true);
+    session.user().switchToApplication();
     parts.press(NavigationKey::tab);
     parts.press(NavigationKey::enter);
     EXPECT_EQ(parts.press(NavigationKey::space), std::nullopt);

@@ -2,7 +2,7 @@
 // they were asked for.
 #pragma once
 
-#include "sim/session/VirtualClock.h"
+#include "sim/hardware/VirtualClock.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -30,7 +30,7 @@ ShellModel::ShellModel(const ShellBeginning& beginning)
       displays_(beginning.displays),
       permission_(beginning.permission),
       entries_(beginning.entries) {
-    updatesWorld_.framework = beginning.framework;
+    updateSupply_.framework = beginning.framework;
 }
 
 bool ShellModel::isTrusted() const {

@@ -122,7 +122,7 @@ public:
 
     // Login items and updates.
     void changeLoginItem(const LoginItemModel& item) { loginItem_ = item; }
-    void changeUpdates(const UpdatesWorld& updates) { updatesWorld_ = updates; }
+    void changeUpdates(const sim::UpdateSupply& updates) { updateSupply_ = updates; }
     void checkAsScheduled();
 
     // Everything around the application. Displays change with or, for a moment, without the announcement.
@@ -144,7 +144,7 @@ public:
     const ShellEntries& entries() const { return entries_; }
     const DesktopModel& desktop() const { return desktop_; }
     const LoginItemModel& loginItem() const { return loginItem_; }
-    const UpdatesWorld& updatesWorld() const { return updatesWorld_; }
+    const sim::UpdateSupply& updateSupply() const { return updateSupply_; }
     sim::Permission permission() const { return permission_; }
     bool isSetUp() const { return isTrusted() && entries_.onboarding.reading; }
 
@@ -249,7 +249,7 @@ private:
     sim::Permission permission_;
     ShellEntries entries_;
     LoginItemModel loginItem_;
-    UpdatesWorld updatesWorld_;
+    sim::UpdateSupply updateSupply_;
     bool refusesTaps_ = false;
     MainThreadModel thread_;
     std::optional<ProcessModel> process_;

@@ -1,4 +1,5 @@
 // What the update framework does and shows, and what the application must make of it.
+#include "sim/services/Updates.h"
 #include "tests/random/application/ShellModel.h"
 
 #include <utility>
@@ -6,9 +7,9 @@
 namespace kestrune::simulate {
 
 void ShellModel::startUpdater() {
-    if (updatesWorld_.framework != sim::UpdateFramework::working) {
+    if (updateSupply_.framework != sim::UpdateFramework::working) {
         counts_.add(Happening::updatersNotStarted);
-        const std::string reason = updatesWorld_.framework == sim::UpdateFramework::missing
+        const std::string reason = updateSupply_.framework == sim::UpdateFramework::missing
                                        ? std::string(MissingUpdateFramework)
                                        : std::string(sim::Updates::StartFailure);
         log_.push_back({sim::LogLevel::error, ApplicationSubsystem, "updater",
@@ -45,7 +46,7 @@ void ShellModel::check(bool isByUser) {
     updates.stage = UpdateStage::checking;
     ++updates.session;
     if (isByUser) {
-        showOfUpdater("Updating Kestrune", updatesWorld_.windowClass, true);
+        showOfUpdater("Updating Kestrune", updateSupply_.windowClass, true);
     }
     thread_.enqueue(
         [this, isByUser, session = updates.session] {
@@ -59,11 +60,11 @@ void ShellModel::check(bool isByUser) {
 void ShellModel::finishCheck(bool isByUser) {
     UpdatesModel& updates = process_->updates;
     hideOfUpdater();
-    if (textIn(bundle_.feed) && updatesWorld_.feed == sim::UpdateFeed::newVersion) {
+    if (textIn(bundle_.feed) && updateSupply_.feed == sim::UpdateFeed::newVersion) {
         counts_.add(Happening::updatesFound);
         updates.stage = UpdateStage::update;
         announce();
-        showOfUpdater("Software Update", updatesWorld_.windowClass, isByUser);
+        showOfUpdater("Software Update", updateSupply_.windowClass, isByUser);
     } else if (isByUser) {
         counts_.add(Happening::alertsShown);
         updates.stage = UpdateStage::alert;
@@ -124,7 +125,7 @@ void ShellModel::raiseUpdatersWindows() {
 
 void ShellModel::showOfUpdater(std::string title, std::string className, bool asKey) {
     WindowsModel& windows = process_->windows;
-    const bool hides = updatesWorld_.windowsHide && className == updatesWorld_.windowClass;
+    const bool hides = updateSupply_.windowsHide && className == updateSupply_.windowClass;
     process_->updates.window =
         windows.add({WindowKind::updates, std::move(title), std::move(className), false, hides});
     if (asKey) {

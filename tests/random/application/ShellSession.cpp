@@ -57,7 +57,7 @@ void ShellSession::terminate() {
 
 void ShellSession::kill() {
     if (isRunning()) {
-        session_.endApplication();
+        session_.user().endApplication();
         model_.kill();
         check();
     }
@@ -78,7 +78,7 @@ void ShellSession::letGoOfDelegate(bool controllerStays) {
 }
 
 void ShellSession::reopen() {
-    session_.reopenApplication();
+    session_.user().reopenApplication();
     model_.reopen();
     check();
 }
@@ -87,31 +87,35 @@ void ShellSession::setActive(bool isActive) {
     if (!isRunning()) {
         return;
     }
-    session_.windows().setActive(isActive);
+    if (isActive) {
+        session_.user().switchToApplication();
+    } else {
+        session_.user().switchAway();
+    }
     model_.setActive(isActive);
     check();
 }
 
 void ShellSession::openMenu(const sim::MenuPlace& place) {
-    const bool opened = session_.menus().open(place);
+    const bool opened = session_.user().openMenu(place);
     require(model_.openMenu(place) == opened, "a menu that is there did not open, or the other way round");
     check();
 }
 
 void ShellSession::choose(std::size_t row) {
-    const bool reached = session_.menus().choose(row);
+    const bool reached = session_.user().chooseRow(row);
     require(model_.choose(row) == reached, "the wrong rows of a menu do something");
     check();
 }
 
 void ShellSession::press(std::string_view key, EventModifierFlags modifiers) {
-    const bool reached = session_.menus().press(key, modifiers);
+    const bool reached = session_.user().press(key, modifiers);
     require(model_.press(key, modifiers) == reached, "the wrong keys do something");
     check();
 }
 
 void ShellSession::closeMenu() {
-    session_.menus().close();
+    session_.user().closeMenu();
     model_.closeMenu();
     check();
 }
@@ -162,20 +166,20 @@ void ShellSession::storeOnboarding(const StoredFlag& completed) {
 }
 
 void ShellSession::setPermission(sim::Permission permission) {
-    session_.accessibility().setPermission(permission);
+    session_.user().setPermission(permission);
     model_.setPermission(permission);
     check();
 }
 
 void ShellSession::refuseTapCreation(bool refuse) {
-    session_.refuseTapCreation(refuse);
+    session_.faults().refuseTapCreation(refuse);
     model_.refuseTapCreation(refuse);
     check();
 }
 
 // The guard hears of it at once and switches its tap on again.
 void ShellSession::disableTaps(EventType reason) {
-    session_.disableTaps(reason);
+    session_.faults().disableTaps(reason);
     check();
 }
 

@@ -48,7 +48,7 @@ public:
 
     // Login items and updates.
     void changeLoginItem(const LoginItemModel& item);
-    void changeUpdates(const UpdatesWorld& updates);
+    void changeUpdates(const sim::UpdateSupply& updates);
     void checkAsScheduled();
 
     // The user at what the system shows.

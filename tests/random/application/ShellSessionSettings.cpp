@@ -1,6 +1,6 @@
 // Settings, the login item and updates.
 #include "platform/NotificationCenter.h"
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/random/application/ShellSession.h"
 #include "tests/ui/SceneParts.h"
 
@@ -13,24 +13,21 @@ constexpr double FormWidth = 440;
 } // namespace
 
 void ShellSession::changeLoginItem(const LoginItemModel& item) {
-    session_.loginItem().setStatus(item.status);
-    session_.loginItem().requireApproval(item.requiresApproval);
-    session_.loginItem().refuse(item.refusal);
+    session_.user().setLoginItem(item.status);
+    session_.user().requireLoginItemApproval(item.requiresApproval);
+    session_.faults().refuseLoginItem(item.refusal);
     model_.changeLoginItem(item);
     check();
 }
 
-void ShellSession::changeUpdates(const UpdatesWorld& updates) {
-    session_.updates().setFramework(updates.framework);
-    session_.updates().setFeed(updates.feed);
-    session_.updates().setWindowClass(updates.windowClass);
-    session_.updates().setWindowsHide(updates.windowsHide);
+void ShellSession::changeUpdates(const sim::UpdateSupply& updates) {
+    session_.updateSupply() = updates;
     model_.changeUpdates(updates);
     check();
 }
 
 void ShellSession::checkAsScheduled() {
-    session_.updates().checkAsScheduled();
+    session_.checkForUpdatesAsScheduled();
     model_.checkAsScheduled();
     check();
 }

@@ -1,7 +1,7 @@
 // The state of a session after each step, compared with what it must be.
 #include "replay/StoredChoices.h"
-#include "sim/seam/MenuState.h"
-#include "sim/seam/StatusItemState.h"
+#include "sim/services/MenuState.h"
+#include "sim/services/StatusItemState.h"
 #include "tests/random/application/ShellSession.h"
 #include "tests/random/guard/GuardRecords.h"
 

@@ -1,5 +1,5 @@
 // The application's windows: which there are, in which order, and which of them has the keys.
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/random/application/ShellSession.h"
 #include "tests/ui/SceneParts.h"
 
@@ -18,8 +18,8 @@ void ShellSession::pressButton(std::size_t place, std::size_t button) {
         const auto buttons = ui::placesOf<ui::ButtonElement>(sim::Windows::sceneOf(*window));
         isPressed = button < buttons.size();
         if (isPressed) {
-            session_.windows().click(window);
-            session_.windows().pressButton(window, buttons[button]);
+            session_.user().clickWindow(window);
+            session_.user().pressButton(window, buttons[button]);
         }
     }
     require(model_.pressButton(place, button) == isPressed,
@@ -33,8 +33,8 @@ void ShellSession::flipSwitch(std::size_t place) {
         const auto switches = ui::placesOf<ui::ToggleElement>(sim::Windows::sceneOf(*window));
         isFlipped = !switches.empty();
         if (isFlipped) {
-            session_.windows().click(window);
-            session_.windows().flipSwitch(window, switches.front());
+            session_.user().clickWindow(window);
+            session_.user().flipSwitch(window, switches.front());
         }
     }
     require(model_.flipSwitch(place) == isFlipped, "a window has no switch that should have one, or has one");
@@ -42,20 +42,20 @@ void ShellSession::flipSwitch(std::size_t place) {
 }
 
 void ShellSession::pressReturn() {
-    const bool isPressed = session_.windows().press(ui::KeyboardShortcut::defaultAction);
+    const bool isPressed = session_.user().press(ui::KeyboardShortcut::defaultAction);
     require(model_.pressReturn() == isPressed, "Return pressed a button that it should not press, or none");
     check();
 }
 
 void ShellSession::pressEscape() {
-    const bool isPressed = session_.windows().press(ui::KeyboardShortcut::cancelAction);
+    const bool isPressed = session_.user().press(ui::KeyboardShortcut::cancelAction);
     require(model_.pressEscape() == isPressed, "Escape pressed a button that it should not press, or none");
     check();
 }
 
 void ShellSession::clickWindow(std::size_t place) {
     if (const auto window = shownWindow(place)) {
-        session_.windows().click(window);
+        session_.user().clickWindow(window);
     }
     model_.clickWindow(place);
     check();
@@ -63,7 +63,7 @@ void ShellSession::clickWindow(std::size_t place) {
 
 void ShellSession::closeWindow(std::size_t place) {
     if (const auto window = shownWindow(place)) {
-        session_.windows().closeByUser(window);
+        session_.user().closeWindow(window);
     }
     model_.closeWindow(place);
     check();

@@ -1,5 +1,5 @@
 // The wizard, and the user at what the system shows beside it.
-#include "sim/seam/WindowState.h"
+#include "sim/services/WindowState.h"
 #include "tests/random/application/ShellSession.h"
 #include "tests/ui/SceneParts.h"
 
@@ -18,7 +18,7 @@ bool shows(const ui::Scene& scene, const std::string& text) {
 
 void ShellSession::openSettingsFromDialog() {
     if (session_.accessibility().isDialogShown()) {
-        session_.accessibility().openSettingsFromDialog();
+        session_.user().openSettingsFromDialog();
     }
     model_.openSettingsFromDialog();
     check();
@@ -26,7 +26,7 @@ void ShellSession::openSettingsFromDialog() {
 
 void ShellSession::denyInDialog() {
     if (session_.accessibility().isDialogShown()) {
-        session_.accessibility().denyInDialog();
+        session_.user().denyInDialog();
     }
     model_.denyInDialog();
     check();
@@ -34,19 +34,19 @@ void ShellSession::denyInDialog() {
 
 void ShellSession::closePane() {
     if (session_.accessibility().isPaneShown()) {
-        session_.accessibility().closePane();
+        session_.user().closePane();
     }
     model_.closePane();
     check();
 }
 
 void ShellSession::refuseActivation(bool refuse) {
-    session_.refuseActivation(refuse);
+    session_.faults().refuseActivation(refuse);
     model_.refuseActivation(refuse);
 }
 
 void ShellSession::refuseOpeningURLs(bool refuse) {
-    session_.refuseOpeningURLs(refuse);
+    session_.faults().refuseOpeningURLs(refuse);
     model_.refuseOpeningURLs(refuse);
 }
 

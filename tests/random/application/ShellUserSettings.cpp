@@ -68,7 +68,7 @@ std::string ShellUser::changeUpdates() {
         sim::UpdateFeed::newVersion, sim::UpdateFeed::nothingNew, sim::UpdateFeed::unreachable};
     static constexpr std::array<const char*, 6> Classes{
         "NSWindow", "NSWindow", "SPUUpdateWindow", "NSKVONotifying_SPUStatus", "MySparklePanel", "spuWindow"};
-    UpdatesWorld updates = session_->model().updatesWorld();
+    sim::UpdateSupply updates = session_->model().updateSupply();
     updates.feed = random_.chance(0.5) ? sim::UpdateFeed::newVersion : random_.pick(Feeds);
     updates.framework = framework();
     updates.windowClass = random_.pick(Classes);

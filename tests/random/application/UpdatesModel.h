@@ -2,7 +2,7 @@
 // framework shows, and what the application makes of it.
 #pragma once
 
-#include "sim/services/Updates.h"
+#include "sim/services/UpdateSupply.h"
 #include "tests/random/application/WindowsModel.h"
 
 #include <cstdint>
@@ -30,14 +30,6 @@ struct UpdatesModel {
     std::vector<std::string> buttons() const;
     std::string defaultButton() const;
     std::string cancelButton() const;
-};
-
-// What the feed and the framework in the bundle are like, whether or not the application runs.
-struct UpdatesWorld {
-    sim::UpdateFramework framework = sim::UpdateFramework::working;
-    sim::UpdateFeed feed = sim::UpdateFeed::nothingNew;
-    std::string windowClass = "NSWindow";
-    bool windowsHide = false;
 };
 
 // Whether a window is taken for the updater's by its class alone, or by its title too.

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "sim/session/Display.h"
+#include "sim/hardware/Display.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,7 +1,7 @@
 // Random displays: from an ordinary desk to what no desk should have.
 #pragma once
 
-#include "sim/session/Display.h"
+#include "sim/hardware/Display.h"
 #include "tests/random/common/Arrangement.h"
 #include "tests/random/common/Random.h"
 

@@ -88,21 +88,19 @@ void GuardedSession::store(const StoredChoice& choice) {
     storeFromOutside(replay::entries::PinnedScreenUUID, choice.stored);
 }
 
-void GuardedSession::setPermission(sim::Permission permission) {
-    session_.accessibility().setPermission(permission);
-}
+void GuardedSession::setPermission(sim::Permission permission) { session_.user().setPermission(permission); }
 
-void GuardedSession::refuseTapCreation(bool refuse) { session_.refuseTapCreation(refuse); }
+void GuardedSession::refuseTapCreation(bool refuse) { session_.faults().refuseTapCreation(refuse); }
 
 void GuardedSession::disableTaps(EventType reason) {
     counts_.switchedOff += tap_.enabledTaps();
-    session_.disableTaps(reason);
+    session_.faults().disableTaps(reason);
     tap_.switchedOff(session_.clock().now());
     checkState();
 }
 
 void GuardedSession::stallMainThread(sim::Duration duration) {
-    session_.stallMainThread(duration);
+    session_.faults().stallMainThread(duration);
     tap_.mainThreadStalled(session_.clock().now(), duration);
 }
 

@@ -4,7 +4,7 @@
 
 #include "base/Geometry.h"
 #include "replay/GuardRule.h"
-#include "sim/session/Displays.h"
+#include "sim/hardware/Displays.h"
 
 #include <cstdint>
 #include <optional>
