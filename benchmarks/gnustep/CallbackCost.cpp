@@ -4,9 +4,9 @@
 #include "benchmarks/gnustep/CallbackFloor.h"
 #include "benchmarks/gnustep/CallbackTimes.h"
 #include "benchmarks/gnustep/GuardedSession.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/standins/StandIns.h"
 
 #include <array>
