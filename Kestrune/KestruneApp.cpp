@@ -25,12 +25,7 @@ constexpr LogMessage SkippingWizard =
 
 constexpr Selector MenuOpenSettings{"menuOpenSettings"};
 
-constexpr ActionMethod MainMenuActions[] = {
-    {MenuOpenSettings,
-     [](Object& receiver, const MenuItem&) noexcept {
-         static_cast<KestruneApp&>(receiver).menuOpenSettings();
-     }},
-};
+constexpr ActionMethod MainMenuActions[] = {action<&KestruneApp::menuOpenSettings>(MenuOpenSettings)};
 
 void requireMainActor(const char* message) {
     if (!MainActor::isCurrent()) {

@@ -22,17 +22,13 @@ constexpr Selector ShowSettings{"showSettings"};
 constexpr Selector ShowWelcome{"showWelcome"};
 constexpr Selector Quit{"quit"};
 
-MenuBarController& controller(Object& receiver) { return static_cast<MenuBarController&>(receiver); }
-
 constexpr ActionMethod StatusMenuActions[] = {
-    {ToggleEnabled, [](Object& receiver, const MenuItem&) noexcept { controller(receiver).toggleEnabled(); }},
-    {SelectScreen,
-     [](Object& receiver, const MenuItem& sender) noexcept { controller(receiver).selectScreen(sender); }},
-    {OpenAccessibilitySettings,
-     [](Object& receiver, const MenuItem&) noexcept { controller(receiver).openAccessibilitySettings(); }},
-    {ShowSettings, [](Object& receiver, const MenuItem&) noexcept { controller(receiver).showSettings(); }},
-    {ShowWelcome, [](Object& receiver, const MenuItem&) noexcept { controller(receiver).showWelcome(); }},
-    {Quit, [](Object& receiver, const MenuItem&) noexcept { controller(receiver).quit(); }},
+    action<&MenuBarController::toggleEnabled>(ToggleEnabled),
+    action<&MenuBarController::selectScreen>(SelectScreen),
+    action<&MenuBarController::openAccessibilitySettings>(OpenAccessibilitySettings),
+    action<&MenuBarController::showSettings>(ShowSettings),
+    action<&MenuBarController::showWelcome>(ShowWelcome),
+    action<&MenuBarController::quit>(Quit),
 };
 
 // Towards zero.

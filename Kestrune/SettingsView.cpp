@@ -36,8 +36,8 @@ View SettingsView::body() const {
     sections.push_back(ui::Section(std::move(maintenance)));
     const View form = ui::Form(std::move(sections)).formStyle(ui::FormStyle::grouped);
     return ui::VStack({.spacing = 0}, form, SettingsFooter().body())
-        .frame({.width = FormWidth})
-        .fixedSize(false, true);
+        .fixedSize(false, true)
+        .frame({.width = FormWidth});
 }
 
 View SettingsFooter::body() const {

@@ -3,7 +3,7 @@
 
 #include "Kestrune/DockGuardController.h"
 #include "base/Geometry.h"
-#include "benchmarks/RestlessHand.h"
+#include "benchmarks/RestlessPointer.h"
 #include "benchmarks/ResultHash.h"
 #include "sim/session/Session.h"
 
@@ -43,7 +43,7 @@ public:
 private:
     sim::Session session_;
     DockGuardController controller_;
-    RestlessHand hand_;
+    RestlessPointer hand_;
     ResultHash hash_;
     std::uint64_t held_ = 0;
 };

@@ -1,8 +1,8 @@
 #include "platform/AppService.h"
 
 #include "mac/ReportedError.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune {
 

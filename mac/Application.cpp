@@ -2,8 +2,8 @@
 
 #include "mac/Handles.h"
 #include "mac/ObjectCounterpart.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 // NSApp: nil before the first sharedApplication.
 // NOLINTNEXTLINE(readability-identifier-naming, cppcoreguidelines-avoid-non-const-global-variables)

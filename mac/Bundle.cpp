@@ -1,9 +1,9 @@
 #include "platform/Bundle.h"
 
 #include "mac/MainBundle.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune {
 

@@ -1,8 +1,8 @@
 #include "platform/MainActor.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/c/Dispatch.h"
 #include "mac/objc/Pool.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <memory>
 #include <utility>

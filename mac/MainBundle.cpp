@@ -1,6 +1,6 @@
 #include "mac/MainBundle.h"
 
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

@@ -1,7 +1,7 @@
 // The main bundle, which is the one that every Bundle of the application stands for.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 namespace kestrune::mac {
 

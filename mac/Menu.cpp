@@ -2,10 +2,10 @@
 
 #include "mac/Handles.h"
 #include "mac/ObjectCounterpart.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <utility>
 

@@ -1,11 +1,11 @@
 #include "platform/NotificationCenter.h"
 
 #include "mac/Handles.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Block.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <utility>
 

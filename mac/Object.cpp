@@ -3,10 +3,10 @@
 #include "mac/Handles.h"
 #include "mac/ObjectClass.h"
 #include "mac/ObjectCounterpart.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <memory>
 

@@ -4,10 +4,10 @@
 #include "mac/Handles.h"
 #include "mac/ObjectCounterpart.h"
 #include "mac/Protocols.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Lifetime.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "platform/Application.h"
 #include "platform/Updater.h"
 

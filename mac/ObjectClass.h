@@ -1,7 +1,7 @@
 // The run-time classes of the application's own classes.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "platform/Object.h"
 
 namespace kestrune::mac {

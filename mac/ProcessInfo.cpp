@@ -1,7 +1,7 @@
 #include "platform/ProcessInfo.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune {
 

@@ -1,6 +1,6 @@
 #include "mac/Protocols.h"
 
-#include "mac/objc/Missing.h"
+#include "mac/vocabulary/Missing.h"
 
 namespace kestrune::mac {
 

@@ -1,7 +1,7 @@
 // The protocols of the platform's delegates.
 #pragma once
 
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Message.h"
 
 namespace kestrune::mac {
 

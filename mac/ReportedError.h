@@ -1,7 +1,7 @@
 // What the platform reports of a call that it refuses.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "platform/Error.h"
 
 #include <optional>

@@ -1,9 +1,9 @@
 #include "platform/StatusBar.h"
 
 #include "mac/Handles.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune {
 

@@ -1,9 +1,9 @@
 #include "platform/Timer.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Block.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <utility>
 

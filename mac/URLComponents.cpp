@@ -1,11 +1,11 @@
 #include "platform/URLComponents.h"
 
 #include "mac/URLState.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Collections.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune {
 

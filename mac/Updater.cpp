@@ -4,12 +4,12 @@
 #include "mac/ObjectCounterpart.h"
 #include "mac/Protocols.h"
 #include "mac/ReportedError.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
 #include "mac/objc/SelfCheck.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
 #include "platform/UserDefaults.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <utility>
 #include <vector>

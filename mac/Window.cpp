@@ -2,12 +2,12 @@
 
 #include "mac/Handles.h"
 #include "mac/ObjectCounterpart.h"
-#include "mac/Vocabulary.h"
 #include "mac/hosting/HostedView.h"
 #include "mac/hosting/HostingState.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune {
 

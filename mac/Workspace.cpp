@@ -1,8 +1,8 @@
 #include "platform/Workspace.h"
 
 #include "mac/URLState.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune {
 

@@ -8,7 +8,7 @@
 #pragma once
 
 #include "base/OptionSet.h"
-#include "ui/ViewHost.h"
+#include "ui/hosting/ViewHost.h"
 
 #include <cstdint>
 #include <memory>

@@ -33,6 +33,25 @@ struct ActionMethod {
     void (*perform)(Object& receiver, const MenuItem& sender) noexcept;
 };
 
+template <typename Receiver>
+void performMethod(void (Receiver::*method)(), Object& receiver, const MenuItem& /*sender*/) {
+    (static_cast<Receiver&>(receiver).*method)();
+}
+
+template <typename Receiver>
+void performMethod(void (Receiver::*method)(const MenuItem&), Object& receiver, const MenuItem& sender) {
+    (static_cast<Receiver&>(receiver).*method)(sender);
+}
+
+// The action that is the receiver's own `Method`, which takes the sender or nothing:
+// `action<&MenuBarController::quit>(Quit)`. Objects of other classes do not list it.
+template <auto Method>
+constexpr ActionMethod action(const Selector& selector) {
+    return {selector, [](Object& receiver, const MenuItem& sender) noexcept {
+                performMethod(Method, receiver, sender);
+            }};
+}
+
 // The platform calls the object through a counterpart of its own, an instance of the run-time class
 // `className`, which the object retains. Delegates and targets are held weakly by the platform, so an object
 // that is gone is not called any more.

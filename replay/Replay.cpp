@@ -6,12 +6,12 @@ namespace kestrune::replay {
 
 namespace {
 
-Rect boundsAround(const std::vector<Rect>& displays) {
-    double left = displays.front().minX();
-    double top = displays.front().minY();
-    double right = displays.front().maxX();
-    double bottom = displays.front().maxY();
-    for (const Rect& bounds : displays) {
+Rect boundsAround(const std::vector<JudgedDisplay>& displays) {
+    double left = displays.front().bounds.minX();
+    double top = displays.front().bounds.minY();
+    double right = displays.front().bounds.maxX();
+    double bottom = displays.front().bounds.maxY();
+    for (const auto& [bounds, isPinned] : displays) {
         left = std::min(left, bounds.minX());
         top = std::min(top, bounds.minY());
         right = std::max(right, bounds.maxX());

@@ -17,7 +17,11 @@ sim::SessionOptions sessionOptions(const DeskSetup& setup) {
 }
 
 JudgedDesk judgedDesk(const DeskSetup& setup) {
-    return {setup.displays, setup.pinned, setup.guardOn, bandDepth(setup.margin.value_or(0))};
+    JudgedDesk judged{{}, setup.guardOn, bandDepth(setup.margin.value_or(0))};
+    for (std::size_t index = 0; index < setup.displays.size(); ++index) {
+        judged.displays.push_back({setup.displays[index], index == setup.pinned});
+    }
+    return judged;
 }
 
 } // namespace

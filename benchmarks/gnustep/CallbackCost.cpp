@@ -3,10 +3,10 @@
 // too much, allocates or decides otherwise.
 #include "benchmarks/gnustep/CallbackFloor.h"
 #include "benchmarks/gnustep/CallbackTimes.h"
-#include "benchmarks/gnustep/GuardedSession.h"
-#include "mac/Vocabulary.h"
+#include "benchmarks/gnustep/GuardedTap.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/standins/StandIns.h"
 
 #include <array>
@@ -51,7 +51,7 @@ bool measureAll(bool isQuick) {
     const mac::Pool pool;
     gnustep::installStandIns();
     makeSession();
-    GuardedSession session;
+    GuardedTap session;
     bool isGood = true;
     for (const Situation& situation : Situations) {
         session.storeIsEnabled(situation.isEnabledStored);

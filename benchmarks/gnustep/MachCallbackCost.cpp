@@ -2,7 +2,7 @@
 // against that of the same application as it is compiled here, in turns in one process. Exit status 1 when it
 // costs too much or decides otherwise.
 #include "benchmarks/gnustep/CallbackTimes.h"
-#include "benchmarks/gnustep/GuardedSession.h"
+#include "benchmarks/gnustep/GuardedTap.h"
 #include "mac/objc/Pool.h"
 #include "tests/gnustep/harness/PrivateHome.h"
 #include "tests/gnustep/mach/SuspendedProgram.h"
@@ -40,7 +40,7 @@ bool measureAll(bool isQuick) {
         [] { gnustep::launchProgram(gnustep::programForMacs(), macho::MessageChecks::none); });
     const TapListener mach = firstTap();
     // Its tap stands before the program's.
-    GuardedSession session;
+    GuardedTap session;
     const TapListener linked = firstTap();
     bool isGood = true;
     for (const Situation& situation : Situations) {

@@ -3,7 +3,7 @@
 // Source: AppKit, NSAttributedString.h.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 // NOLINTBEGIN(readability-identifier-naming): the names are the platform's.
 extern "C" {

@@ -1,7 +1,7 @@
 #include "mac/hosting/Accessibility.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

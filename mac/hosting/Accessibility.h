@@ -1,7 +1,7 @@
 // What VoiceOver is told of the views.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <string_view>
 

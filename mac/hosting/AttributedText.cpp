@@ -1,12 +1,12 @@
 #include "mac/hosting/AttributedText.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/c/TextAttributes.h"
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/Fonts.h"
 #include "mac/objc/Collections.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

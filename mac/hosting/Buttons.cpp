@@ -1,5 +1,4 @@
 // The scene's buttons: bordered ones, which the platform draws, and those whose look comes with the scene.
-#include "mac/Vocabulary.h"
 #include "mac/hosting/Accessibility.h"
 #include "mac/hosting/Controls.h"
 #include "mac/hosting/Drawing.h"
@@ -9,6 +8,7 @@
 #include "mac/objc/RuntimeClass.h"
 #include "mac/objc/Text.h"
 #include "mac/vocabulary/Actions.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "mac/hosting/Colors.h"
 
 #include "base/Fatal.h"
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "ui/SystemColor.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // The platform's colours for those of a view.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "ui/Style.h"
 
 namespace kestrune::mac {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mac/objc/Retained.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "ui/Style.h"
 
 #include <cstddef>

@@ -1,9 +1,9 @@
 #include "mac/hosting/Drawing.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/hosting/AttributedText.h"
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/Symbols.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "ui/Outline.h"
 
 namespace kestrune::mac {

@@ -1,7 +1,7 @@
 // Drawings of a scene, drawn by the program itself.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "ui/Scene.h"
 
 #include <vector>

@@ -1,7 +1,7 @@
 // The platform's fonts.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "ui/Font.h"
 
 namespace kestrune::mac {

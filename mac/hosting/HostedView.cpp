@@ -1,6 +1,5 @@
 #include "mac/hosting/HostedView.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/hosting/Controls.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/objc/Lifetime.h"
@@ -9,6 +8,7 @@
 #include "mac/objc/RuntimeClass.h"
 #include "mac/objc/Text.h"
 #include "mac/vocabulary/Actions.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "platform/Bundle.h"
 #include "platform/MainActor.h"
 

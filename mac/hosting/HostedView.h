@@ -5,7 +5,7 @@
 #include "mac/hosting/SceneView.h"
 #include "mac/objc/Retained.h"
 #include "platform/Hosting.h"
-#include "ui/ViewHost.h"
+#include "ui/hosting/ViewHost.h"
 
 #include <cstddef>
 #include <memory>

@@ -1,10 +1,10 @@
 #include "platform/Hosting.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/hosting/HostedView.h"
 #include "mac/hosting/HostingState.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <utility>
 

@@ -1,9 +1,9 @@
 // Texts, as the platform's labels.
-#include "mac/Vocabulary.h"
 #include "mac/hosting/Accessibility.h"
 #include "mac/hosting/AttributedText.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/objc/NewObject.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

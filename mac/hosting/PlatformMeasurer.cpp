@@ -1,11 +1,11 @@
 #include "mac/hosting/PlatformMeasurer.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/hosting/AttributedText.h"
 #include "mac/hosting/Controls.h"
 #include "mac/hosting/Symbols.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

@@ -1,9 +1,9 @@
 #include "mac/hosting/SceneView.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Collections.h"
 #include "mac/objc/Lifetime.h"
 #include "mac/objc/NewObject.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <utility>
 

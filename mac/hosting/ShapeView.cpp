@@ -1,11 +1,11 @@
 // Shapes, as views that draw themselves and that VoiceOver passes over.
-#include "mac/Vocabulary.h"
 #include "mac/hosting/Accessibility.h"
 #include "mac/hosting/Drawing.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

@@ -1,9 +1,9 @@
 // Toggles, as the platform's switches.
-#include "mac/Vocabulary.h"
 #include "mac/hosting/Accessibility.h"
 #include "mac/hosting/Controls.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/vocabulary/Actions.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

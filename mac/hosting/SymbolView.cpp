@@ -1,10 +1,10 @@
 // Symbols, as image views. They accompany a text that says the same, so VoiceOver passes them over.
-#include "mac/Vocabulary.h"
 #include "mac/hosting/Accessibility.h"
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/ElementViews.h"
 #include "mac/hosting/Symbols.h"
 #include "mac/objc/NewObject.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

@@ -1,11 +1,11 @@
 #include "mac/hosting/Symbols.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/c/Graphics.h"
 #include "mac/hosting/Colors.h"
 #include "mac/hosting/Fonts.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

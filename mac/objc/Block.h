@@ -4,7 +4,7 @@
 #pragma once
 
 #include "mac/objc/Pool.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <functional>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "mac/objc/Collections.h"
 
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

@@ -1,7 +1,7 @@
 // Objects that the platform may still be using after nobody else needs them.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 namespace kestrune::mac {
 

@@ -1,6 +1,6 @@
 #include "mac/objc/NewObject.h"
 
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

@@ -1,8 +1,8 @@
 // Objects from their classes.
 #pragma once
 
-#include "mac/objc/Message.h"
 #include "mac/objc/Retained.h"
+#include "mac/vocabulary/Message.h"
 
 namespace kestrune::mac {
 

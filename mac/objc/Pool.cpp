@@ -7,8 +7,8 @@ void* objc_autoreleasePoolPush();
 void objc_autoreleasePoolPop(void* pool);
 }
 #else
-#include "mac/Vocabulary.h"
 #include "mac/objc/NewObject.h"
+#include "mac/vocabulary/Vocabulary.h"
 #endif
 
 namespace kestrune::mac {

@@ -1,7 +1,7 @@
 // Owning handles of the platform's objects.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <utility>
 

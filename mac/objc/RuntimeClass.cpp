@@ -1,7 +1,7 @@
 #include "mac/objc/RuntimeClass.h"
 
 #include "base/Fatal.h"
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <cstdint>
 #include <cstring>

@@ -1,19 +1,12 @@
 // Classes made at run time, whose instances point at a C++ object.
 #pragma once
 
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Action.h"
+#include "mac/vocabulary/Message.h"
 
 #include <type_traits>
 
 namespace kestrune::mac {
-
-// An action of our own. `selectorName` has to live as long as the action is named by it.
-template <typename Signature>
-struct Action {
-    const char* selectorName;
-
-    SEL selector() const { return sel_registerName(selectorName); }
-};
 
 // Builds a subclass of one of the platform's classes. The runtime keeps classes for ever.
 class RuntimeClass {

@@ -1,6 +1,6 @@
 #include "mac/objc/SelfCheck.h"
 
-#include "mac/objc/Missing.h"
+#include "mac/vocabulary/Missing.h"
 
 #include <algorithm>
 

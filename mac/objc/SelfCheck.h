@@ -1,7 +1,7 @@
 // Whether the platform has what the binding calls, with the signatures that the binding believes in.
 #pragma once
 
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <cstddef>
 #include <span>

@@ -1,7 +1,7 @@
 // Actions of our own views, which controls in them send.
 #pragma once
 
-#include "mac/objc/RuntimeClass.h"
+#include "mac/vocabulary/Action.h"
 
 namespace kestrune::mac::actions {
 

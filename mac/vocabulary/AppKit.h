@@ -4,7 +4,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Message.h"
 
 namespace kestrune::mac {
 

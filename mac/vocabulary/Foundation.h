@@ -3,7 +3,7 @@
 // Source: its public headers.
 #pragma once
 
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Message.h"
 #include "platform/ProcessInfo.h"
 
 namespace kestrune::mac {

@@ -3,7 +3,7 @@
 // Source: SMAppService.h; since macOS 13.
 #pragma once
 
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Message.h"
 
 namespace kestrune::mac {
 

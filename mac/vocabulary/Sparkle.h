@@ -4,7 +4,7 @@
 // SPUUpdaterDelegate.h.
 #pragma once
 
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Message.h"
 
 namespace kestrune::mac {
 

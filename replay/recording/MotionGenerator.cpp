@@ -20,9 +20,9 @@ constexpr double TremorStep = 0.5;        // Pixels.
 constexpr double LargestBow = 0.04;       // Sideways deviation of a stroke, as a share of its length.
 
 // A hand at work, which writes down rows until it has as many as asked for.
-class Hand {
+class HandMotion {
 public:
-    explicit Hand(const MotionGeneratorOptions& options);
+    explicit HandMotion(const MotionGeneratorOptions& options);
 
     std::vector<RecordingRow> work() &&;
 
@@ -53,22 +53,22 @@ private:
     std::vector<RecordingRow> rows_;
 };
 
-Hand::Hand(const MotionGeneratorOptions& options)
+HandMotion::HandMotion(const MotionGeneratorOptions& options)
     : random_(options.seed),
       farCorner_{static_cast<double>(options.width - 1), static_cast<double>(options.height - 1)},
       mostRows_(options.rows),
       pointer_(farCorner_) {}
 
-std::vector<RecordingRow> Hand::work() && {
+std::vector<RecordingRow> HandMotion::work() && {
     record("NoButton", RowState::move);
     while (!isDone())
         actOnce();
     return std::move(rows_);
 }
 
-bool Hand::isDone() const { return rows_.size() >= mostRows_; }
+bool HandMotion::isDone() const { return rows_.size() >= mostRows_; }
 
-void Hand::actOnce() {
+void HandMotion::actOnce() {
     const int choice = random_.between(0, 99);
     if (choice < 55)
         point();
@@ -83,7 +83,7 @@ void Hand::actOnce() {
     pause(60, 400);
 }
 
-void Hand::point() {
+void HandMotion::point() {
     strokeTo(anyTarget(), MousePointing, RowState::move);
     const int choice = random_.between(0, 9);
     if (choice < 5)
@@ -94,12 +94,12 @@ void Hand::point() {
 
 // The hand aims at a place beyond the edge; the pointer stops at the edge and stays there while the hand goes
 // on.
-void Hand::pushAgainstEdge() {
+void HandMotion::pushAgainstEdge() {
     strokeTo(beyondAnyEdge(), MousePointing, RowState::move);
     holdFor(random_.between(200, 1500));
 }
 
-void Hand::drag() {
+void HandMotion::drag() {
     strokeTo(anyTarget(), MousePointing, RowState::move);
     pause(20, 120);
     const int choice = random_.between(0, 9);
@@ -113,7 +113,7 @@ void Hand::drag() {
     record(button, RowState::released);
 }
 
-void Hand::scroll() {
+void HandMotion::scroll() {
     const RowState direction = random_.between(0, 2) == 0 ? RowState::up : RowState::down;
     for (int count = random_.between(1, 12); count > 0; --count) {
         record("Scroll", direction);
@@ -121,14 +121,14 @@ void Hand::scroll() {
     }
 }
 
-void Hand::click(const std::string& button) {
+void HandMotion::click(const std::string& button) {
     pause(40, 200);
     record(button, RowState::pressed);
     pause(50, 130);
     record(button, RowState::released);
 }
 
-void Hand::strokeTo(Point target, const FittsLaw& law, RowState state) {
+void HandMotion::strokeTo(Point target, const FittsLaw& law, RowState state) {
     const int targetWidth = random_.between(12, 120);
     const Point start = pointer_;
     const Point way{target.x - start.x, target.y - start.y};
@@ -150,7 +150,7 @@ void Hand::strokeTo(Point target, const FittsLaw& law, RowState state) {
     }
 }
 
-void Hand::holdFor(int milliseconds) {
+void HandMotion::holdFor(int milliseconds) {
     const std::int64_t end = time_ + milliseconds;
     const Point held = pointer_;
     // The hand still presses outwards, so the tremor shows along the edge and not across it.
@@ -167,7 +167,7 @@ void Hand::holdFor(int milliseconds) {
     }
 }
 
-void Hand::record(const std::string& button, RowState state) {
+void HandMotion::record(const std::string& button, RowState state) {
     if (isDone())
         return;
     const double seconds = static_cast<double>(time_) / 1000;
@@ -175,20 +175,22 @@ void Hand::record(const std::string& button, RowState state) {
 }
 
 // Puts the pointer at the position, displaced by a little noise that changes gradually.
-void Hand::trembleAt(Point position) {
+void HandMotion::trembleAt(Point position) {
     tremor_.x = tremor_.x * TremorPersistence + random_.around(TremorStep);
     tremor_.y = tremor_.y * TremorPersistence + random_.around(TremorStep);
     pointer_ = onDisplay({position.x + tremor_.x, position.y + tremor_.y});
 }
 
-Point Hand::onDisplay(Point position) const {
+Point HandMotion::onDisplay(Point position) const {
     return {std::clamp(std::floor(position.x + 0.5), 0.0, farCorner_.x),
             std::clamp(std::floor(position.y + 0.5), 0.0, farCorner_.y)};
 }
 
-Point Hand::anyTarget() { return onDisplay({random_.unit() * farCorner_.x, random_.unit() * farCorner_.y}); }
+Point HandMotion::anyTarget() {
+    return onDisplay({random_.unit() * farCorner_.x, random_.unit() * farCorner_.y});
+}
 
-Point Hand::beyondAnyEdge() {
+Point HandMotion::beyondAnyEdge() {
     const Point along = anyTarget();
     const double depth = random_.between(20, 200);
     const int choice = random_.between(0, 9);
@@ -211,7 +213,7 @@ void checkOptions(const MotionGeneratorOptions& options) {
 
 std::vector<RecordingRow> generateRows(const MotionGeneratorOptions& options) {
     checkOptions(options);
-    return Hand(options).work();
+    return HandMotion(options).work();
 }
 
 } // namespace kestrune::replay

@@ -4,7 +4,7 @@
 #include "platform/Hosting.h"
 #include "platform/Window.h"
 #include "sim/services/LiveObject.h"
-#include "ui/ViewHost.h"
+#include "ui/hosting/ViewHost.h"
 
 #include <functional>
 #include <memory>

@@ -57,7 +57,7 @@ TEST_F(AccessibilityWatcher, EndsWithTheGrantThatTheMenuSeesInOrder) {
 }
 
 TEST_F(AccessibilityWatcher, EndsWithThePermissionAlthoughTheGuardIsSwitchedOff) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     grant();
     session.advance(1s);
     EXPECT_FALSE(guard->isRunning());
@@ -82,7 +82,7 @@ TEST_F(AccessibilityWatcher, IsForestalledByTheMenu) {
 }
 
 TEST_F(AccessibilityWatcher, IsForestalledByTheMenuOfAGuardThatIsSwitchedOff) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     grant();
     session.user().openMenu(sim::StatusItemIndex{0});
     EXPECT_FALSE(guard->isRunning());
@@ -223,7 +223,7 @@ TEST_F(AppEvents, ChangedDisplaysAreReadAndShownInOrder) {
 }
 
 TEST_F(AppEvents, ChangedDisplaysAreReadAndShownWhileTheGuardIsStopped) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     launchAndSettle();
     session.changeDisplays({primaryDisplay()});
     EXPECT_EQ(guard->screensCache().size(), 1U);
@@ -247,7 +247,7 @@ TEST_F(AppEvents, TheMainMenusSettingsLookAtTheSetup) {
     EXPECT_TRUE(app->isSetupComplete());
     session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_FALSE(app->isSetupComplete());
-    store("hasCompletedOnboarding", sim::PropertyList{false});
+    store(entries::HasCompletedOnboarding, sim::PropertyList{false});
     EXPECT_FALSE(app->isSetupComplete());
     app->menuOpenSettings();
     EXPECT_NE(app->welcomeWindowController(), nullptr);
@@ -290,7 +290,7 @@ TEST_F(DelegateGone, TheTaskDoesNothing) {
     letGo();
     grant();
     session.advance(sim::Duration::zero());
-    EXPECT_EQ(stored("hasCompletedOnboarding"), nullptr);
+    EXPECT_EQ(stored(entries::HasCompletedOnboarding), nullptr);
 }
 
 TEST_F(DelegateGone, TheTimerEndsItself) {

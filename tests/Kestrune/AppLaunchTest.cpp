@@ -90,27 +90,27 @@ TEST_F(AppLaunch, StartsNothingBeforeItHasFinishedLaunching) {
 }
 
 TEST_F(AppLaunch, HandsThePreferencesToTheGuard) {
-    store("pinnedScreenUUID", sim::PropertyList{sim::uuidOfDisplay(2)});
+    store(entries::PinnedScreenUUID, sim::PropertyList{sim::uuidOfDisplay(2)});
     launch();
     EXPECT_EQ(guard->pinnedScreen()->uuid, sim::uuidOfDisplay(2));
     EXPECT_EQ(session.post(EventType::mouseMoved, {100, 1079}).delivered, (Point{100, 1075}));
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     EXPECT_EQ(session.post(EventType::mouseMoved, {100, 1079}).delivered, (Point{100, 1079}));
 }
 
 TEST_F(AppLaunch, LeavesAGuardOffThatTheUserSwitchedOff) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     launchAndSettle();
     EXPECT_FALSE(guard->isRunning());
     EXPECT_FALSE(app->isWatchingAccessibility());
-    EXPECT_TRUE(stored("hasCompletedOnboarding")->asBool());
+    EXPECT_TRUE(stored(entries::HasCompletedOnboarding)->asBool());
     app->menuBarController()->rebuildMenu();
     EXPECT_EQ(openedMenu(session)[4], "Enable");
 }
 
 TEST_F(AppLaunch, MarksAUserWithThePermissionAsOnboardedAfterTheLaunchInOrder) {
     launch();
-    EXPECT_EQ(stored("hasCompletedOnboarding"), nullptr);
+    EXPECT_EQ(stored(entries::HasCompletedOnboarding), nullptr);
     EXPECT_THAT(
         callsOf([this] { session.advance(sim::Duration::zero()); }),
         ElementsAre(Trusted, "-[NSUserDefaults setBool:forKey:] hasCompletedOnboarding = true",
@@ -123,15 +123,15 @@ TEST_F(AppLaunch, MarksAUserWithThePermissionAsOnboardedAfterTheLaunchInOrder) {
 }
 
 TEST_F(AppLaunch, NeverReadsWhetherTheWizardWasFinishedBeforeItDecides) {
-    store("hasCompletedOnboarding", sim::PropertyList{false});
+    store(entries::HasCompletedOnboarding, sim::PropertyList{false});
     launch();
     EXPECT_THAT(callsOf([this] { session.advance(sim::Duration::zero()); }),
                 Not(Contains("-[NSUserDefaults boolForKey:] hasCompletedOnboarding")));
-    EXPECT_TRUE(stored("hasCompletedOnboarding")->asBool());
+    EXPECT_TRUE(stored(entries::HasCompletedOnboarding)->asBool());
 }
 
 TEST_F(AppLaunchWithoutPermission, LeadsToTheWizardWithoutAWord) {
-    store("hasCompletedOnboarding", sim::PropertyList{true});
+    store(entries::HasCompletedOnboarding, sim::PropertyList{true});
     launchAndSettle();
     ASSERT_NE(app->welcomeWindowController(), nullptr);
     EXPECT_EQ(session.windows().shown().size(), 1U);

@@ -24,7 +24,7 @@ protected:
         session.journal().take();
     }
 
-    void storeMargin(sim::PropertyList margin) { store("blockMargin", std::move(margin)); }
+    void storeMargin(sim::PropertyList margin) { store(entries::BlockMargin, std::move(margin)); }
 };
 
 TEST_F(DockGuardEvent, IsHeldAtTheThreshold) {
@@ -63,15 +63,15 @@ TEST_F(DockGuardEvent, ReadsWhatItNeedsInOrderAndNothingMore) {
                 ElementsAreArray(inOrder({readingTheSwitch, locating, readingTheMargin})));
     EXPECT_THAT(callsFor({1000, 1079}), ElementsAreArray(inOrder({readingTheSwitch, locating})));
     EXPECT_THAT(callsFor({9000, 9000}), ElementsAreArray(inOrder({readingTheSwitch, locating})));
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     const Calls readingThatItIsOff = callsOf([this] { preferences->isEnabled(); });
     EXPECT_THAT(callsFor({2000, 1078}), ElementsAreArray(readingThatItIsOff));
 }
 
 TEST_F(DockGuardEvent, PassesWithOneDisplayWhateverIsPinned) {
-    store("pinnedScreenUUID", sim::PropertyList{sim::uuidOfDisplay(1)});
+    store(entries::PinnedScreenUUID, sim::PropertyList{sim::uuidOfDisplay(1)});
     arrange({secondDisplay()});
-    session.defaults().set("isEnabled", std::nullopt);
+    session.defaults().set(entries::IsEnabled, std::nullopt);
     expectUnchanged({2000, 1079});
     EXPECT_THAT(session.journal().take(), Not(hasCallAbout("CGEvent")));
 }
@@ -88,11 +88,11 @@ TEST_F(DockGuardEvent, PassesWithoutPreferences) {
 }
 
 TEST_F(DockGuardEvent, PassesWhileDisabledAlthoughTheTapIsThere) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     expectUnchanged({2000, 1079});
-    store("isEnabled", sim::PropertyList{std::int64_t{0}});
+    store(entries::IsEnabled, sim::PropertyList{std::int64_t{0}});
     expectUnchanged({2000, 1079});
-    store("isEnabled", std::nullopt);
+    store(entries::IsEnabled, std::nullopt);
     EXPECT_EQ(delivered({2000, 1079}), (Point{2000, 1075}));
 }
 
@@ -136,7 +136,7 @@ TEST_F(DockGuardEvent, BelongsToTheFirstOfOverlappingDisplays) {
     const sim::Display overPinned = sim::makeDisplay(2, "Over the pinned one", {0, 0, 1920, 1080});
     arrange({primaryDisplay(), overPinned});
     expectUnchanged({1000, 1079});
-    store("pinnedScreenUUID", sim::PropertyList{sim::uuidOfDisplay(2)});
+    store(entries::PinnedScreenUUID, sim::PropertyList{sim::uuidOfDisplay(2)});
     guard.refreshScreens();
     EXPECT_EQ(delivered({1000, 1079}), (Point{1000, 1075}));
 }

@@ -7,7 +7,7 @@ using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-constexpr std::string_view PinKey = "pinnedScreenUUID";
+constexpr std::string_view PinKey = entries::PinnedScreenUUID;
 
 class DockGuardRefresh : public GuardFixture {
 protected:

@@ -3,6 +3,7 @@
 
 #include "Kestrune/DockGuardController.h"
 #include "Kestrune/Preferences.h"
+#include "replay/StoredChoices.h"
 #include "tests/Kestrune/Calls.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +15,9 @@
 #include <vector>
 
 namespace kestrune {
+
+// Not the application's own names: users have stored their choices under these.
+namespace entries = replay::entries;
 
 // The primary display, and to its right a smaller one whose bottom edge is level with the primary's.
 inline sim::Display primaryDisplay() { return sim::makeDisplay(1, "Primary", {0, 0, 1920, 1080}); }
@@ -37,13 +41,12 @@ protected:
 
     ~GuardFixture() override { guard.stop(); }
 
-    // Tests of the application spell the entries out: users have stored their choices under these names.
     void store(std::string_view key, std::optional<sim::PropertyList> value) {
         session.defaults().set(key, std::move(value));
     }
 
     std::optional<std::string> storedPin() const {
-        const sim::PropertyList* value = sim::Session::current().defaults().find("pinnedScreenUUID");
+        const sim::PropertyList* value = sim::Session::current().defaults().find(entries::PinnedScreenUUID);
         return value != nullptr ? value->asString() : std::nullopt;
     }
 

@@ -75,7 +75,7 @@ TEST_F(MainMenu, OpensSettingsWithCommandComma) {
 }
 
 TEST_F(MainMenu, OpensTheWizardUntilItIsFinished) {
-    store("hasCompletedOnboarding", sim::PropertyList{false});
+    store(entries::HasCompletedOnboarding, sim::PropertyList{false});
     EXPECT_TRUE(session.user().press(",", EventModifierFlags::command));
     EXPECT_NE(app->welcomeWindowController(), nullptr);
     EXPECT_EQ(app->settingsWindowController(), nullptr);

@@ -66,33 +66,33 @@ TEST_F(MenuActions, SwitchTheGuardOff) {
     startGuard();
     switchOver();
     EXPECT_FALSE(dockGuard->isRunning());
-    EXPECT_FALSE(stored("isEnabled")->asBool());
+    EXPECT_FALSE(stored(entries::IsEnabled)->asBool());
     EXPECT_EQ(openedMenu(session)[4], "Enable");
 }
 
 TEST_F(MenuActions, SwitchTheGuardOn) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     switchOver();
     EXPECT_TRUE(dockGuard->isRunning());
     EXPECT_THAT(dockGuard->screensCache(), SizeIs(2));
-    EXPECT_TRUE(stored("isEnabled")->asBool());
+    EXPECT_TRUE(stored(entries::IsEnabled)->asBool());
     EXPECT_EQ(openedMenu(session)[4], "Disable");
 }
 
 TEST_F(MenuActions, KeepARunningGuardAsItIsWhenItIsSwitchedOn) {
     startGuard();
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     EXPECT_THAT(callsOf([this] { switchOver(); }), Not(hasCallAbout("CGEventTap")));
-    EXPECT_TRUE(stored("isEnabled")->asBool());
+    EXPECT_TRUE(stored(entries::IsEnabled)->asBool());
     EXPECT_TRUE(dockGuard->isRunning());
     EXPECT_EQ(session.taps().count(), 1U);
 }
 
 TEST_F(MenuActions, SwitchOnWithoutAStartWhenThePermissionIsMissing) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     session.user().setPermission(sim::Permission::switchedOff);
     switchOver();
-    EXPECT_TRUE(stored("isEnabled")->asBool());
+    EXPECT_TRUE(stored(entries::IsEnabled)->asBool());
     EXPECT_FALSE(dockGuard->isRunning());
     EXPECT_THAT(dockGuard->screensCache(), IsEmpty());
     EXPECT_THAT(session.logRecords(), IsEmpty());
@@ -100,7 +100,7 @@ TEST_F(MenuActions, SwitchOnWithoutAStartWhenThePermissionIsMissing) {
 }
 
 TEST_F(MenuActions, OfferToDisableAlthoughTheStartFailed) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     controller->rebuildMenu();
     session.faults().refuseTapCreation(true);
     EXPECT_TRUE(chooseRow(session, "Enable"));
@@ -136,7 +136,7 @@ TEST_F(MenuActions, IgnoreASenderThatStandsForNoText) {
     controller->selectScreen(item);
     item.setRepresentedObject(std::int64_t{2});
     controller->selectScreen(item);
-    EXPECT_EQ(stored("pinnedScreenUUID"), nullptr);
+    EXPECT_EQ(stored(entries::PinnedScreenUUID), nullptr);
     EXPECT_EQ(session.statusItems().shown()[0]->menu->state(), before);
 }
 
@@ -192,7 +192,7 @@ TEST_F(MenuActions, DoNothingOnceTheControllerIsGone) {
     session.user().openMenu(sim::StatusItemIndex{0});
     controller.reset();
     EXPECT_FALSE(session.user().chooseRow(4));
-    EXPECT_EQ(stored("isEnabled"), nullptr);
+    EXPECT_EQ(stored(entries::IsEnabled), nullptr);
 }
 
 class MenuOpening : public MenuActions {
@@ -230,7 +230,7 @@ TEST_F(MenuOpening, AsksForNoStartOfARunningGuard) {
 
 TEST_F(MenuOpening, AsksForAStartAlthoughTheGuardIsSwitchedOff) {
     expectCallback();
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     open();
     EXPECT_EQ(grants, 1);
 }

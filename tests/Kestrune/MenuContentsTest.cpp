@@ -29,7 +29,7 @@ protected:
 
 TEST_F(MenuContents, AreBuiltInOrder) {
     completeSetup();
-    store("pinnedScreenUUID", sim::PropertyList{sim::uuidOfDisplay(2)});
+    store(entries::PinnedScreenUUID, sim::PropertyList{sim::uuidOfDisplay(2)});
     make();
     const Calls screens =
         inOrder({makingOwnItem("  Primary  (1920×1080)  (Main)", "selectScreen:", ""),
@@ -79,8 +79,8 @@ TEST_F(MenuContents, LeadToTheWizardBeforeSetup) {
     EXPECT_EQ(welcomeOpenings, 3);
     EXPECT_FALSE(chooseRow(session, "  Second  (1280×800)"));
     EXPECT_EQ(settingsOpenings, 0);
-    EXPECT_EQ(stored("pinnedScreenUUID"), nullptr);
-    EXPECT_EQ(stored("isEnabled"), nullptr);
+    EXPECT_EQ(stored(entries::PinnedScreenUUID), nullptr);
+    EXPECT_EQ(stored(entries::IsEnabled), nullptr);
 }
 
 TEST_F(MenuContents, OpenSettingsAfterSetup) {
@@ -102,7 +102,7 @@ TEST_F(MenuContents, LeadToTheWizardWithoutThePermission) {
     EXPECT_TRUE(chooseRow(session, "Disable"));
     EXPECT_EQ(welcomeOpenings, 2);
     EXPECT_EQ(settingsOpenings, 0);
-    EXPECT_EQ(stored("isEnabled"), nullptr);
+    EXPECT_EQ(stored(entries::IsEnabled), nullptr);
 }
 
 TEST_F(MenuContents, BeforeSetupStandForTheirDisplays) {
@@ -117,12 +117,12 @@ TEST_F(MenuContents, AreThoseBeforeSetupAgainWhenThePermissionIsRevoked) {
     EXPECT_EQ(freshMenu().front(), "Pin Dock to: (disabled)");
     session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_EQ(menu().front(), "Complete setup…");
-    EXPECT_TRUE(stored("hasCompletedOnboarding")->asBool());
+    EXPECT_TRUE(stored(entries::HasCompletedOnboarding)->asBool());
 }
 
 TEST_F(MenuContents, MarkTheStoredChoice) {
     completeSetup();
-    store("pinnedScreenUUID", sim::PropertyList{sim::uuidOfDisplay(2)});
+    store(entries::PinnedScreenUUID, sim::PropertyList{sim::uuidOfDisplay(2)});
     EXPECT_THAT(screenRows(), ElementsAre("  Primary  (1920×1080)  (Main)", "✓  Second  (1280×800)"));
 }
 
@@ -140,7 +140,7 @@ TEST_F(MenuContents, MarkTheFirstDisplayWithoutAChoiceAndAMainDisplay) {
 
 TEST_F(MenuContents, MarkNothingWhenTheStoredDisplayIsGone) {
     completeSetup();
-    store("pinnedScreenUUID", sim::PropertyList{std::string("GONE")});
+    store(entries::PinnedScreenUUID, sim::PropertyList{std::string("GONE")});
     EXPECT_THAT(screenRows(), ElementsAre("  Primary  (1920×1080)  (Main)", "  Second  (1280×800)"));
     dockGuard->refreshScreens();
     EXPECT_THAT(screenRows(), ElementsAre("✓  Primary  (1920×1080)  (Main)", "  Second  (1280×800)"));
@@ -178,7 +178,7 @@ TEST_F(MenuContents, CompareTheStoredChoiceToTheLetter) {
     sim::Display lettered = primaryDisplay();
     lettered.uuid = "ABCDEF";
     connect({lettered, secondDisplay()});
-    store("pinnedScreenUUID", sim::PropertyList{std::string("abcdef")});
+    store(entries::PinnedScreenUUID, sim::PropertyList{std::string("abcdef")});
     EXPECT_THAT(screenRows(), ElementsAre("  Primary  (1920×1080)  (Main)", "  Second  (1280×800)"));
 }
 
@@ -195,7 +195,7 @@ TEST_F(MenuContents, TellTwinsApartByTheirIdentifiers) {
              sim::makeDisplay(2, "Twin", {1920, 0, 1920, 1080})});
     EXPECT_THAT(screenRows(), ElementsAre("✓  Twin  (1920×1080)  (Main)", "  Twin  (1920×1080)"));
     EXPECT_TRUE(chooseRow(session, "  Twin  (1920×1080)"));
-    EXPECT_EQ(stored("pinnedScreenUUID")->asString(), sim::uuidOfDisplay(2));
+    EXPECT_EQ(stored(entries::PinnedScreenUUID)->asString(), sim::uuidOfDisplay(2));
     EXPECT_THAT(screenRows(), ElementsAre("  Twin  (1920×1080)  (Main)", "✓  Twin  (1920×1080)"));
 }
 
@@ -215,7 +215,7 @@ TEST_F(MenuContents, ShowSizesAsWholePoints) {
 
 TEST_F(MenuContents, OfferToEnableAGuardThatIsSwitchedOff) {
     completeSetup();
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     EXPECT_EQ(freshMenu()[4], "Enable");
 }
 
@@ -246,7 +246,7 @@ TEST_F(MenuContentsInGerman, AreInTheUsersLanguage) {
 }
 
 TEST_F(MenuContentsInGerman, AreInTheUsersLanguageWhileSwitchedOff) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     EXPECT_EQ(freshMenu()[5], "Einschalten");
     EXPECT_EQ(session.statusItems().shown()[0]->button->toolTip, "Kestrune hält das Dock");
 }

@@ -62,7 +62,7 @@ protected:
 
     const sim::PropertyList* stored(std::string_view key) { return session.defaults().find(key); }
 
-    void completeSetup() { store("hasCompletedOnboarding", sim::PropertyList{true}); }
+    void completeSetup() { store(entries::HasCompletedOnboarding, sim::PropertyList{true}); }
 
     void make() {
         controller = MenuBarController::make(

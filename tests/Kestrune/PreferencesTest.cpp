@@ -27,7 +27,7 @@ TEST_F(PreferencesTest, LookForAStoredObjectAndThenConvertItInOrder) {
     EXPECT_TRUE(preferences->isEnabled());
     EXPECT_THAT(session.journal().take(), ElementsAre("-[NSUserDefaults objectForKey:] isEnabled"));
 
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     EXPECT_FALSE(preferences->isEnabled());
     EXPECT_THAT(session.journal().take(), ElementsAre("-[NSUserDefaults objectForKey:] isEnabled",
                                                       "-[NSUserDefaults boolForKey:] isEnabled"));
@@ -48,15 +48,15 @@ TEST_F(PreferencesTest, ConvertWhateverIsStoredUnderIsEnabled) {
         {{sim::PropertyList::Date{"2026-01-01T00:00:00Z"}}, false},
     };
     for (const auto& [value, expected] : conversions) {
-        store("isEnabled", value);
+        store(entries::IsEnabled, value);
         EXPECT_EQ(preferences->isEnabled(), expected) << value.asString().value_or("no string form");
     }
 }
 
 TEST_F(PreferencesTest, SeeEveryChangeAtTheNextRead) {
-    store("isEnabled", sim::PropertyList{false});
+    store(entries::IsEnabled, sim::PropertyList{false});
     EXPECT_FALSE(preferences->isEnabled());
-    store("isEnabled", std::nullopt);
+    store(entries::IsEnabled, std::nullopt);
     EXPECT_TRUE(preferences->isEnabled());
 }
 

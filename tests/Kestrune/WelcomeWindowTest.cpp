@@ -181,7 +181,7 @@ TEST_F(WelcomeWindow, ClosedEarlyIsNotFinished) {
     makeAndShow();
     session.user().closeWindow(onlyWindow(session));
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
-    EXPECT_EQ(session.defaults().find("hasCompletedOnboarding"), nullptr);
+    EXPECT_EQ(session.defaults().find(entries::HasCompletedOnboarding), nullptr);
     EXPECT_EQ(finishedCalls, 0);
     EXPECT_TRUE(controller->isWatchingAccessibility());
     EXPECT_EQ(session.timers().count(), 1U);
@@ -240,7 +240,7 @@ TEST_F(WelcomeWindow, LeavesActionsBehindThatDoNothing) {
     model->finish();
     EXPECT_FALSE(model->hasRequestedPermission);
     EXPECT_THAT(session.openedURLs(), IsEmpty());
-    EXPECT_EQ(session.defaults().find("hasCompletedOnboarding"), nullptr);
+    EXPECT_EQ(session.defaults().find(entries::HasCompletedOnboarding), nullptr);
     EXPECT_EQ(finishedCalls, 0);
     EXPECT_EQ(model->currentStep, Step::intro);
 }

@@ -1,7 +1,7 @@
 #include "tests/mac/EventLoop.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/mac/Send.h"
 
 extern "C" {

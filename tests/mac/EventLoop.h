@@ -1,7 +1,7 @@
 // The run loop where AppKit does not run it itself.
 #pragma once
 
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Message.h"
 
 namespace kestrune::native {
 

@@ -1,7 +1,7 @@
 // NSEventType's values.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 namespace kestrune::native {
 

@@ -1,10 +1,10 @@
 // Exceptions as the application meets them: C++'s and its library's through its own functions, Foundation's
 // through them, and C++'s through Foundation's. Ends with success when each is caught where it should be and
 // everything on its way is destroyed.
-#include "mac/Vocabulary.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 #include "tests/mac/OpenMenu.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/mac/Send.h"
 
 extern "C" {

@@ -1,10 +1,10 @@
 #include "tests/mac/RunningApplication.h"
 
 #include "base/Geometry.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Block.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/mac/Objects.h"
 
 namespace kestrune::native {

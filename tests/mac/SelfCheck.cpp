@@ -6,9 +6,9 @@
 #include "mac/objc/SelfCheck.h"
 
 #include "mac/ReportedError.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "base/Fatal.h"
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Message.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // What a contract test's world is by messages that a Mac and GNUstep both understand.
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/contract/World.h"
 #include "tests/mac/Objects.h"
 #include "tests/mac/ShownWindows.h"

@@ -1,7 +1,7 @@
 #include "tests/mac/ShownWindows.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "platform/Window.h"
 #include "tests/mac/Accessibility.h"
 #include "tests/mac/EventTypes.h"

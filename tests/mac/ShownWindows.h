@@ -1,7 +1,7 @@
 // The application's windows as the platform has them, and a user's hand at them.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "platform/Menu.h"
 #include "tests/contract/Shown.h"
 

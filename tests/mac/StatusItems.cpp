@@ -1,7 +1,7 @@
 #include "tests/mac/StatusItems.h"
 
 #include "mac/objc/Retained.h"
-#include "mac/objc/TypeEncoding.h"
+#include "mac/vocabulary/TypeEncoding.h"
 #include "tests/mac/Send.h"
 
 #include <vector>

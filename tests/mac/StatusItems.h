@@ -1,7 +1,7 @@
 // The status items that the process has made.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <cstddef>
 

@@ -7,9 +7,9 @@
 #include "tests/contract/World.h"
 
 #include "base/Fatal.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "platform/AccessibilityTrust.h"
 #include "tests/mac/EventLoop.h"
 #include "tests/mac/Objects.h"

@@ -27,12 +27,12 @@ std::size_t initializersOf(const MachSlice& slice) {
     return count;
 }
 
-class Judge {
+class Measuring {
 public:
-    Judge(const MachSlice& slice, const Limits& limits, const TextStubs& stubs)
+    Measuring(const MachSlice& slice, const Limits& limits, const TextStubs& stubs)
         : slice_(slice), limits_(limits), stubs_(stubs) {}
 
-    Measures judge() {
+    Measures measures() {
         const Fixups fixups = readFixups(slice_);
         const BuildVersion version = slice_.buildVersion().value_or(BuildVersion());
         measures_ = {slice_.content().size(),
@@ -78,7 +78,7 @@ private:
 } // namespace
 
 Measures measure(const MachSlice& slice, const Limits& limits, const TextStubs& stubs) {
-    return Judge(slice, limits, stubs).judge();
+    return Measuring(slice, limits, stubs).measures();
 }
 
 } // namespace kestrune::macho

@@ -15,6 +15,8 @@ from releasing.sealing import machofile
 
 REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
 SOURCES = REPOSITORY / "tests/gnustep/suites/PlatformSources.tsv"
+# Of the vocabulary those that say how something is declared.
+HOW_TO_DECLARE = {"Action.h", "Message.h", "Missing.h", "Runtime.h", "TypeEncoding.h", "Vocabulary.h"}
 
 # Of words that end with colons, as in "setFrame:display:". Those without any look like other texts.
 SELECTOR = re.compile(r"[a-z]\w{2,}:(?:\w+:)*")
@@ -66,6 +68,11 @@ class Declared:
     imports: frozenset = frozenset()  # functions and variables of frameworks
 
 
+def vocabulary_headers():
+    headers = sorted((REPOSITORY / "mac/vocabulary").glob("*.h"))
+    return [header for header in headers if header.name not in HOW_TO_DECLARE]
+
+
 def _texts(folder, glob):
     return [file.read_text(encoding="utf-8") for file in sorted((REPOSITORY / folder).glob(glob))]
 
@@ -86,7 +93,7 @@ def methods_in(vocabulary):
 def declared(sources):
     """By the binding; notifications by the seam, and other constants, which stand wherever they are used, by
     the list of sources."""
-    vocabulary = _texts("mac/vocabulary", "*.h")
+    vocabulary = [header.read_text(encoding="utf-8") for header in vocabulary_headers()]
     owners = [owner for text in vocabulary for owner in OWNER.findall(text)]
     classes = frozenset(name for kind, _, name in owners if kind == "Class")
     protocols = frozenset(name for kind, _, name in owners if kind == "Protocol")

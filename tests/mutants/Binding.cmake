@@ -12,7 +12,7 @@ set(SLEEP FILE mac/MainActor.cpp ${CONTRACT})
 kestrune_mutant(SleepEndsAtOnce ${SLEEP} TEST SleepingTaskContract.WorksWhenItHasSleptAndNotBefore
     FROM "delay.count()" TO "0")
 
-set(ENCODING FILE mac/objc/TypeEncoding.cpp ${SELF_CHECK} TEST TypeEncoding.GivesEveryScalarOneLetter)
+set(ENCODING FILE mac/vocabulary/TypeEncoding.cpp ${SELF_CHECK} TEST TypeEncoding.GivesEveryScalarOneLetter)
 kestrune_mutant(LongStaysLong ${ENCODING} FROM "return \"q\";" TO "return \"l\";")
 kestrune_mutant(UnsignedLongIsSigned ${ENCODING} FROM "return \"Q\";" TO "return \"q\";")
 kestrune_mutant(CharacterIsNoTruthValue ${ENCODING} FROM "return \"B\";" TO "return \"c\";")
@@ -30,19 +30,19 @@ kestrune_mutant(RemovedViewIsNotKeptForThisTurn FILE mac/hosting/SceneView.cpp $
     TEST HostedViewOnGNUstep.KeepsAViewThatGoesUntilItsTurnIsOver
     FROM "keepForThisTurn(view->view());" TO "")
 
-kestrune_mutant(WhatIsMissingIsNamedEachTime FILE mac/objc/Missing.cpp ${APPLICATION}
+kestrune_mutant(WhatIsMissingIsNamedEachTime FILE mac/vocabulary/Missing.cpp ${APPLICATION}
     TEST WhatIsMissing.GivesZeroAndIsNamedOnceAsAMethod
     FROM "logged.insert(text).second" TO "true")
-kestrune_mutant(MissingClassIsNotNamed FILE mac/objc/Message.cpp ${APPLICATION}
+kestrune_mutant(MissingClassIsNotNamed FILE mac/vocabulary/Message.cpp ${APPLICATION}
     TEST WhatIsMissing.IsNilAndNamedOnceAsAClass
     FROM "        logMissingClass(name());
 " TO "")
-kestrune_mutant(MissingMethodIsSent FILE mac/objc/Message.cpp ${APPLICATION}
+kestrune_mutant(MissingMethodIsSent FILE mac/vocabulary/Message.cpp ${APPLICATION}
     TEST WhatIsMissing.GivesZeroAndIsNamedOnceAsAMethod
     FROM "        return false;
 " TO "        return true;
 ")
-kestrune_mutant(ForwardersAreNotAsked FILE mac/objc/Message.cpp ${APPLICATION}
+kestrune_mutant(ForwardersAreNotAsked FILE mac/vocabulary/Message.cpp ${APPLICATION}
     TEST WhatIsMissing.IsNotWhatTheReceiverForwards
     FROM " && !answersFor(receiver, selector())" TO "")
 kestrune_mutant(MissingSuperclassMakesARootClass FILE mac/objc/RuntimeClass.cpp ${APPLICATION}

@@ -1,5 +1,7 @@
 #include "replay/ApplicationHost.h"
 
+#include "replay/StoredChoices.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -18,7 +20,7 @@ sim::SessionOptions options(sim::Permission permission = sim::Permission::grante
 }
 
 std::string storedChoice(sim::Session& session) {
-    const sim::PropertyList* stored = session.defaults().find("pinnedScreenUUID");
+    const sim::PropertyList* stored = session.defaults().find(entries::PinnedScreenUUID);
     return stored != nullptr ? stored->asString().value_or("") : "";
 }
 
@@ -34,8 +36,8 @@ TEST(ApplicationHost, LaunchesTheApplicationAndLetsItSettle) {
     EXPECT_EQ(session.taps().count(), 1U);
     EXPECT_EQ(session.application().policy, ActivationPolicy::accessory);
     // What the launch left to be done is done: the permission is there, and nobody is asked to set up.
-    ASSERT_TRUE(isStored(session, "hasCompletedOnboarding"));
-    EXPECT_TRUE(session.defaults().find("hasCompletedOnboarding")->asBool());
+    ASSERT_TRUE(isStored(session, entries::HasCompletedOnboarding));
+    EXPECT_TRUE(session.defaults().find(entries::HasCompletedOnboarding)->asBool());
 }
 
 TEST(ApplicationHost, WatchesForThePermissionThatIsMissing) {
@@ -89,7 +91,7 @@ TEST(ApplicationHost, OffersNothingWhileTheProcessDoesNotRun) {
     EXPECT_FALSE(host.flipSwitch());
     EXPECT_FALSE(host.askForPermission());
     EXPECT_EQ(storedChoice(session), "");
-    EXPECT_FALSE(isStored(session, "isEnabled"));
+    EXPECT_FALSE(isStored(session, entries::IsEnabled));
 }
 
 TEST(ApplicationHost, ChoosesDisplaysWithoutANewTap) {
@@ -126,7 +128,7 @@ TEST(ApplicationHost, MistakesNoDisplayForARowOfTheMenu) {
     ApplicationHost host(session);
     EXPECT_TRUE(host.flipSwitch());
     EXPECT_TRUE(host.isRunning());
-    EXPECT_FALSE(session.defaults().find("isEnabled")->asBool());
+    EXPECT_FALSE(session.defaults().find(entries::IsEnabled)->asBool());
     EXPECT_TRUE(host.quit());
     EXPECT_FALSE(host.isRunning());
 }
@@ -136,10 +138,10 @@ TEST(ApplicationHost, FlipsTheSwitch) {
     ApplicationHost host(session);
     EXPECT_TRUE(host.flipSwitch());
     EXPECT_FALSE(host.guardIsRunning());
-    EXPECT_FALSE(session.defaults().find("isEnabled")->asBool());
+    EXPECT_FALSE(session.defaults().find(entries::IsEnabled)->asBool());
     EXPECT_TRUE(host.flipSwitch());
     EXPECT_TRUE(host.guardIsRunning());
-    EXPECT_TRUE(session.defaults().find("isEnabled")->asBool());
+    EXPECT_TRUE(session.defaults().find(entries::IsEnabled)->asBool());
 }
 
 TEST(ApplicationHost, CanNeitherChooseNorFlipBeforeTheSetupIsComplete) {
@@ -148,7 +150,7 @@ TEST(ApplicationHost, CanNeitherChooseNorFlipBeforeTheSetupIsComplete) {
     EXPECT_FALSE(host.chooseDisplay(2));
     EXPECT_FALSE(host.flipSwitch());
     EXPECT_EQ(storedChoice(session), "");
-    EXPECT_FALSE(isStored(session, "isEnabled"));
+    EXPECT_FALSE(isStored(session, entries::IsEnabled));
     EXPECT_FALSE(session.menus().place());
     EXPECT_TRUE(host.quit()) << "the menu offers to quit all the same";
 }

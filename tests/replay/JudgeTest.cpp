@@ -41,12 +41,12 @@ TEST(Judge, RefusesAnyChangeWithoutAGuardOrASecondDisplay) {
     off.guardOn = false;
     EXPECT_TRUE(violates(off, {2000, 1078}, {2000, 1075}));
     EXPECT_FALSE(violates(off, {2000, 1078}, {2000, 1078}));
-    const JudgedDesk alone{{{0, 0, 1920, 1080}}, 0, true, 4};
+    const JudgedDesk alone{{{{0, 0, 1920, 1080}}}};
     EXPECT_TRUE(violates(alone, {100, 1078}, {100, 1075}));
 }
 
 TEST(Judge, KnowsTheDisplayThatIsTooShort) {
-    const JudgedDesk sliver{{{0, 0, 1920, 1080}, {1920, 100, 1000, 4}}, 0, true, 4};
+    const JudgedDesk sliver{{{{0, 0, 1920, 1080}, true}, {{1920, 100, 1000, 4}}}};
     EXPECT_FALSE(violates(sliver, {2000, 102}, {2000, 101}));
     EXPECT_TRUE(violates(sliver, {2000, 102}, {2000, 102}));
     EXPECT_TRUE(violates(sliver, {2000, 102}, {2000, 99}));

@@ -1,5 +1,6 @@
 #include "replay/Replay.h"
 
+#include "replay/StoredChoices.h"
 #include "tests/replay/recording/MadeUpRecording.h"
 
 #include <gtest/gtest.h>
@@ -85,14 +86,14 @@ TEST(SimulatedDesk, StartsWithTheDockOnThePinnedDisplayAndTheChoicesStored) {
     EXPECT_EQ(desk.dockDisplay(), 1U);
     EXPECT_EQ(desk.host().guard()->pinnedScreen()->displayID, 2U);
     EXPECT_TRUE(desk.host().guardIsRunning());
-    EXPECT_EQ(desk.session().defaults().find("blockMargin")->asDouble(), 12.5);
+    EXPECT_EQ(desk.session().defaults().find(entries::BlockMargin)->asDouble(), 12.5);
     EXPECT_EQ(desk.judged().margin, 12.5);
 }
 
 TEST(SimulatedDesk, JudgesAMarginThatIsNotGreaterThanZeroAsTheUsualOne) {
     SimulatedDesk desk({SideBySide, 0, true, -3.0});
     EXPECT_EQ(desk.judged().margin, 4);
-    EXPECT_EQ(desk.session().defaults().find("blockMargin")->asDouble(), -3);
+    EXPECT_EQ(desk.session().defaults().find(entries::BlockMargin)->asDouble(), -3);
 }
 
 TEST(SimulatedDesk, LeavesTheGuardStoppedWhenItIsSwitchedOff) {

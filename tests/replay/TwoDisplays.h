@@ -5,6 +5,6 @@
 
 namespace kestrune::replay {
 
-inline const JudgedDesk Desk{{{0, 0, 1920, 1080}, {1920, 280, 1280, 800}}, 0, true, 4};
+inline const JudgedDesk Desk{{{{0, 0, 1920, 1080}, true}, {{1920, 280, 1280, 800}}}};
 
 } // namespace kestrune::replay

@@ -102,6 +102,61 @@ class Includes(TreeTest):
         )
 
 
+class Circles(TreeTest):
+    def test_of_folders_are_found_where_they_are_thinnest(self):
+        self.assert_found(
+            includes,
+            {
+                "ui/View.h": "",
+                "ui/Node.h": '\n#include "ui/layout/Layout.h"\n',
+                "ui/layout/Layout.h": '#include "ui/View.h"\n',
+                "ui/layout/Stack.cpp": '#include "ui/View.h"\n',
+            },
+            'ui/Node.h:2: "ui/layout/Layout.h" closes a circle of folders, ui -> ui/layout -> ui;',
+        )
+
+    def test_are_found_over_several_folders(self):
+        self.assert_found(
+            includes,
+            {
+                "sim/a/A.h": '#include "sim/b/B.h"\n',
+                "sim/b/B.h": "",
+                "sim/b/B.cpp": '#include "sim/c/C.h"\n',
+                "sim/b/D.cpp": '#include "sim/c/C.h"\n',
+                "sim/c/C.h": "",
+                "sim/c/C.cpp": '#include "sim/a/A.h"\n',
+                "sim/c/D.cpp": '#include "sim/a/A.h"\n',
+            },
+            'sim/a/A.h:1: "sim/b/B.h" closes a circle of folders, sim/a -> sim/b -> sim/c -> sim/a;',
+        )
+
+    def test_are_all_found_with_each_include_that_closes_them(self):
+        self.assert_found(
+            includes,
+            {
+                "sim/a/A.h": '#include "sim/b/B.h"\n#include "sim/c/C.h"\n',
+                "sim/a/B.h": '#include "sim/b/B.h"\n#include "sim/c/C.h"\n',
+                "sim/b/B.h": '#include "sim/a/A.h"\n#include "sim/a/B.h"\n',
+                "sim/c/C.h": '#include "sim/a/A.h"\n',
+            },
+            'sim/a/A.h:1: "sim/b/B.h" closes a circle of folders, sim/a -> sim/b -> sim/a;',
+            'sim/a/B.h:1: "sim/b/B.h" closes a circle of folders, sim/a -> sim/b -> sim/a;',
+            'sim/c/C.h:1: "sim/a/A.h" closes a circle of folders, sim/a -> sim/c -> sim/a;',
+        )
+
+    def test_are_none_where_files_include_others_of_their_folder_or_folders_meet_again(self):
+        self.assert_clean(
+            includes,
+            {
+                "sim/a/A.h": '#include "sim/a/B.h"\n#include "sim/b/B.h"\n#include "sim/c/C.h"\n',
+                "sim/a/B.h": '#include "sim/a/A.h"\n',
+                "sim/b/B.h": '#include "base/A.h"\n',
+                "sim/c/C.h": '#include "sim/b/B.h"\n#include "base/A.h"\n',
+                "base/A.h": "",
+            },
+        )
+
+
 class Facilities(TreeTest):
     def test_real_clocks_stay_out_of_the_application_and_the_simulation(self):
         for folder in ("base", "ui", "platform", "Kestrune", "sim", "replay"):

@@ -57,6 +57,15 @@ class Style(TreeTest):
         self.assert_clean(style, {"base/A.cpp": "a\n" * 400, "docs/A.md": "a\n" * 500})
         self.assert_found(style, {"base/A.cpp": "a\n" * 401}, "base/A.cpp:401: the file has 401 lines")
 
+    def test_finds_a_full_folder(self):
+        files = {f"sim/{index}.dat": "" for index in range(50)}
+        self.assert_clean(style, {**files, "sim/session/A.dat": "", "build/A.dat": ""})
+        self.assert_found(style, {"sim/50.dat": ""}, "sim:1: the folder has 51 files")
+
+    def test_finds_a_full_root(self):
+        files = {f"{index}.dat": "" for index in range(51)}
+        self.assert_found(style, files, ".:1: the folder has 51 files")
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -64,9 +64,14 @@ TEST_F(AGroupedForm, IsAsWideAsItsWidestRowWhenNothingIsOffered) {
               "  toggle 98,122 32x18 \"Launch\" on small switch 0\n");
 }
 
-TEST_F(AGroupedForm, KeepsItsIdealHeightWhateverIsOffered) {
+TEST_F(AGroupedForm, TakesTheHeightThatItIsOfferedWithItsRowsAtTheTop) {
     const View view = form({Section({Text("a")})});
-    EXPECT_EQ(sizeOfView(view, {.width = 440, .height = 1000}), (Size{440, 76}));
+    EXPECT_EQ(sizeOfView(view, {.width = 440, .height = 1000}), (Size{440, 1000}));
+    EXPECT_EQ(frameOf(view, 0, {.width = 440, .height = 1000}), (Rect{20, 20, 400, 36}));
+}
+
+TEST_F(AGroupedForm, IsNeverLessHighThanItsRows) {
+    const View view = form({Section({Text("a")})});
     EXPECT_EQ(sizeOfView(view, {.width = 440, .height = 10}), (Size{440, 76}));
     EXPECT_EQ(sizeOfView(form({Section({Box(10, 50)})}), {.width = 440, .height = 10}), (Size{440, 104}));
 }

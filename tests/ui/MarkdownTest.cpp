@@ -62,6 +62,11 @@ TEST(Markdown, GoesOnAfterAMarkAndNotWithinIt) {
     EXPECT_THAT(parseMarkdown("**a **b**"), ElementsAre(boldPart("a **b")));
 }
 
+TEST(Markdown, TakesAMarkThatComesRightAfterAnother) {
+    EXPECT_THAT(parseMarkdown("**One****Two**"), ElementsAre(boldPart("One"), boldPart("Two")));
+    EXPECT_THAT(parseMarkdown("**One ****"), ElementsAre(boldPart("One **")));
+}
+
 TEST(Markdown, StartsAtAMarkThatBeginsAPart) {
     EXPECT_THAT(parseMarkdown("2 ** **3**"), ElementsAre(plain("2 ** "), boldPart("3")));
 }

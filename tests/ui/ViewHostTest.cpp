@@ -1,4 +1,4 @@
-#include "ui/ViewHost.h"
+#include "ui/hosting/ViewHost.h"
 
 #include "tests/ui/LayoutFixture.h"
 

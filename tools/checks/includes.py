@@ -1,5 +1,6 @@
 """Who may include what, and which facilities a folder stays away from."""
 
+import collections
 import re
 
 from .result import Finding, Result
@@ -80,6 +81,7 @@ def run(tree):
     for path in files:
         findings += _include_findings(tree, path)
         findings += _code_findings(tree, path)
+    findings += _circle_findings(tree, files)
     return Result(f"{len(files)} files", findings)
 
 
@@ -126,3 +128,52 @@ def _code_findings(tree, path):
         for pattern, message in rules:
             if pattern.search(line):
                 yield Finding(path, number, message)
+
+
+def _circle_findings(tree, files):
+    """Folders that include one another, in however many steps, are one folder that has two names."""
+    arrows = _arrows(tree, files)
+    while circle := _shortest_circle(arrows):
+        thinnest = min(zip(circle, circle[1:]), key=lambda arrow: (len(arrows[arrow]), arrow))
+        for path, line, name in arrows.pop(thinnest):
+            problem = f'"{name}" closes a circle of folders, {" -> ".join(circle)}; move one of the two files'
+            yield Finding(path, line, problem)
+
+
+def _arrows(tree, files):
+    """The includes that lead from one folder into another: (path, line, name) by the two folders."""
+    arrows = collections.defaultdict(list)
+    known = set(files)
+    for path in files:
+        for line, name, quoted in tree.includes(path):
+            folders = _folder(path), _folder(name)
+            if quoted and name in known and folders[0] != folders[1]:
+                arrows[folders].append((path, line, name))
+    return arrows
+
+
+def _folder(path):
+    return path.rpartition("/")[0]
+
+
+def _shortest_circle(arrows):
+    """Folders of which each includes the next one, the first again at the end; nothing when there is none."""
+    targets = collections.defaultdict(list)
+    for start, end in sorted(arrows):
+        targets[start].append(end)
+    circles = [circle for start in sorted(targets) if (circle := _way_back(targets, start))]
+    return min(circles, key=len, default=None)
+
+
+def _way_back(targets, start):
+    ways = collections.deque([[start]])
+    seen = set()
+    while ways:
+        way = ways.popleft()
+        for folder in targets.get(way[-1], ()):
+            if folder == start:
+                return [*way, start]
+            if folder not in seen:
+                seen.add(folder)
+                ways.append([*way, folder])
+    return None

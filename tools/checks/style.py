@@ -1,5 +1,6 @@
-"""What every text file keeps to: width, length, white space."""
+"""What every text file keeps to: width, length, white space; and how many files a folder holds."""
 
+import collections
 import re
 
 from .result import Finding, Result
@@ -7,6 +8,7 @@ from .result import Finding, Result
 MAXIMUM_COLUMNS = 110
 MAXIMUM_PROSE_COLUMNS = 120
 MAXIMUM_LINES = 400
+MAXIMUM_FILES = 50
 
 CODE = (".h", ".cpp", ".S", ".js", ".py", ".sh", ".cmake", "CMakeLists.txt")
 PROSE = (".md",)
@@ -18,7 +20,16 @@ CMAKE_TEXT = re.compile(r'^\s*(?:\w+ )?"(?:\\.|[^"\\])*"\)?$')
 def run(tree):
     files = text_files(tree)
     findings = [finding for path in files for finding in _findings(path, tree.text(path))]
+    findings += _folder_findings(tree)
     return Result(f"{len(files)} files", findings)
+
+
+def _folder_findings(tree):
+    """Of any kind, but not those in the folders below."""
+    for folder, count in sorted(collections.Counter(path.rpartition("/")[0] for path in tree.files).items()):
+        if count > MAXIMUM_FILES:
+            message = f"the folder has {count} files; split it by subject, {MAXIMUM_FILES} fit"
+            yield Finding(folder or ".", 1, message)
 
 
 def text_files(tree):

@@ -1,6 +1,7 @@
-#include "ui/Node.h"
 #include "ui/View.h"
+#include "ui/layout/Node.h"
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -23,14 +24,20 @@ constexpr double RowPadding = 7;
 // Between the rows of a form that is not grouped.
 constexpr double PlainRowSpacing = 8;
 
+// As the platform's list in a view that scrolls: it takes the height that it is offered, with its rows at the
+// top. As nothing scrolls here, it is never less high than they are.
+//
 // Offers its content the content's own ideal width when it is offered none, so that everything in it that
 // adapts is equally wide.
-class EqualWidthItem final : public LayoutItem {
+class GroupedFormItem final : public LayoutItem {
 public:
-    explicit EqualWidthItem(LayoutItemPointer content) : content_(std::move(content)) {}
+    explicit GroupedFormItem(LayoutItemPointer content) : content_(std::move(content)) {}
 
 private:
-    Size measure(const ProposedSize& proposal) override { return content_->sizeThatFits(inside(proposal)); }
+    Size measure(const ProposedSize& proposal) override {
+        const Size content = content_->sizeThatFits(inside(proposal));
+        return {content.width, std::max(content.height, proposal.height.value_or(0))};
+    }
 
     void placeContent(Point origin, const ProposedSize& proposal, Rendering& rendering) override {
         content_->place(origin, inside(proposal), rendering);
@@ -102,7 +109,7 @@ struct FormNode final : Node {
             return stack.node().resolve(inside, pass);
         }
         const View form = stack.padding(OuterMargin).fixedSize(false, true);
-        return std::make_unique<EqualWidthItem>(form.node().resolve(inside, pass));
+        return std::make_unique<GroupedFormItem>(form.node().resolve(inside, pass));
     }
 
     std::vector<View> sections;

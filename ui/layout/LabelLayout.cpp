@@ -1,5 +1,5 @@
-#include "ui/Node.h"
 #include "ui/View.h"
+#include "ui/layout/Node.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "ui/layout/Layout.h"
 
-#include "ui/Node.h"
+#include "ui/layout/Node.h"
 
 namespace kestrune::ui {
 

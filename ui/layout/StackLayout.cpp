@@ -1,6 +1,6 @@
-#include "ui/Axis.h"
-#include "ui/Node.h"
 #include "ui/View.h"
+#include "ui/layout/Axis.h"
+#include "ui/layout/Node.h"
 
 #include <algorithm>
 #include <cmath>

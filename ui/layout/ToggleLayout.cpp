@@ -1,6 +1,6 @@
-#include "ui/Node.h"
-#include "ui/TextContent.h"
 #include "ui/View.h"
+#include "ui/layout/Node.h"
+#include "ui/layout/TextContent.h"
 
 #include <functional>
 #include <memory>

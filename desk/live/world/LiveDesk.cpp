@@ -294,10 +294,7 @@ replay::JudgedDesk LiveDesk::judgedDesk() {
     replay::JudgedDesk judged;
     const sim::Display* pinned = pinnedDisplay(session_);
     for (const sim::Display& display : session_.displays().connected()) {
-        if (&display == pinned) {
-            judged.pinned = judged.displays.size();
-        }
-        judged.displays.push_back(display.bounds);
+        judged.displays.push_back({display.bounds, &display == pinned});
     }
     judged.guardOn = host_.guardIsRunning() && choices().isEnabled();
     judged.margin = choices().blockMargin();

@@ -1,8 +1,8 @@
 #include "desk/live/world/LivePicture.h"
 
-#include "Kestrune/BlockedBand.h"
 #include "desk/live/world/PinnedDisplay.h"
 #include "desk/paint/desk/Chrome.h"
+#include "replay/GuardRule.h"
 #include "replay/StoredChoices.h"
 
 #include <algorithm>
@@ -44,7 +44,7 @@ DisplayPicture pictureOfDisplay(const sim::Display& display, sim::Session& sessi
     picture.pinned = &display == pinnedDisplay(session);
     if (!picture.pinned && session.displays().connected().size() >= 2) {
         picture.bandTop =
-            BlockedBand(display.bounds, replay::StoredChoices(session.defaults()).blockMargin()).heldY();
+            replay::JudgedBand(display.bounds, replay::StoredChoices(session.defaults()).blockMargin()).held;
     }
     picture.wallpaper = display.displayID - 1;
     return picture;

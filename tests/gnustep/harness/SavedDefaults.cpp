@@ -1,9 +1,9 @@
 #include "tests/gnustep/harness/SavedDefaults.h"
 
 #include "base/Fatal.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Send.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "tests/gnustep/harness/TimeLimit.h"
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <execinfo.h>
 #include <unistd.h>

@@ -6,10 +6,10 @@
 // it is while it is open, whatever menu the status item gets meanwhile.
 #include "tests/gnustep/process/MenuBar.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "platform/MainActor.h"
 #include "platform/Menu.h"
 #include "tests/gnustep/harness/Objects.h"

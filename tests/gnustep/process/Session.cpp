@@ -1,8 +1,8 @@
 #include "tests/gnustep/process/Session.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Send.h"
 #include "tests/gnustep/standins/StandIns.h"
 #include "tests/gnustep/standins/appkit/Screens.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <string>
 

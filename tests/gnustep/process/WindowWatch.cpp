@@ -1,8 +1,8 @@
 #include "tests/gnustep/process/WindowWatch.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Send.h"
 #include "tests/gnustep/harness/ShownWindows.h"
 #include "tests/gnustep/process/Teller.h"

@@ -1,10 +1,10 @@
 // The application on GNUstep: launched, used and ended through the real binding, in real time.
 #include "Kestrune/KestruneApp.h"
 #include "mac/ObjectCounterpart.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "platform/MainActor.h"
 #include "platform/NotificationCenter.h"
 #include "tests/gnustep/harness/Allocations.h"

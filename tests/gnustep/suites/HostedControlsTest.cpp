@@ -1,9 +1,9 @@
 // What a button's and a switch's properties are to the platform.
-#include "mac/Vocabulary.h"
 #include "mac/hosting/Accessibility.h"
 #include "mac/hosting/PlatformMeasurer.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/standins/appkit/Accessibility.h"
 #include "tests/gnustep/standins/appkit/ControlMetrics.h"
 #include "tests/gnustep/suites/ShownScene.h"

@@ -1,11 +1,11 @@
 // What becomes of the application where the platform lacks a class, a method or a protocol: the log names it,
 // and all goes on that does not need it.
 #include "mac/Protocols.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/NewObject.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/RuntimeClass.h"
 #include "mac/objc/SelfCheck.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Objects.h"
 #include "tests/gnustep/standins/runtime/LeftOut.h"
 #include "tests/gnustep/standins/runtime/Protocols.h"

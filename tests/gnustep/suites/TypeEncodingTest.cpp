@@ -1,5 +1,5 @@
 // How the runtimes write down the same method, brought into one form.
-#include "mac/objc/TypeEncoding.h"
+#include "mac/vocabulary/TypeEncoding.h"
 
 #include <gtest/gtest.h>
 

@@ -7,9 +7,9 @@
 #include "tests/contract/World.h"
 
 #include "base/Fatal.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Objects.h"
 #include "tests/gnustep/harness/PrivateHome.h"
 #include "tests/gnustep/harness/ShownWindows.h"

@@ -1,8 +1,8 @@
 #include "tests/macho/loader/ClassChecks.h"
 
 #include "base/Fatal.h"
-#include "mac/objc/Runtime.h"
-#include "mac/objc/TypeEncoding.h"
+#include "mac/vocabulary/Runtime.h"
+#include "mac/vocabulary/TypeEncoding.h"
 
 #include <cstdlib>
 #include <string>

@@ -1,7 +1,7 @@
 // Source: Apple, Writing ARM64 Code for Apple Platforms; Arm, Procedure Call Standard for the Arm 64-bit
 // Architecture.
 #include "base/Fatal.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "tests/macho/Bytes.h"
 #include "tests/macho/loader/Conventions.h"
 #include "tests/macho/loader/CxxNames.h"

@@ -1,6 +1,6 @@
 // What a program gets for its imports, called as Apple's compilers for arm64 call it.
-#include "mac/Vocabulary.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/macho/loader/Imports.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
 #include "tests/macho/loader/Imports.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Block.h"
 #include "mac/objc/NewObject.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/macho/loader/ClassChecks.h"
 #include "tests/macho/loader/Conventions.h"
 

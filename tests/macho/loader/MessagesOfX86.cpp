@@ -1,5 +1,5 @@
 #include "base/Fatal.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "tests/macho/loader/Messages.h"
 
 #include <cstddef>

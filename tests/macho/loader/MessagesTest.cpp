@@ -1,7 +1,7 @@
 #include "tests/macho/loader/Messages.h"
 
-#include "mac/Vocabulary.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 #include <gtest/gtest.h>
 

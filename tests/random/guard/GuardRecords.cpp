@@ -1,6 +1,6 @@
 #include "tests/random/guard/GuardRecords.h"
 
-#include "tests/random/guard/Judge.h"
+#include "tests/random/guard/Invariants.h"
 
 namespace kestrune::simulate {
 

@@ -2,7 +2,7 @@
 
 #include "platform/AccessibilityTrust.h"
 #include "replay/StoredChoices.h"
-#include "tests/random/guard/Judge.h"
+#include "tests/random/guard/Invariants.h"
 
 #include <utility>
 

@@ -76,7 +76,7 @@ public:
     const Counts& counts() const { return counts_; }
     const std::vector<sim::Display>& displays() { return session_.displays().connected(); }
     Point pointer() const { return session_.pointer(); }
-    const GuardState& expected() const { return expected_; }
+    const GuardModel& expected() const { return expected_; }
 
     // Whether each delivery is kept as text.
     void traceDeliveries(bool trace) { tracing_ = trace; }
@@ -103,7 +103,7 @@ private:
     sim::Session session_;
     std::unique_ptr<DockGuardController> guard_;
     StoredEntries entries_;
-    GuardState expected_;
+    GuardModel expected_;
     TapModel tap_;
     std::uint64_t refusals_ = 0;
     std::uint64_t writes_ = 0; // of defaults entries, by anybody

@@ -1,6 +1,6 @@
 // Events of a guarded session, and what they must come to.
 #include "tests/random/guard/GuardedSession.h"
-#include "tests/random/guard/Judge.h"
+#include "tests/random/guard/Invariants.h"
 
 #include <algorithm>
 
@@ -8,7 +8,7 @@ namespace kestrune::simulate {
 
 namespace {
 
-bool isOnLastPoint(const KnownDisplay* display, Point point) {
+bool isOnLastPoint(const replay::JudgedDisplay* display, Point point) {
     return display != nullptr && point.y >= display->bounds.origin.y + display->bounds.size.height - 1;
 }
 
@@ -58,7 +58,7 @@ void GuardedSession::afterEvent(const BeforeEvent& before, const sim::Delivery& 
         trace_.push_back(textOf(delivery.sent) + " -> " + textOf(delivery.delivered) +
                          (handled ? "" : " without the guard"));
     }
-    if (std::optional<std::string> wrong = judgeDelivery(expected_, handled, delivery)) {
+    if (std::optional<std::string> wrong = violationOf(expected_, handled, delivery)) {
         violate(*std::move(wrong));
     }
     require(session_.clock().now() == before.time + before.reply.held,
@@ -91,7 +91,8 @@ void GuardedSession::countEvent(const sim::Delivery& delivery, bool handled) {
         return;
     }
     ++counts_.moved;
-    const bool wasOnLastPoint = isOnLastPoint(expected_.displayUnder(delivery.sent), delivery.sent);
+    const replay::JudgedDesk desk = expected_.judged();
+    const bool wasOnLastPoint = isOnLastPoint(displayUnder(desk, delivery.sent), delivery.sent);
     counts_.pushedOff += wasOnLastPoint ? 1 : 0;
 }
 

@@ -1,6 +1,5 @@
 #include "tests/random/guard/Oracle.h"
 
-#include <algorithm>
 #include <cmath>
 #include <variant>
 
@@ -112,28 +111,12 @@ Resolution expectedResolution(sim::Displays system, const std::optional<std::str
     return resolve(system, storedChoice);
 }
 
-const KnownDisplay* GuardState::displayUnder(Point point) const {
-    const auto first = std::find_if(displays.begin(), displays.end(), [point](const KnownDisplay& display) {
-        return replay::isOn(display.bounds, point);
-    });
-    return first != displays.end() ? &*first : nullptr;
-}
-
-const KnownDisplay* GuardState::guardedDisplayUnder(Point point) const {
-    if (!enabled || displays.size() <= 1 || !pinned) {
-        return nullptr;
+replay::JudgedDesk GuardModel::judged() const {
+    replay::JudgedDesk desk{{}, enabled && pinned, replay::bandDepth(storedMargin)};
+    for (const KnownDisplay& display : displays) {
+        desk.displays.push_back({display.bounds, pinned && display.identifier == pinned->identifier});
     }
-    const KnownDisplay* display = displayUnder(point);
-    return display != nullptr && display->identifier != pinned->identifier ? display : nullptr;
-}
-
-Point expectedLocation(const GuardState& state, Point sent) {
-    const KnownDisplay* display = state.guardedDisplayUnder(sent);
-    if (display == nullptr) {
-        return sent;
-    }
-    const replay::JudgedBand band = state.bandOf(*display);
-    return sent.y > band.lowestFree ? Point{sent.x, band.held} : sent;
+    return desk;
 }
 
 } // namespace kestrune::simulate

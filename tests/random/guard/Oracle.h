@@ -45,7 +45,7 @@ Resolution resolve(sim::Displays& system, const std::optional<std::string>& stor
 Resolution expectedResolution(sim::Displays system, const std::optional<std::string>& storedChoice);
 
 // All that the decision about an event depends on.
-struct GuardState {
+struct GuardModel {
     std::vector<KnownDisplay> displays;
     std::optional<KnownDisplay> pinned;
     bool enabled = true;
@@ -53,18 +53,7 @@ struct GuardState {
     // What doubleForKey: answers for the margin.
     double storedMargin = 0;
 
-    replay::JudgedBand bandOf(const KnownDisplay& display) const {
-        return {display.bounds, replay::bandDepth(storedMargin)};
-    }
-
-    // The display that decides about a point, null when none does.
-    const KnownDisplay* displayUnder(Point point) const;
-
-    // The display under the point when its band is guarded there, null when nothing may change.
-    const KnownDisplay* guardedDisplayUnder(Point point) const;
+    replay::JudgedDesk judged() const;
 };
-
-// Where an event that was sent to `sent` must arrive, to the last bit.
-Point expectedLocation(const GuardState& state, Point sent);
 
 } // namespace kestrune::simulate

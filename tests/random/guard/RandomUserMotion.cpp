@@ -1,6 +1,6 @@
 // How the pointer is moved in a random session.
 #include "tests/base/UnusualNumbers.h"
-#include "tests/random/guard/Judge.h"
+#include "tests/random/guard/Invariants.h"
 #include "tests/random/guard/RandomUser.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // The sizes of controls, and the role of a button.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 namespace kestrune::gnustep {
 

@@ -5,9 +5,9 @@
 // notification is posted on the main thread once the list has changed.
 #include "tests/gnustep/standins/appkit/Screens.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Objects.h"
 #include "tests/gnustep/standins/runtime/Subclass.h"
 

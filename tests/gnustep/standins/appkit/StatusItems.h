@@ -1,7 +1,7 @@
 // The status items in the menu bar.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <cstddef>
 

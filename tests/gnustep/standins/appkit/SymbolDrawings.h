@@ -1,7 +1,7 @@
 // Drawings of the harness's own for the symbols that the application names.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <optional>
 #include <string_view>

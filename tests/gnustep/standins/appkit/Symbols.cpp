@@ -7,9 +7,9 @@
 #include "tests/gnustep/standins/appkit/Symbols.h"
 
 #include "base/Geometry.h"
-#include "mac/Vocabulary.h"
 #include "mac/objc/Retained.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/standins/appkit/SymbolDrawings.h"
 #include "tests/gnustep/standins/runtime/Deallocation.h"
 #include "tests/gnustep/standins/runtime/Subclass.h"

@@ -1,7 +1,7 @@
 // Symbols of the system, and what an image shows of them.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <optional>
 #include <string>

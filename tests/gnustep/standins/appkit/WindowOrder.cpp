@@ -5,7 +5,7 @@
 // and of those of its level that were ordered front before it.
 #include "tests/gnustep/standins/appkit/WindowOrder.h"
 
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Objects.h"
 #include "tests/gnustep/standins/runtime/Deallocation.h"
 #include "tests/gnustep/standins/runtime/Methods.h"

@@ -1,7 +1,7 @@
 // Blocks seen from the harness.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <string>
 

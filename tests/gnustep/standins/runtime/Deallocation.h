@@ -1,7 +1,7 @@
 // The moment at which an object of GNUstep's or of a run-time class goes.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <functional>
 

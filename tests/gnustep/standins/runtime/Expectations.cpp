@@ -1,7 +1,7 @@
 #include "tests/gnustep/standins/runtime/Expectations.h"
 
 #include "base/Fatal.h"
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::gnustep {
 

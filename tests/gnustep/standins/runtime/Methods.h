@@ -1,7 +1,7 @@
 // Methods that take the place of GNUstep's or are added to its classes.
 #pragma once
 
-#include "mac/objc/TypeEncoding.h"
+#include "mac/vocabulary/TypeEncoding.h"
 #include "tests/gnustep/harness/Send.h"
 #include "tests/gnustep/standins/runtime/LeftOut.h"
 

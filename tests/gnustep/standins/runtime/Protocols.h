@@ -4,7 +4,7 @@
 // That the Mac's frameworks keep theirs is what we believe, and no proof of it.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 #include <vector>
 

@@ -4,7 +4,7 @@
 // This is what we believe the Mac does, and no proof of it, though NSTimer.h says so of a timer's target.
 #include "tests/gnustep/standins/runtime/TimerBlocks.h"
 
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/standins/runtime/Methods.h"
 
 #include <utility>

@@ -8,9 +8,9 @@
 // Source: Sparkle 2, SPUStandardUserDriver.h, SPUStandardUserDriverDelegate.h, SPUUpdater.h.
 #include "tests/gnustep/standins/sparkle/Sparkle.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Objects.h"
 #include "tests/gnustep/standins/runtime/Deallocation.h"
 #include "tests/gnustep/standins/runtime/Expectations.h"

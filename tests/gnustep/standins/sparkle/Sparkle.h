@@ -1,7 +1,7 @@
 // Sparkle.framework in the main bundle.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "tests/contract/World.h"
 
 #include <string>

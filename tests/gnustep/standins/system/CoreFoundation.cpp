@@ -6,7 +6,7 @@
 #include "tests/gnustep/standins/system/CoreFoundation.h"
 
 #include "base/Fatal.h"
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/standins/runtime/Subclass.h"
 
 #include <map>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mac/c/CoreFoundation.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 namespace kestrune::gnustep {
 

@@ -4,9 +4,9 @@
 // connection of its display, and its string belongs to whoever asked for it.
 #include "tests/gnustep/standins/system/DisplayUUIDs.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/c/Quartz.h"
 #include "mac/objc/Text.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/standins/appkit/Screens.h"
 #include "tests/gnustep/standins/runtime/Subclass.h"
 #include "tests/gnustep/standins/system/CoreFoundation.h"

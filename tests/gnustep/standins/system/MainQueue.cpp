@@ -7,10 +7,10 @@
 #include "tests/gnustep/standins/system/MainQueue.h"
 
 #include "base/Fatal.h"
-#include "mac/Vocabulary.h"
 #include "mac/c/Dispatch.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/standins/runtime/Subclass.h"
 
 // AppKit's names of the modes in which the user is waited for.

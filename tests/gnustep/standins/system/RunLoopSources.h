@@ -1,7 +1,7 @@
 // The run loop as CoreFoundation's clients know it: which sources it serves.
 #pragma once
 
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 
 namespace kestrune::gnustep {
 

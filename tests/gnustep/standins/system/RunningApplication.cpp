@@ -2,9 +2,9 @@
 // something in it asks for that. It stands in for nothing of the Mac's.
 #include "tests/gnustep/standins/system/RunningApplication.h"
 
-#include "mac/Vocabulary.h"
 #include "mac/objc/Pool.h"
 #include "mac/objc/Retained.h"
+#include "mac/vocabulary/Vocabulary.h"
 #include "tests/gnustep/harness/Objects.h"
 #include "tests/gnustep/standins/runtime/Subclass.h"
 

@@ -11,10 +11,10 @@
 namespace kestrune::benchmarks {
 
 // Deterministic: the same displays and seed give the same motion. One step is one millisecond.
-class RestlessHand {
+class RestlessPointer {
 public:
     // `displays` are in global display coordinates, at least one.
-    RestlessHand(std::vector<Rect> displays, std::uint64_t seed);
+    RestlessPointer(std::vector<Rect> displays, std::uint64_t seed);
 
     // How far the hand moves the pointer, which is at `pointer` now, in the next millisecond; in points,
     // y downwards.

@@ -1,4 +1,4 @@
-#include "mac/objc/TypeEncoding.h"
+#include "mac/vocabulary/TypeEncoding.h"
 
 #include <algorithm>
 #include <cstddef>

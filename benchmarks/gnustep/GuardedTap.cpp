@@ -1,4 +1,4 @@
-#include "benchmarks/gnustep/GuardedSession.h"
+#include "benchmarks/gnustep/GuardedTap.h"
 
 #include "base/Fatal.h"
 #include "tests/gnustep/standins/appkit/Screens.h"
@@ -31,14 +31,13 @@ void makeSession() {
     gnustep::accessibilityRow().trust = contract::Trust::granted;
 }
 
-GuardedSession::GuardedSession()
-    : preferences_(std::make_shared<Preferences>(UserDefaults::standardUserDefaults())) {
+GuardedTap::GuardedTap() : preferences_(std::make_shared<Preferences>(UserDefaults::standardUserDefaults())) {
     guard_.setPreferences(preferences_);
     guard_.refreshScreens();
     guard_.start();
 }
 
-void GuardedSession::storeIsEnabled(bool isStored) {
+void GuardedTap::storeIsEnabled(bool isStored) {
     if (isStored) {
         preferences_->defaults().setBool(true, Preferences::IsEnabledKey);
     } else {

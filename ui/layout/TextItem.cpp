@@ -1,4 +1,4 @@
-#include "ui/TextItem.h"
+#include "ui/layout/TextItem.h"
 
 #include <utility>
 

@@ -16,8 +16,7 @@ std::string textOf(Point point);
 bool identical(Point one, Point other);
 
 // What is wrong with a delivery, absent when it is right. `handled` says whether the guard's tap was asked.
-std::optional<std::string> judgeDelivery(const GuardState& state, bool handled,
-                                         const sim::Delivery& delivery);
+std::optional<std::string> violationOf(const GuardModel& state, bool handled, const sim::Delivery& delivery);
 
 // Whether the guard, asked about every event, must keep the Dock from moving to `target`, one of the
 // `connected` displays. It need not when
@@ -29,7 +28,7 @@ std::optional<std::string> judgeDelivery(const GuardState& state, bool handled,
 // - another display, connected or known, overlaps `target`: the order of the lists decides there;
 // - `target` is so low, or the margin so small next to its coordinates, that the place just above the band is
 //   not above the last point, where the Dock is pulled.
-bool guardKeepsDockFrom(const sim::Display& target, const GuardState& state,
+bool guardKeepsDockFrom(const sim::Display& target, const GuardModel& state,
                         const std::vector<sim::Display>& connected);
 
 } // namespace kestrune::simulate

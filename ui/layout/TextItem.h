@@ -1,8 +1,8 @@
 // A text on its way to the scene.
 #pragma once
 
-#include "ui/MeasuredText.h"
 #include "ui/layout/LayoutItem.h"
+#include "ui/layout/MeasuredText.h"
 
 #include <memory>
 #include <optional>

@@ -1,7 +1,7 @@
-#include "mac/objc/Message.h"
+#include "mac/vocabulary/Message.h"
 
-#include "mac/Vocabulary.h"
-#include "mac/objc/Missing.h"
+#include "mac/vocabulary/Missing.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

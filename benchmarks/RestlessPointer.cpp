@@ -1,4 +1,4 @@
-#include "benchmarks/RestlessHand.h"
+#include "benchmarks/RestlessPointer.h"
 
 #include "base/Fatal.h"
 #include "replay/recording/StrokeModel.h"
@@ -19,14 +19,14 @@ constexpr int LongestPush = 700;
 
 } // namespace
 
-RestlessHand::RestlessHand(std::vector<Rect> displays, std::uint64_t seed)
+RestlessPointer::RestlessPointer(std::vector<Rect> displays, std::uint64_t seed)
     : displays_(std::move(displays)), random_(seed) {
     if (displays_.empty()) {
         fatal("A hand needs a display to move over.");
     }
 }
 
-Point RestlessHand::nextMovement(Point pointer) {
+Point RestlessPointer::nextMovement(Point pointer) {
     if (strokeStep_ == strokeLength_) {
         if (pushesLeft_ > 0) {
             --pushesLeft_;
@@ -41,7 +41,7 @@ Point RestlessHand::nextMovement(Point pointer) {
     return {distance_.x * (progress_ - before), distance_.y * (progress_ - before)};
 }
 
-void RestlessHand::beginStroke(Point pointer) {
+void RestlessPointer::beginStroke(Point pointer) {
     const Rect& display =
         displays_[static_cast<std::size_t>(random_.between(0, static_cast<int>(displays_.size()) - 1))];
     const bool pushes = random_.between(0, 1) == 1;

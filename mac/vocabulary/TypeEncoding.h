@@ -4,7 +4,7 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "mac/objc/Runtime.h"
+#include "mac/vocabulary/Runtime.h"
 #include "platform/ProcessInfo.h"
 
 #include <algorithm>

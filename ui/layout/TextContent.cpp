@@ -1,4 +1,4 @@
-#include "ui/TextContent.h"
+#include "ui/layout/TextContent.h"
 
 #include "ui/Markdown.h"
 #include "ui/TextFormat.h"

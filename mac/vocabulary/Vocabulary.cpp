@@ -1,4 +1,4 @@
-#include "mac/Vocabulary.h"
+#include "mac/vocabulary/Vocabulary.h"
 
 namespace kestrune::mac {
 

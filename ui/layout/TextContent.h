@@ -1,8 +1,8 @@
 // What a text view shows: its key looked up, its arguments filled in, its markdown and its case applied.
 #pragma once
 
-#include "ui/Environment.h"
 #include "ui/Scene.h"
+#include "ui/layout/Environment.h"
 #include "ui/layout/Layout.h"
 
 #include <span>

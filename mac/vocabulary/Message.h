@@ -8,8 +8,8 @@
 // the self-check reads, and nothing runs before main. Selectors and classes are looked up at first use.
 #pragma once
 
-#include "mac/objc/Runtime.h"
-#include "mac/objc/TypeEncoding.h"
+#include "mac/vocabulary/Runtime.h"
+#include "mac/vocabulary/TypeEncoding.h"
 
 #include <atomic>
 #include <string>

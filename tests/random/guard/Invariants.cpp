@@ -1,4 +1,4 @@
-#include "tests/random/guard/Judge.h"
+#include "tests/random/guard/Invariants.h"
 
 #include "tests/random/common/Arrangement.h"
 
@@ -14,16 +14,17 @@ bool identical(double one, double other) {
     return std::bit_cast<std::uint64_t>(one) == std::bit_cast<std::uint64_t>(other);
 }
 
-bool isHeldBelowTopEdge(const GuardState& state, const sim::Delivery& delivery) {
-    const KnownDisplay* display = state.displayUnder(delivery.sent);
+bool isHeldBelowTopEdge(const replay::JudgedDesk& desk, const sim::Delivery& delivery) {
+    const replay::JudgedDisplay* display = displayUnder(desk, delivery.sent);
     if (display == nullptr) {
         return false;
     }
     const double highest = display->bounds.origin.y + 1;
-    return delivery.delivered.y == highest && state.bandOf(*display).held == highest;
+    return delivery.delivered.y == highest &&
+           replay::JudgedBand(display->bounds, desk.margin).held == highest;
 }
 
-bool overlapsAnother(const sim::Display& target, const GuardState& state,
+bool overlapsAnother(const sim::Display& target, const GuardModel& state,
                      const std::vector<sim::Display>& connected) {
     const bool overlapsConnected =
         std::any_of(connected.begin(), connected.end(), [&](const sim::Display& other) {
@@ -43,8 +44,7 @@ std::string textOf(Point point) {
 
 bool identical(Point one, Point other) { return identical(one.x, other.x) && identical(one.y, other.y); }
 
-std::optional<std::string> judgeDelivery(const GuardState& state, bool handled,
-                                         const sim::Delivery& delivery) {
+std::optional<std::string> violationOf(const GuardModel& state, bool handled, const sim::Delivery& delivery) {
     const std::string way = textOf(delivery.sent) + " was delivered at " + textOf(delivery.delivered);
     if (delivery.swallowed) {
         return "an event was swallowed: " + textOf(delivery.sent);
@@ -55,21 +55,22 @@ std::optional<std::string> judgeDelivery(const GuardState& state, bool handled,
     if (!identical(delivery.sent.x, delivery.delivered.x)) {
         return "x changed: " + way;
     }
+    const replay::JudgedDesk desk = state.judged();
     const bool changed = !identical(delivery.sent, delivery.delivered);
-    if (changed && (!handled || state.guardedDisplayUnder(delivery.sent) == nullptr)) {
+    if (changed && (!handled || !guardedBandUnder(desk, delivery.sent))) {
         return "an event changed where none may: " + way;
     }
-    if (delivery.delivered.y > delivery.sent.y && !isHeldBelowTopEdge(state, delivery)) {
+    if (delivery.delivered.y > delivery.sent.y && !isHeldBelowTopEdge(desk, delivery)) {
         return "an event moved downwards: " + way;
     }
-    const Point expected = handled ? expectedLocation(state, delivery.sent) : delivery.sent;
+    const Point expected = handled ? expectedLocation(desk, delivery.sent) : delivery.sent;
     if (!identical(delivery.delivered, expected)) {
         return way + ", expected " + textOf(expected);
     }
     return std::nullopt;
 }
 
-bool guardKeepsDockFrom(const sim::Display& target, const GuardState& state,
+bool guardKeepsDockFrom(const sim::Display& target, const GuardModel& state,
                         const std::vector<sim::Display>& connected) {
     if (!state.enabled || state.displays.size() < 2 || !state.pinned) {
         return false;
@@ -84,7 +85,7 @@ bool guardKeepsDockFrom(const sim::Display& target, const GuardState& state,
         return false;
     }
     const double pullingFrom = target.bounds.maxY() - 1;
-    return state.bandOf(*known).held < pullingFrom;
+    return replay::JudgedBand(known->bounds, replay::bandDepth(state.storedMargin)).held < pullingFrom;
 }
 
 } // namespace kestrune::simulate

@@ -1,4 +1,4 @@
-#include "ui/MeasuredText.h"
+#include "ui/layout/MeasuredText.h"
 
 #include <algorithm>
 #include <cmath>

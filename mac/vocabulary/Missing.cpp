@@ -1,4 +1,4 @@
-#include "mac/objc/Missing.h"
+#include "mac/vocabulary/Missing.h"
 
 #include "platform/Bundle.h"
 

@@ -1,10 +1,10 @@
 // What a view inherits from the views around it.
 #pragma once
 
-#include "ui/Axis.h"
 #include "ui/Font.h"
 #include "ui/Style.h"
 #include "ui/View.h"
+#include "ui/layout/Axis.h"
 
 #include <memory>
 #include <optional>

@@ -33,13 +33,13 @@ gnustep::TapListener firstTap();
 // Connects the displays and grants the permission.
 void makeSession();
 
-class GuardedSession {
+class GuardedTap {
 public:
-    GuardedSession();
-    ~GuardedSession() { guard_.stop(); }
+    GuardedTap();
+    ~GuardedTap() { guard_.stop(); }
 
-    GuardedSession(const GuardedSession&) = delete;
-    GuardedSession& operator=(const GuardedSession&) = delete;
+    GuardedTap(const GuardedTap&) = delete;
+    GuardedTap& operator=(const GuardedTap&) = delete;
 
     void storeIsEnabled(bool isStored);
 

@@ -1,7 +1,7 @@
-#include "ui/Node.h"
-#include "ui/TextContent.h"
-#include "ui/TextItem.h"
 #include "ui/View.h"
+#include "ui/layout/Node.h"
+#include "ui/layout/TextContent.h"
+#include "ui/layout/TextItem.h"
 
 #include <memory>
 #include <string>

@@ -1,11 +1,11 @@
 // The description behind a view.
 #pragma once
 
-#include "ui/Environment.h"
-#include "ui/MeasuredText.h"
 #include "ui/View.h"
+#include "ui/layout/Environment.h"
 #include "ui/layout/Layout.h"
 #include "ui/layout/LayoutItem.h"
+#include "ui/layout/MeasuredText.h"
 
 #include <memory>
 
