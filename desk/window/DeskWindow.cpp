@@ -4,9 +4,9 @@
 #include "desk/live/hand/DeskKeys.h"
 #include "desk/live/hand/Hand.h"
 #include "desk/live/world/LivePicture.h"
-#include "desk/paint/desk/DeskParts.h"
 #include "desk/paint/desk/DeskLayout.h"
 #include "desk/paint/desk/DeskPainter.h"
+#include "desk/paint/desk/DeskParts.h"
 #include "desk/paint/sheets/Sheet.h"
 #include "desk/paint/toolkit/Surface.h"
 
