@@ -4,7 +4,6 @@
 #include "desk/live/hand/DeskKeys.h"
 #include "desk/live/hand/Hand.h"
 #include "desk/live/world/LivePicture.h"
-#include "desk/live/world/OpenDesk.h"
 #include "desk/paint/desk/DeskHitTest.h"
 #include "desk/paint/desk/DeskLayout.h"
 #include "desk/paint/sheets/Sheet.h"
@@ -113,9 +112,7 @@ private:
         if (zoomedTo_) {
             result.shown = Rect{zoomedTo_->x, zoomedTo_->y, 0, 0};
         }
-        if (hidesKeys_) {
-            result.keys = legendOfHiddenKeys();
-        }
+        result.keys = hidesKeys_ ? legendOfHiddenKeys() : keyLegend();
         return result;
     }
 

@@ -48,6 +48,9 @@ public:
           windows_(windows),
           journal_(journal) {}
 
+    // The alert that keeps the application from everything else; null when there is none.
+    std::shared_ptr<Window::State> alert() const { return isShowingAlert() ? window_ : nullptr; }
+
     // What the world is like. The framework is what it was when the application started it.
     void setFramework(UpdateFramework framework) { framework_ = framework; }
     UpdateFramework framework() const { return framework_; }

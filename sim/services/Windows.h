@@ -1,4 +1,5 @@
-// The application's windows on the screen, and the user who works with them.
+// The windows on the screen, in one order from front to back, and the user who works with them: the
+// application's, and those of the programs beside it.
 //
 // Source: docs/MAC_FACTS.md, "Windows".
 #pragma once
@@ -25,13 +26,20 @@ class Windows {
 public:
     using WindowState = std::shared_ptr<Window::State>;
 
+    // Nothing of a window goes above the lower edge of a display's menu bar; in points.
+    static constexpr double MenuBarHeight = 24;
+
     // All of them must outlive this.
     Windows(ApplicationState& application, const Displays& displays, const Observers& observers,
             Journal& journal)
         : application_(application), displays_(displays), observers_(observers), journal_(journal) {}
 
-    // The windows that are to be seen, the frontmost first: by level, and within a level the one first that
-    // was ordered front last.
+    // The windows that are to be seen, whoever's they are, the frontmost first: by level, and within a level
+    // the one first that was ordered front last. A program that becomes active comes forward with all of its
+    // windows; beside the application all others count as one.
+    std::vector<WindowState> stack() const;
+
+    // The application's among them. It knows of no others.
     std::vector<WindowState> shown() const;
 
     // Those in the Dock, in the order in which they were made.
@@ -41,9 +49,13 @@ public:
     std::vector<WindowState> all() const;
     void add(const WindowState& window);
 
-    // Which receives the keys, and is the main window too, as nothing here has panels; null while the
-    // application is not active or shows no window.
+    // The application's window that receives the keys, and is the main window too, as nothing here has
+    // panels; null while the application is not active or shows no window.
     WindowState keyWindow() const;
+
+    // The window that receives the keys, whoever's it is: while the application is not active the frontmost
+    // one of another program. Null when there is none.
+    WindowState receiverOfKeys() const;
 
     // What the hosted view of a window shows; nothing when it hosts none.
     static const ui::Scene& sceneOf(const Window::State& window);
@@ -56,8 +68,8 @@ public:
     void orderFront(const WindowState& window);
     void orderOut(const WindowState& window);
 
-    // The user clicks into a window, or on its tile in the Dock: the application becomes active and the
-    // window key.
+    // The user clicks into a window, or on its tile in the Dock: its program becomes active and the window
+    // key.
     void click(const WindowState& window);
 
     // The user presses the close button, if there is one.
@@ -77,8 +89,9 @@ public:
     // The button of the hosted view that the key stands for; absent when there is none.
     static std::optional<std::size_t> elementFor(const Window::State& window, ui::KeyboardShortcut shortcut);
 
-    // The same with the keyboard: the button of the key window whose shortcut the key is, Return or Escape.
-    // True when there is one.
+    // The same with the keyboard: the button of the window with the keys whose shortcut the key is, Return or
+    // Escape, which also takes back what the system asks in a window that cannot be closed. True when there
+    // is something to press.
     bool press(ui::KeyboardShortcut shortcut);
 
     // The application becomes the active one, or ceases to be.

@@ -44,7 +44,6 @@ std::variant<DeskPicture, std::string> Stage::perform(const Scene& scene) {
         return *missing;
     }
     picture.story = std::move(story);
-    picture.keys.clear();
     picture.shown = framed(scene.frame, picture);
     return picture;
 }

@@ -1,8 +1,8 @@
 // The scenes about one window: the wizard and Settings.
 
 #include "Kestrune/Preferences.h"
+#include "base/Utf8.h"
 #include "desk/live/gallery/Chapter.h"
-#include "replay/recording/Utf8.h"
 
 #include <algorithm>
 #include <chrono>
@@ -34,7 +34,7 @@ std::string lengthened(const std::string& text) {
     }
     result.resize(wanted);
     // Half a character is not left over.
-    while (replay::firstInvalidUtf8(result)) {
+    while (firstInvalidUtf8(result)) {
         result.pop_back();
     }
     return result;

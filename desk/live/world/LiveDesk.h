@@ -4,20 +4,22 @@
 #include "base/Geometry.h"
 #include "desk/live/world/LiveDeskSetup.h"
 #include "desk/live/world/News.h"
-#include "desk/live/world/Plugs.h"
 #include "desk/live/world/ScreenParts.h"
 #include "replay/ApplicationHost.h"
 #include "replay/Judge.h"
 #include "replay/Report.h"
 #include "replay/StoredChoices.h"
+#include "sim/session/Plugs.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <variant>
 #include <vector>
 
 namespace kestrune::desk {
@@ -132,19 +134,18 @@ private:
     Standing standing();
     replay::StoredChoices choices() { return replay::StoredChoices(session_.defaults()); }
     void noteDelivery(const sim::Delivery& delivery, bool answered);
-    void noteDockMove(DisplayID from);
+    void say(std::string text, Occurrence kind = Occurrence::neutral) { news_ = {std::move(text), kind}; }
     void changeDisplays(std::vector<sim::Display> displays);
     void setMargin(double wanted);
     replay::JudgedDesk judgedDesk();
-    Whereabouts whereabouts();
-    std::string nameOf(std::optional<DisplayID> number);
+    std::optional<std::string> nameOf(std::optional<DisplayID> number);
 
     sim::Session session_;
     replay::ApplicationHost host_{session_};
     ScreenParts parts_{session_};
     bool doLoginItemsWait_ = false;
-    sim::UpdateFeed feed_ = sim::UpdateFeed::nothingNew;
-    Plugs plugs_{session_};
+    sim::UpdateFeed feed_ = sim::UpdateFeed::nothingNew; // that the next check finds
+    sim::Plugs plugs_{session_};
     replay::Report report_;
     News news_;
     std::optional<std::string> savingError_;
@@ -152,5 +153,9 @@ private:
     std::optional<DockMove> dockMove_;
     DisplayID lastDockDisplay_ = 1;
 };
+
+// A live desk as the command line asks for it. The error says why the file of the preferences could not be
+// read, in which case it is left as it is, or not be saved.
+std::variant<std::unique_ptr<LiveDesk>, replay::InputError> openDesk(const Options& options);
 
 } // namespace kestrune::desk

@@ -1,7 +1,6 @@
 #include "desk/live/world/LivePicture.h"
 
 #include "Kestrune/BlockedBand.h"
-#include "desk/live/hand/DeskKeys.h"
 #include "desk/live/world/PinnedDisplay.h"
 #include "desk/paint/desk/StatusBarPainter.h"
 #include "replay/StoredChoices.h"
@@ -116,7 +115,6 @@ DeskPicture pictureOf(LiveDesk& desk) {
     const News news = desk.news();
     picture.whatHappened = news.text;
     picture.occurrence = news.kind;
-    picture.keys = keyLegend();
     desk.parts().addTo(picture);
     return picture;
 }

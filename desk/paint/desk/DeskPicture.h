@@ -85,6 +85,7 @@ struct DeskPicture {
     // The first is the application's name. Empty while the application has no main menu or is not the active
     // one: then the menu bars have the titles of another.
     std::vector<std::string> mainMenuTitles;
+    std::vector<std::string> otherMenuTitles = {"Finder", "File", "Edit", "View", "Go", "Window", "Help"};
     // A PNG file, while the application has a place in the Dock.
     std::optional<std::string> dockIcon;
 

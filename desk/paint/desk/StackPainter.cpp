@@ -34,6 +34,7 @@ DeskPicture withMenuBarsOnly(const DeskPicture& picture) {
     result.clock = picture.clock;
     result.statusItems = picture.statusItems;
     result.mainMenuTitles = picture.mainMenuTitles;
+    result.otherMenuTitles = picture.otherMenuTitles;
     result.dark = picture.dark;
     return result;
 }

@@ -86,8 +86,7 @@ MenuBarLayout menuBarLayout(TextMeasure& measure, const Rect& display, const Des
 }
 
 const std::vector<std::string>& menuBarTitles(const DeskPicture& picture) {
-    static const std::vector<std::string> finder{"Finder", "File", "Edit", "View", "Go", "Window", "Help"};
-    return picture.mainMenuTitles.empty() ? finder : picture.mainMenuTitles;
+    return picture.mainMenuTitles.empty() ? picture.otherMenuTitles : picture.mainMenuTitles;
 }
 
 Rect anchorSlot(const MenuBarLayout& layout, const MenuAnchor& anchor) {

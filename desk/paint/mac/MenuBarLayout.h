@@ -36,7 +36,7 @@ struct MenuBarLayout {
 
 MenuBarLayout menuBarLayout(TextMeasure& measure, const Rect& display, const DeskPicture& picture);
 
-// The titles that the menu bars show: the application's own or, without any, those of the Finder.
+// The titles that the menu bars show: the application's own or, without any, those of another.
 const std::vector<std::string>& menuBarTitles(const DeskPicture& picture);
 
 // The slot that the menu with this anchor hangs from; null when the bar does not show it.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "sim/seam/WindowLook.h"
 #include "ui/Scene.h"
 
 #include <cstddef>
@@ -78,11 +79,7 @@ struct MovingSwitch {
     friend bool operator==(const MovingSwitch&, const MovingSwitch&) = default;
 };
 
-enum class WindowLook {
-    standard,
-    toolbar, // a higher bar that nothing parts from the content, with the title after the buttons
-    paper,   // the same, as white as what is written on
-};
+using sim::WindowLook;
 
 struct WindowPicture {
     std::size_t number = 0; // stays with the window while others come and go

@@ -24,7 +24,7 @@ TEST(LivePicture, ShowsTheDisplaysWithPinAndBands) {
     EXPECT_EQ(picture.dockDisplay, 1U);
     EXPECT_EQ(picture.pointer, (Point{756, 491}));
     EXPECT_EQ(picture.guard, GuardState::on);
-    EXPECT_EQ(picture.keys, keyLegend());
+    EXPECT_TRUE(picture.keys.empty());
     EXPECT_EQ(picture.clock, "Tue 9:41");
     EXPECT_EQ(picture.whatHappened, desk.news().text);
 }

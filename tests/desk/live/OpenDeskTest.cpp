@@ -1,5 +1,4 @@
-#include "desk/live/world/OpenDesk.h"
-
+#include "desk/live/world/LiveDesk.h"
 #include "sim/formats/DefaultsFile.h"
 #include "sim/seam/StatusItemState.h"
 #include "tests/base/FileContent.h"
