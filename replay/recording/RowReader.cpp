@@ -1,7 +1,7 @@
 #include "replay/recording/RowReader.h"
 
+#include "base/Utf8.h"
 #include "replay/recording/RowParser.h"
-#include "replay/recording/Utf8.h"
 
 #include <variant>
 

@@ -2,6 +2,11 @@
 
 namespace kestrune::sim {
 
+std::string BundleContents::iconFile() const {
+    const auto icon = images.find("AppIcon");
+    return icon != images.end() ? icon->second : "";
+}
+
 std::string BundleContents::localized(std::string_view key) const {
     const auto entry = localizedStrings.find(key);
     return entry != localizedStrings.end() ? entry->second : std::string(key);

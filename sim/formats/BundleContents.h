@@ -22,6 +22,9 @@ struct BundleContents {
     // session only has to know that there is one.
     std::map<std::string, std::string, std::less<>> images = {{"MenuBarIcon", ""}};
 
+    // The file of the application's icon, empty without one.
+    std::string iconFile() const;
+
     // What stands for the key in the string table, without an entry the key itself.
     std::string localized(std::string_view key) const;
 

@@ -1,6 +1,7 @@
 #include "sim/services/Updates.h"
 
 #include "sim/formats/BundleContents.h"
+#include "sim/formats/IconSymbol.h"
 #include "sim/services/HostedView.h"
 #include "sim/services/Journal.h"
 #include "sim/services/MainThread.h"
@@ -17,22 +18,53 @@ namespace {
 
 constexpr std::string_view AlertClass = "_NSAlertPanel";
 
-constexpr double Margin = 20;
-constexpr double ContentWidth = 420;
+constexpr double IconSide = 64;
 
-// The application's icon, beside it a sentence, an explanation, and buttons at the bottom right.
-ui::View page(std::string_view heading, std::string_view text, std::vector<ui::View> buttons) {
-    constexpr double IconSide = 64;
-    buttons.insert(buttons.begin(), ui::Spacer());
+ui::View icon(const BundleContents& bundle) {
+    return ui::SystemImage(iconSymbol(bundle.iconFile())).font(ui::Font::system(IconSide));
+}
+
+// Beside the application's icon a sentence, an explanation, and buttons in a row.
+ui::View page(const BundleContents& bundle, std::string_view heading, std::string_view text,
+              std::vector<ui::View> buttons) {
+    constexpr double Margin = 20;
+    constexpr double ContentWidth = 500;
     const ui::View texts =
         ui::VStack({ui::HorizontalAlignment::leading, 10},
                    ui::VerbatimText(heading).font(ui::Font::preferred(ui::TextStyle::headline)),
                    ui::VerbatimText(text).font(ui::Font::preferred(ui::TextStyle::callout)),
                    ui::HStack({.spacing = 12}, std::move(buttons)).padding({.top = 6}));
-    return ui::HStack({ui::VerticalAlignment::top, 16},
-                      ui::SystemImage("NSApplicationIcon").font(ui::Font::system(IconSide)), texts)
+    return ui::HStack({ui::VerticalAlignment::top, 16}, icon(bundle), texts)
         .frame({.width = ContentWidth})
         .padding(Margin);
+}
+
+constexpr double AlertWidth = 260;
+constexpr double AlertMargin = 16;
+
+// The default button of an alert is as wide as the alert.
+class AlertButtonStyle final : public ui::ButtonStyle {
+public:
+    ui::View makeBody(const Configuration& configuration) const override {
+        return configuration.label.foregroundStyle(ui::Color::white)
+            .frame({.width = AlertWidth - 2 * AlertMargin, .height = 28})
+            .background(ui::RoundedRectangle({.cornerRadius = 6,
+                                              .fill = ui::Color::accent,
+                                              .opacity = configuration.isPressed ? 0.8 : 1.0}));
+    }
+};
+
+// A narrow column: the icon, a sentence, an explanation and the button.
+ui::View alertPage(const BundleContents& bundle, std::string_view heading, std::string_view text,
+                   const ui::View& button) {
+    return ui::VStack({.spacing = 10}, icon(bundle),
+                      ui::VerbatimText(heading).font(ui::Font::preferred(ui::TextStyle::headline)),
+                      ui::VerbatimText(text)
+                          .font(ui::Font::preferred(ui::TextStyle::subheadline))
+                          .multilineTextAlignment(ui::TextAlignment::center),
+                      button.buttonStyle(std::make_shared<AlertButtonStyle>()).padding({.top = 6}))
+        .padding({0, AlertMargin, AlertMargin, AlertMargin})
+        .frame({.width = AlertWidth});
 }
 
 } // namespace
@@ -71,7 +103,8 @@ void Updates::check(bool isByUser) {
     ++sessionNumber_;
     if (isByUser) {
         const ui::View cancel = ui::Button("Cancel", [this] { dismiss(); });
-        show("Updating Kestrune", supply_.windowClass, page("Checking for updates…", "", {cancel}), true);
+        show("Updating Kestrune", supply_.windowClass,
+             page(bundle_, "Checking for updates…", "", {ui::Spacer(), cancel}), true);
     }
     mainThread_.enqueue(
         [this, isByUser, number = sessionNumber_] {
@@ -103,15 +136,19 @@ void Updates::announce() {
          &StandardUserDriverDelegate::standardUserDriverWillHandleShowingUpdate);
 }
 
-// Who did not ask for it is not interrupted.
+// Who did not ask for it is not interrupted. How an update is installed is not simulated.
 void Updates::showUpdate(bool isByUser) {
     std::vector<ui::View> buttons;
     buttons.push_back(ui::Button("Skip This Version", [this] { dismiss(); }));
+    buttons.push_back(ui::Spacer());
     buttons.push_back(ui::Button("Remind Me Later", [this] {
                           dismiss();
                       }).keyboardShortcut(ui::KeyboardShortcut::cancelAction));
+    buttons.push_back(ui::Button("Install Update", [this] {
+                          dismiss();
+                      }).keyboardShortcut(ui::KeyboardShortcut::defaultAction));
     show("Software Update", supply_.windowClass,
-         page("A new version of Kestrune is available!", "Would you like to download it now?",
+         page(bundle_, "A new version of Kestrune is available!", "Would you like to download it now?",
               std::move(buttons)),
          isByUser);
 }
@@ -124,8 +161,8 @@ void Updates::showAlert(UpdateFeed feed) {
         ui::Button("OK", [this] { dismiss(); }).keyboardShortcut(ui::KeyboardShortcut::defaultAction);
     show("", AlertClass,
          feed == UpdateFeed::nothingNew
-             ? page("You’re up to date!", "Kestrune is the newest version available.", {ok})
-             : page("Update Error!", "An error occurred in retrieving update information.", {ok}),
+             ? alertPage(bundle_, "You’re up to date!", "Kestrune is the newest version available.", ok)
+             : alertPage(bundle_, "Update Error!", "An error occurred in retrieving update information.", ok),
          true);
     mainThread_.beginModalAlert();
 }

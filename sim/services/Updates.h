@@ -49,6 +49,9 @@ public:
     bool isShowingUpdate() const { return stage_ == Stage::update; }
     bool isShowingAlert() const { return stage_ == Stage::alert; }
 
+    // The alert that keeps the application from everything else; null when there is none.
+    std::shared_ptr<Window::State> alert() const { return isShowingAlert() ? window_ : nullptr; }
+
     // Where the user's action arrives: whatever is shown is put away.
     void dismiss();
 

@@ -13,7 +13,32 @@
 
 namespace kestrune::sim {
 
-std::vector<Windows::WindowState> Windows::shown() const {
+namespace {
+
+// Runs an action of the hosted view; window and view live until it returns.
+template <typename Wanted, typename Action>
+void withElement(const Windows::WindowState& window, std::size_t element, Action&& action) {
+    if (!window->content) {
+        return;
+    }
+    const auto view = window->content;
+    const auto& elements = view->host().scene().elements;
+    if (element >= elements.size()) {
+        return;
+    }
+    if (const auto* const wanted = std::get_if<Wanted>(&elements[element])) {
+        action(view->host(), *wanted);
+    }
+}
+
+// What the application lets float is in front of what the system does.
+int heightOf(const Window::State& window) {
+    return window.level == WindowLevel::normal ? 0 : window.isOfApplication() ? 2 : 1;
+}
+
+} // namespace
+
+std::vector<Windows::WindowState> Windows::stack() const {
     const bool isActive = application_.isActive;
     std::vector<WindowState> result;
     for (const auto& reference : ordered_) {
@@ -22,7 +47,13 @@ std::vector<Windows::WindowState> Windows::shown() const {
         }
     }
     std::stable_sort(result.begin(), result.end(),
-                     [](const auto& one, const auto& other) { return one->level > other->level; });
+                     [](const auto& one, const auto& other) { return heightOf(*one) > heightOf(*other); });
+    return result;
+}
+
+std::vector<Windows::WindowState> Windows::shown() const {
+    std::vector<WindowState> result = stack();
+    std::erase_if(result, [](const WindowState& window) { return !window->isOfApplication(); });
     return result;
 }
 
@@ -56,6 +87,16 @@ Windows::WindowState Windows::keyWindow() const {
     }
     const auto windows = shown();
     return windows.empty() ? nullptr : windows.front();
+}
+
+Windows::WindowState Windows::receiverOfKeys() const {
+    if (application_.isActive) {
+        return keyWindow();
+    }
+    const auto windows = stack();
+    const auto front = std::find_if(windows.begin(), windows.end(),
+                                    [](const WindowState& window) { return !window->isOfApplication(); });
+    return front != windows.end() ? *front : nullptr;
 }
 
 const ui::Scene& Windows::sceneOf(const Window::State& window) {
@@ -121,6 +162,11 @@ void Windows::tellNewKeyWindow(const WindowState& before) const {
 }
 
 void Windows::click(const WindowState& window) {
+    if (!window->isOfApplication()) {
+        setActive(false);
+        orderFront(window);
+        return;
+    }
     const WindowState before = keyWindow();
     application_.isActive = true;
     orderFront(window);
@@ -130,6 +176,10 @@ void Windows::click(const WindowState& window) {
 
 void Windows::closeByUser(const WindowState& window) {
     if (!window->has(WindowStyleMask::closable) || !window->isVisible) {
+        return;
+    }
+    if (!window->isOfApplication()) {
+        window->dismiss();
         return;
     }
     if (const auto delegate = window->delegate.lock()) {
@@ -158,6 +208,10 @@ void Windows::moveTo(const WindowState& window, Point topLeft) const {
 void Windows::setActive(bool isActive) {
     const WindowState before = keyWindow();
     application_.isActive = isActive;
+    std::stable_partition(ordered_.begin(), ordered_.end(), [isActive](const auto& reference) {
+        const WindowState window = reference.lock();
+        return window && window->isOfApplication() == isActive;
+    });
     tellNewKeyWindow(before);
 }
 
@@ -190,7 +244,6 @@ void Windows::clear() {
     for (const WindowState& window : all()) {
         hide(*window);
     }
-    ordered_.clear();
     all_.clear();
     sourcePaths_.clear();
 }

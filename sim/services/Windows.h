@@ -1,4 +1,5 @@
-// The application's windows on the screen.
+// The windows on the screen, in one order from front to back, and the user who works with them: the
+// application's, and those of the programs beside it.
 //
 // Source: docs/MAC_FACTS.md, "Windows".
 #pragma once
@@ -24,6 +25,9 @@ class Windows {
 public:
     using WindowState = std::shared_ptr<Window::State>;
 
+    // Nothing of a window goes above the lower edge of a display's menu bar; in points.
+    static constexpr double MenuBarHeight = 24;
+
     // All of them must outlive this.
     Windows(ApplicationState& application, const Displays& displays, const Observers& observers,
             Journal& journal, const StandingFaults& faults)
@@ -33,8 +37,12 @@ public:
           journal_(journal),
           faults_(faults) {}
 
-    // The windows that are to be seen, the frontmost first: by level, and within a level the one first that
-    // was ordered front last.
+    // The windows that are to be seen, whoever's they are, the frontmost first: by level, and within a level
+    // the one first that was ordered front last. A program that becomes active comes forward with all of its
+    // windows; beside the application all others count as one.
+    std::vector<WindowState> stack() const;
+
+    // The application's among them. It knows of no others.
     std::vector<WindowState> shown() const;
 
     // Those in the Dock, in the order in which they were made.
@@ -44,9 +52,13 @@ public:
     std::vector<WindowState> all() const;
     void add(const WindowState& window);
 
-    // Which receives the keys, and is the main window too, as nothing here has panels; null while the
-    // application is not active or shows no window.
+    // The application's window that receives the keys, and is the main window too, as nothing here has
+    // panels; null while the application is not active or shows no window.
     WindowState keyWindow() const;
+
+    // The window that receives the keys, whoever's it is: while the application is not active the frontmost
+    // one of another program. Null when there is none.
+    WindowState receiverOfKeys() const;
 
     // What the hosted view of a window shows; nothing when it hosts none.
     static const ui::Scene& sceneOf(const Window::State& window);
@@ -59,8 +71,8 @@ public:
     void orderFront(const WindowState& window);
     void orderOut(const WindowState& window);
 
-    // Where the user's clicks arrive. A click into a window, or on its tile in the Dock, makes the
-    // application active and the window key; the close button and the minimise button work where the window
+    // Where the user's clicks arrive. A click into a window, or on its tile in the Dock, makes its program
+    // active and the window key; the close button and the minimise button work where the window
     // has them.
     void click(const WindowState& window);
     void closeByUser(const WindowState& window);

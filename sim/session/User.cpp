@@ -67,12 +67,20 @@ std::optional<std::size_t> User::elementFor(const Window::State& window, ui::Key
 }
 
 bool User::press(ui::KeyboardShortcut shortcut) {
-    const Windows::WindowState key = system_.windows.keyWindow();
-    const auto element = key ? elementFor(*key, shortcut) : std::nullopt;
-    if (element) {
-        pressButton(key, *element);
+    const Windows::WindowState key = system_.windows.receiverOfKeys();
+    if (!key) {
+        return false;
     }
-    return element.has_value();
+    if (const auto element = elementFor(*key, shortcut)) {
+        pressButton(key, *element);
+        return true;
+    }
+    const bool isTakenBack = shortcut == ui::KeyboardShortcut::cancelAction && key->dismiss &&
+                             !key->has(WindowStyleMask::closable);
+    if (isTakenBack) {
+        key->dismiss();
+    }
+    return isTakenBack;
 }
 
 void User::flipPermissionSwitch() {

@@ -53,8 +53,9 @@ public:
     // The button of the hosted view that the key stands for; absent when there is none.
     static std::optional<std::size_t> elementFor(const Window::State& window, ui::KeyboardShortcut shortcut);
 
-    // The same with the keyboard: the button of the key window whose shortcut the key is, Return or Escape.
-    // True when there is one.
+    // The same with the keyboard: the button of the window with the keys whose shortcut the key is, Return or
+    // Escape, which also takes back what the system asks in a window that cannot be closed. True when there
+    // is something to press.
     bool press(ui::KeyboardShortcut shortcut);
 
     // At the system's dialog about the permission: one button leads to the pane, the other only closes the

@@ -27,7 +27,7 @@ void changeBand(LiveDesk& desk, char32_t key) { key == U'+' ? desk.deepenBand() 
 constexpr OfWhatIsOpen Arrows = {NavigationKey::left, NavigationKey::up, NavigationKey::down,
                                  NavigationKey::right};
 constexpr std::u32string_view Digits = U"123456789";
-static_assert(Digits.size() == Plugs::MostDisplays);
+static_assert(Digits.size() == sim::Plugs::MostDisplays);
 
 constexpr std::array Keys = {
     DeskKey{Digits, "1–9", "pin a display", &pinDisplay},

@@ -2,10 +2,12 @@
 
 #include "desk/live/world/PinnedDisplay.h"
 #include "sim/formats/DefaultsFile.h"
+#include "sim/formats/PropertyList.h"
 #include "sim/services/WindowState.h"
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <utility>
 
 namespace kestrune::desk {
@@ -38,17 +40,13 @@ void LiveDesk::startKeepingDefaults(const LiveDeskSetup& setup) {
 }
 
 void LiveDesk::advance(sim::Duration duration) {
-    const bool wasRunning = host_.guardIsRunning();
-    const bool wasShowingUpdate = session_.updates().isShowingUpdate();
-    const bool wasShowingAlert = session_.updates().isShowingAlert();
+    const Standing before = standing();
     session_.advance(duration);
-    if (!wasShowingUpdate && session_.updates().isShowingUpdate()) {
-        news_ = newsOfFoundUpdate();
-    } else if (!wasShowingAlert && session_.updates().isShowingAlert()) {
-        news_ = newsOfUpdateAlert(feed_);
-    }
-    if (!wasRunning && host_.guardIsRunning()) {
-        news_ = newsOfGuard(standing());
+    const Standing after = standing();
+    if (!before.guardRuns && after.guardRuns) {
+        news_ = newsOfGuard(after);
+    } else if (auto news = newsOfUpdates(before, after)) {
+        news_ = *std::move(news);
     }
 }
 
@@ -67,32 +65,34 @@ void LiveDesk::movePointerTowards(Point target, EventType type) {
     report_.add(judged, delivery);
     noteDelivery(delivery, answered);
     parts_.followPointer();
-    if (dockBefore && session_.dock().display() != dockBefore) {
-        noteDockMove(*dockBefore);
+    const auto dockAfter = session_.dock().display();
+    if (dockBefore && dockAfter != dockBefore) {
+        dockMove_ = DockMove{*dockBefore, *dockAfter, now()};
+        say("The Dock moved to " + *nameOf(dockAfter), Occurrence::dockMoved);
     }
 }
 
 void LiveDesk::noteDelivery(const sim::Delivery& delivery, bool answered) {
     if (!answered) {
-        news_ = newsOfUnansweredEvent(session_.taps().enabledCount() > 0);
+        say(std::string("The pointer stood still for a second: the tap did not answer") +
+                (session_.taps().enabledCount() > 0 ? ", and the guard switched it on again"
+                                                    : " and is off now"),
+            Occurrence::warning);
     } else if (delivery.delivered != delivery.sent) {
         heldPointer_ = HeldPointer{delivery.delivered, now()};
         const sim::Display* display = session_.displays().containing(delivery.delivered);
-        news_ = newsOfHeldPointer(
-            delivery, nameOf(display != nullptr ? std::optional(display->displayID) : std::nullopt));
+        const bool drags = delivery.type != EventType::mouseMoved;
+        say("Held at " + sim::shortestText(delivery.delivered.y) + " on " +
+                (display != nullptr ? display->localizedName : "no display") +
+                (drags ? " while dragging" : ""),
+            Occurrence::held);
     }
-}
-
-void LiveDesk::noteDockMove(DisplayID from) {
-    const DisplayID to = *session_.dock().display();
-    dockMove_ = DockMove{from, to, now()};
-    news_ = newsOfDockMove(nameOf(to));
 }
 
 void LiveDesk::pin(DisplayID number) {
     const sim::Display* display = session_.displays().withID(number);
     if (display == nullptr) {
-        news_ = {"There is no display " + std::to_string(number), Occurrence::neutral};
+        say("There is no display " + std::to_string(number));
         return;
     }
     const std::string name = display->localizedName;
@@ -137,8 +137,10 @@ void LiveDesk::openStatusMenu() {
 
 void LiveDesk::quitOrLaunch() {
     if (host_.isRunning()) {
-        host_.quit();
-        news_ = newsOfQuit();
+        tell([this] {
+            host_.quit();
+            return PartsOutcome();
+        });
     } else {
         host_.launch();
         news_ = newsOfLaunch(standing());
@@ -149,9 +151,9 @@ void LiveDesk::askForPermission() {
     if (!host_.askForPermission()) {
         news_ = newsOfClosedMenu(standing());
     } else if (session_.accessibility().isDialogShown()) {
-        news_ = {"Kestrune asks for the Accessibility permission", Occurrence::neutral};
+        say("Kestrune asks for the Accessibility permission");
     } else {
-        news_ = {"The system does not ask: Kestrune counts as trusted already", Occurrence::neutral};
+        say("The system does not ask: Kestrune counts as trusted already");
     }
 }
 
@@ -178,20 +180,28 @@ void LiveDesk::tell(const std::function<PartsOutcome()>& action) {
 }
 
 Standing LiveDesk::standing() {
+    parts_.neighbours().catchUp();
     Standing result;
     result.applicationRuns = host_.isRunning();
     result.guardRuns = host_.guardIsRunning();
     result.isWatching = host_.isWatchingAccessibility();
     result.isEnabled = choices().isEnabled();
     result.permission = session_.accessibility().permission();
-    const sim::Display* pinned = pinnedDisplay(session_);
-    if (pinned != nullptr) {
+    const auto& connected = session_.displays().connected();
+    if (!connected.empty()) {
+        result.primary = connected.front().localizedName;
+    }
+    if (const sim::Display* const pinned = pinnedDisplay(session_)) {
         result.pinned = pinned->localizedName;
         result.pinnedHasDock = session_.dock().display() == pinned->displayID;
     }
+    result.dock = nameOf(session_.dock().display());
     result.choice = choices().pinnedScreenUUID();
     result.loginItem = session_.loginItem().status();
-    result.mails = parts_.mailAfterLinks().count();
+    result.feed = feed_;
+    result.isShowingUpdate = session_.updates().isShowingUpdate();
+    result.isShowingAlert = session_.updates().isShowingAlert();
+    result.mails = parts_.neighbours().mail().count();
     for (const auto& window : session_.windows().shown()) {
         result.windows.push_back(window->title);
     }
@@ -202,56 +212,57 @@ Standing LiveDesk::standing() {
 }
 
 void LiveDesk::openLoginItems() {
-    parts_.openLoginItems();
-    news_ = {"System Settings shows the login items", Occurrence::neutral};
+    parts_.neighbours().openLoginItems();
+    say("System Settings shows the login items");
 }
 
 void LiveDesk::changeLoginApproval() {
     doLoginItemsWait_ = !doLoginItemsWait_;
     session_.user().requireLoginItemApproval(doLoginItemsWait_);
-    news_ = newsOfLoginApproval(doLoginItemsWait_);
+    say(doLoginItemsWait_ ? "From now on a new login item waits for the user's approval"
+                          : "From now on a new login item is allowed at once");
 }
 
 void LiveDesk::changeUpdateFeed() {
-    switch (feed_) {
-    case sim::UpdateFeed::nothingNew:
-        feed_ = sim::UpdateFeed::newVersion;
-        break;
-    case sim::UpdateFeed::newVersion:
-        feed_ = sim::UpdateFeed::unreachable;
-        break;
-    case sim::UpdateFeed::unreachable:
-        feed_ = sim::UpdateFeed::nothingNew;
-        break;
-    }
+    static const std::map<sim::UpdateFeed, sim::UpdateFeed> next = {
+        {sim::UpdateFeed::nothingNew, sim::UpdateFeed::newVersion},
+        {sim::UpdateFeed::newVersion, sim::UpdateFeed::unreachable},
+        {sim::UpdateFeed::unreachable, sim::UpdateFeed::nothingNew}};
+    feed_ = next.at(feed_);
     session_.updateSupply().feed = feed_;
     news_ = newsOfFeed(feed_);
 }
 
 void LiveDesk::letScheduledCheckCome() {
     session_.checkForUpdatesAsScheduled();
-    news_ = newsOfScheduledCheck(feed_, host_.isRunning());
+    if (!host_.isRunning()) {
+        say("Kestrune does not run, and so does not check for updates");
+    } else {
+        say(std::string("The updater checks the feed by itself") +
+            (feed_ == sim::UpdateFeed::newVersion ? "" : " and finds nothing to show"));
+    }
 }
 
 void LiveDesk::unplugUnderPointer() {
     auto change = plugs_.unplug(session_.pointer());
     if (!change) {
-        news_ = {"No display is under the pointer", Occurrence::neutral};
+        say("No display is under the pointer");
         return;
     }
-    const Whereabouts before = whereabouts();
+    const Standing before = standing();
     changeDisplays(std::move(change->arrangement));
-    news_ = newsOfUnplugging(change->name, before, whereabouts());
+    news_ = newsOfUnplugging(change->name, before, standing());
 }
 
 void LiveDesk::plugIn() {
     auto change = plugs_.plugIn();
     if (!change) {
-        news_ = {"There is no other display to plug in", Occurrence::neutral};
+        say("There is no other display to plug in");
         return;
     }
     changeDisplays(std::move(change->arrangement));
-    news_ = newsOfPlugging(change->name, whereabouts().primary == change->name);
+    const bool isPrimary = standing().primary == change->name;
+    say(change->name + " was plugged in" + (isPrimary ? " as the primary display" : ""));
 }
 
 void LiveDesk::changeDisplays(std::vector<sim::Display> displays) {
@@ -272,11 +283,13 @@ void LiveDesk::togglePermission() {
 
 void LiveDesk::timeOutTap() {
     if (session_.taps().enabledCount() == 0) {
-        news_ = {"There is no tap to switch off", Occurrence::neutral};
+        say("There is no tap to switch off");
         return;
     }
     session_.faults().disableTaps(EventType::tapDisabledByTimeout);
-    news_ = newsOfTapTimeout(session_.taps().enabledCount() > 0);
+    say(std::string("The system switched the tap off after a timeout") +
+            (session_.taps().enabledCount() > 0 ? "; the guard switched it on again at once" : ""),
+        Occurrence::warning);
 }
 
 void LiveDesk::deepenBand() { setMargin(std::exp2(std::floor(std::log2(choices().blockMargin())) + 1)); }
@@ -286,7 +299,7 @@ void LiveDesk::narrowBand() { setMargin(std::exp2(std::ceil(std::log2(choices().
 void LiveDesk::setMargin(double wanted) {
     const double margin = std::clamp(wanted, NarrowestMargin, DeepestMargin);
     choices().setBlockMargin(margin);
-    news_ = newsOfMargin(margin);
+    say("The guarded band is " + sim::shortestText(margin) + (margin == 1 ? " point" : " points") + " deep");
 }
 
 // Made from what is stored and connected, not from what the guard remembers.
@@ -301,24 +314,9 @@ replay::JudgedDesk LiveDesk::judgedDesk() {
     return judged;
 }
 
-Whereabouts LiveDesk::whereabouts() {
-    Whereabouts result;
-    if (!session_.displays().connected().empty()) {
-        result.primary = session_.displays().connected().front().localizedName;
-    }
-    if (const sim::Display* pinned = pinnedDisplay(session_)) {
-        result.pinned = pinned->localizedName;
-    }
-    result.isPinStored = choices().pinnedScreenUUID().has_value();
-    if (const auto dock = session_.dock().display()) {
-        result.dock = nameOf(dock);
-    }
-    return result;
-}
-
-std::string LiveDesk::nameOf(std::optional<DisplayID> number) {
+std::optional<std::string> LiveDesk::nameOf(std::optional<DisplayID> number) {
     const sim::Display* display = number ? session_.displays().withID(*number) : nullptr;
-    return display != nullptr ? display->localizedName : "no display";
+    return display != nullptr ? std::optional(display->localizedName) : std::nullopt;
 }
 
 News LiveDesk::news() const {

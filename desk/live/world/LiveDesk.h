@@ -4,12 +4,12 @@
 #include "base/Geometry.h"
 #include "desk/live/world/LiveDeskSetup.h"
 #include "desk/live/world/News.h"
-#include "desk/live/world/Plugs.h"
 #include "desk/live/world/ScreenParts.h"
 #include "replay/ApplicationHost.h"
 #include "replay/Judge.h"
 #include "replay/Report.h"
 #include "replay/StoredChoices.h"
+#include "sim/session/Plugs.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
@@ -134,19 +134,18 @@ private:
     Standing standing();
     replay::StoredChoices choices() { return replay::StoredChoices(session_.defaults()); }
     void noteDelivery(const sim::Delivery& delivery, bool answered);
-    void noteDockMove(DisplayID from);
+    void say(std::string text, Occurrence kind = Occurrence::neutral) { news_ = {std::move(text), kind}; }
     void changeDisplays(std::vector<sim::Display> displays);
     void setMargin(double wanted);
     replay::JudgedDesk judgedDesk();
-    Whereabouts whereabouts();
-    std::string nameOf(std::optional<DisplayID> number);
+    std::optional<std::string> nameOf(std::optional<DisplayID> number);
 
     sim::Session session_;
     replay::ApplicationHost host_{session_};
     ScreenParts parts_{session_};
     bool doLoginItemsWait_ = false;
-    sim::UpdateFeed feed_ = sim::UpdateFeed::nothingNew;
-    Plugs plugs_{session_};
+    sim::UpdateFeed feed_ = sim::UpdateFeed::nothingNew; // that the next check finds
+    sim::Plugs plugs_{session_};
     replay::Report report_;
     News news_;
     std::optional<std::string> savingError_;

@@ -10,15 +10,6 @@
 
 namespace kestrune::desk {
 
-namespace {
-
-const ui::Measurer& pangoMeasurer() {
-    static const PangoMeasurer shared;
-    return shared;
-}
-
-} // namespace
-
 std::variant<LiveDeskSetup, replay::InputError> setupOf(const Options& options) {
     LiveDeskSetup setup{options};
     setup.permission = options.isPermissionGranted ? sim::Permission::granted : sim::Permission::notListed;
@@ -41,12 +32,13 @@ std::variant<LiveDeskSetup, replay::InputError> setupOf(const Options& options) 
 }
 
 sim::SessionOptions sessionOptionsOf(const LiveDeskSetup& setup) {
+    static const PangoMeasurer pango;
     sim::SessionOptions options;
     options.displays = replay::connectDisplays(setup.displays);
     options.recordJournal = false;
     options.permission = setup.permission;
     options.bundle = setup.bundle;
-    options.measurer = setup.measurer != nullptr ? setup.measurer : &pangoMeasurer();
+    options.measurer = setup.measurer != nullptr ? setup.measurer : &pango;
     options.defaults = setup.defaults;
     const auto pinned = setup.pinned ? options.displays.at(*setup.pinned).uuid : std::nullopt;
     replay::store({setup.guardOn, pinned, setup.margin}, options.defaults);

@@ -11,7 +11,7 @@ namespace kestrune::desk {
 // The size of a window or picture unless something else is wanted, in logical pixels.
 inline constexpr Size UsualWindow{1440, 900};
 
-// With the marks as old as they are now. The legend of keys is left to whoever reads them.
+// With the marks as old as they are now. What the keys do is left to whoever has them.
 DeskPicture pictureOf(LiveDesk& desk);
 
 // The desk in the end, and a sentence on what came of the recording.

@@ -1,7 +1,5 @@
 #include "desk/live/world/News.h"
 
-#include "sim/formats/PropertyList.h"
-
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -23,23 +21,6 @@ std::string joined(const std::vector<std::string>& parts) {
 
 } // namespace
 
-News newsOfHeldPointer(const sim::Delivery& delivery, const std::string& display) {
-    const bool drags = delivery.type != EventType::mouseMoved;
-    return {"Held at " + sim::shortestText(delivery.delivered.y) + " on " + display +
-                (drags ? " while dragging" : ""),
-            Occurrence::held};
-}
-
-News newsOfDockMove(const std::string& display) {
-    return {"The Dock moved to " + display, Occurrence::dockMoved};
-}
-
-News newsOfUnansweredEvent(bool switchedOnAgain) {
-    return {std::string("The pointer stood still for a second: the tap did not answer") +
-                (switchedOnAgain ? ", and the guard switched it on again" : " and is off now"),
-            Occurrence::warning};
-}
-
 News newsOfPin(const std::string& display, bool hasDock) {
     return {hasDock ? display + " is pinned and has the Dock"
                     : display + " is pinned: push into its bottom edge, and the Dock comes",
@@ -51,10 +32,6 @@ News newsOfLaunch(const Standing& standing) {
         return {"Kestrune has started and waits for the Accessibility permission", Occurrence::warning};
     }
     return newsOfGuard(standing);
-}
-
-News newsOfQuit() {
-    return {"Kestrune has quit: the Dock goes wherever the pointer pushes it", Occurrence::neutral};
 }
 
 News newsOfGuard(const Standing& standing) {
@@ -98,10 +75,6 @@ News newsOfPermission(const Standing& standing) {
                                            : ": Kestrune notices when its menu opens"),
             Occurrence::neutral};
 }
-
-} // namespace
-
-namespace {
 
 // A title of the first that the second does not have.
 std::optional<std::string> missingIn(const std::vector<std::string>& second,
@@ -155,7 +128,7 @@ std::optional<News> newsOfWindows(const Standing& before, const Standing& after)
 
 std::optional<News> newsOfChange(const Standing& before, const Standing& after) {
     if (before.applicationRuns && !after.applicationRuns) {
-        return newsOfQuit();
+        return News{"Kestrune has quit: the Dock goes wherever the pointer pushes it", Occurrence::neutral};
     }
     if (before.permission != after.permission) {
         return newsOfPermission(after);
@@ -192,10 +165,10 @@ News newsOfClosedMenu(const Standing& standing) {
                : News{"Kestrune does not run", Occurrence::neutral};
 }
 
-News newsOfUnplugging(const std::string& display, const Whereabouts& before, const Whereabouts& after) {
+News newsOfUnplugging(const std::string& display, const Standing& before, const Standing& after) {
     std::string text = display + " was unplugged";
     if (!after.primary) {
-        const bool isForgotten = before.isPinStored && !after.isPinStored;
+        const bool isForgotten = before.choice && !after.choice;
         return {text + ": no display is left" + (isForgotten ? ", and the pin is forgotten" : ""),
                 Occurrence::warning};
     }
@@ -216,14 +189,16 @@ News newsOfUnplugging(const std::string& display, const Whereabouts& before, con
     return {std::move(text), moved.empty() ? Occurrence::neutral : Occurrence::warning};
 }
 
-News newsOfPlugging(const std::string& display, bool isPrimary) {
-    return {display + " was plugged in" + (isPrimary ? " as the primary display" : ""), Occurrence::neutral};
-}
-
-News newsOfLoginApproval(bool isAwaited) {
-    return {isAwaited ? "From now on a new login item waits for the user's approval"
-                      : "From now on a new login item is allowed at once",
-            Occurrence::neutral};
+std::optional<News> newsOfUpdates(const Standing& before, const Standing& after) {
+    if (!before.isShowingUpdate && after.isShowingUpdate) {
+        return News{"The updater shows a new version", Occurrence::neutral};
+    }
+    if (before.isShowingAlert || !after.isShowingAlert) {
+        return std::nullopt;
+    }
+    return after.feed == sim::UpdateFeed::unreachable
+               ? News{"The updater tells that the feed cannot be reached", Occurrence::warning}
+               : News{"The updater tells that there is nothing new", Occurrence::neutral};
 }
 
 News newsOfFeed(sim::UpdateFeed feed) {
@@ -233,38 +208,9 @@ News newsOfFeed(sim::UpdateFeed feed) {
     case sim::UpdateFeed::newVersion:
         return {"The update feed has a new version", Occurrence::neutral};
     case sim::UpdateFeed::unreachable:
-        return {"The update feed cannot be reached", Occurrence::neutral};
+        break;
     }
-    return {};
-}
-
-News newsOfScheduledCheck(sim::UpdateFeed feed, bool applicationRuns) {
-    if (!applicationRuns) {
-        return {"Kestrune does not run, and so does not check for updates", Occurrence::neutral};
-    }
-    return feed == sim::UpdateFeed::newVersion
-               ? News{"The updater checks the feed by itself", Occurrence::neutral}
-               : News{"The updater checks the feed by itself and finds nothing to show", Occurrence::neutral};
-}
-
-News newsOfFoundUpdate() { return {"The updater shows a new version", Occurrence::neutral}; }
-
-News newsOfUpdateAlert(sim::UpdateFeed feed) {
-    return feed == sim::UpdateFeed::unreachable
-               ? News{"The updater tells that the feed cannot be reached", Occurrence::warning}
-               : News{"The updater tells that there is nothing new", Occurrence::neutral};
-}
-
-News newsOfTapTimeout(bool switchedOnAgain) {
-    return {std::string("The system switched the tap off after a timeout") +
-                (switchedOnAgain ? "; the guard switched it on again at once" : ""),
-            Occurrence::warning};
-}
-
-News newsOfMargin(double margin) {
-    return {"The guarded band is " + sim::shortestText(margin) + (margin == 1 ? " point" : " points") +
-                " deep",
-            Occurrence::neutral};
+    return {"The update feed cannot be reached", Occurrence::neutral};
 }
 
 } // namespace kestrune::desk

@@ -16,15 +16,7 @@ struct News {
     Occurrence kind = Occurrence::neutral;
 };
 
-// The names of the displays that matter, before or after something happened; absent where there is none.
-struct Whereabouts {
-    std::optional<std::string> primary;
-    std::optional<std::string> pinned;
-    std::optional<std::string> dock;
-    bool isPinStored = false;
-};
-
-// Where the application stands.
+// Where the application and the displays stand.
 struct Standing {
     bool applicationRuns = false;
     bool guardRuns = false;
@@ -33,23 +25,21 @@ struct Standing {
     sim::Permission permission = sim::Permission::notListed;
     std::optional<std::string> pinned; // the display that keeps the Dock
     bool pinnedHasDock = false;
-    std::optional<std::string> choice; // the stored identifier
+    std::optional<std::string> primary; // display
+    std::optional<std::string> dock;    // the display that has it
+    std::optional<std::string> choice;  // the stored identifier
     AppServiceStatus loginItem = AppServiceStatus::notRegistered;
+    sim::UpdateFeed feed = sim::UpdateFeed::nothingNew;
+    bool isShowingUpdate = false;
+    bool isShowingAlert = false;           // of the updater
     std::size_t mails = 0;                 // that the mail program was asked for
     std::vector<std::string> windows;      // by their titles, the frontmost first
     std::vector<std::string> miniaturized; // by their titles
 };
 
-News newsOfHeldPointer(const sim::Delivery& delivery, const std::string& display);
-News newsOfDockMove(const std::string& display);
-
-// `switchedOnAgain`: whether the guard had its tap back after the system had given up waiting.
-News newsOfUnansweredEvent(bool switchedOnAgain);
-
 News newsOfPin(const std::string& display, bool hasDock);
 
 News newsOfLaunch(const Standing& standing);
-News newsOfQuit();
 
 // Why the guard acts or does not.
 News newsOfGuard(const Standing& standing);
@@ -66,22 +56,12 @@ News newsOfControl(const std::string& title);
 // The menu could not be used for what was asked.
 News newsOfClosedMenu(const Standing& standing);
 
-News newsOfUnplugging(const std::string& display, const Whereabouts& before, const Whereabouts& after);
-News newsOfPlugging(const std::string& display, bool isPrimary);
+News newsOfUnplugging(const std::string& display, const Standing& before, const Standing& after);
 
-// Whether what becomes a login item waits for the user.
-News newsOfLoginApproval(bool isAwaited);
+// What the updater shows that it did not show before; absent when that is nothing.
+std::optional<News> newsOfUpdates(const Standing& before, const Standing& after);
 
 // What the next check for updates will find.
 News newsOfFeed(sim::UpdateFeed feed);
-
-// The updater checks by itself, if the application runs.
-News newsOfScheduledCheck(sim::UpdateFeed feed, bool applicationRuns);
-
-News newsOfFoundUpdate();
-News newsOfUpdateAlert(sim::UpdateFeed feed);
-
-News newsOfTapTimeout(bool switchedOnAgain);
-News newsOfMargin(double margin);
 
 } // namespace kestrune::desk

@@ -1,8 +1,8 @@
 #include "desk/live/world/ScreenParts.h"
 
-#include "desk/live/world/OtherApplication.h"
 #include "sim/services/MenuState.h"
 #include "sim/services/StatusItemState.h"
+#include "sim/services/WindowState.h"
 
 #include <utility>
 #include <variant>
@@ -58,6 +58,7 @@ bool isPartOfMenu(const std::optional<DeskTarget>& target) {
 } // namespace
 
 PartsOutcome ScreenParts::press(const std::optional<DeskTarget>& target) {
+    neighbours_.catchUp();
     hovered_.reset();
     opener_.reset();
     const auto menu = menuOf(target);
@@ -79,16 +80,18 @@ PartsOutcome ScreenParts::press(const std::optional<DeskTarget>& target) {
 }
 
 PartsOutcome ScreenParts::release(const std::optional<DeskTarget>& target) {
+    neighbours_.catchUp();
     const std::optional<DeskTarget> opener = std::exchange(opener_, std::nullopt);
-    PartsOutcome outcome;
     if (!isMenuOpen()) {
-        outcome.pressedControl = windows_.release(target);
-    } else if (isRow(target)) {
+        return {.pressedControl = windows_.release(target)};
+    }
+    if (isRow(target)) {
         return choose(target->index);
-    } else if (opener && target != opener && !isPartOfMenu(target)) {
+    }
+    if (opener && target != opener && !isPartOfMenu(target)) {
         closeMenu(); // A drag ends elsewhere.
     }
-    return outcome;
+    return {};
 }
 
 void ScreenParts::hover(const std::optional<DeskTarget>& target) {
@@ -137,7 +140,7 @@ void ScreenParts::displaysChanged() {
     closeMenu();
     windows_.letGo();
     windows_.hover(std::nullopt);
-    system_.displaysChanged();
+    neighbours_.displaysChanged();
     opener_.reset();
     hovered_.reset();
 }
@@ -155,24 +158,16 @@ PartsOutcome ScreenParts::choose(std::size_t row) {
     return outcome;
 }
 
-bool ScreenParts::takesKeys() const {
-    return isMenuOpen() || windows_.takesKeys() || session_.accessibility().isDialogShown();
+bool ScreenParts::takesKeys() {
+    neighbours_.catchUp();
+    return isMenuOpen() || session_.windows().receiverOfKeys();
 }
 
 PartsOutcome ScreenParts::press(NavigationKey key) {
     if (isMenuOpen()) {
         return pressInMenu(key);
     }
-    PartsOutcome outcome;
-    if (windows_.takesKeys()) {
-        outcome.pressedControl = windows_.press(key);
-        return outcome;
-    }
-    // The dialog's default button is the one that denies.
-    if (key == NavigationKey::enter || key == NavigationKey::space || key == NavigationKey::escape) {
-        session_.user().denyInDialog();
-    }
-    return outcome;
+    return takesKeys() ? PartsOutcome{.pressedControl = windows_.press(key)} : PartsOutcome();
 }
 
 PartsOutcome ScreenParts::pressInMenu(NavigationKey key) {
@@ -232,22 +227,19 @@ void ScreenParts::moveToMenuBeside(int step) {
 PartsOutcome ScreenParts::pressEquivalent(std::string_view character, bool withShift) {
     const auto modifiers =
         withShift ? EventModifierFlags::command | EventModifierFlags::shift : EventModifierFlags::command;
-    PartsOutcome outcome;
     if (session_.user().press(character, modifiers)) {
-        outcome.chosenRow = "⌘" + std::string(character);
         noteClosedMenu();
-    } else if (character == "w" && system_.mail().isOpen() && !windows_.takesKeys()) {
-        system_.mail().close();
+        return {.chosenRow = "⌘" + std::string(character)};
     }
-    return outcome;
-}
-
-const MailProgram& ScreenParts::mailAfterLinks() {
-    system_.mail().lookForLinks();
-    return system_.mail();
+    if (const auto key = session_.windows().receiverOfKeys();
+        character == "w" && key && !key->isOfApplication()) {
+        session_.user().closeWindow(key);
+    }
+    return {};
 }
 
 void ScreenParts::addTo(DeskPicture& picture) {
+    neighbours_.catchUp();
     for (const auto& item : session_.statusItems().shown()) {
         StatusItemPicture shown;
         if (item->button && item->button->image) {
@@ -260,11 +252,12 @@ void ScreenParts::addTo(DeskPicture& picture) {
         picture.statusItems.push_back(std::move(shown));
     }
     picture.mainMenuTitles = session_.menus().mainMenuTitles();
+    picture.otherMenuTitles = neighbours_.menuTitles();
     addMenu(picture);
     addToolTip(picture);
     windows_.addTo(picture);
     if (session_.application().policy == ActivationPolicy::regular) {
-        picture.dockIcon = kestruneAsListed(session_).iconPath;
+        picture.dockIcon = session_.bundle().iconFile();
     }
 }
 

@@ -1,11 +1,10 @@
 // The user's hand at the parts of the Mac's screen: menus and windows.
 #pragma once
 
-#include "desk/live/world/NavigationKey.h"
-#include "desk/live/world/SystemWindows.h"
 #include "desk/live/world/WindowParts.h"
 #include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/desk/DeskTarget.h"
+#include "sim/neighbours/Neighbours.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
@@ -33,7 +32,7 @@ class ScreenParts {
 public:
     // `session` must outlive the parts.
     explicit ScreenParts(sim::Session& session)
-        : session_(session), system_(session), windows_(session, system_) {}
+        : session_(session), neighbours_(session), windows_(session) {}
 
     // With the button that clicks, at what is under the pointer; absent for the bare desk.
     PartsOutcome press(const std::optional<DeskTarget>& target);
@@ -45,8 +44,8 @@ public:
     // The pointer has moved in the session.
     void followPointer() { windows_.followPointer(); }
 
-    // Whether a key goes to a menu, the dialog or a window, before anybody else.
-    bool takesKeys() const;
+    // Whether a key goes to a menu or a window, before anybody else.
+    bool takesKeys();
     PartsOutcome press(NavigationKey key);
 
     // Command, and Shift where asked, with a character: a key equivalent of the open or the main menu.
@@ -55,11 +54,8 @@ public:
     // As the keyboard's command for the status menus does, on the display with that index.
     void openStatusMenu(std::size_t display);
 
-    // The user opens the pane of System Settings.
-    void openLoginItems() { system_.settings().openLoginItems(); }
-
-    // Lets the mail program see which links were opened.
-    const MailProgram& mailAfterLinks();
+    // The programs beside the application.
+    sim::Neighbours& neighbours() { return neighbours_; }
 
     bool isMenuOpen() const { return session_.menus().place().has_value(); }
 
@@ -84,7 +80,7 @@ private:
     void addToolTip(DeskPicture& picture);
 
     sim::Session& session_;
-    SystemWindows system_;
+    sim::Neighbours neighbours_;
     WindowParts windows_;
     std::size_t menuDisplay_ = 0;
     std::optional<std::size_t> highlightedRow_;

@@ -1,11 +1,10 @@
 // The user's hand at windows: buttons and switches, title bars, the keyboard.
 #pragma once
 
-#include "desk/live/world/NavigationKey.h"
 #include "desk/live/world/SwitchMotion.h"
-#include "desk/live/world/SystemWindows.h"
 #include "desk/paint/desk/DeskPicture.h"
 #include "desk/paint/desk/DeskTarget.h"
+#include "sim/session/Controls.h"
 #include "sim/session/Session.h"
 
 #include <cstddef>
@@ -17,8 +16,10 @@
 
 namespace kestrune::desk {
 
-// What is read out for a button or switch; absent for any other element.
-std::optional<std::string> titleOfControl(const ui::Element& element);
+// The keys that work on menus and windows.
+enum class NavigationKey { up, down, left, right, enter, escape, space, tab, backTab };
+
+using sim::titleOfControl;
 
 // The frontmost window of that title, and the button or switch of that title in the frontmost window that has
 // one; null and absent when there is none.
@@ -29,11 +30,11 @@ std::optional<DeskTarget> controlTitled(const DeskPicture& picture, std::string_
 // key; buttons and switches act when the press is released over them, and a switch also goes where its knob
 // is dragged; a minimised window comes back with a click on its tile in the Dock; Tab goes from control to
 // control. While a modal alert is shown, no other window of the application takes
-// a click. The keys are for the application's windows alone.
+// a click.
 class WindowParts {
 public:
-    // Both must outlive the parts.
-    WindowParts(sim::Session& session, SystemWindows& system) : session_(session), system_(system) {}
+    // `session` must outlive the parts.
+    explicit WindowParts(sim::Session& session) : session_(session) {}
 
     // With the button that clicks, at what is under the pointer. A press beside the application's windows
     // makes another application the active one.
@@ -49,10 +50,7 @@ public:
     // switch that is held by its knob.
     void followPointer();
 
-    // Whether a window of the application receives the keys.
-    bool takesKeys() const { return session_.windows().keyWindow() != nullptr; }
-
-    // The title of what was pressed by it, if anything was.
+    // For a window that receives the keys. The title of what was pressed by it in one of the application's.
     std::optional<std::string> press(NavigationKey key);
 
     // Lets go of what is held.
@@ -66,13 +64,8 @@ public:
 
 private:
     using WindowState = sim::Windows::WindowState;
+    using Control = sim::Control;
 
-    // A control that may have become another one, or none, since it was noted.
-    struct Control {
-        std::weak_ptr<Window::State> window;
-        std::size_t element = 0;
-        std::string title;
-    };
     struct Drag {
         std::weak_ptr<Window::State> window;
         Point hold; // from the window's upper left corner
@@ -83,20 +76,12 @@ private:
         SwitchSlide knob;
     };
 
-    static std::optional<Control> controlIn(const WindowState& window, std::size_t element);
-    static bool isStillThere(const std::optional<Control>& control, const WindowState& window);
-    static const ui::ToggleElement* switchOf(const std::optional<Control>& control);
-    void close(const WindowState& window);
     std::optional<std::string> act(const Control& control);
-    std::optional<std::string> toldOf(const Control& control) const;
-    std::vector<WindowState> stack() const;
-    bool isKey(const WindowState& window) const;
+    static std::optional<std::string> toldOf(const Control& control);
     std::optional<std::string> letGoOfKnob(const Control& control, const SwitchGrip& grip);
     void slide(const Control& control, double from, bool isOn);
     std::optional<MovingSwitch> movingSwitchIn(const WindowState& window) const;
-    WindowState modalAlert() const;
     std::optional<std::string> pressShortcut(ui::KeyboardShortcut shortcut);
-    void moveFocus(bool forwards);
     void startDrag(const WindowState& window);
     std::size_t numberOf(const WindowState& window);
     WindowState windowOf(const std::optional<DeskTarget>& target) const;
@@ -106,7 +91,6 @@ private:
     Rect globalFrame(const Window::State& window) const;
 
     sim::Session& session_;
-    SystemWindows& system_;
     std::vector<std::weak_ptr<Window::State>> numbered_; // a window's number is its place
     std::optional<DeskTarget> pressed_;
     std::optional<Control> pressedControl_;

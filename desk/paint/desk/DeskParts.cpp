@@ -35,6 +35,7 @@ MacPicture withMenuBarsOnly(const DeskPicture& picture) {
     result.clock = picture.clock;
     result.statusItems = picture.statusItems;
     result.mainMenuTitles = picture.mainMenuTitles;
+    result.otherMenuTitles = picture.otherMenuTitles;
     result.dark = picture.dark;
     return result;
 }

@@ -3,12 +3,9 @@
 #include "desk/paint/toolkit/Shapes.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace kestrune::desk {
 namespace {
-
-constexpr std::string_view SymbolPrefix = "application-icon:";
 
 // A blank tile with rings, as wide within its area as the icons of other applications are.
 void paintGeneralIcon(cairo_t* context, const Rect& area) {
@@ -36,16 +33,6 @@ void paintApplicationIcon(const Canvas& canvas, const std::optional<std::string>
     } else {
         paintGeneralIcon(canvas.context, area);
     }
-}
-
-std::string iconSymbol(const std::string& path) { return std::string(SymbolPrefix) + path; }
-
-std::optional<std::string> pathOfIcon(const std::string& symbol) {
-    if (symbol == OwnIconSymbol) {
-        return "";
-    }
-    return symbol.starts_with(SymbolPrefix) ? std::optional(symbol.substr(SymbolPrefix.size()))
-                                            : std::nullopt;
 }
 
 } // namespace kestrune::desk

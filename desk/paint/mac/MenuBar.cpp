@@ -119,8 +119,7 @@ MenuBarLayout menuBarLayout(TextPainter& measure, const Rect& display, const Mac
 }
 
 const std::vector<std::string>& menuBarTitles(const MacPicture& picture) {
-    static const std::vector<std::string> finder{"Finder", "File", "Edit", "View", "Go", "Window", "Help"};
-    return picture.mainMenuTitles.empty() ? finder : picture.mainMenuTitles;
+    return picture.mainMenuTitles.empty() ? picture.otherMenuTitles : picture.mainMenuTitles;
 }
 
 Rect anchorSlot(const MenuBarLayout& layout, const MenuAnchor& anchor) {

@@ -34,7 +34,7 @@ struct MenuBarLayout {
 
 MenuBarLayout menuBarLayout(TextPainter& measure, const Rect& display, const MacPicture& picture);
 
-// The titles that the menu bars show: the application's own or, without any, those of the Finder.
+// The titles that the menu bars show: the application's own or, without any, those of another.
 const std::vector<std::string>& menuBarTitles(const MacPicture& picture);
 
 // The slot that the menu with this anchor hangs from; null when the bar does not show it.

@@ -117,7 +117,63 @@ void drawPin(cairo_t* context, double) {
     cairo_fill(context);
 }
 
+// A ring with teeth.
+void drawGear(cairo_t* context, double line) {
+    constexpr int Teeth = 8;
+    addCircle(context, {0, 0}, 0.3);
+    for (int tooth = 0; tooth < Teeth; ++tooth) {
+        const double angle = 2 * std::numbers::pi * tooth / Teeth;
+        cairo_move_to(context, 0.4 * std::cos(angle), 0.4 * std::sin(angle));
+        cairo_line_to(context, 0.54 * std::cos(angle), 0.54 * std::sin(angle));
+    }
+    strokeRound(context, 1.6 * line);
+}
+
+void drawHalfFilledCircle(cairo_t* context, double line) {
+    addCircle(context, {0, 0}, CircleRadius - line / 2);
+    cairo_set_line_width(context, line);
+    cairo_stroke(context);
+    cairo_arc(context, 0, 0, CircleRadius - line / 2, 0.5 * std::numbers::pi, 1.5 * std::numbers::pi);
+    cairo_fill(context);
+}
+
+// A palm, and five fingers up from it.
+void drawHand(cairo_t* context, double line) {
+    addRoundedRectangle(context, {-0.32, -0.05, 0.64, 0.6}, 0.28);
+    cairo_fill(context);
+    for (const double finger : {-0.24, -0.08, 0.08, 0.24}) {
+        cairo_move_to(context, finger, 0.1);
+        cairo_line_to(context, finger, std::abs(finger) > 0.1 ? -0.36 : -0.48);
+    }
+    cairo_move_to(context, 0.2, 0.3);
+    cairo_line_to(context, 0.44, 0.02);
+    strokeRound(context, 1.5 * line);
+}
+
+void drawDisplay(cairo_t* context, double line) {
+    addRoundedRectangle(context, {-0.6, -0.5, 1.2, 0.78}, 0.12);
+    cairo_set_line_width(context, line);
+    cairo_stroke(context);
+    cairo_move_to(context, -0.22, 0.5);
+    cairo_line_to(context, 0.22, 0.5);
+    strokeRound(context, 1.5 * line);
+}
+
+void drawPaperPlane(cairo_t* context, double line) {
+    cairo_move_to(context, 0.5, -0.5);
+    for (const Point corner :
+         {Point{-0.55, -0.08}, Point{-0.1, 0.1}, Point{0.08, 0.55}, Point{0.5, -0.5}, Point{-0.1, 0.1}}) {
+        cairo_line_to(context, corner.x, corner.y);
+    }
+    strokeRound(context, line);
+}
+
 constexpr std::array Drawings{
+    Drawing{"gearshape.fill", CircleSize, drawGear},
+    Drawing{"circle.lefthalf.filled", CircleSize, drawHalfFilledCircle},
+    Drawing{"hand.raised.fill", CircleSize, drawHand},
+    Drawing{"display", ScreenSize, drawDisplay},
+    Drawing{"paperplane", CircleSize, drawPaperPlane},
     Drawing{"dock.rectangle", ScreenSize, drawScreenWithDock},
     Drawing{"2.circle.fill", CircleSize, drawTwoOnDisc},
     Drawing{"checkmark.circle.fill", CircleSize, drawCheckMarkOnDisc},

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "sim/services/WindowLook.h"
 #include "ui/Scene.h"
 
 #include <cstddef>
@@ -81,11 +82,7 @@ struct MovingSwitch {
     friend bool operator==(const MovingSwitch&, const MovingSwitch&) = default;
 };
 
-enum class WindowLook {
-    standard,
-    toolbar, // a higher bar that nothing parts from the content, with the title after the buttons
-    paper,   // the same, as white as what is written on
-};
+using sim::WindowLook;
 
 struct WindowPicture {
     std::size_t number = 0; // stays with the window while others come and go
@@ -140,6 +137,7 @@ struct MacPicture {
     // The first is the application's name. Empty while the application has no main menu or is not the active
     // one: then the menu bars have the titles of another.
     std::vector<std::string> mainMenuTitles;
+    std::vector<std::string> otherMenuTitles = {"Finder", "File", "Edit", "View", "Go", "Window", "Help"};
     // A PNG file, while the application has a place in the Dock.
     std::optional<std::string> dockIcon;
 

@@ -3,6 +3,7 @@
 #include "desk/paint/mac/ControlPainter.h"
 #include "desk/paint/mac/Measures.h"
 #include "desk/paint/mac/ScenePainter.h"
+#include "desk/paint/mac/SymbolPainter.h"
 #include "desk/paint/toolkit/RectMath.h"
 #include "desk/paint/toolkit/Shapes.h"
 
@@ -31,13 +32,42 @@ void paintTitle(const Canvas& canvas, const Rect& bar, const WindowPicture& show
     const double left = isStandard ? ButtonsWidth : ButtonsWidth + ToolbarButtonInset;
     const double right = isStandard ? ButtonsWidth : ToolbarButtonInset;
     const WindowColors& colors = canvas.palette.application;
-    const double start = isStandard ? bar.width() / 2 : left;
-    canvas.text.paint(shown.title, {bar.minX() + start, centerOf(bar).y},
-                      {.size = isStandard ? 13.0 : 15.0,
-                       .weight = FontWeight::bold,
-                       .color = shown.isKey ? colors.title : colors.inactiveTitle,
-                       .alignment = isStandard ? TextAlignment::center : TextAlignment::leading,
-                       .maximumWidth = std::max(0.0, bar.width() - left - right)});
+    const double middle = bar.minY() + bar.height() / 2;
+    const Color color = shown.isKey ? colors.title : colors.inactiveTitle;
+    if (shown.look == WindowLook::standard) {
+        canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, middle},
+                          {.size = 13,
+                           .weight = FontWeight::bold,
+                           .color = color,
+                           .alignment = TextAlignment::center,
+                           .maximumWidth = std::max(0.0, bar.width() - 2 * ButtonsWidth)});
+    } else {
+        const double beside = shown.look == WindowLook::sidebar ? sim::SidebarWidth : ButtonsWidth + 36;
+        const double left = beside + ToolbarButtonInset;
+        canvas.text.paint(shown.title, {bar.minX() + left, middle},
+                          {.size = 15,
+                           .weight = FontWeight::bold,
+                           .color = color,
+                           .maximumWidth = std::max(0.0, bar.width() - left - ToolbarButtonInset)});
+    }
+}
+
+// To send it, and to choose the text's look, at the ends of the bar of what is written.
+void paintMailSigns(const Canvas& canvas, const Rect& bar) {
+    const Color& color = canvas.palette.application.inactiveTitle;
+    const double middle = bar.minY() + bar.height() / 2;
+    paintSymbol(canvas.context, {"paperplane", ui::Font::system(16)}, {bar.minX() + 88, middle - 12, 24, 24},
+                color);
+    canvas.text.paint("Aa", {bar.maxX() - ToolbarButtonInset, middle},
+                      {.size = 15, .color = color, .alignment = TextAlignment::trailing});
+}
+
+void paintSidebar(const Canvas& canvas, const Rect& window) {
+    const double edge = window.minX() + sim::SidebarWidth;
+    fillRoundedRectangle(canvas.context, {window.minX(), window.minY(), sim::SidebarWidth, window.height()},
+                         0, rgb(0x000000, 0.04));
+    fillRoundedRectangle(canvas.context, {edge - 0.5, window.minY(), 0.5, window.height()}, 0,
+                         sceneColor(canvas.palette, ui::Color::separator));
 }
 
 } // namespace
@@ -76,6 +106,9 @@ void paintWindow(const Canvas& canvas, const WindowPicture& shown) {
     const SavedState saved{canvas.context};
     addRoundedRectangle(canvas.context, layout.frame, WindowCornerRadius);
     cairo_clip(canvas.context);
+    if (shown.look == WindowLook::sidebar) {
+        paintSidebar(canvas, layout.frame);
+    }
     // The title bar of an alert cannot be told from the rest of it.
     if (shown.isTitled() && (hasButtons(shown) || !shown.title.empty())) {
         if (shown.look == WindowLook::standard) {
@@ -85,6 +118,9 @@ void paintWindow(const Canvas& canvas, const WindowPicture& shown) {
             paintWindowButtons(canvas, layout.closeButton, shown);
         }
         paintTitle(canvas, layout.titleBar, shown);
+        if (shown.look == WindowLook::paper) {
+            paintMailSigns(canvas, layout.titleBar);
+        }
     }
     paintScene(canvas, shown.scene, layout.content.origin,
                {.pressedElement = shown.pressedElement,

@@ -85,8 +85,9 @@ TEST(DeskKeys, WalkThroughAMenuAndChooseInIt) {
     LiveDesk desk({});
     press(desk, U'm');
     const auto highlighted = [&desk] {
+        const DeskPicture picture = pictureOf(desk);
         std::vector<std::string> titles;
-        for (const MenuRowPicture& row : pictureOf(desk).menu->rows) {
+        for (const MenuRowPicture& row : picture.menu->rows) {
             if (row.highlighted) {
                 titles.push_back(row.title);
             }

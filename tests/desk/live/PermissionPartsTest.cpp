@@ -99,6 +99,8 @@ TEST_F(PermissionDialog, LeavesTheKeysToAnOpenMenu) {
 TEST_F(PermissionDialog, IsInFrontOfSystemSettings) {
     session.user().openPane();
     EXPECT_THAT(titles(), ElementsAre(DialogTitle, PaneTitle));
+    click(DeskTarget::titleBar(window(PaneTitle).number));
+    EXPECT_THAT(titles(), ElementsAre(DialogTitle, PaneTitle));
     EXPECT_TRUE(window(DialogTitle).isKey);
     EXPECT_FALSE(window(PaneTitle).isKey);
 }
@@ -127,7 +129,7 @@ TEST_F(SettingsPaneOnTheDesk, ShowsBesideTheDialogWhereThereIsAnotherDisplay) {
     parts.displaysChanged();
     session.changeDisplays({sim::makeDisplay(1, "One", {0, 0, 1000, 800})});
     EXPECT_EQ(centerOf(window(PaneTitle).frame).x, 500);
-    EXPECT_EQ(window(PaneTitle).look, WindowLook::toolbar);
+    EXPECT_EQ(window(PaneTitle).look, WindowLook::sidebar);
     EXPECT_EQ(window(PaneTitle).titleBarHeight, 52);
 }
 
@@ -139,15 +141,15 @@ TEST_F(SettingsPaneOnTheDesk, KeepsItsTitleBarBelowTheMenuBarOfASmallDisplay) {
 
 TEST_F(SettingsPaneOnTheDesk, ListsTheApplicationWithItsSwitch) {
     EXPECT_THAT(textsIn(window(PaneTitle)),
-                ElementsAre("Allow the applications below to control your computer.", "Kestrune"));
+                ElementsAre("General", "Appearance", "Privacy & Security", "Desktop & Dock", "Displays",
+                            "Allow the applications below to control your computer.", "Kestrune"));
     EXPECT_EQ(iconsIn(window(PaneTitle)), std::vector<std::string>{"icon.png"});
     EXPECT_EQ(isOn(), true);
     session.user().setPermission(sim::Permission::switchedOff);
     EXPECT_EQ(isOn(), false);
     session.user().setPermission(sim::Permission::notListed);
     EXPECT_EQ(isOn(), std::nullopt);
-    EXPECT_THAT(textsIn(window(PaneTitle)),
-                ElementsAre("Allow the applications below to control your computer.", "No Items"));
+    EXPECT_THAT(textsIn(window(PaneTitle)), testing::Contains("No Items"));
 }
 
 TEST_F(SettingsPaneOnTheDesk, FlipsTheSwitchWithAClickAndSlidesItsKnob) {
@@ -209,10 +211,24 @@ TEST_F(SettingsPaneOnTheDesk, DoesNothingMoreOnceItIsClosed) {
     EXPECT_EQ(permission(), sim::Permission::granted);
 }
 
-TEST_F(SettingsPaneOnTheDesk, TakesNoKeys) {
-    EXPECT_FALSE(parts.takesKeys());
+TEST_F(SettingsPaneOnTheDesk, TakesTheKeysWhileItIsInFront) {
+    EXPECT_TRUE(parts.takesKeys());
     parts.press(NavigationKey::escape);
     EXPECT_THAT(titles(), ElementsAre(PaneTitle));
+    EXPECT_FALSE(window(PaneTitle).focusedElement);
+    parts.press(NavigationKey::backTab);
+    EXPECT_EQ(window(PaneTitle).focusedElement, control("Kestrune").index);
+    EXPECT_FALSE(parts.press(NavigationKey::space).pressedControl) << "it is none of the application's";
+    EXPECT_EQ(permission(), sim::Permission::switchedOff);
+    parts.pressEquivalent("w", false);
+    EXPECT_THAT(titles(), ElementsAre());
+    EXPECT_FALSE(parts.takesKeys());
+}
+
+TEST_F(SettingsPaneOnTheDesk, SaysInTheMenuBarsWhoIsInFront) {
+    EXPECT_EQ(picture().otherMenuTitles.front(), "System Settings");
+    session.user().closePane();
+    EXPECT_EQ(picture().otherMenuTitles.front(), "Finder");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "desk/live/world/ScreenParts.h"
 #include "desk/paint/mac/ScenePainter.h"
 #include "replay/ApplicationHost.h"
+#include "sim/neighbours/Neighbours.h"
 #include "sim/services/WindowState.h"
 #include "tests/desk/live/WindowTitles.h"
 
@@ -291,8 +292,9 @@ TEST(WindowParts, KeepTheIntroductionInFrontOfTheDialog) {
     window.setLevel(WindowLevel::floating);
     window.makeKeyAndOrderFront();
     session.accessibility().askUser();
-    SystemWindows system(session);
-    WindowParts parts(session, system);
+    sim::Neighbours neighbours(session);
+    neighbours.catchUp();
+    WindowParts parts(session);
     DeskPicture picture;
     parts.addTo(picture);
     ASSERT_EQ(picture.windows.size(), 2U);

@@ -238,7 +238,7 @@ TEST(ApplicationWindow, ShowsItsTitleInTheMiddleAndPalerInTheBackground) {
 
 TEST(ApplicationWindow, HasAHigherBarAndItsTitleAfterTheButtonsWithAToolbar) {
     DeskPicture picture = withWindow();
-    picture.windows[0].look = WindowLook::toolbar;
+    picture.windows[0].look = WindowLook::sidebar;
     picture.windows[0].titleBarHeight = 52;
     const WindowLayout layout = layoutOf(picture);
     EXPECT_EQ(layout.closeButton, (Rect{620, 420, 12, 12}));

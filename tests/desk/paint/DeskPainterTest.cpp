@@ -356,7 +356,7 @@ TEST(DeskPainter, PaintsTheSameWithWhatItRememberedAsAnew) {
         [](DeskPicture& picture) { picture.windows = withWindow().windows; },
         [](DeskPicture& picture) { picture.windows[0].pressedElement = Push; },
         [](DeskPicture& picture) { picture.windows[0].isKey = false; },
-        [](DeskPicture& picture) { picture.windows[0].look = WindowLook::toolbar; },
+        [](DeskPicture& picture) { picture.windows[0].look = WindowLook::sidebar; },
         [](DeskPicture& picture) { picture.windows[0].look = WindowLook::paper; },
         [](DeskPicture& picture) { picture.windows[0].frame.origin.x += 1500; },
         [](DeskPicture& picture) { picture.windows.clear(); },

@@ -4,6 +4,7 @@
 // The arguments are those of the desk; a file with preferences is read and left as it is.
 
 #include "desk/command/Command.h"
+#include "desk/live/hand/DeskKeys.h"
 #include "desk/live/world/LiveDesk.h"
 #include "desk/live/world/LivePicture.h"
 #include "desk/live/world/WindowParts.h"
@@ -32,6 +33,12 @@ void print(const std::string& name, const Rect& area) {
     std::printf("%s\t%g\t%g\t%g\t%g\n", name.c_str(), area.minX(), area.minY(), area.width(), area.height());
 }
 
+DeskPicture pictureInWindow(LiveDesk& desk) {
+    DeskPicture picture = pictureOf(desk);
+    picture.keys = keyLegend(false);
+    return picture;
+}
+
 // An area of the displays.
 void printSeen(const DeskPicture& picture, const std::string& name, const Rect& area) {
     const DeskLayout layout = DeskLayout::of(picture, UsualWindow);
@@ -40,20 +47,20 @@ void printSeen(const DeskPicture& picture, const std::string& name, const Rect& 
 
 void printTarget(LiveDesk& desk, const std::string& name, const DeskTarget& target) {
     DeskHitTest hitTest;
-    const DeskPicture picture = pictureOf(desk);
+    const DeskPicture picture = pictureInWindow(desk);
     if (const auto area = hitTest.areaOf(picture, target)) {
         printSeen(picture, name, *area);
     }
 }
 
 void printControl(LiveDesk& desk, const std::string& name, const std::string& title) {
-    if (const auto target = controlTitled(pictureOf(desk), title)) {
+    if (const auto target = controlTitled(pictureInWindow(desk), title)) {
         printTarget(desk, name, *target);
     }
 }
 
 void printCloseButton(LiveDesk& desk, const std::string& name, const std::string& title) {
-    const DeskPicture picture = pictureOf(desk);
+    const DeskPicture picture = pictureInWindow(desk);
     if (const WindowPicture* const window = windowTitled(picture, title)) {
         printTarget(desk, name, DeskTarget::closeButton(window->number));
     }
@@ -62,7 +69,7 @@ void printCloseButton(LiveDesk& desk, const std::string& name, const std::string
 // The rows of the menu that opens on the display with the pointer, and where their marks are.
 void printMenu(LiveDesk& desk, const std::string& kind) {
     desk.openStatusMenu();
-    const DeskPicture picture = pictureOf(desk);
+    const DeskPicture picture = pictureInWindow(desk);
     TextPainter measure;
     const auto layout = menuLayout(measure, picture);
     for (std::size_t row = 0; layout && row < layout->rows.size(); ++row) {
@@ -78,7 +85,7 @@ void printMenu(LiveDesk& desk, const std::string& kind) {
 
 void printParts(LiveDesk& desk) {
     print("window", {0, 0, UsualWindow.width, UsualWindow.height});
-    const DeskLayout layout = DeskLayout::of(pictureOf(desk), UsualWindow);
+    const DeskLayout layout = DeskLayout::of(pictureInWindow(desk), UsualWindow);
     for (std::size_t display = 0; display < desk.session().displays().connected().size(); ++display) {
         print("display " + std::to_string(display + 1), layout.place(display)->screen);
         printTarget(desk, "icon " + std::to_string(display + 1), DeskTarget::statusItem(display, 0));
@@ -91,7 +98,7 @@ void printParts(LiveDesk& desk) {
     printControl(desk, "switch", "Kestrune");
     printControl(desk, "row", "Select Kestrune");
     printCloseButton(desk, "close", "Accessibility");
-    if (const auto row = controlTitled(pictureOf(desk), "Select Kestrune")) {
+    if (const auto row = controlTitled(pictureInWindow(desk), "Select Kestrune")) {
         desk.pressButton(row);
         desk.releaseButton(row);
     }
@@ -100,7 +107,7 @@ void printParts(LiveDesk& desk) {
 
 // The frontmost window, if there is one: its title bar, its buttons there and its controls by their titles.
 void printWindow(LiveDesk& desk, const std::string& kind) {
-    const DeskPicture picture = pictureOf(desk);
+    const DeskPicture picture = pictureInWindow(desk);
     if (picture.windows.empty()) {
         return;
     }
@@ -117,7 +124,7 @@ void printWindow(LiveDesk& desk, const std::string& kind) {
 
 // Where the frontmost window is once it is minimised.
 void printTile(LiveDesk& desk) {
-    const DeskPicture picture = pictureOf(desk);
+    const DeskPicture picture = pictureInWindow(desk);
     if (picture.windows.empty()) {
         return;
     }

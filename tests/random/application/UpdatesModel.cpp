@@ -7,7 +7,7 @@ std::vector<std::string> UpdatesModel::buttons() const {
     case UpdateStage::checking:
         return {"Cancel"};
     case UpdateStage::update:
-        return {"Skip This Version", "Remind Me Later"};
+        return {"Skip This Version", "Remind Me Later", "Install Update"};
     case UpdateStage::alert:
         return {"OK"};
     case UpdateStage::idle:
@@ -16,7 +16,9 @@ std::vector<std::string> UpdatesModel::buttons() const {
     return {};
 }
 
-std::string UpdatesModel::defaultButton() const { return stage == UpdateStage::alert ? "OK" : ""; }
+std::string UpdatesModel::defaultButton() const {
+    return stage == UpdateStage::update ? "Install Update" : stage == UpdateStage::alert ? "OK" : "";
+}
 
 std::string UpdatesModel::cancelButton() const {
     return stage == UpdateStage::update ? "Remind Me Later" : "";

@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(FractionalSizes, PointerConfinementTest, testing::Value
 
 // The right display starts 100 points lower.
 const std::vector<Display> SideBySide = arrange({{0, 0, 1000, 800}, {1000, 100, 1000, 800}});
-const Movement Neighbours[] = {
+const Movement DisplaysBeside[] = {
     {"OverTheSharedEdge", SideBySide, {990, 150}, {1010, 150}, {1010, 150}},
     {"BackOverTheSharedEdge", SideBySide, {1010, 150}, {990, 150}, {990, 150}},
     {"BesideTheSharedEdge", SideBySide, {990, 50}, {1010, 50}, {1000 - PointerStep, 50}},
@@ -93,7 +93,8 @@ const Movement Neighbours[] = {
     {"BackBelowTheSharedEdge", SideBySide, {1010, 850}, {990, 850}, {1000, 850}},
     {"BottomEdgeOfTheNeighbour", SideBySide, {990, 790}, {1010, 950}, {1010, 900 - PointerStep}},
 };
-INSTANTIATE_TEST_SUITE_P(Neighbours, PointerConfinementTest, testing::ValuesIn(Neighbours), nameOfMovement);
+INSTANTIATE_TEST_SUITE_P(DisplaysBeside, PointerConfinementTest, testing::ValuesIn(DisplaysBeside),
+                         nameOfMovement);
 
 const std::vector<Display> Stacked = arrange({{0, 0, 1000, 800}, {0, 800, 500, 400}});
 const Movement StackedDisplays[] = {

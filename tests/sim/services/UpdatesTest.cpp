@@ -147,6 +147,8 @@ TEST_F(UpdatesTest, SayToTheUserThatThereIsNothingNew) {
     EXPECT_TRUE(updates().isShowingAlert());
     EXPECT_THAT(titles(), ElementsAre(""));
     EXPECT_EQ(session_.windows().shown()[0]->className, "_NSAlertPanel");
+    EXPECT_EQ(updates().alert(), session_.windows().shown()[0]);
+    EXPECT_EQ(updates().alert()->frame.width(), 260);
     EXPECT_THAT(delegate_->told, ElementsAre("will alert"));
     updates().checkForUser();
     EXPECT_THAT(titles(), SizeIs(1));
@@ -202,8 +204,9 @@ TEST_F(UpdatesTest, AnnounceAndShowANewVersion) {
     EXPECT_THAT(titles(), ElementsAre("Software Update"));
     EXPECT_EQ(session_.windows().shown()[0]->className, "NSWindow");
     EXPECT_EQ(session_.windows().keyWindow(), session_.windows().shown()[0]);
+    EXPECT_EQ(updates().alert(), nullptr);
     EXPECT_THAT(delegate_->told, ElementsAre("update"));
-    session_.user().dismissUpdater();
+    EXPECT_TRUE(session_.user().press(ui::KeyboardShortcut::defaultAction)) << "Install Update";
     EXPECT_THAT(delegate_->told, ElementsAre("update", "finish"));
     EXPECT_THAT(titles(), IsEmpty());
 }

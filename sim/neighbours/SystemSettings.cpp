@@ -1,15 +1,13 @@
-#include "desk/live/world/SystemSettings.h"
+#include "sim/neighbours/SystemSettings.h"
 
-#include "desk/live/world/OtherApplication.h"
-#include "desk/live/world/SystemViews.h"
+#include "sim/neighbours/NeighbourViews.h"
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 void SystemSettings::openLoginItems() {
     session_.user().closePane();
     areLoginItemsOpen_ = true;
     isRowSelected_ = false;
-    comeToTheFront(session_);
 }
 
 std::optional<std::string> SystemSettings::title() const {
@@ -21,11 +19,12 @@ std::optional<std::string> SystemSettings::title() const {
 
 ui::View SystemSettings::view() {
     SettingsPane pane;
+    pane.chapter = showsLoginItems() ? "General" : "Privacy & Security";
     pane.sentence = showsLoginItems() ? "These applications open automatically when you log in."
                                       : "Allow the applications below to control your computer.";
     if (isListed()) {
-        pane.rows.push_back({kestruneAsListed(session_), isOn(), isRowSelected_, [this] { flipSwitch(); },
-                             [this] { isRowSelected_ = true; }});
+        pane.rows.push_back({listedApplication(session_.bundle()), isOn(), isRowSelected_,
+                             [this] { flipSwitch(); }, [this] { isRowSelected_ = true; }});
     }
     pane.deselect = [this] { isRowSelected_ = false; };
     pane.remove = [this] { removeRow(); };
@@ -60,14 +59,14 @@ void SystemSettings::removeRow() {
     isRowSelected_ = false;
 }
 
-void SystemSettings::close() {
+bool SystemSettings::close() {
+    const bool wasLedTo = session_.accessibility().isPaneShown();
     isRowSelected_ = false;
     areLoginItemsOpen_ = false;
-    if (session_.accessibility().isPaneShown()) {
+    if (wasLedTo) {
         session_.user().closePane();
-    } else {
-        leaveTheFront(session_);
     }
+    return wasLedTo;
 }
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim

@@ -1,12 +1,12 @@
-#include "desk/live/world/MailLink.h"
+#include "sim/neighbours/MailLink.h"
 
-#include "replay/recording/Utf8.h"
+#include "base/Utf8.h"
 
 #include <algorithm>
 #include <charconv>
 #include <system_error>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 namespace {
 
@@ -61,7 +61,7 @@ std::optional<std::string> percentDecoded(std::string_view text) {
         result += *byte;
         index += DigitCount;
     }
-    return replay::firstInvalidUtf8(result) ? std::nullopt : std::optional(std::move(result));
+    return firstInvalidUtf8(result) ? std::nullopt : std::optional(std::move(result));
 }
 
 std::optional<MailLink> readMailLink(std::string_view link) {
@@ -82,4 +82,4 @@ std::optional<MailLink> readMailLink(std::string_view link) {
     return mail;
 }
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim

@@ -1,14 +1,14 @@
-#include "desk/live/world/Arrangement.h"
+#include "sim/hardware/Arrangement.h"
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 namespace {
 
-using DisplayList = std::vector<sim::Display>;
+using DisplayList = std::vector<Display>;
 
 void move(Rect& bounds, double deltaX, double deltaY) {
     bounds.origin.x += deltaX;
@@ -20,7 +20,7 @@ void startAtPrimary(DisplayList& displays) {
         return;
     }
     const Point origin = displays.front().bounds.origin;
-    for (sim::Display& display : displays) {
+    for (Display& display : displays) {
         move(display.bounds, -origin.x, -origin.y);
     }
 }
@@ -69,7 +69,7 @@ bool isConnected(const DisplayList& displays) {
 }
 
 DisplayList movedLeft(DisplayList displays, const Rect& gap) {
-    for (sim::Display& display : displays) {
+    for (Display& display : displays) {
         if (display.bounds.minX() >= gap.maxX()) {
             move(display.bounds, -gap.width(), 0);
         }
@@ -78,7 +78,7 @@ DisplayList movedLeft(DisplayList displays, const Rect& gap) {
 }
 
 DisplayList movedUp(DisplayList displays, const Rect& gap) {
-    for (sim::Display& display : displays) {
+    for (Display& display : displays) {
         if (display.bounds.minY() >= gap.maxY()) {
             move(display.bounds, 0, -gap.height());
         }
@@ -101,7 +101,7 @@ DisplayList closeGap(DisplayList displays, const Rect& gap) {
 
 } // namespace
 
-std::vector<sim::Display> withoutDisplay(std::vector<sim::Display> displays, std::size_t removed) {
+std::vector<Display> withoutDisplay(std::vector<Display> displays, std::size_t removed) {
     const Rect gap = displays.at(removed).bounds;
     displays.erase(displays.begin() + static_cast<std::ptrdiff_t>(removed));
     displays = closeGap(std::move(displays), gap);
@@ -109,13 +109,13 @@ std::vector<sim::Display> withoutDisplay(std::vector<sim::Display> displays, std
     return displays;
 }
 
-std::vector<sim::Display> withDisplayAtRight(std::vector<sim::Display> displays, sim::Display added) {
+std::vector<Display> withDisplayAtRight(std::vector<Display> displays, Display added) {
     added.bounds.origin = {0, 0};
     if (!displays.empty()) {
-        const auto rightmost = std::max_element(displays.begin(), displays.end(),
-                                                [](const sim::Display& one, const sim::Display& other) {
-                                                    return one.bounds.maxX() < other.bounds.maxX();
-                                                });
+        const auto rightmost =
+            std::max_element(displays.begin(), displays.end(), [](const Display& one, const Display& other) {
+                return one.bounds.maxX() < other.bounds.maxX();
+            });
         const Rect& neighbour = rightmost->bounds;
         const double middle = neighbour.minY() + neighbour.height() / 2;
         added.bounds.origin = {neighbour.maxX(), std::round(middle - added.bounds.height() / 2)};
@@ -124,4 +124,4 @@ std::vector<sim::Display> withDisplayAtRight(std::vector<sim::Display> displays,
     return displays;
 }
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim

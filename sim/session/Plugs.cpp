@@ -1,28 +1,28 @@
-#include "desk/live/world/Plugs.h"
+#include "sim/session/Plugs.h"
 
-#include "desk/live/world/Arrangement.h"
+#include "sim/hardware/Arrangement.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 namespace {
 
 constexpr std::array<Size, 4> NewDisplaySizes = {{{1280, 800}, {2560, 1440}, {1080, 1920}, {1920, 1080}}};
 
-bool areSameDisplays(const std::vector<sim::Display>& some, const std::vector<sim::Display>& others) {
+bool areSameDisplays(const std::vector<Display>& some, const std::vector<Display>& others) {
     return std::is_permutation(
         some.begin(), some.end(), others.begin(), others.end(),
-        [](const sim::Display& one, const sim::Display& other) { return one.displayID == other.displayID; });
+        [](const Display& one, const Display& other) { return one.displayID == other.displayID; });
 }
 
 } // namespace
 
 std::optional<PlugChange> Plugs::unplug(Point location) {
     const auto& connected = session_.displays().connected();
-    const sim::Display* display = session_.displays().containing(location);
+    const Display* display = session_.displays().containing(location);
     if (display == nullptr) {
         return std::nullopt;
     }
@@ -46,11 +46,11 @@ std::optional<PlugChange> Plugs::plugIn() {
     const std::string name = "Display " + std::to_string(number);
     const Size size = NewDisplaySizes[(number - 1) % NewDisplaySizes.size()];
     return PlugChange{
-        name, withDisplayAtRight(connected, sim::makeDisplay(number, name, {0, 0, size.width, size.height}))};
+        name, withDisplayAtRight(connected, makeDisplay(number, name, {0, 0, size.width, size.height}))};
 }
 
-std::vector<sim::Display> Plugs::arrangementWith(Unplugged unplugged) {
-    std::vector<sim::Display> together = session_.displays().connected();
+std::vector<Display> Plugs::arrangementWith(Unplugged unplugged) {
+    std::vector<Display> together = session_.displays().connected();
     together.push_back(unplugged.display);
     if (areSameDisplays(together, unplugged.arrangement)) {
         return std::move(unplugged.arrangement);
@@ -58,4 +58,4 @@ std::vector<sim::Display> Plugs::arrangementWith(Unplugged unplugged) {
     return withDisplayAtRight(session_.displays().connected(), std::move(unplugged.display));
 }
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim

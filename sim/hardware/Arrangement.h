@@ -8,13 +8,13 @@
 #include <cstddef>
 #include <vector>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 // What is left when a display is unplugged. Displays that stood on opposite sides of it move together, and
 // the coordinates start anew at the display that is the primary then.
-std::vector<sim::Display> withoutDisplay(std::vector<sim::Display> displays, std::size_t removed);
+std::vector<Display> withoutDisplay(std::vector<Display> displays, std::size_t removed);
 
 // Puts a display to the right of all others, level with the middle of its neighbour.
-std::vector<sim::Display> withDisplayAtRight(std::vector<sim::Display> displays, sim::Display added);
+std::vector<Display> withDisplayAtRight(std::vector<Display> displays, Display added);
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim

@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 // A display that comes or goes, and the arrangement that results.
 struct PlugChange {
     std::string name;
-    std::vector<sim::Display> arrangement;
+    std::vector<Display> arrangement;
 };
 
 class Plugs {
@@ -22,7 +22,7 @@ public:
     static constexpr std::size_t MostDisplays = 9;
 
     // `session` must outlive the plugs.
-    explicit Plugs(sim::Session& session) : session_(session) {}
+    explicit Plugs(Session& session) : session_(session) {}
 
     // Absent when no display is there.
     std::optional<PlugChange> unplug(Point location);
@@ -33,14 +33,14 @@ public:
 
 private:
     struct Unplugged {
-        sim::Display display;
-        std::vector<sim::Display> arrangement; // before it was unplugged
+        Display display;
+        std::vector<Display> arrangement; // before it was unplugged
     };
 
-    std::vector<sim::Display> arrangementWith(Unplugged unplugged);
+    std::vector<Display> arrangementWith(Unplugged unplugged);
 
-    sim::Session& session_;
+    Session& session_;
     std::vector<Unplugged> unplugged_;
 };
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim

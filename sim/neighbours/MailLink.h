@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 struct MailLink {
     std::string recipient;
@@ -23,4 +23,4 @@ std::optional<MailLink> readMailLink(std::string_view link);
 // sign stands for itself: only forms have it for a blank.
 std::optional<std::string> percentDecoded(std::string_view text);
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim

@@ -1,8 +1,8 @@
-#include "replay/recording/Utf8.h"
+#include "base/Utf8.h"
 
 #include <gtest/gtest.h>
 
-namespace kestrune::replay {
+namespace kestrune {
 namespace {
 
 TEST(Utf8, AcceptsTheFirstAndLastCharacterOfEachLength) {
@@ -29,4 +29,4 @@ TEST(Utf8, RefusesIncompleteCharacters) {
 }
 
 } // namespace
-} // namespace kestrune::replay
+} // namespace kestrune

@@ -1,11 +1,11 @@
-#include "desk/live/world/MailLink.h"
+#include "sim/neighbours/MailLink.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <string>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 namespace {
 
 TEST(PercentDecoding, TakesTextWithoutPercentSignsAsItIs) {
@@ -64,4 +64,4 @@ TEST(MailLink, IsNotEveryLink) {
 }
 
 } // namespace
-} // namespace kestrune::desk
+} // namespace kestrune::sim

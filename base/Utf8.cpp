@@ -1,6 +1,6 @@
-#include "replay/recording/Utf8.h"
+#include "base/Utf8.h"
 
-namespace kestrune::replay {
+namespace kestrune {
 namespace {
 
 unsigned char byteAt(std::string_view text, std::size_t index) {
@@ -54,4 +54,4 @@ std::optional<std::size_t> firstInvalidUtf8(std::string_view text) {
     return std::nullopt;
 }
 
-} // namespace kestrune::replay
+} // namespace kestrune

@@ -7,10 +7,10 @@
 #include <optional>
 #include <string_view>
 
-namespace kestrune::replay {
+namespace kestrune {
 
 // The offset of the first byte that starts no well-formed character; absent when all are well formed.
 // Overlong forms, surrogates and values above U+10FFFF are not well formed.
 std::optional<std::size_t> firstInvalidUtf8(std::string_view text);
 
-} // namespace kestrune::replay
+} // namespace kestrune

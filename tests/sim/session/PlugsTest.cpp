@@ -1,19 +1,18 @@
-#include "desk/live/world/Plugs.h"
+#include "sim/session/Plugs.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 namespace {
 
 class PlugsTest : public testing::Test {
 protected:
-    static sim::SessionOptions options() {
-        sim::SessionOptions result;
-        result.displays = {sim::makeDisplay(1, "One", {0, 0, 100, 80}),
-                           sim::makeDisplay(2, "Two", {100, -10, 60, 100}),
-                           sim::makeDisplay(3, "Three", {160, 0, 100, 80})};
+    static SessionOptions options() {
+        SessionOptions result;
+        result.displays = {makeDisplay(1, "One", {0, 0, 100, 80}), makeDisplay(2, "Two", {100, -10, 60, 100}),
+                           makeDisplay(3, "Three", {160, 0, 100, 80})};
         return result;
     }
 
@@ -26,9 +25,9 @@ protected:
         return change->name;
     }
 
-    std::vector<sim::Display> connected() { return session.displays().connected(); }
+    std::vector<Display> connected() { return session.displays().connected(); }
 
-    sim::Session session{options()};
+    Session session{options()};
     Plugs plugs{session};
 };
 
@@ -54,7 +53,7 @@ TEST_F(PlugsTest, PutTheDisplaysBackInReverseOrder) {
 
 TEST_F(PlugsTest, PutADisplayAtTheRightWhenTheOthersAreNotTheSame) {
     apply(plugs.unplug({130, 50}));
-    session.changeDisplays({sim::makeDisplay(9, "Nine", {0, 0, 200, 100})});
+    session.changeDisplays({makeDisplay(9, "Nine", {0, 0, 200, 100})});
     EXPECT_EQ(apply(plugs.plugIn()), "Two");
     ASSERT_EQ(connected().size(), 2U);
     EXPECT_EQ(connected()[1].bounds, (Rect{200, 0, 60, 100}));
@@ -66,7 +65,7 @@ TEST_F(PlugsTest, BringNewDisplaysWithNumbersOfTheirOwnUpToNine) {
     }
     EXPECT_FALSE(plugs.plugIn());
     std::set<DisplayID> numbers;
-    for (const sim::Display& display : connected()) {
+    for (const Display& display : connected()) {
         numbers.insert(display.displayID);
     }
     EXPECT_EQ(numbers.size(), 9U);
@@ -84,4 +83,4 @@ TEST_F(PlugsTest, BringBackEvenTheNinth) {
 }
 
 } // namespace
-} // namespace kestrune::desk
+} // namespace kestrune::sim

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 // One window, which shows one pane at a time: Accessibility, which the application and the system lead to, or
 // Login Items. The application's row among the login items is on while it is enabled, and off while it waits
@@ -15,17 +15,16 @@ namespace kestrune::desk {
 class SystemSettings {
 public:
     // `session` must outlive the settings.
-    explicit SystemSettings(sim::Session& session) : session_(session) {}
+    explicit SystemSettings(Session& session) : session_(session) {}
 
-    // The user opens the pane from the System Settings' own list.
     void openLoginItems();
 
     // Of the pane; absent while the window is closed.
     std::optional<std::string> title() const;
     ui::View view();
 
-    // The user closes the window.
-    void close();
+    // The user closes the window. False when nobody but the user had led to its pane.
+    bool close();
 
 private:
     // The Accessibility pane replaces the other as soon as somebody leads to it.
@@ -35,9 +34,9 @@ private:
     void flipSwitch();
     void removeRow();
 
-    sim::Session& session_;
+    Session& session_;
     bool areLoginItemsOpen_ = false;
     bool isRowSelected_ = false;
 };
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim

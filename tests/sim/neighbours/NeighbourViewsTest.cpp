@@ -1,10 +1,9 @@
-// The views of the system's windows, whatever they have to say.
+// The views of the programs beside the application, whatever they have to say.
 
-#include "desk/live/world/SystemViews.h"
+#include "sim/neighbours/NeighbourViews.h"
 
-#include "desk/paint/mac/ScenePainter.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
 #include "tests/base/Overlap.h"
-#include "tests/desk/paint/PaintedPicture.h"
 #include "ui/layout/Layout.h"
 
 #include <gtest/gtest.h>
@@ -13,13 +12,18 @@
 #include <variant>
 #include <vector>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 namespace {
 
 ui::Scene laidOut(const ui::View& view) {
-    static const PangoMeasurer measurer;
+    static const FixedAdvanceMeasurer measurer;
     const auto asItIs = [](std::string_view text) { return std::string(text); };
     return ui::layOut(view, {}, {measurer, asItIs, asItIs}).scene;
+}
+
+bool encloses(const Rect& outer, const Rect& inner) {
+    return outer.minX() <= inner.minX() && outer.minY() <= inner.minY() && inner.maxX() <= outer.maxX() &&
+           inner.maxY() <= outer.maxY();
 }
 
 // What must not lie over one another: everything but shapes and the buttons behind other things.
@@ -52,7 +56,7 @@ const std::vector<std::string>& names() {
     return all;
 }
 
-TEST(SystemViews, HoldThePartsOfTheDialogApart) {
+TEST(NeighbourViews, HoldThePartsOfTheDialogApart) {
     for (const std::string& name : names()) {
         expectApart(laidOut(permissionDialog(
                         {name, ""}, [] {}, [] {})),
@@ -60,7 +64,7 @@ TEST(SystemViews, HoldThePartsOfTheDialogApart) {
     }
 }
 
-TEST(SystemViews, GiveTheDialogTheHeightOfItsText) {
+TEST(NeighbourViews, GiveTheDialogTheHeightOfItsText) {
     const auto heightWith = [](const std::string& name) {
         return laidOut(permissionDialog(
                            {name, ""}, [] {}, [] {}))
@@ -69,19 +73,21 @@ TEST(SystemViews, GiveTheDialogTheHeightOfItsText) {
     EXPECT_GT(heightWith(names().back()), heightWith("Kestrune"));
 }
 
-TEST(SystemViews, HoldTheRowsOfAPaneApart) {
+TEST(NeighbourViews, HoldTheRowsOfAPaneApart) {
     for (const std::size_t selected : {0U, 1U, 2U}) {
-        SettingsPane pane{"Allow the applications below to control your computer.", {}, [] {}, [] {}};
+        SettingsPane pane{
+            "General", "Allow the applications below to control your computer.", {}, [] {}, [] {}};
         for (const std::string& name : names()) {
             pane.rows.push_back({{name, ""}, true, pane.rows.size() == selected, [] {}, [] {}});
         }
         expectApart(laidOut(settingsPane(pane)), "pane");
     }
-    expectApart(laidOut(settingsPane({"Nothing is listed.", {}, [] {}, [] {}})), "empty pane");
+    expectApart(laidOut(settingsPane({"General", "Nothing is listed.", {}, [] {}, [] {}})), "empty pane");
 }
 
-TEST(SystemViews, CoverARowWithTheButtonThatSelectsIt) {
-    const SettingsPane pane{"Sentence.", {{{"Kestrune", ""}, true, false, [] {}, [] {}}}, [] {}, [] {}};
+TEST(NeighbourViews, CoverARowWithTheButtonThatSelectsIt) {
+    const SettingsPane pane{
+        "General", "Sentence.", {{{"Kestrune", ""}, true, false, [] {}, [] {}}}, [] {}, [] {}};
     const ui::Scene scene = laidOut(settingsPane(pane));
     Rect row = Rect::null();
     for (const ui::Element& element : scene.elements) {
@@ -99,7 +105,7 @@ TEST(SystemViews, CoverARowWithTheButtonThatSelectsIt) {
     }
 }
 
-TEST(SystemViews, HoldThePartsOfAMailApartHoweverLongTheyAre) {
+TEST(NeighbourViews, HoldThePartsOfAMailApartHoweverLongTheyAre) {
     const std::string longer(300, 'w');
     std::string lines;
     for (int line = 0; line < 60; ++line) {
@@ -113,4 +119,4 @@ TEST(SystemViews, HoldThePartsOfAMailApartHoweverLongTheyAre) {
 }
 
 } // namespace
-} // namespace kestrune::desk
+} // namespace kestrune::sim

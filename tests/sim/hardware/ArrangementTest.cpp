@@ -1,22 +1,22 @@
-#include "desk/live/world/Arrangement.h"
+#include "sim/hardware/Arrangement.h"
 
 #include <gtest/gtest.h>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 namespace {
 
-std::vector<sim::Display> displays(const std::vector<Rect>& bounds) {
-    std::vector<sim::Display> result;
+std::vector<Display> displays(const std::vector<Rect>& bounds) {
+    std::vector<Display> result;
     for (const Rect& rect : bounds) {
         const auto number = static_cast<DisplayID>(result.size() + 1);
-        result.push_back(sim::makeDisplay(number, "Display " + std::to_string(number), rect));
+        result.push_back(makeDisplay(number, "Display " + std::to_string(number), rect));
     }
     return result;
 }
 
-std::vector<Rect> boundsOf(const std::vector<sim::Display>& displays) {
+std::vector<Rect> boundsOf(const std::vector<Display>& displays) {
     std::vector<Rect> result;
-    for (const sim::Display& display : displays) {
+    for (const Display& display : displays) {
         result.push_back(display.bounds);
     }
     return result;
@@ -61,16 +61,16 @@ TEST(Arrangement, IsEmptyWithoutItsLastDisplay) {
 }
 
 TEST(Arrangement, PutsADisplayLevelWithItsRightmostNeighbour) {
-    const auto added = sim::makeDisplay(3, "Display 3", {0, 0, 50, 61});
+    const auto added = makeDisplay(3, "Display 3", {0, 0, 50, 61});
     const auto together = withDisplayAtRight(displays({{0, 0, 100, 80}, {100, -20, 60, 40}}), added);
     EXPECT_EQ(together.back().bounds, (Rect{160, -31, 50, 61}));
     EXPECT_EQ(together.size(), 3U);
 }
 
 TEST(Arrangement, PutsTheOnlyDisplayAtTheOrigin) {
-    const auto added = sim::makeDisplay(2, "Display 2", {300, 40, 50, 60});
+    const auto added = makeDisplay(2, "Display 2", {300, 40, 50, 60});
     EXPECT_EQ(boundsOf(withDisplayAtRight({}, added)), (Bounds{{0, 0, 50, 60}}));
 }
 
 } // namespace
-} // namespace kestrune::desk
+} // namespace kestrune::sim

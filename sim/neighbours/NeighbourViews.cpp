@@ -1,13 +1,15 @@
-#include "desk/live/world/SystemViews.h"
+#include "sim/neighbours/NeighbourViews.h"
 
-#include "desk/paint/mac/ApplicationIcon.h"
+#include "sim/formats/IconSymbol.h"
+#include "sim/services/WindowLook.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <memory>
 #include <utility>
 
-namespace kestrune::desk {
+namespace kestrune::sim {
 
 namespace {
 
@@ -73,6 +75,47 @@ ui::View listBar(const SettingsPane& pane) {
         .padding({.leading = -6});
 }
 
+// A chapter of System Settings; the one that is shown is selected.
+struct SidebarRow {
+    const char* name;
+    const char* symbol;
+    ui::Color tile;
+};
+constexpr std::array SidebarRows = {
+    SidebarRow{"General", "gearshape.fill", ui::Color::secondary},
+    SidebarRow{"Appearance", "circle.lefthalf.filled", ui::Color::primary},
+    SidebarRow{"Privacy & Security", "hand.raised.fill", ui::Color::accent},
+    SidebarRow{"Desktop & Dock", "dock.rectangle", ui::Color::primary},
+    SidebarRow{"Displays", "display", ui::Color::accent},
+};
+
+ui::View sidebarRow(const SidebarRow& row, bool isSelected) {
+    constexpr double TileSide = 20;
+    const ui::View tile = ui::SystemImage(row.symbol)
+                              .font(ui::Font::system(11))
+                              .foregroundStyle(ui::Color::white)
+                              .frame({.width = TileSide, .height = TileSide})
+                              .background(ui::RoundedRectangle({.cornerRadius = 5, .fill = row.tile}));
+    return ui::HStack(
+               {.spacing = 7}, tile,
+               ui::VerbatimText(row.name).foregroundStyle(isSelected ? ui::Color::white : ui::Color::primary),
+               ui::Spacer())
+        .padding({4, 6, 4, 6})
+        .background(ui::RoundedRectangle(
+            {.cornerRadius = 5, .fill = ui::Color::accent, .opacity = isSelected ? 1.0 : 0.0}));
+}
+
+ui::View sidebar(const std::string& chapter) {
+    std::vector<ui::View> rows;
+    rows.reserve(SidebarRows.size());
+    for (const SidebarRow& row : SidebarRows) {
+        rows.push_back(sidebarRow(row, row.name == chapter));
+    }
+    return ui::VStack({.spacing = 2}, std::move(rows))
+        .padding({4, 8, WindowPadding, 8})
+        .frame({.width = SidebarWidth});
+}
+
 ui::View mailHeader(const char* name, const std::string& value) {
     return ui::HStack({.alignment = ui::VerticalAlignment::top, .spacing = 6},
                       ui::VerbatimText(name).foregroundStyle(ui::Color::secondary), ui::VerbatimText(value))
@@ -80,6 +123,8 @@ ui::View mailHeader(const char* name, const std::string& value) {
 }
 
 } // namespace
+
+ListedApplication listedApplication(const BundleContents& bundle) { return {"Kestrune", bundle.iconFile()}; }
 
 ui::View permissionDialog(const ListedApplication& application, std::function<void()> openSettings,
                           std::function<void()> deny) {
@@ -117,12 +162,15 @@ ui::View settingsPane(const SettingsPane& pane) {
                            .frame({.maxWidth = Everything}));
     }
     rows.push_back(listBar(pane));
-    return ui::Form({ui::Section(std::move(rows))})
-        .formStyle(ui::FormStyle::grouped)
-        .frame({.width = Width,
-                .minHeight = Height,
-                .alignment = {ui::HorizontalAlignment::center, ui::VerticalAlignment::top}})
-        .background(flatButton("Select None", pane.deselect, clearOr(0), clearOr(0)));
+    const ui::View content =
+        ui::Form({ui::Section(std::move(rows))})
+            .formStyle(ui::FormStyle::grouped)
+            .frame({.width = Width,
+                    .minHeight = Height,
+                    .alignment = {ui::HorizontalAlignment::center, ui::VerticalAlignment::top}})
+            .background(flatButton("Select None", pane.deselect, clearOr(0), clearOr(0)));
+    return ui::HStack({.alignment = ui::VerticalAlignment::top, .spacing = 0}, sidebar(pane.chapter),
+                      content);
 }
 
 ui::View mailView(const MailLink& mail) {
@@ -140,4 +188,4 @@ ui::View mailView(const MailLink& mail) {
         .frame({.width = Width});
 }
 
-} // namespace kestrune::desk
+} // namespace kestrune::sim
