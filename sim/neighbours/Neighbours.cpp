@@ -52,6 +52,10 @@ Neighbours::Neighbours(Session& session)
                   [this] {
                       mail_.close();
                       leaveFront();
+                  },
+                  [this] {
+                      const MailLink& mail = *mail_.mail();
+                      return mail.recipient + "\n" + mail.subject + "\n" + mail.body;
                   }},
       settingsWindow_{SettingsProgram,
                       WindowLevel::normal,
@@ -65,7 +69,8 @@ Neighbours::Neighbours(Session& session)
                           if (!settings_.close()) {
                               leaveFront();
                           }
-                      }} {}
+                      },
+                      [this] { return settings_.facts(); }} {}
 
 void Neighbours::catchUp() {
     if (mail_.lookForLinks()) {
@@ -77,12 +82,15 @@ void Neighbours::catchUp() {
             close(*neighbour);
             continue;
         }
+        const std::string facts = neighbour->facts();
         if (!neighbour->window) {
             open(*neighbour);
-        } else if (neighbour->window->content->host().render()) {
+        } else if (facts != neighbour->toldFacts) {
+            neighbour->window->content->host().render();
             neighbour->window->setContentSize(Windows::sceneOf(*neighbour->window).size);
         }
         neighbour->window->title = *title;
+        neighbour->toldFacts = facts;
     }
 }
 

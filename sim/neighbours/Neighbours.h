@@ -53,7 +53,9 @@ private:
         std::function<std::optional<std::string>()> title; // absent while it is closed
         std::function<ui::View()> view;
         std::function<void()> dismiss;
-        Windows::WindowState window = nullptr; // null while it is closed
+        std::function<std::string()> facts = [] { return std::string(); }; // that the view tells of
+        std::string toldFacts = {};                                        // when it was laid out last
+        Windows::WindowState window = nullptr;                             // null while it is closed
     };
 
     void open(Neighbour& neighbour) const;

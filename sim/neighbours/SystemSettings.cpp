@@ -31,6 +31,11 @@ ui::View SystemSettings::view() {
     return settingsPane(pane);
 }
 
+std::string SystemSettings::facts() const {
+    return title().value_or("") + (isListed() ? " listed" : "") + (isOn() ? " on" : "") +
+           (isRowSelected_ ? " selected" : "");
+}
+
 bool SystemSettings::isListed() const {
     return showsLoginItems() ? isOn() || session_.loginItem().status() == AppServiceStatus::requiresApproval
                              : session_.accessibility().isListed();

@@ -23,6 +23,9 @@ public:
     std::optional<std::string> title() const;
     ui::View view();
 
+    // All that the view depends on; another text when anything of it has changed.
+    std::string facts() const;
+
     // The user closes the window. False when nobody but the user had led to its pane.
     bool close();
 

@@ -28,28 +28,20 @@ void paintBar(const Canvas& canvas, const Rect& bar, const WindowPicture& shown)
 
 void paintTitle(const Canvas& canvas, const Rect& bar, const WindowPicture& shown) {
     constexpr double ButtonsWidth = 72; // with the room after them
+    constexpr double MailSignWidth = 36;
     const bool isStandard = shown.look == WindowLook::standard;
-    const double left = isStandard ? ButtonsWidth : ButtonsWidth + ToolbarButtonInset;
+    const double beside =
+        shown.look == WindowLook::sidebar ? sim::SidebarWidth : ButtonsWidth + MailSignWidth;
+    const double left = isStandard ? ButtonsWidth : beside + ToolbarButtonInset;
     const double right = isStandard ? ButtonsWidth : ToolbarButtonInset;
     const WindowColors& colors = canvas.palette.application;
-    const double middle = bar.minY() + bar.height() / 2;
-    const Color color = shown.isKey ? colors.title : colors.inactiveTitle;
-    if (shown.look == WindowLook::standard) {
-        canvas.text.paint(shown.title, {bar.minX() + bar.width() / 2, middle},
-                          {.size = 13,
-                           .weight = FontWeight::bold,
-                           .color = color,
-                           .alignment = TextAlignment::center,
-                           .maximumWidth = std::max(0.0, bar.width() - 2 * ButtonsWidth)});
-    } else {
-        const double beside = shown.look == WindowLook::sidebar ? sim::SidebarWidth : ButtonsWidth + 36;
-        const double left = beside + ToolbarButtonInset;
-        canvas.text.paint(shown.title, {bar.minX() + left, middle},
-                          {.size = 15,
-                           .weight = FontWeight::bold,
-                           .color = color,
-                           .maximumWidth = std::max(0.0, bar.width() - left - ToolbarButtonInset)});
-    }
+    const double start = isStandard ? bar.width() / 2 : left;
+    canvas.text.paint(shown.title, {bar.minX() + start, centerOf(bar).y},
+                      {.size = isStandard ? 13.0 : 15.0,
+                       .weight = FontWeight::bold,
+                       .color = shown.isKey ? colors.title : colors.inactiveTitle,
+                       .alignment = isStandard ? TextAlignment::center : TextAlignment::leading,
+                       .maximumWidth = std::max(0.0, bar.width() - left - right)});
 }
 
 // To send it, and to choose the text's look, at the ends of the bar of what is written.

@@ -4,12 +4,15 @@
 
 #include "platform/Application.h"
 #include "sim/services/WindowState.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -253,6 +256,34 @@ TEST_F(NeighboursTest, SayInTheMenuBarWhoIsInFront) {
     EXPECT_EQ(neighbours.menuTitles()[0], "Finder") << "who asks for the permission has no menu bar";
     session.user().switchToApplication();
     EXPECT_EQ(neighbours.menuTitles()[0], "Finder");
+}
+
+class CountingMeasurer final : public FixedAdvanceMeasurer {
+public:
+    Size measureText(const ui::StyledText& text, std::optional<double> width) const override {
+        ++count;
+        return FixedAdvanceMeasurer::measureText(text, width);
+    }
+
+    mutable int count = 0;
+};
+
+TEST(NeighboursWindows, AreLaidOutAgainWhenThereIsSomethingElseToTell) {
+    const CountingMeasurer measurer;
+    SessionOptions options;
+    options.permission = Permission::switchedOff;
+    options.measurer = &measurer;
+    Session session(std::move(options));
+    Neighbours neighbours(session);
+    session.user().openPane();
+    neighbours.catchUp();
+    const int first = measurer.count;
+    EXPECT_GT(first, 0);
+    neighbours.catchUp();
+    EXPECT_EQ(measurer.count, first);
+    session.user().setPermission(Permission::granted);
+    neighbours.catchUp();
+    EXPECT_GT(measurer.count, first);
 }
 
 } // namespace
