@@ -24,8 +24,11 @@ class Includes(TreeTest):
         )
 
     def test_count_what_they_saw(self):
-        result = self.run_check(includes, {"base/A.h": "", "sim/B.cpp": "", "elsewhere/C.cpp": ""})
-        self.assertEqual(result.examined, "2 files")
+        include = '#include "base/A.h"\n'
+        files = {"base/A.h": "", "sim/B.cpp": include, "sim/C.cpp": include, "elsewhere/D.cpp": ""}
+        self.assertEqual(
+            self.run_check(includes, files).examined, "3 files, 1 arrows between 2 folders"
+        )
 
     def test_keep_folders_apart(self):
         folders = ("base", "ui", "platform", "Kestrune", "mac", "sim", "replay", "desk")

@@ -81,8 +81,11 @@ def run(tree):
     for path in files:
         findings += _include_findings(tree, path)
         findings += _code_findings(tree, path)
-    findings += _circle_findings(tree, files)
-    return Result(f"{len(files)} files", findings)
+    arrows = _arrows(tree, files)
+    folders = {_folder(path) for path in files}
+    examined = f"{len(files)} files, {len(arrows)} arrows between {len(folders)} folders"
+    findings += _circle_findings(arrows)
+    return Result(examined, findings)
 
 
 def _include_findings(tree, path):
@@ -130,9 +133,9 @@ def _code_findings(tree, path):
                 yield Finding(path, number, message)
 
 
-def _circle_findings(tree, files):
+def _circle_findings(arrows):
     """Folders that include one another, in however many steps, are one folder that has two names."""
-    arrows = _arrows(tree, files)
+    arrows = dict(arrows)
     while circle := _shortest_circle(arrows):
         thinnest = min(zip(circle, circle[1:]), key=lambda arrow: (len(arrows[arrow]), arrow))
         for path, line, name in arrows.pop(thinnest):

@@ -111,7 +111,11 @@ View statusView(const DeskPicture& picture) {
     const View happened =
         text(picture.whatHappened, 13)
             .frame({.maxWidth = Everything, .alignment = {.horizontal = ui::HorizontalAlignment::leading}});
-    return HStack({.spacing = 10}, circle(8).padding(4).background(circle(16, 0.18)), happened, counters);
+    std::vector<View> line{happened, counters};
+    if (!picture.whatHappened.empty()) {
+        line.insert(line.begin(), circle(8).padding(4).background(circle(16, 0.18)));
+    }
+    return HStack({.spacing = 10}, std::move(line));
 }
 
 View keyView(const KeyHint& hint) {

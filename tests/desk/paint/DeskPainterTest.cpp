@@ -214,6 +214,16 @@ TEST(DeskPainter, ShowsTheStageAlone) {
     EXPECT_TRUE(differenceOf(painted, PaintedPicture{other})) << "its captions stay";
 }
 
+TEST(DeskPainter, MarksWhatHappenedWhenSomethingDid) {
+    DeskPicture picture = twoDisplays();
+    DeskPicture warning = picture;
+    warning.occurrence = Occurrence::warning;
+    EXPECT_TRUE(differenceOf(PaintedPicture{picture}, PaintedPicture{warning}));
+    picture.whatHappened.clear();
+    warning.whatHappened.clear();
+    EXPECT_FALSE(differenceOf(PaintedPicture{picture}, PaintedPicture{warning}));
+}
+
 TEST(DeskPainter, DrawsATrailForAMovedDockUntilItHasFaded) {
     DeskPicture picture = twoDisplays();
     picture.dockDisplay = 1;
