@@ -1,5 +1,6 @@
 #include "desk/paint/toolkit/CachedSprite.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kestrune::desk {
@@ -30,6 +31,22 @@ ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin, cairo_format_
     cairo_scale(context.get(), grid.scale / grid.deviceScale, grid.scale / grid.deviceScale);
     cairo_translate(context.get(), -areaOrigin.x, -areaOrigin.y);
     return context;
+}
+
+bool isWorthKeeping(cairo_t* context, const Rect& area, const SpritePlace& place) {
+    constexpr double MostPixels = 4e7;
+    constexpr double LeastSeen = 0.125; // of the area
+    if (place.grid.pixels.width * place.grid.pixels.height > MostPixels) {
+        return false;
+    }
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+    cairo_clip_extents(context, &left, &top, &right, &bottom);
+    const double width = std::min(right, area.maxX()) - std::max(left, area.minX());
+    const double height = std::min(bottom, area.maxY()) - std::max(top, area.minY());
+    return std::max(0.0, width) * std::max(0.0, height) >= LeastSeen * area.width() * area.height();
 }
 
 void paintSprite(cairo_t* context, cairo_t* sprite, const SpritePlace& place) {

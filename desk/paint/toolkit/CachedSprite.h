@@ -28,8 +28,9 @@ SpritePlace spritePlace(cairo_t* context, const Rect& area);
 // coordinates.
 ContextHandle makeSprite(const SpriteGrid& grid, Point areaOrigin, cairo_format_t format);
 
-// What is larger takes too much memory to be kept.
-inline constexpr double MostSpritePixels = 4e7;
+// Whether it is worth its memory: not when it is very large, nor when next to nothing of the area is inside
+// of the context's clip.
+bool isWorthKeeping(cairo_t* context, const Rect& area, const SpritePlace& place);
 
 void paintSprite(cairo_t* context, cairo_t* sprite, const SpritePlace& place);
 
@@ -47,7 +48,7 @@ public:
     void paint(cairo_t* context, const Rect& extent, Subject subject,
                const std::function<void(cairo_t*)>& paintAnew) {
         const SpritePlace place = spritePlace(context, extent);
-        if (place.grid.pixels.width * place.grid.pixels.height > MostSpritePixels) {
+        if (!isWorthKeeping(context, extent, place)) {
             const SavedState saved{context};
             cairo_rectangle(context, extent.minX(), extent.minY(), extent.width(), extent.height());
             cairo_clip(context);

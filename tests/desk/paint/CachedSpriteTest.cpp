@@ -76,6 +76,20 @@ TEST_F(Sprite, IsNotKeptWhereItWouldBeVeryLarge) {
     EXPECT_EQ(cairo_status(surface_->context()), CAIRO_STATUS_SUCCESS);
 }
 
+TEST_F(Sprite, IsNotKeptWhereNextToNothingOfItIsSeen) {
+    cairo_rectangle(surface_->context(), 8, 8, 4, 3);
+    cairo_clip(surface_->context());
+    for (const int paintings : {1, 2}) {
+        paint(surface_->context(), {8, 8, 10, 10}, 1);
+        EXPECT_EQ(paintings_, paintings);
+    }
+    EXPECT_EQ(alphaAt(10, 10), 255);
+    EXPECT_EQ(alphaAt(12, 10), 0);
+    paint(surface_->context(), {8, 8, 9, 9}, 1);
+    paint(surface_->context(), {8, 8, 9, 9}, 1);
+    EXPECT_EQ(paintings_, 3) << "an eighth is enough";
+}
+
 TEST_F(Sprite, IsWhatIsPaintedWithoutItUnderATransformation) {
     cairo_translate(surface_->context(), 3.3, 4.6);
     cairo_scale(surface_->context(), 0.37, 0.37);
