@@ -72,7 +72,7 @@ public:
 };
 
 // What an option means something to: the desk in a window, and what comes in its place.
-enum Modes : unsigned { Window = 1, Gallery = 2, Replay = 4, Generate = 8, Launching = 16 };
+enum Modes : unsigned { inWindow = 1, drawing = 2, replaying = 4, generating = 8, launching = 16 };
 
 class CommandLine {
 public:
@@ -104,59 +104,59 @@ public:
 private:
     void addModes() {
         group_ = "Instead of the desk in a window";
-        modes_[Gallery] = add(Gallery, "--gallery", "DIR [SCENE...]", galleryWords_,
+        modes_[drawing] = add(drawing, "--gallery", "DIR [SCENE...]", galleryWords_,
                               "draws scenes into the folder DIR, all when none is named: a PNG\n"
                               "for each, and a sheet with all those that belong together")
                               ->check(path());
-        modes_[Replay] =
-            add(Replay, "--replay", "FILE", play_.recording, "plays a pointer recording")->check(path());
-        modes_[Generate] =
-            add(Generate, "--generate", "FILE", make_.path, "writes a made-up recording")->check(path());
-        modes_[Launching] = addFlag(Launching, "--launch", isLaunch_,
+        modes_[replaying] =
+            add(replaying, "--replay", "FILE", play_.recording, "plays a pointer recording")->check(path());
+        modes_[generating] =
+            add(generating, "--generate", "FILE", make_.path, "writes a made-up recording")->check(path());
+        modes_[launching] = addFlag(launching, "--launch", isLaunch_,
                                     "launches Kestrune and prints every call to the platform, in order");
     }
 
     void addDesk() {
         group_ = "The desk";
         add(
-            Window | Gallery | Replay | Launching, "--displays", "LIST",
+            inWindow | drawing | replaying | launching, "--displays", "LIST",
             [this](const std::string& text) { readDisplays(text); },
             "at most 16 displays as WxH+X+Y or WxH-X-Y, separated by commas,\n"
             "in points, y downwards, decimals allowed; the first is the\n"
             "primary, at +0+0. Usual: 1512x982+0+0,1920x1080+1512-98");
-        add(Window | Replay | Launching, "--pin", "N", pin_,
+        add(inWindow | replaying | launching, "--pin", "N", pin_,
             "the display that keeps the Dock, counted from 1. Usual: 1")
             ->transform(wholeNumber(0, Largest));
         add(
-            Window | Replay | Launching, "--guard", "on|off",
+            inWindow | replaying | launching, "--guard", "on|off",
             [this](const std::string& word) { options_.guardOn = word == "on"; },
             "whether Kestrune guards the Dock. Usual: on")
             ->check(oneOf({"on", "off"}));
-        add(Window | Replay | Launching, "--margin", "M", options_.margin,
+        add(inWindow | replaying | launching, "--margin", "M", options_.margin,
             "depth of the guarded band in points; 4 when absent or not\ngreater than 0")
             ->check(finiteNumber());
         add(
-            Window | Launching, "--permission", "P",
+            inWindow | launching, "--permission", "P",
             [this](const std::string& word) { options_.isPermissionGranted = word == "granted"; },
             "granted or missing: whether Kestrune has the Accessibility\n"
             "permission when it is launched. Usual: granted")
             ->check(oneOf({"granted", "missing"}));
-        add(Window | Launching, "--defaults", "FILE", options_.defaultsFile,
+        add(inWindow | launching, "--defaults", "FILE", options_.defaultsFile,
             "keeps the preferences in a property list")
             ->check(path());
-        addFlag(Window | Gallery | Replay, "--dark", options_.dark, "paints dark");
+        addFlag(inWindow | drawing | replaying, "--dark", options_.dark, "paints dark");
     }
 
     void addOutcome() {
         group_ = "With --replay, or when the window is closed";
         add(
-            Window | Replay, "--report", "json", [this](const std::string&) { outcome_.asJSON = true; },
+            inWindow | replaying, "--report", "json", [this](const std::string&) { outcome_.asJSON = true; },
             "ends with one object instead of a few lines of text")
             ->check(oneOf({"json"}));
-        add(Window | Replay, "--screenshot", "FILE", outcome_.screenshot,
+        add(inWindow | replaying, "--screenshot", "FILE", outcome_.screenshot,
             "writes a PNG of the desk as it is in the end")
             ->check(path());
-        add(Replay, "--emit", "FILE", play_.emit,
+        add(replaying, "--emit", "FILE", play_.emit,
             "writes index,type,x,y,deliveredX,deliveredY for each event that\n"
             "was delivered; with --replay only")
             ->check(path());
@@ -164,12 +164,12 @@ private:
 
     void addGeneration() {
         group_ = "With --generate";
-        add(Generate, "--seed", "N", make_.motion.seed, "the same seed gives the same recording. Usual: 1")
+        add(generating, "--seed", "N", make_.motion.seed, "the same seed gives the same recording. Usual: 1")
             ->transform(wholeNumber(0, Largest));
-        add(Generate, "--rows", "N", make_.motion.rows, "how many rows. Usual: 10000")
+        add(generating, "--rows", "N", make_.motion.rows, "how many rows. Usual: 10000")
             ->transform(wholeNumber(1, MostRows));
         add(
-            Generate, "--size", "WxH", [this](const std::string& text) { readSize(text); },
+            generating, "--size", "WxH", [this](const std::string& text) { readSize(text); },
             "the recorded display, in pixels. Usual: 1512x982");
     }
 

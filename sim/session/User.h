@@ -41,7 +41,7 @@ public:
     void clickWindow(const Windows::WindowState& window) { system_.windows.click(window); }
     void closeWindow(const Windows::WindowState& window) { system_.windows.closeByUser(window); }
     void miniaturizeWindow(const Windows::WindowState& window) { system_.windows.miniaturizeByUser(window); }
-    void moveWindow(const Windows::WindowState& window, Point topLeft) {
+    void moveWindow(const Windows::WindowState& window, Point topLeft) const {
         system_.windows.moveTo(window, topLeft);
     }
 

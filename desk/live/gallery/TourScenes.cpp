@@ -3,6 +3,8 @@
 #include "desk/live/gallery/Gallery.h"
 
 #include <chrono>
+#include <utility>
+#include <vector>
 
 namespace kestrune::desk {
 
@@ -71,15 +73,11 @@ void sendThreeUnansweredEvents(Stage& stage) {
     }
 }
 
-} // namespace
-
 // The story is about the display that was pinned in the beginning and another one.
-Chapter tourChapter() {
+std::vector<Scene> firstRun() {
     using enum Role;
     using enum Frame;
-    // Nothing is granted and nothing is stored.
-    const auto prepare = [](LiveDeskSetup& setup) { setup.permission = sim::Permission::notListed; };
-    const std::vector<Scene> scenes = {
+    return {
         scene("first-launch", display,
               "Kestrune runs for the first time. Its wizard is open; nothing keeps the Dock yet.",
               glide(first, 0.62, 0.55)),
@@ -101,6 +99,13 @@ Chapter tourChapter() {
               click(closeButton("Accessibility")), pointAt(control("Finish"))),
         scene("the-dock-comes-home", everything, "The guard is on. One push brings the Dock home to {first}.",
               click(control("Finish")), push(first)),
+    };
+}
+
+std::vector<Scene> guarding() {
+    using enum Role;
+    using enum Frame;
+    return {
         scene("held", pointer,
               "The same push as before: the pointer is held above the edge, and the Dock stays.",
               push(other)),
@@ -138,6 +143,13 @@ Chapter tourChapter() {
         scene("tap-timeout", everything,
               "The system gives up on a slow tap, and the guard switches it on again.",
               act(&LiveDesk::timeOutTap)),
+    };
+}
+
+std::vector<Scene> settingsAndTheEnd() {
+    using enum Role;
+    using enum Frame;
+    return {
         scene("settings", display,
               "While its Settings are open, Kestrune is an application with a menu bar of its own.",
               leaveDisplays(2), click(statusItem(main)), click(menuRow("Settings…")),
@@ -165,7 +177,18 @@ Chapter tourChapter() {
               "Launched again, Kestrune needs no setup any more and guards what was chosen.",
               act(&LiveDesk::quitOrLaunch), click(statusItem(main)), pointAt(menuRow("{pinned}"))),
     };
-    return {"tour", "The whole life of Kestrune, scene by scene", 3, 0.5, {{prepare, scenes}}};
+}
+
+} // namespace
+
+Chapter tourChapter() {
+    // Nothing is granted and nothing is stored.
+    const auto prepare = [](LiveDeskSetup& setup) { setup.permission = sim::Permission::notListed; };
+    std::vector<Scene> scenes = firstRun();
+    for (const auto& part : {guarding(), settingsAndTheEnd()}) {
+        scenes.insert(scenes.end(), part.begin(), part.end());
+    }
+    return {"tour", "The whole life of Kestrune, scene by scene", 3, 0.5, {{prepare, std::move(scenes)}}};
 }
 
 } // namespace kestrune::desk

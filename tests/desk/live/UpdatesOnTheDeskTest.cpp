@@ -3,7 +3,9 @@
 #include "desk/live/world/LivePicture.h"
 #include "desk/live/world/WindowParts.h"
 #include "tests/desk/live/HandOnTheStage.h"
+#include "tests/desk/live/WindowTitles.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -14,6 +16,7 @@
 namespace kestrune::desk {
 namespace {
 
+using testing::ElementsAre;
 using namespace std::chrono_literals;
 
 constexpr auto UntilTheCheckIsOver = 500ms;
