@@ -22,6 +22,12 @@ TEST(Utf8, RefusesSurrogatesAndValuesAboveTheLast) {
         EXPECT_EQ(firstInvalidUtf8(text), 0U) << text;
 }
 
+TEST(Utf8, RefusesWhatIsBeyondASecondByte) {
+    for (const char* text : {"\xE0\xC0\x80", "\xED\x7F\x80", "\xED\xC0\x80", "\xF0\xC0\x80\x80",
+                             "\xF4\x7F\x80\x80", "\xE1\xC0\x80", "\xC2\xC0"})
+        EXPECT_EQ(firstInvalidUtf8(text), 0U) << text;
+}
+
 TEST(Utf8, RefusesIncompleteCharacters) {
     for (const char* text :
          {"a\x80", "a\xC3", "a\xC3z", "a\xE2\x82", "a\xE2\x82z", "a\xF0\x9F\x98", "a\xF0\x9F\x98z"})
