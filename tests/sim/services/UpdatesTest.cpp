@@ -5,6 +5,7 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Updater.h"
 #include "sim/services/WindowState.h"
+#include "sim/session/FixedAdvanceMeasurer.h"
 #include "sim/session/Session.h"
 
 #include <gmock/gmock.h>
@@ -41,10 +42,19 @@ public:
     std::vector<std::string> told;
 };
 
+SessionOptions optionsWith(UpdateFramework framework, bool hasFeed) {
+    SessionOptions options;
+    options.updateFramework = framework;
+    if (hasFeed) {
+        options.bundle.infoDictionary["SUFeedURL"] = {std::string("https://kestrune.org/appcast.xml")};
+    }
+    return options;
+}
+
 class UpdatesTest : public testing::Test {
 protected:
     explicit UpdatesTest(UpdateFramework framework = UpdateFramework::working, bool hasFeed = true)
-        : session_(options(framework, hasFeed)) {
+        : session_(optionsWith(framework, hasFeed)) {
         Application::sharedApplication();
         session_.application().isActive = true;
     }
@@ -68,15 +78,6 @@ protected:
             }
         }
         return {};
-    }
-
-    static SessionOptions options(UpdateFramework framework, bool hasFeed) {
-        SessionOptions options;
-        options.updateFramework = framework;
-        if (hasFeed) {
-            options.bundle.infoDictionary["SUFeedURL"] = {std::string("https://kestrune.org/appcast.xml")};
-        }
-        return options;
     }
 
     Session session_;
@@ -209,6 +210,52 @@ TEST_F(UpdatesTest, AnnounceAndShowANewVersion) {
     EXPECT_TRUE(session_.user().press(ui::KeyboardShortcut::defaultAction)) << "Install Update";
     EXPECT_THAT(delegate_->told, ElementsAre("update", "finish"));
     EXPECT_THAT(titles(), IsEmpty());
+}
+
+// Of the icon, the texts, what the default button of an alert is painted with, and the buttons.
+std::vector<Rect> framesIn(Session& session) {
+    std::vector<Rect> result;
+    for (const ui::Element& element : Windows::sceneOf(*session.windows().shown()[0]).elements) {
+        result.push_back(std::visit([](const auto& any) { return any.frame; }, element));
+    }
+    return result;
+}
+
+TEST(WindowsOfUpdates, AreLaidOutAsSparkleDoes) {
+    const FixedAdvanceMeasurer narrow{0.8};
+    SessionOptions options = optionsWith(UpdateFramework::working, true);
+    options.measurer = &narrow;
+    Session session(std::move(options));
+    Application::sharedApplication();
+    const auto delegate = std::make_shared<RecordingDelegate>();
+    EXPECT_FALSE(session.updates().start(delegate));
+    session.updateSupply().feed = UpdateFeed::newVersion;
+    session.updates().checkForUser();
+    session.advance(1s);
+    const std::vector<Rect> update = framesIn(session);
+    ASSERT_EQ(update.size(), 6U);
+    const Rect& icon = update[0];
+    const Rect& heading = update[1];
+    const Rect& text = update[2];
+    const Rect& skip = update[3];
+    const Rect& later = update[4];
+    const Rect& install = update[5];
+    EXPECT_EQ(icon.minY(), 20);
+    EXPECT_EQ(heading.minY(), 20);
+    EXPECT_EQ(heading.minX() - icon.maxX(), 16);
+    EXPECT_EQ(text.minX(), heading.minX());
+    EXPECT_EQ(text.minY() - heading.maxY(), 10);
+    EXPECT_EQ(skip.minX(), heading.minX());
+    EXPECT_EQ(skip.minY() - text.maxY(), 16);
+    EXPECT_EQ(later.minX() - skip.maxX(), 32);
+    EXPECT_EQ(install.minX() - later.maxX(), 12);
+
+    session.user().dismissUpdater();
+    session.updateSupply().feed = UpdateFeed::nothingNew;
+    session.updates().checkForUser();
+    session.advance(1s);
+    EXPECT_THAT(framesIn(session), ElementsAre(Rect(92, 0, 77, 77), Rect(72, 87, 116, 13),
+                                               Rect(32, 110, 197, 12), Rect(16, 138, 228, 28)));
 }
 
 TEST_F(UpdatesTest, AnnounceAgainWhatTheUserAsksForWhileItIsShown) {
