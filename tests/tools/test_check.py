@@ -18,7 +18,11 @@ class Check(TreeTest):
         self.assertEqual(result.returncode, 0, result.stdout)
         self.assertEqual(
             result.stdout.splitlines(),
-            ["includes: 1 files, 0 findings", "words: 1 files, 0 findings", "style: 1 files, 0 findings"],
+            [
+                "includes: 1 files, 0 arrows between 1 folders, 0 findings",
+                "words: 1 files, 0 findings",
+                "style: 1 files, 0 findings",
+            ],
         )
 
     def test_runs_the_checks_after_one_that_found_something(self):
@@ -27,7 +31,7 @@ class Check(TreeTest):
         self.assertEqual(result.returncode, 1)
         self.assertIn("base/A.h:1: <iostream> is outside the portable subset", result.stdout)
         self.assertIn("base/A.h:2: the line ends in white space", result.stdout)
-        self.assertIn("includes: 1 files, 1 findings", result.stdout)
+        self.assertIn("includes: 1 files, 0 arrows between 1 folders, 1 findings", result.stdout)
         self.assertEqual(result.stdout.splitlines()[-1], "style: 1 files, 1 findings")
 
     def test_knows_the_names_of_its_checks(self):
