@@ -15,22 +15,6 @@ namespace kestrune::sim {
 
 namespace {
 
-// Runs an action of the hosted view; window and view live until it returns.
-template <typename Wanted, typename Action>
-void withElement(const Windows::WindowState& window, std::size_t element, Action&& action) {
-    if (!window->content) {
-        return;
-    }
-    const auto view = window->content;
-    const auto& elements = view->host().scene().elements;
-    if (element >= elements.size()) {
-        return;
-    }
-    if (const auto* const wanted = std::get_if<Wanted>(&elements[element])) {
-        action(view->host(), *wanted);
-    }
-}
-
 // What the application lets float is in front of what the system does.
 int heightOf(const Window::State& window) {
     return window.level == WindowLevel::normal ? 0 : window.isOfApplication() ? 2 : 1;
