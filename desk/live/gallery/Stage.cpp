@@ -226,13 +226,6 @@ bool isWithin(const Rect& part, const Rect& whole) {
            part.maxY() <= whole.maxY();
 }
 
-Rect overlapOf(const Rect& first, const Rect& second) {
-    const double left = std::max(first.minX(), second.minX());
-    const double top = std::max(first.minY(), second.minY());
-    return {left, top, std::min(first.maxX(), second.maxX()) - left,
-            std::min(first.maxY(), second.maxY()) - top};
-}
-
 // What a stage can show at 100 % around a place, or a little smaller when that is a display's whole width;
 // nothing beside the display's housing.
 Rect seenAround(Point place, const Rect& display, Size stage) {

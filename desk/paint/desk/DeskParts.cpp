@@ -21,13 +21,6 @@ void paintInto(cairo_t* sprite, const Canvas& outside, const std::function<void(
     paint(Canvas{sprite, text, outside.images, outside.palette});
 }
 
-Rect sharedBy(const Rect& first, const Rect& second) {
-    const double left = std::max(first.minX(), second.minX());
-    const double top = std::max(first.minY(), second.minY());
-    return {left, top, std::min(first.maxX(), second.maxX()) - left,
-            std::min(first.maxY(), second.maxY()) - top};
-}
-
 // What the menu bars show decides on what hangs from them, too.
 MacPicture withMenuBarsOnly(const DeskPicture& picture) {
     MacPicture result;
@@ -215,7 +208,7 @@ void StackPainter::paintOn(const DisplayPlace& place, const Canvas& canvas, cons
     const SavedState saved{canvas.context};
     enterDisplay(canvas.context, place);
     if (part.panel) {
-        sprites.panel.paint(canvas.context, sharedBy(extent, place.bounds),
+        sprites.panel.paint(canvas.context, overlapOf(extent, place.bounds),
                             {part.frame, *part.panel, part.subject.dark}, [&](cairo_t* sprite) {
                                 paintInto(sprite, canvas, [&](const Canvas& own) {
                                     paintPanel(own, part.frame, *part.panel);
@@ -223,7 +216,7 @@ void StackPainter::paintOn(const DisplayPlace& place, const Canvas& canvas, cons
                             });
     }
     if (doOverlap(part.painted, place.bounds)) {
-        sprites.content.paint(canvas.context, sharedBy(part.painted, place.bounds), part.subject,
+        sprites.content.paint(canvas.context, overlapOf(part.painted, place.bounds), part.subject,
                               [&](cairo_t* sprite) { paintInto(sprite, canvas, part.paint); });
     }
 }

@@ -4,11 +4,13 @@
 // displays have no camera.
 #pragma once
 
+#include "sim/services/Windows.h"
+
 namespace kestrune::desk {
 
 inline constexpr double SystemTextSize = 13; // of menu bars, menus, titles and controls
 
-inline constexpr double MenuBarHeight = 24;
+inline constexpr double MenuBarHeight = sim::Windows::MenuBarHeight;
 inline constexpr double MenuBarMarkRadius = 5;
 
 inline constexpr double MenuRowHeight = 22;

@@ -35,4 +35,12 @@ inline bool doOverlap(const Rect& first, const Rect& second) {
            second.minY() < first.maxY();
 }
 
+// What two rectangles that overlap have in common.
+inline Rect overlapOf(const Rect& first, const Rect& second) {
+    const double left = std::max(first.minX(), second.minX());
+    const double top = std::max(first.minY(), second.minY());
+    return {left, top, std::min(first.maxX(), second.maxX()) - left,
+            std::min(first.maxY(), second.maxY()) - top};
+}
+
 } // namespace kestrune::desk
